@@ -1,0 +1,20 @@
+// The boot-logo option: key "Logo" of section "Options" of the boot configuration file.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vistrel {
+
+/// The option's value; 1 when file or key is missing.
+std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile);
+
+/// Leaves the option as it is and makes the file read-only, and nothing else: it loses hidden and
+/// system attributes, which is meant.
+void KeepBootLogoOption(const std::string& bootConfigurationFile);
+
+/// Takes the file's attributes off and writes the option, with a blank before a value that is not
+/// negative.
+void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option);
+
+}  // namespace vistrel

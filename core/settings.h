@@ -1,0 +1,41 @@
+// The preferences: read once at start, changed in memory, saved once at close.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/locations.h"
+
+namespace vistrel {
+
+inline constexpr const char* kSettingsKey = "SOFTWARE\\Tarnwick\\Vistrel";
+
+struct Settings {
+    std::string searchLogoPath;            ///< folder last browsed for pictures
+    std::int16_t view = 0;                 ///< 0 or 1; see ItmViewType_Click
+    std::int16_t synchronizeLogos = 0;     ///< not 0: Mirrorkin copies wait and shutdown screens
+    std::string bootRoot;                  ///< root of the boot drive, "C:\"
+    std::string defaultLogoSet;            ///< name of the installed set; empty when not known
+    std::int16_t defaultAction = 0;        ///< click on a picture: 0 actual size, 1 Paint, 2 program
+    std::string customProgName;
+    std::string customProgPath;
+    std::int16_t deleteInTheRecycleBin = 1;
+    std::int16_t confirmLogosetDelete = 1;
+    std::int16_t confirmLogoTypeChange = 1;
+    std::int16_t showSplashScreen = 1;
+    std::string logoPath;                  ///< the logo folder, ending in a backslash
+    std::int16_t actionOnDoubleClick = 0;  ///< 0 installs the set, else opens the Logo browser
+};
+
+/// The flag "ShowSplashScreen" alone, read before any window exists; 1 when empty.
+std::int16_t ReadShowSplashScreen();
+
+/// Reads the settings and sets up a first run: with no installed set known and no folder "Original
+/// Logos", that set is made of the screens now installed. A step that fails is passed over.
+Settings LoadSettings(const SystemLocations& locations);
+
+/// Writes all fourteen values as texts. It ends at the first that cannot be written.
+/// `view` and `defaultLogoSet` must hold what the main window shows.
+void SaveSettings(const Settings& settings);
+
+}  // namespace vistrel

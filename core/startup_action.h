@@ -1,0 +1,20 @@
+// The companion that changes the logo set at every start: a shell link in the Startup folder is the
+// only record of the choice.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace vistrel {
+
+enum class StartUpActionKind { Rotaline = 0, Shufflet = 1, Nothing = 2 };
+
+/// The action in force; empty when both links lie in the Startup folder.
+std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFolder);
+
+/// Removes both links, then copies the chosen one from the program folder. A step that fails is
+/// passed over.
+void ApplyStartUpAction(StartUpActionKind action, const std::string& programFolder,
+                        const std::string& startupFolder);
+
+}  // namespace vistrel

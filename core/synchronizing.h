@@ -1,0 +1,18 @@
+// The companion that brings wait and shutdown screens into place at the next start.
+#pragma once
+
+#include <string>
+
+namespace vistrel {
+
+/// The folder that Mirrorkin copies from: the logo folder itself for a single-logo set, otherwise
+/// the set's own folder without a trailing backslash.
+std::string SynchronizedPath(const std::string& logoFolder, const std::string& setName);
+
+/// Enters Mirrorkin among the programs that run at start and writes its ini file.
+void RegisterMirrorkin(const std::string& programFolder, const std::string& logoFolder,
+                       const std::string& setName);
+/// Deletes Mirrorkin's ini file and its entry; neither has to exist.
+void RemoveMirrorkin(const std::string& programFolder);
+
+}  // namespace vistrel

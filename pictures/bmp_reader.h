@@ -1,0 +1,13 @@
+// Reads Windows and OS/2 bitmaps of every kind that Windows 98 could show.
+#pragma once
+
+#include "pictures/rgb_picture.h"
+
+namespace vistrel {
+
+/// Decodes a bitmap file: 1, 4, 8, 16, 24 and 32 bits a pixel, RLE4, RLE8, bit fields, OS/2
+/// headers, rows from the bottom or the top. Empty when the file is no bitmap, is damaged beyond
+/// use or is of a kind that is not read. Pixels that a run-length-encoded file skips are black.
+std::optional<RgbPicture> ReadBmp(FileBytes file);
+
+}  // namespace vistrel

@@ -1,0 +1,18 @@
+// Reduces a 24-bit picture to 256 colours: a palette made for it, and the index of each pixel.
+#pragma once
+
+#include <cstdint>
+
+namespace vistrel {
+
+/// How strongly neighbouring pixels share their rounding errors.
+enum class Dither { On, Off };
+
+/// Reduces width * height pixels (`rgb`, red, green, blue) to at most `colors` (2 to 256) colours.
+/// Writes one index a pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`
+/// (unused entries black). A picture with no more than `colors` distinct colours keeps them
+/// exactly. The result is the same on every machine. False when an argument is out of range.
+bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors,
+                 std::uint8_t* indices, std::uint8_t* palette, Dither dither = Dither::On);
+
+}  // namespace vistrel

@@ -1,0 +1,47 @@
+// Scales pictures: Lanczos with a support that widens when shrinking, in integers.
+#pragma once
+
+#include "pictures/rgb_picture.h"
+
+namespace vistrel {
+
+/// Scales `source` to `width` x `height` pixels (both 1 to 32,767). The picture is stretched: its
+/// aspect ratio is not kept. The result is the same on every machine.
+RgbPicture Resize(const RgbPicture& source, int width, int height);
+
+/// The same for pixels that lie elsewhere: `rgb` holds sourceWidth * sourceHeight * 3 bytes.
+RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
+                  int height);
+
+/// One axis of a scaling. Target sample i covers source positions (i*extent/target ..
+/// (i+1)*extent/target); `extent` may be a fraction of a sample less than the number of samples,
+/// as for the colour planes of a JPEG, whose last sample may lie half outside the picture.
+struct ScaleAxis {
+    int samples = 0;                ///< number of source samples
+    std::int64_t extent65536 = 0;   ///< how many of them the picture covers, times 65,536
+    int target = 0;                 ///< number of target samples
+};
+
+/// Scales one plane of 16-bit samples (any range within -16,384..16,383) that is handed over row by
+/// row, keeping only as many rows as the filter reaches over. Rows come from the top; a finished
+/// target row goes to `take` as soon as its last source row has come.
+class PlaneScaler {
+ public:
+    PlaneScaler(const ScaleAxis& across, const ScaleAxis& down);
+    ~PlaneScaler();
+    PlaneScaler(const PlaneScaler&) = delete;
+    PlaneScaler& operator=(const PlaneScaler&) = delete;
+
+    /// Takes the next source row of across.samples samples.
+    void AddRow(const std::int16_t* row);
+
+    /// The finished plane, target rows of target samples from the top: valid when all source rows
+    /// have been added. Values may overshoot the source's range a little.
+    const std::vector<std::int16_t>& plane() const;
+
+ private:
+    struct State;
+    State* state_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,17 @@
+// The one seam for tests: operations of this folder that can fail are counted, and a test can make
+// the n-th of them fail. The program itself never calls these.
+#pragma once
+
+namespace vistrel::fault {
+
+/// Starts counting from 0 with nothing made to fail.
+void Reset();
+/// Starts counting from 0 and makes operation number `n` (from 1) fail.
+void FailOperation(int n);
+/// How many operations have been asked for since the last Reset or FailOperation.
+int Counted();
+
+/// Asked by each wrapper before it calls the system: true when this operation is to fail.
+bool Strikes();
+
+}  // namespace vistrel::fault
