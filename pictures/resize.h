@@ -1,6 +1,8 @@
 // Scales pictures: Lanczos with a support that widens when shrinking, in integers.
 #pragma once
 
+#include <memory>
+
 #include "pictures/rgb_picture.h"
 
 namespace vistrel {
@@ -17,14 +19,14 @@ RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, in
 /// (i+1)*extent/target); `extent` may be a fraction of a sample less than the number of samples,
 /// as for the colour planes of a JPEG, whose last sample may lie half outside the picture.
 struct ScaleAxis {
-    int samples = 0;                ///< number of source samples
-    std::int64_t extent65536 = 0;   ///< how many of them the picture covers, times 65,536
-    int target = 0;                 ///< number of target samples
+    int samples = 0;               ///< number of source samples
+    std::int64_t extent65536 = 0;  ///< how many of them the picture covers, times 65,536
+    int target = 0;                ///< number of target samples
 };
 
 /// Scales one plane of 16-bit samples (any range within -16,384..16,383) that is handed over row by
-/// row, keeping only as many rows as the filter reaches over. Rows come from the top; a finished
-/// target row goes to `take` as soon as its last source row has come.
+/// row, keeping only as many rows as the filter reaches over. Results are rounded to whole sample
+/// units, so samples should carry some bits of fraction.
 class PlaneScaler {
  public:
     PlaneScaler(const ScaleAxis& across, const ScaleAxis& down);
@@ -32,7 +34,8 @@ class PlaneScaler {
     PlaneScaler(const PlaneScaler&) = delete;
     PlaneScaler& operator=(const PlaneScaler&) = delete;
 
-    /// Takes the next source row of across.samples samples.
+    /// Takes the next source row, from the top, of across.samples samples. Rows after the
+    /// down.samples-th are passed over.
     void AddRow(const std::int16_t* row);
 
     /// The finished plane, target rows of target samples from the top: valid when all source rows
@@ -41,7 +44,7 @@ class PlaneScaler {
 
  private:
     struct State;
-    State* state_;
+    std::unique_ptr<State> state_;
 };
 
 }  // namespace vistrel
