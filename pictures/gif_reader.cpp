@@ -1,0 +1,179 @@
+// Finds the first picture in a GIF file and decodes it.
+#include "pictures/gif_reader.h"
+
+#include <algorithm>
+
+#include "pictures/enough_bytes.h"
+#include "pictures/gif_frame.h"
+#include "pictures/gif_lzw.h"
+#include "pictures/little_endian.h"
+
+namespace vistrel {
+
+namespace {
+
+using Color = std::array<std::uint8_t, 3>;
+
+constexpr Color kWhite = {255, 255, 255};
+constexpr std::size_t kScreenHeader = 13;  // signature and logical screen descriptor
+constexpr std::size_t kFrameHeader = 9;    // image descriptor behind its first byte
+
+// The first byte of a block.
+constexpr std::uint8_t kExtension = 0x21;
+constexpr std::uint8_t kFrameBlock = 0x2C;
+constexpr std::uint8_t kTrailer = 0x3B;
+
+// The kinds of extension that matter here.
+constexpr std::uint8_t kGraphicControl = 0xF9;
+constexpr std::uint8_t kPlainText = 0x01;
+
+// Codes have up to 12 bits and stand for up to 4,093 pixels: three bytes give twice as many.
+constexpr std::int64_t kMostPixelsInAByte = 2729;
+
+class GifFile {
+ public:
+    explicit GifFile(FileBytes file) : file_(file) {}
+
+    std::optional<RgbPicture> FirstPicture() {
+        if (!IsGif()) return std::nullopt;
+        width_ = static_cast<int>(Word(file_, 6));
+        height_ = static_cast<int>(Word(file_, 8));
+        offset_ = kScreenHeader;
+        UseGreys();
+        ReadBackground(ReadPalette(Byte(file_, 10)));
+        if (!FindFrame()) return std::nullopt;
+        return Decode();
+    }
+
+ private:
+    bool IsGif() const {
+        constexpr std::uint8_t kSignature[] = {'G', 'I', 'F', '8'};
+        return file_.size() >= kScreenHeader &&
+               std::equal(kSignature, kSignature + 4, file_.begin()) &&
+               (file_[4] == '7' || file_[4] == '9') && file_[5] == 'a';
+    }
+
+    // A file without any palette leaves the colours to whoever shows it.
+    void UseGreys() {
+        for (int i = 0; i < 256; ++i) frame_.palette[i].fill(static_cast<std::uint8_t>(i));
+    }
+
+    // A background that the palette does not have is left white.
+    void ReadBackground(std::size_t paletteEntries) {
+        const std::uint32_t color = Byte(file_, 11);
+        if (color < paletteEntries) background_ = frame_.palette[color];
+    }
+
+    // Reads the palette that a flags byte announces and returns its size, 0 for none. Colour
+    // numbers beyond its end are black.
+    std::size_t ReadPalette(std::uint32_t flags) {
+        if ((flags & 0x80) == 0) return 0;
+        const std::size_t entries = std::size_t{2} << (flags & 7);
+        frame_.palette = {};
+        for (std::size_t i = 0; i < entries * 3; ++i) {
+            frame_.palette[i / 3][i % 3] = static_cast<std::uint8_t>(Byte(file_, offset_ + i));
+        }
+        offset_ += entries * 3;
+        return entries;
+    }
+
+    // Goes to the first picture and reads its descriptor. Bytes that begin no block are passed
+    // over: other programs do so too, and there are files with stray zeros between blocks.
+    bool FindFrame() {
+        while (offset_ < file_.size()) {
+            switch (file_[offset_++]) {
+                case kExtension:
+                    ReadExtension();
+                    break;
+                case kFrameBlock:
+                    return ReadFrame();
+                case kTrailer:
+                    return false;
+            }
+        }
+        return false;
+    }
+
+    void ReadExtension() {
+        const std::uint32_t kind = Byte(file_, offset_++);
+        if (kind == kGraphicControl) {
+            const bool transparent = (Byte(file_, offset_ + 1) & 1) != 0;
+            frame_.transparent = transparent ? static_cast<int>(Byte(file_, offset_ + 4)) : -1;
+        } else if (kind == kPlainText) {
+            frame_.transparent = -1;  // the graphic control before a text is the text's
+        }
+        ForEachSubBlock([](FileBytes) {});
+    }
+
+    bool ReadFrame() {
+        if (file_.size() - offset_ < kFrameHeader) return false;
+        frame_.left = static_cast<int>(Word(file_, offset_));
+        frame_.top = static_cast<int>(Word(file_, offset_ + 2));
+        frame_.width = static_cast<int>(Word(file_, offset_ + 4));
+        frame_.height = static_cast<int>(Word(file_, offset_ + 6));
+        const std::uint32_t flags = Byte(file_, offset_ + 8);
+        frame_.interlaced = (flags & 0x40) != 0;
+        offset_ += kFrameHeader;
+        ReadPalette(flags);
+        return IsPlausibleSize(frame_.width, frame_.height);
+    }
+
+    // A screen without an extent is as large as its picture.
+    std::optional<RgbPicture> Decode() {
+        if (width_ == 0) width_ = frame_.left + frame_.width;
+        if (height_ == 0) height_ = frame_.top + frame_.height;
+        const std::size_t bytesLeft = file_.size() - std::min(file_.size(), offset_);
+        if (!IsPlausibleSize(width_, height_) ||
+            !EnoughBytes(bytesLeft, std::int64_t{width_} * height_, kMostPixelsInAByte)) {
+            return std::nullopt;
+        }
+        const int literalBits = static_cast<int>(Byte(file_, offset_++));
+        if (literalBits < 1 || literalBits > 8) return std::nullopt;
+        std::vector<std::uint8_t> data;
+        ForEachSubBlock(
+            [&](FileBytes block) { data.insert(data.end(), block.begin(), block.end()); });
+
+        RgbPicture screen = BlankScreen();
+        GifFrameWriter writer(frame_, screen);
+        bool drawn = false;
+        GifLzw(literalBits).Decode(data, [&](std::span<const std::uint8_t> colors) {
+            drawn = true;
+            return writer.Draw(colors);
+        });
+        if (!drawn) return std::nullopt;
+        return screen;
+    }
+
+    RgbPicture BlankScreen() const {
+        const Color color = frame_.transparent >= 0 ? kWhite : background_;
+        RgbPicture screen{width_, height_, {}};
+        screen.pixels.resize(std::size_t{3} * width_ * height_);
+        for (std::size_t i = 0; i < screen.pixels.size(); ++i) screen.pixels[i] = color[i % 3];
+        return screen;
+    }
+
+    // Hands over the sub-blocks from offset_ on and leaves offset_ behind the empty one that ends
+    // them. The last one may be cut short.
+    template <typename Take>
+    void ForEachSubBlock(Take take) {
+        while (offset_ < file_.size()) {
+            const std::size_t size = file_[offset_++];
+            if (size == 0) return;
+            take(file_.subspan(offset_, std::min(size, file_.size() - offset_)));
+            offset_ += std::min(size, file_.size() - offset_);
+        }
+    }
+
+    FileBytes file_;
+    std::size_t offset_ = 0;
+    int width_ = 0;  // of the logical screen
+    int height_ = 0;
+    Color background_ = kWhite;
+    GifFrame frame_;
+};
+
+}  // namespace
+
+std::optional<RgbPicture> ReadGif(FileBytes file) { return GifFile(file).FirstPicture(); }
+
+}  // namespace vistrel
