@@ -8,7 +8,10 @@ namespace vistrel::fault {
 void Reset();
 /// Starts counting from 0 and makes operation number `n` (from 1) fail.
 void FailOperation(int n);
-/// How many operations have been asked for since the last Reset or FailOperation.
+/// Starts counting from 0 and makes operation number `n` (from 1) and all after it fail: what the
+/// disk holds then is what a power cut at that point leaves.
+void FailFromOperation(int n);
+/// How many operations have been asked for since the counting started.
 int Counted();
 
 /// Asked by each wrapper before it calls the system: true when this operation is to fail.

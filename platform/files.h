@@ -27,6 +27,10 @@ struct FolderEntry {
     bool IsFolder() const { return (attributes & kDirectory) != 0; }
 };
 
+/// From now on a drive that is not ready makes an operation fail; without this the system would ask
+/// the user for a disk.
+void FailOnDrivesNotReady();
+
 /// Calls `visit` for each entry that matches `pattern` (folder and name, wildcards allowed), "."
 /// and ".." included, in the order in which the system gives them, until it returns false. False
 /// when nothing matches or the folder cannot be read.
@@ -44,8 +48,13 @@ bool SetAttributes(const std::string& path, std::uint32_t attributes, Error* err
 bool CopyOver(const std::string& from, const std::string& to, Error* error = nullptr);
 /// Deletes one file; a read-only file is not deleted.
 bool Remove(const std::string& path, Error* error = nullptr);
-/// Deletes every file that matches a pattern; sub-folders stay. False when one could not be.
+/// Deletes every file that matches a pattern; sub-folders stay. False when one could not be, or
+/// when nothing matches.
 bool RemoveMatching(const std::string& pattern, Error* error = nullptr);
+/// Makes sure that what was written to a file is on the disk and not only in a cache.
+bool FlushToDisk(const std::string& path, Error* error = nullptr);
+/// True when both files can be read and hold the same bytes.
+bool SameContents(const std::string& path, const std::string& other);
 /// Renames a file or folder. Fails when `to` exists (other than by a change of case only).
 bool Rename(const std::string& from, const std::string& to, Error* error = nullptr);
 bool MakeFolder(const std::string& path, Error* error = nullptr);
@@ -65,7 +74,15 @@ std::string SystemShortPath(const std::string& path);
 
 /// The drives' roots ("C:\"), in the order of their letters, and the kind of each (GetDriveTypeA).
 std::vector<std::string> DriveRoots();
-enum class DriveKind { Unknown = 0, NoRoot = 1, Removable = 2, Fixed = 3, Remote = 4, CdRom = 5, RamDisk = 6 };
+enum class DriveKind {
+    Unknown = 0,
+    NoRoot = 1,
+    Removable = 2,
+    Fixed = 3,
+    Remote = 4,
+    CdRom = 5,
+    RamDisk = 6
+};
 DriveKind KindOfDrive(const std::string& root);
 /// The label of a drive's volume; empty when it has none or cannot be read.
 std::string VolumeLabel(const std::string& root);

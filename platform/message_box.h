@@ -14,6 +14,7 @@ inline constexpr const char* kProgramTitle = "Vistrel";
 inline constexpr unsigned kCriticalOk = 16;
 inline constexpr unsigned kQuestionYesNo = 36;
 inline constexpr unsigned kExclamationOk = 48;
+inline constexpr unsigned kInformationOk = 64;
 inline constexpr unsigned kQuestionYesNoDefaultNo = 292;
 
 enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };

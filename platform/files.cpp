@@ -1,0 +1,116 @@
+// Files and folders: attributes, listing, copying, renaming and deleting.
+#include "platform/files.h"
+
+#include <windows.h>
+
+#include "platform/fault.h"
+#include "platform/system_error.h"
+
+namespace vistrel {
+
+namespace {
+
+class SearchHandle {
+ public:
+    explicit SearchHandle(HANDLE handle) : handle_(handle) {}
+    ~SearchHandle() {
+        if (IsOpen()) FindClose(handle_);
+    }
+    SearchHandle(const SearchHandle&) = delete;
+    SearchHandle& operator=(const SearchHandle&) = delete;
+
+    bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+    HANDLE Get() const { return handle_; }
+
+ private:
+    HANDLE handle_;
+};
+
+FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
+    return {found.cFileName, found.dwFileAttributes,
+            (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32) | found.nFileSizeLow};
+}
+
+// Windows 95 does not know a folder by a name that ends in a backslash, other than a drive's root.
+std::string WithoutFinalBackslash(const std::string& path) {
+    const bool isRoot = path.size() == 3 && path[1] == ':';
+    if (path.size() < 2 || path.back() != '\\' || isRoot) return path;
+    return path.substr(0, path.size() - 1);
+}
+
+}  // namespace
+
+void FailOnDrivesNotReady() { SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX); }
+
+bool ForEachEntry(const std::string& pattern, const std::function<bool(const FolderEntry&)>& visit,
+                  Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    WIN32_FIND_DATAA found;
+    const SearchHandle search(FindFirstFileA(pattern.c_str(), &found));
+    if (!search.IsOpen()) return Failed(error, GetLastError());
+    while (visit(EntryOf(found)) && FindNextFileA(search.Get(), &found)) {
+    }
+    return true;
+}
+
+std::optional<std::uint32_t> FileAttributes(const std::string& path) {
+    if (fault::Strikes()) return std::nullopt;
+    const DWORD attributes = GetFileAttributesA(WithoutFinalBackslash(path).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
+    return attributes;
+}
+
+bool IsFolder(const std::string& path) {
+    const auto attributes = FileAttributes(path);
+    return attributes && (*attributes & kDirectory) != 0;
+}
+
+bool SetAttributes(const std::string& path, std::uint32_t attributes, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(SetFileAttributesA(path.c_str(), attributes ? attributes : FILE_ATTRIBUTE_NORMAL),
+                  error);
+}
+
+bool CopyOver(const std::string& from, const std::string& to, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(CopyFileA(from.c_str(), to.c_str(), FALSE), error);
+}
+
+bool Remove(const std::string& path, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(DeleteFileA(path.c_str()), error);
+}
+
+bool RemoveMatching(const std::string& pattern, Error* error) {
+    const std::string folder = pattern.substr(0, pattern.rfind('\\') + 1);
+    std::vector<std::string> names;
+    const bool listed = ForEachEntry(
+        pattern,
+        [&](const FolderEntry& entry) {
+            if (!entry.IsFolder()) names.push_back(entry.name);
+            return true;
+        },
+        error);
+    bool removedAll = listed;
+    for (const std::string& name : names) {
+        if (!Remove(folder + name, error)) removedAll = false;
+    }
+    return removedAll;
+}
+
+bool Rename(const std::string& from, const std::string& to, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(MoveFileA(from.c_str(), to.c_str()), error);
+}
+
+bool MakeFolder(const std::string& path, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(CreateDirectoryA(path.c_str(), nullptr), error);
+}
+
+bool RemoveFolder(const std::string& path, Error* error) {
+    if (fault::Strikes()) return Failed(error, kStruckError);
+    return Report(RemoveDirectoryA(path.c_str()), error);
+}
+
+}  // namespace vistrel

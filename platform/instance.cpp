@@ -1,0 +1,9 @@
+#include "platform/instance.h"
+
+#include <windows.h>
+
+namespace vistrel {
+
+InstanceHandle ProgramInstance() { return GetModuleHandleA(nullptr); }
+
+}  // namespace vistrel

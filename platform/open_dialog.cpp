@@ -1,0 +1,30 @@
+// The system's open-file dialog.
+#include "platform/open_dialog.h"
+
+#include <windows.h>
+
+#include <cstddef>
+
+#include "platform/fault.h"
+
+namespace vistrel {
+
+bool RunOpenDialog(OpenDialogRequest& request) {
+    if (fault::Strikes()) return false;
+    OPENFILENAMEA record = {};
+    // 76 bytes in a 32-bit program: later fields are unknown to Windows 95.
+    record.lStructSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof record.lpTemplateName;
+    record.hwndOwner = request.owner;
+    record.hInstance = GetModuleHandleA(nullptr);
+    record.lpstrFilter = request.filter.c_str();
+    record.lpstrFile = request.file.data();
+    record.nMaxFile = static_cast<DWORD>(request.file.size() + 1);
+    record.lpstrFileTitle = request.fileTitle.data();
+    record.nMaxFileTitle = static_cast<DWORD>(request.fileTitle.size() + 1);
+    record.lpstrInitialDir = request.initialFolder.c_str();
+    record.lpstrTitle = request.title.c_str();
+    record.Flags = request.flags;
+    return GetOpenFileNameA(&record) != 0;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,26 @@
+// The system's open-file dialog.
+#pragma once
+
+#include <string>
+
+#include "platform/handles.h"
+
+namespace vistrel {
+
+/// What the open-file dialog is asked for and what it answers.
+struct OpenDialogRequest {
+    WindowHandle owner = nullptr;
+    std::string filter;  ///< pairs of name and pattern, each ended by a NUL
+    std::string title;
+    std::string initialFolder;
+    unsigned flags = 0;  ///< OFN_ flags
+    /// Buffers of the dialog. Each is offered with one character more than it holds: the NUL that
+    /// stands after a text's last character. Both are as the dialog left them.
+    std::string file;
+    std::string fileTitle;
+};
+
+/// Shows the dialog with the record that Windows 95 knows. True when the user chose a file.
+bool RunOpenDialog(OpenDialogRequest& request);
+
+}  // namespace vistrel

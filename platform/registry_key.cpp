@@ -1,0 +1,90 @@
+// An open registry key that closes itself.
+#include "platform/registry_key.h"
+
+#include <windows.h>
+
+#include <utility>
+
+#include "platform/fault.h"
+#include "platform/system_error.h"
+
+namespace vistrel {
+
+namespace {
+
+HKEY RootOf(Hive hive) {
+    switch (hive) {
+        case Hive::ClassesRoot:
+            return HKEY_CLASSES_ROOT;
+        case Hive::CurrentUser:
+            return HKEY_CURRENT_USER;
+        case Hive::LocalMachine:
+            break;
+    }
+    return HKEY_LOCAL_MACHINE;
+}
+
+constexpr RegistryStatus kStruckStatus = static_cast<RegistryStatus>(kStruckError);
+
+}  // namespace
+
+RegistryKey::~RegistryKey() { Close(); }
+
+RegistryKey::RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+
+RegistryKey& RegistryKey::operator=(RegistryKey&& other) noexcept {
+    std::swap(key_, other.key_);
+    return *this;
+}
+
+RegistryStatus RegistryKey::Open(Hive hive, const std::string& path) {
+    Close();
+    if (fault::Strikes()) return kStruckStatus;
+    return RegOpenKeyExA(RootOf(hive), path.c_str(), 0, KEY_ALL_ACCESS, &key_);
+}
+
+RegistryStatus RegistryKey::Create(Hive hive, const std::string& path) {
+    Close();
+    if (fault::Strikes()) return kStruckStatus;
+    DWORD disposition = 0;
+    return RegCreateKeyExA(RootOf(hive), path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                           KEY_ALL_ACCESS, nullptr, &key_, &disposition);
+}
+
+void RegistryKey::Close() {
+    if (key_) RegCloseKey(std::exchange(key_, nullptr));
+}
+
+RegistryStatus RegistryKey::Set(const std::string& name, std::uint32_t type, const void* bytes,
+                                std::uint32_t size) {
+    if (fault::Strikes()) return kStruckStatus;
+    return RegSetValueExA(key_, name.c_str(), 0, type, static_cast<const BYTE*>(bytes), size);
+}
+
+RegistryStatus RegistryKey::Measure(const std::string& name, std::uint32_t& type,
+                                    std::uint32_t& size) {
+    if (fault::Strikes()) return kStruckStatus;
+    DWORD foundType = 0;
+    DWORD foundSize = 0;
+    const LSTATUS status =
+        RegQueryValueExA(key_, name.c_str(), nullptr, &foundType, nullptr, &foundSize);
+    type = foundType;
+    size = foundSize;
+    return status;
+}
+
+RegistryStatus RegistryKey::Read(const std::string& name, void* bytes, std::uint32_t& size) {
+    if (fault::Strikes()) return kStruckStatus;
+    DWORD readSize = size;
+    const LSTATUS status = RegQueryValueExA(key_, name.c_str(), nullptr, nullptr,
+                                            static_cast<BYTE*>(bytes), &readSize);
+    size = readSize;
+    return status;
+}
+
+RegistryStatus RegistryKey::Delete(const std::string& name) {
+    if (fault::Strikes()) return kStruckStatus;
+    return RegDeleteValueA(key_, name.c_str());
+}
+
+}  // namespace vistrel

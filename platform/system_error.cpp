@@ -1,0 +1,17 @@
+// How the sources of this folder pass on why a call failed.
+#include "platform/system_error.h"
+
+#include <windows.h>
+
+namespace vistrel {
+
+bool Failed(Error* error, unsigned long code) {
+    if (error) error->code = code;
+    return false;
+}
+
+bool Report(int succeeded, Error* error) {
+    return succeeded ? true : Failed(error, GetLastError());
+}
+
+}  // namespace vistrel

@@ -1,0 +1,17 @@
+// How the sources of this folder pass on why a call failed.
+#pragma once
+
+#include "platform/error.h"
+
+namespace vistrel {
+
+/// What an operation that a test makes to fail reports: "a device is not functioning".
+inline constexpr unsigned long kStruckError = 31;
+
+/// Notes `code` for a caller that cares, and is false: what the failing operation returns.
+bool Failed(Error* error, unsigned long code);
+
+/// Turns a system call's own success into ours, with the system's reason if it failed.
+bool Report(int succeeded, Error* error);
+
+}  // namespace vistrel
