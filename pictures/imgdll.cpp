@@ -1,0 +1,101 @@
+// The image library's boundary: pictures cross it as memory blocks, so nothing on the other side
+// depends on how they are read, scaled and reduced.
+#include "pictures/imgdll.h"
+
+#include <algorithm>
+#include <new>
+
+#include "pictures/bmp_reader.h"
+#include "pictures/bmp_writer.h"
+#include "pictures/gif_reader.h"
+#include "pictures/jpg_reader.h"
+#include "pictures/quantize.h"
+#include "pictures/resize.h"
+#include "pictures/whole_file.h"
+
+namespace vistrel {
+
+namespace {
+
+/// The pixels in a new memory block; 0 when there is no memory.
+GlobalHandle BlockOf(const RgbPicture& picture) {
+    const GlobalHandle block = AllocateGlobal(picture.pixels.size());
+    void* const memory = LockGlobal(block);
+    if (memory == nullptr) {
+        FreeGlobal(block);
+        return nullptr;
+    }
+    std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint8_t*>(memory));
+    UnlockGlobal(block);
+    return block;
+}
+
+using Reader = std::optional<RgbPicture> (*)(FileBytes file);
+
+std::optional<RgbPicture> ReadFrom(const char* path, Reader read) {
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    return file ? read(*file) : std::nullopt;
+}
+
+// No exception crosses the boundary: where memory runs out, the operation fails.
+GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
+                           std::int16_t* height) try {
+    const std::optional<RgbPicture> picture = ReadFrom(path, read);
+    if (!picture) return nullptr;
+    const GlobalHandle block = BlockOf(*picture);
+    if (block == nullptr) return nullptr;
+    *width = static_cast<std::int16_t>(picture->width);  // readers give no larger ones
+    *height = static_cast<std::int16_t>(picture->height);
+    return block;
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
+
+}  // namespace
+
+// Everything the library needs is made where it is used: there is nothing to unlock or to prepare.
+void ImgDLLStringInitDLL(const char*) {}
+
+GlobalHandle ImgDLLReadRGBFromBMP(const char* path, std::int16_t* width, std::int16_t* height) {
+    return ReadIntoBlock(path, ReadBmp, width, height);
+}
+
+GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* width, std::int16_t* height) {
+    return ReadIntoBlock(path, ReadGif, width, height);
+}
+
+GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width, std::int16_t* height) {
+    return ReadIntoBlock(path, ReadJpg, width, height);
+}
+
+GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
+                             int newHeight) try {
+    if (rgb == nullptr || !IsPlausibleSize(width, height) ||
+        !IsPlausibleSize(newWidth, newHeight)) {
+        return nullptr;
+    }
+    return BlockOf(Resize(rgb, width, height, newWidth, newHeight));
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
+
+int ImgDLLQuantizeRGBTo8Bit(const std::uint8_t* rgb, std::uint8_t* indices, int width, int height,
+                            int colors, std::uint8_t* palette) try {
+    if (rgb == nullptr || indices == nullptr || palette == nullptr) return 0;
+    return QuantizeRgb(rgb, width, height, colors, indices, palette) ? 1 : 0;
+} catch (const std::bad_alloc&) {
+    return 0;
+}
+
+int ImgDLLSaveColormappedToBMP(const char* path, const std::uint8_t* indices, int width, int height,
+                               int bitsPerPixel, int colors, const std::uint8_t* palette) try {
+    if (indices == nullptr || palette == nullptr || bitsPerPixel != 8 ||
+        !IsPlausibleSize(width, height) || colors < 2 || colors > 256) {
+        return 0;
+    }
+    return WriteWholeFile(path, ColormappedBmp(indices, width, height, colors, palette)) ? 1 : 0;
+} catch (const std::bad_alloc&) {
+    return 0;
+}
+
+}  // namespace vistrel
