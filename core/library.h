@@ -23,8 +23,8 @@ const char* IconKeyOfSet(const std::string& setName);
 /// "Single logo" or "Multi logo".
 const char* TypeCaptionOfSet(const std::string& setName);
 
-/// The full paths of a set's three screens, in the order of LogoScreen. A single-logo set's wait and
-/// shutdown screens lie in the logo folder, which ends in a backslash.
+/// The full paths of a set's three screens, in the order of LogoScreen. A single-logo set's wait
+/// and shutdown screens lie in the logo folder, which ends in a backslash.
 std::array<std::string, 3> ScreenPathsOfSet(const std::string& logoFolder,
                                             const std::string& setName);
 /// The full paths of the three installed screens.
@@ -34,6 +34,9 @@ std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
 /// Calls `visit` with the name of each set, in the order in which the folder lists them.
 void ForEachLogoSet(const std::string& logoFolder,
                     const std::function<void(const std::string& name)>& visit);
+
+/// The names of all sets, in that order.
+std::vector<std::string> LogoSetNames(const std::string& logoFolder);
 
 /// " 3 logo sets", " 1 logo set": the count line.
 std::string CountLine(int sets);

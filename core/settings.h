@@ -10,13 +10,16 @@ namespace vistrel {
 
 inline constexpr const char* kSettingsKey = "SOFTWARE\\Tarnwick\\Vistrel";
 
+/// The set that a first run makes of the screens it finds installed.
+inline constexpr const char* kOriginalLogos = "Original Logos";
+
 struct Settings {
-    std::string searchLogoPath;            ///< folder last browsed for pictures
-    std::int16_t view = 0;                 ///< 0 or 1; see ItmViewType_Click
-    std::int16_t synchronizeLogos = 0;     ///< not 0: Mirrorkin copies wait and shutdown screens
-    std::string bootRoot;                  ///< root of the boot drive, "C:\"
-    std::string defaultLogoSet;            ///< name of the installed set; empty when not known
-    std::int16_t defaultAction = 0;        ///< click on a picture: 0 actual size, 1 Paint, 2 program
+    std::string searchLogoPath;         ///< folder last browsed for pictures
+    std::int16_t view = 0;              ///< 0 or 1; see ItmViewType_Click
+    std::int16_t synchronizeLogos = 0;  ///< not 0: Mirrorkin copies wait and shutdown screens
+    std::string bootRoot;               ///< root of the boot drive, "C:\"
+    std::string defaultLogoSet;         ///< name of the installed set; empty when not known
+    std::int16_t defaultAction = 0;     ///< click on a picture: 0 actual size, 1 Paint, 2 program
     std::string customProgName;
     std::string customProgPath;
     std::int16_t deleteInTheRecycleBin = 1;
@@ -30,12 +33,20 @@ struct Settings {
 /// The flag "ShowSplashScreen" alone, read before any window exists; 1 when empty.
 std::int16_t ReadShowSplashScreen();
 
+/// Reads the settings and nothing more: a value that cannot be read takes its default.
+Settings ReadSettings(const SystemLocations& locations);
+
 /// Reads the settings and sets up a first run: with no installed set known and no folder "Original
 /// Logos", that set is made of the screens now installed. A step that fails is passed over.
 Settings LoadSettings(const SystemLocations& locations);
 
 /// Writes all fourteen values as texts. It ends at the first that cannot be written.
-/// `view` and `defaultLogoSet` must hold what the main window shows.
+/// `view` and `defaultLogoSet` must hold what the main window shows; kUnknownSet is written as the
+/// empty text.
 void SaveSettings(const Settings& settings);
+
+/// Writes the name of the installed set alone, creating the key if it is absent. False when it
+/// could not be written.
+bool SaveDefaultLogoSet(const std::string& setName);
 
 }  // namespace vistrel

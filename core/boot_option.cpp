@@ -1,0 +1,36 @@
+// The boot-logo option in the boot configuration file.
+#include "core/boot_option.h"
+
+#include <limits>
+
+#include "platform/files.h"
+#include "platform/profile.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr const char* kSection = "Options";
+constexpr const char* kKey = "Logo";
+constexpr std::int16_t kShown = 1;
+
+}  // namespace
+
+std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile) {
+    const int option = ReadProfileInt(bootConfigurationFile, kSection, kKey, kShown);
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (option < Limits::min() || option > Limits::max()) return kShown;
+    return static_cast<std::int16_t>(option);
+}
+
+void KeepBootLogoOption(const std::string& bootConfigurationFile) {
+    SetAttributes(bootConfigurationFile, kReadOnlyFile);
+}
+
+void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option) {
+    SetAttributes(bootConfigurationFile, kNormalFile);
+    const char* sign = option < 0 ? "" : " ";
+    WriteProfileText(bootConfigurationFile, kSection, kKey, sign + std::to_string(option));
+}
+
+}  // namespace vistrel

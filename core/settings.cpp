@@ -1,0 +1,184 @@
+// The preferences: one table says for each value where it lies, how it is read, and when it is read
+// and written.
+#include "core/settings.h"
+
+#include <algorithm>
+#include <array>
+#include <variant>
+
+#include "core/generali.h"
+#include "core/library.h"
+#include "core/mdl_registry.h"
+#include "core/number_text.h"
+#include "platform/files.h"
+
+namespace vistrel {
+
+namespace {
+
+using TextField = std::string Settings::*;
+using NumberField = std::int16_t Settings::*;
+
+/// How a stored text becomes a field's value.
+enum class Rule {
+    Text,           ///< as it is
+    BootDrive,      ///< a drive letter; the drive of the Windows directory when empty
+    ProgramOfName,  ///< as it is, but empty without a name for the program
+    Folder,         ///< a folder that exists; otherwise the program's own
+    Number,         ///< any number; 0 when it has none
+    UpToOne,        ///< 0 when it is neither 0 nor 1
+    UpToTwo,        ///< 0 when it is not 0 to 2
+    NeverZero,      ///< 1 for 0: switching it off holds until the next start only, which is meant
+    OneWhenEmpty,   ///< 1 when empty; a stored 0 is kept
+};
+
+struct SettingRow {
+    const char* valueName;
+    std::variant<TextField, NumberField> field;
+    Rule rule;
+    int loadPlace;  ///< later ones may depend on earlier ones
+};
+
+// In the order in which they are saved. The splash screen's flag is read first, since it counts
+// before there is any window.
+constexpr std::array<SettingRow, 14> kRows = {{
+    {"SearchLogoPath", &Settings::searchLogoPath, Rule::Text, 4},
+    {"View", &Settings::view, Rule::UpToOne, 10},
+    {"Synchronize logos", &Settings::synchronizeLogos, Rule::Number, 1},
+    {"StartUpDrive", &Settings::bootRoot, Rule::BootDrive, 3},
+    {"DefaultLogoSet", &Settings::defaultLogoSet, Rule::Text, 2},
+    {"DefaultAction", &Settings::defaultAction, Rule::UpToTwo, 9},
+    {"CustomProgName", &Settings::customProgName, Rule::Text, 7},
+    {"CustomProgPath", &Settings::customProgPath, Rule::ProgramOfName, 8},
+    {"DeleteInTheRecycleBin", &Settings::deleteInTheRecycleBin, Rule::NeverZero, 11},
+    {"ConfirmLogosetDelete", &Settings::confirmLogosetDelete, Rule::NeverZero, 12},
+    {"ConfirmLogoTypeChange", &Settings::confirmLogoTypeChange, Rule::NeverZero, 13},
+    {"ShowSplashScreen", &Settings::showSplashScreen, Rule::OneWhenEmpty, 0},
+    {"LogoPath", &Settings::logoPath, Rule::Folder, 5},
+    {"ActionOnDoubleClick", &Settings::actionOnDoubleClick, Rule::Number, 6},
+}};
+
+/// The same rows in the order in which they are read.
+std::array<SettingRow, kRows.size()> RowsInLoadOrder() {
+    std::array<SettingRow, kRows.size()> rows = kRows;
+    for (const SettingRow& row : kRows) rows[row.loadPlace] = row;
+    return rows;
+}
+
+const SettingRow& RowOf(const char* valueName) {
+    return *std::find_if(kRows.begin(), kRows.end(), [&](const SettingRow& row) {
+        return std::string(row.valueName) == valueName;
+    });
+}
+
+std::string StoredText(const SettingRow& row) {
+    return CutAtNul(TextOf(QueryValue(Hive::LocalMachine, kSettingsKey, row.valueName)));
+}
+
+std::string TextByRule(Rule rule, const std::string& stored, const Settings& settings,
+                       const SystemLocations& locations) {
+    switch (rule) {
+        case Rule::BootDrive:
+            return (stored.empty() ? locations.windowsDirectory.substr(0, 1) : stored) + ":\\";
+        case Rule::ProgramOfName:
+            return settings.customProgName.empty() ? std::string() : stored;
+        case Rule::Folder:
+            // An empty text with a backslash would be the root of the current drive.
+            if (stored.empty() || !IsFolder(AddBackslash(stored))) return locations.programFolder;
+            return AddBackslash(stored);
+        default:
+            return stored;
+    }
+}
+
+/// `otherwise` is the value of a number that does not fit.
+std::int16_t NumberByRule(Rule rule, const std::string& stored, std::int16_t otherwise) {
+    const std::int16_t number = LeadingNumber(stored).value_or(otherwise);
+    switch (rule) {
+        case Rule::UpToOne:
+            return number < 0 || number > 1 ? 0 : number;
+        case Rule::UpToTwo:
+            return number < 0 || number > 2 ? 0 : number;
+        case Rule::NeverZero:
+            return number == 0 ? 1 : number;
+        case Rule::OneWhenEmpty:
+            return stored.empty() ? 1 : number;
+        default:
+            return number;
+    }
+}
+
+void ReadRow(const SettingRow& row, const SystemLocations& locations, Settings& settings) {
+    const std::string stored = StoredText(row);
+    if (const auto* text = std::get_if<TextField>(&row.field)) {
+        settings.*(*text) = TextByRule(row.rule, stored, settings, locations);
+    } else {
+        std::int16_t& number = settings.*std::get<NumberField>(row.field);
+        number = NumberByRule(row.rule, stored, number);
+    }
+}
+
+/// What is stored for a field.
+std::string TextToStore(const SettingRow& row, const Settings& settings) {
+    if (const auto* number = std::get_if<NumberField>(&row.field)) {
+        return std::to_string(settings.*(*number));
+    }
+    const std::string& text = settings.*std::get<TextField>(row.field);
+    if (row.rule == Rule::BootDrive) return text.substr(0, 1);
+    return text == kUnknownSet ? std::string() : text;
+}
+
+bool WriteRow(const SettingRow& row, const std::string& text) {
+    return SetKeyValue(Hive::LocalMachine, kSettingsKey, row.valueName, text, kRegistryText) == 0;
+}
+
+// Keeps the screens that are installed now as a set, so that the user can go back to them. A screen
+// that is missing or cannot be copied is left out.
+void SetUpFirstRun(const SystemLocations& locations, Settings& settings) {
+    const std::string setFolder = settings.logoPath + kOriginalLogos + "\\";
+    if (!IsFolder(setFolder)) {
+        MakeFolder(settings.logoPath + kOriginalLogos);
+        const auto installed = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
+        for (std::size_t screen = 0; screen < installed.size(); ++screen) {
+            CopyOver(installed[screen], setFolder + kScreenFileNames[screen]);
+        }
+        settings.defaultLogoSet = kOriginalLogos;
+    }
+    settings.deleteInTheRecycleBin = 1;
+    settings.confirmLogosetDelete = 1;
+    settings.confirmLogoTypeChange = 1;
+    settings.showSplashScreen = 1;
+}
+
+}  // namespace
+
+std::int16_t ReadShowSplashScreen() {
+    const SettingRow& row = RowOf("ShowSplashScreen");
+    return NumberByRule(row.rule, StoredText(row), 1);
+}
+
+Settings ReadSettings(const SystemLocations& locations) {
+    Settings settings;
+    for (const SettingRow& row : RowsInLoadOrder()) ReadRow(row, locations, settings);
+    return settings;
+}
+
+Settings LoadSettings(const SystemLocations& locations) {
+    Settings settings = ReadSettings(locations);
+    if (settings.defaultLogoSet.empty()) SetUpFirstRun(locations, settings);
+    return settings;
+}
+
+void SaveSettings(const Settings& settings) {
+    CreateNewKey(Hive::LocalMachine, kSettingsKey);
+    for (const SettingRow& row : kRows) {
+        if (!WriteRow(row, TextToStore(row, settings))) return;
+    }
+}
+
+bool SaveDefaultLogoSet(const std::string& setName) {
+    CreateNewKey(Hive::LocalMachine, kSettingsKey);
+    return WriteRow(RowOf("DefaultLogoSet"), setName);
+}
+
+}  // namespace vistrel

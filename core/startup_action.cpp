@@ -1,0 +1,36 @@
+// The companion that changes the logo set at every start.
+#include "core/startup_action.h"
+
+#include <string>
+
+#include "core/generali.h"
+#include "platform/files.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr const char* kRotalineLink = "Rotaline.lnk";
+constexpr const char* kShuffletLink = "Shufflet.lnk";
+
+}  // namespace
+
+std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFolder) {
+    const bool shufflet = FileExists(startupFolder + kShuffletLink);
+    const bool rotaline = FileExists(startupFolder + kRotalineLink);
+    if (shufflet && rotaline) return std::nullopt;
+    if (shufflet) return StartUpActionKind::Shufflet;
+    return rotaline ? StartUpActionKind::Rotaline : StartUpActionKind::Nothing;
+}
+
+void ApplyStartUpAction(StartUpActionKind action, const std::string& programFolder,
+                        const std::string& startupFolder) {
+    for (const char* link : {kShuffletLink, kRotalineLink}) {
+        if (FileExists(startupFolder + link)) Remove(startupFolder + link);
+    }
+    if (action == StartUpActionKind::Nothing) return;
+    const char* chosen = action == StartUpActionKind::Rotaline ? kRotalineLink : kShuffletLink;
+    CopyOver(programFolder + chosen, startupFolder + chosen);
+}
+
+}  // namespace vistrel

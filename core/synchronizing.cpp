@@ -1,0 +1,44 @@
+// The companion that brings wait and shutdown screens into place at the next start.
+#include "core/synchronizing.h"
+
+#include "core/library.h"
+#include "core/mdl_registry.h"
+#include "platform/files.h"
+#include "platform/profile.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr const char* kRunKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr const char* kEntry = "Mirrorkin";
+constexpr const char* kSection = "Settings";
+constexpr const char* kPathKey = "Path";
+
+std::string IniFile(const std::string& programFolder) { return programFolder + "Mirrorkin.ini"; }
+
+}  // namespace
+
+std::string SynchronizedPath(const std::string& logoFolder, const std::string& setName) {
+    return IsSingleLogoSet(setName) ? logoFolder : logoFolder + setName;
+}
+
+bool RegisterMirrorkin(const std::string& programFolder, const std::string& logoFolder,
+                       const std::string& setName) {
+    const bool entered = SetKeyValue(Hive::LocalMachine, kRunKey, kEntry,
+                                     programFolder + "Mirrorkin.exe /auto", kRegistryText) == 0;
+    const bool written = WriteProfileText(IniFile(programFolder), kSection, kPathKey,
+                                          SynchronizedPath(logoFolder, setName));
+    return entered && written;
+}
+
+void RemoveMirrorkin(const std::string& programFolder) {
+    Remove(IniFile(programFolder));
+    DeleteValue(Hive::LocalMachine, kRunKey, kEntry);
+}
+
+std::string ReadSynchronizedPath(const std::string& programFolder) {
+    return ReadProfileText(IniFile(programFolder), kSection, kPathKey);
+}
+
+}  // namespace vistrel
