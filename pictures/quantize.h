@@ -12,7 +12,7 @@ enum class Dither { On, Off };
 /// Writes one index a pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`
 /// (unused entries black). A picture with no more than `colors` distinct colours keeps them
 /// exactly. The result is the same on every machine. False when an argument is out of range.
-bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors,
-                 std::uint8_t* indices, std::uint8_t* palette, Dither dither = Dither::On);
+bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std::uint8_t* indices,
+                 std::uint8_t* palette, Dither dither = Dither::On);
 
 }  // namespace vistrel

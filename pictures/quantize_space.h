@@ -1,0 +1,73 @@
+// The space in which colours are compared: distances there are differences as an eye weighs them.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace vistrel {
+
+/// A colour or a difference of colours in the working space, in sixteenths of a level. `w` is 0: it
+/// is there so that a point has the size of a machine word.
+struct alignas(8) Point {
+    std::int16_t x = 0;
+    std::int16_t y = 0;
+    std::int16_t z = 0;
+    std::int16_t w = 0;
+};
+
+inline Point operator-(const Point& a, const Point& b) {
+    return {static_cast<std::int16_t>(a.x - b.x), static_cast<std::int16_t>(a.y - b.y),
+            static_cast<std::int16_t>(a.z - b.z), 0};
+}
+
+inline std::int32_t SquaredLength(std::int32_t x, std::int32_t y, std::int32_t z) {
+    return x * x + y * y + z * z;
+}
+
+inline std::int32_t SquaredDistance(const Point& a, const Point& b) {
+    return SquaredLength(a.x - b.x, a.y - b.y, a.z - b.z);
+}
+
+struct Rgb {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+};
+
+/// What a squared distance is made of: the squared differences of red, green and blue, each times
+/// its weight, plus the squared difference of luma times `luma`; all in 1/256.
+struct DistanceWeights {
+    int red = 256;
+    int green = 256;
+    int blue = 256;
+    int luma = 0;
+};
+
+/// A linear map of red, green and blue in which the plain squared distance is the weighted one. The
+/// matrix is the triangular square root (Cholesky) of the weighted sum's matrix.
+class WorkingSpace {
+ public:
+    /// Weights of up to 1,024 each keep points within 0..16,383.
+    explicit WorkingSpace(const DistanceWeights& weights);
+
+    Point FromRgb(int red, int green, int blue) const {
+        const Part& r = parts_[0][red];
+        const Part& g = parts_[1][green];
+        const Part& b = parts_[2][blue];
+        return {static_cast<std::int16_t>(r.x + g.x + b.x), static_cast<std::int16_t>(g.y + b.y),
+                b.z, 0};
+    }
+    Point FromRgb(const std::uint8_t* rgb) const { return FromRgb(rgb[0], rgb[1], rgb[2]); }
+
+    /// The nearest colour in bytes, each channel rounded and clipped by itself.
+    Rgb ToRgb(const Point& point) const;
+
+ private:
+    struct Part {
+        std::int16_t x, y, z;
+    };
+    std::array<std::array<std::int32_t, 3>, 3> matrix_{};  ///< 16 fraction bits, upper triangle
+    std::array<std::array<Part, 256>, 3> parts_;           ///< what each channel's value adds
+};
+
+}  // namespace vistrel
