@@ -1,0 +1,23 @@
+// The picture that is shown while the program starts.
+#pragma once
+
+#include "controls/label.h"
+#include "controls/picture_box.h"
+#include "controls/window.h"
+
+namespace vistrel {
+
+class frmSplash : public Window {
+ public:
+    frmSplash();
+    /// Shows the window and paints it at once.
+    void ShowAtOnce();
+
+    PictureBox SplashPicture;
+    Label LblVersion;
+
+ protected:
+    void Form_Load() override;
+};
+
+}  // namespace vistrel

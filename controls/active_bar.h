@@ -1,0 +1,90 @@
+// A menu bar, a bar of buttons and pop-up menus made from one table of named tools, each of which
+// is enabled and checked wherever it stands.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "controls/geometry.h"
+#include "platform/handles.h"
+
+namespace vistrel {
+
+class Window;
+
+struct Tool {
+    const char* name;
+    int id;               ///< number of its WM_COMMAND; 0 for one that only opens a band
+    const char* caption;
+    const char* tip;      ///< empty for none
+    const char* category;
+    int image;            ///< number of its picture in the bar's strip; -1 for none
+    const char* opens;    ///< name of the band that it drops down; empty for none
+};
+
+enum class BandKind { MenuBar, DropDown, ButtonBar };
+
+struct Band {
+    const char* name;
+    BandKind kind;
+    std::vector<const char*> tools;  ///< names in order; an empty one is a gap
+};
+
+class ActiveBar {
+ public:
+    ActiveBar(std::span<const Tool> tools, std::span<const Band> bands);
+    ~ActiveBar();
+    ActiveBar(const ActiveBar&) = delete;
+    ActiveBar& operator=(const ActiveBar&) = delete;
+
+    /// Puts the menu bar on `window` and makes its bar of buttons, a child with number `barId` whose
+    /// 16 x 16 pictures come from a bitmap resource with the transparent colour `transparent`.
+    void Attach(Window& window, int barId, int bitmapResource, long transparent);
+
+    bool Enabled(const std::string& tool) const { return StateOf(tool).enabled; }
+    void SetEnabled(const std::string& tool, bool enabled);
+    bool Checked(const std::string& tool) const { return StateOf(tool).checked; }
+    void SetChecked(const std::string& tool, bool checked);
+
+    /// Pops up a drop-down band at a point of the screen.
+    void PopUp(const std::string& band, Point screen);
+    /// Fits the bar of buttons to the window's width; its height in pixels.
+    int Resize();
+    WindowHandle bar() const { return bar_; }
+
+    /// A tool was clicked.
+    std::function<void(const Tool& tool)> Click;
+    /// The user asks to customise the bar; the bar never allows it unless this says so.
+    std::function<void(bool& cancel)> PreCustomizeMenu;
+
+    /// For the window: true when `id` is an enabled tool's number, whose Click has then run.
+    bool OnCommand(int id);
+    /// For the window: a notification of the bar or of its tips.
+    std::intptr_t OnNotify(void* header);
+
+    const Tool* ToolOfName(const std::string& name) const;
+
+ private:
+    struct State {
+        bool enabled = true;
+        bool checked = false;
+    };
+
+    const State& StateOf(const std::string& tool) const { return states_.at(tool); }
+    MenuHandle MenuOf(const Band& band);
+    void MakeButtons(const Band& band, int bitmapResource, long transparent, int barId);
+
+    std::span<const Tool> tools_;
+    std::span<const Band> bands_;
+    std::map<std::string, State> states_;
+    std::map<std::string, MenuHandle> menus_;
+    Window* window_ = nullptr;
+    WindowHandle bar_ = nullptr;
+    ImageListHandle images_ = nullptr;
+};
+
+}  // namespace vistrel

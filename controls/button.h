@@ -1,0 +1,43 @@
+// Buttons that are pressed, ticked or chosen among others.
+#pragma once
+
+#include <functional>
+
+#include "controls/control.h"
+
+namespace vistrel {
+
+class Button : public Control {
+ public:
+    std::function<void()> Click;
+
+    void OnCommand(int code) override;
+};
+
+/// A check box; the template makes it an automatic one.
+class CheckBox : public Button {
+ public:
+    /// 0 clear, 1 checked.
+    int Value() const;
+    /// Sets the mark; Click does not run.
+    void SetValue(int value);
+};
+
+/// One of several options of a group; the template makes it an automatic radio button and gives the
+/// first of the group the style WS_GROUP.
+class OptionButton : public Button {
+ public:
+    bool Value() const;
+    /// Chooses this one and clears `others`. Click does not run.
+    template <typename... Options>
+    void Choose(Options&... others) {
+        (others.SetMark(false), ...);
+        SetMark(true);
+    }
+    void SetMark(bool chosen);
+};
+
+/// A box with a caption around controls.
+class Frame : public Control {};
+
+}  // namespace vistrel

@@ -1,0 +1,131 @@
+#include "controls/control.h"
+
+#include <windows.h>
+
+#include "controls/window.h"
+
+namespace vistrel {
+
+/// The window procedure that stands before the control's own.
+struct ControlProcedure {
+    static LRESULT CALLBACK Run(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        auto* control = reinterpret_cast<Control*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+        const auto former = reinterpret_cast<WNDPROC>(control->formerProcedure_);
+        if (message == WM_NCDESTROY) {
+            SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
+            control->handle_ = nullptr;
+            return CallWindowProcA(former, window, message, wParam, lParam);
+        }
+        // No exception may cross the system's code.
+        try {
+            std::intptr_t result = 0;
+            if (control->OnMessage(message, wParam, lParam, result)) return result;
+        } catch (...) {
+        }
+        return CallWindowProcA(former, window, message, wParam, lParam);
+    }
+};
+
+bool Control::Attach(Window& parent, int id) {
+    parent_ = &parent;
+    id_ = id;
+    handle_ = GetDlgItem(parent.handle(), id);
+    if (!handle_) return false;
+    SetWindowLongPtrA(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    formerProcedure_ = reinterpret_cast<void*>(SetWindowLongPtrA(
+        handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure::Run)));
+    OnAttach();
+    if (!tip_.empty()) parent.ShowTip(handle_, tip_);
+    return true;
+}
+
+std::string Control::Text() const {
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(handle_)) + 1, '\0');
+    text.resize(GetWindowTextA(handle_, text.data(), static_cast<int>(text.size())));
+    return text;
+}
+
+void Control::SetText(const std::string& text) { SetWindowTextA(handle_, text.c_str()); }
+
+bool Control::Enabled() const { return IsWindowEnabled(handle_) != 0; }
+
+void Control::SetEnabled(bool enabled) { EnableWindow(handle_, enabled); }
+
+bool Control::Visible() const { return (GetWindowLongA(handle_, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+void Control::SetVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE); }
+
+void Control::Focus() { ::SetFocus(handle_); }
+
+void Control::Repaint() { InvalidateRect(handle_, nullptr, TRUE); }
+
+Rect Control::Bounds() const {
+    RECT r{};
+    GetWindowRect(handle_, &r);
+    MapWindowPoints(nullptr, GetParent(handle_), reinterpret_cast<POINT*>(&r), 2);
+    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
+            static_cast<int>(r.bottom - r.top)};
+}
+
+void Control::MoveTo(const Rect& place) {
+    MoveWindow(handle_, place.left, place.top, place.width, place.height, TRUE);
+}
+
+void Control::SetTip(const std::string& tip) {
+    tip_ = tip;
+    if (handle_) parent_->ShowTip(handle_, tip_);
+}
+
+std::intptr_t Control::Send(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) const {
+    return SendMessageA(handle_, message, wParam, lParam);
+}
+
+std::intptr_t Control::SendPointer(unsigned message, std::uintptr_t wParam,
+                                   const void* pointer) const {
+    return SendMessageA(handle_, message, wParam, reinterpret_cast<LPARAM>(pointer));
+}
+
+bool Control::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                        std::intptr_t& result) {
+    const Point at{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            if (MouseDown) MouseDown(kLeftButton, at);
+            break;
+        case WM_RBUTTONDOWN:
+            if (MouseDown) MouseDown(kRightButton, at);
+            break;
+        case WM_LBUTTONUP:
+            if (MouseUp) MouseUp(kLeftButton, at);
+            break;
+        case WM_RBUTTONUP:
+            if (MouseUp) {
+                MouseUp(kRightButton, at);
+                result = 0;
+                return true;  // the handler's own menu stands for the system's
+            }
+            break;
+        case WM_MOUSEMOVE:
+            if (MouseMove)
+                MouseMove((wParam & MK_LBUTTON)   ? kLeftButton
+                          : (wParam & MK_RBUTTON) ? kRightButton
+                                                  : 0,
+                          at);
+            break;
+        case WM_KEYUP:
+            if (KeyUp) KeyUp(static_cast<int>(wParam));
+            break;
+        case WM_CHAR:
+            if (KeyPress) KeyPress(static_cast<char>(wParam));
+            break;
+        case WM_SETFOCUS:
+            if (GotFocus) GotFocus();
+            break;
+        default:
+            break;
+    }
+    return false;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,107 @@
+// What every kind of control has in common: one object stands for one real window, which the
+// dialog template made and whose number finds it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "controls/geometry.h"
+#include "platform/handles.h"
+
+namespace vistrel {
+
+class Window;
+
+/// The buttons of the mouse, numbered as the handlers take them.
+inline constexpr int kLeftButton = 1;
+inline constexpr int kRightButton = 2;
+
+class Control {
+ public:
+    Control() = default;
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    /// Takes over the child window with number `id`; `parent` hears nothing of it any more than it
+    /// would otherwise. False when the parent has no such child.
+    bool Attach(Window& parent, int id);
+
+    WindowHandle handle() const { return handle_; }
+    int id() const { return id_; }
+
+    std::string Text() const;
+    void SetText(const std::string& text);
+    bool Enabled() const;
+    void SetEnabled(bool enabled);
+    /// Whether it would be seen if its window were: the control's own state.
+    bool Visible() const;
+    void SetVisible(bool visible);
+    void Focus();
+    void Repaint();
+
+    /// Place within the parent's client area.
+    Rect Bounds() const;
+    void MoveTo(const Rect& place);
+
+    /// The short text that appears when the pointer rests on the control.
+    void SetTip(const std::string& tip);
+    const std::string& tip() const { return tip_; }
+
+    /// The number of the help topic that says what this control is for; 0 for none.
+    void SetHelpNumber(int number) { helpNumber_ = number; }
+    int helpNumber() const { return helpNumber_; }
+
+    /// A mouse button was released over the control; x and y in its client area.
+    std::function<void(int button, Point at)> MouseUp;
+    std::function<void(int button, Point at)> MouseDown;
+    std::function<void(int button, Point at)> MouseMove;
+    std::function<void(int key)> KeyUp;
+    std::function<void(char character)> KeyPress;
+    std::function<void()> GotFocus;
+    /// A menu was asked for at a point of the screen, by the right button or from the keyboard.
+    /// Where a control has none, its "What's this?" menu is shown if it has a help number.
+    std::function<void(Point screen, bool byKeyboard)> ContextMenu;
+
+    // What the parent window passes back to its child.
+
+    /// A WM_COMMAND with this notification code.
+    virtual void OnCommand(int) {}
+    /// A WM_NOTIFY with this NMHDR; the result goes back to the control.
+    virtual std::intptr_t OnNotify(void*) { return 0; }
+    /// The colour of the control's text; negative for the system's.
+    virtual long TextColor() const { return -1; }
+    /// Sets a pointer picture of the control's own; false to leave it to the window.
+    virtual bool SetPointer() { return false; }
+
+ protected:
+    /// Called once the handle is known.
+    virtual void OnAttach() {}
+    /// Sees every message before the control does; true when `result` is the answer already.
+    virtual bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                           std::intptr_t& result);
+    /// Sends a message to the real control.
+    std::intptr_t Send(unsigned message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) const;
+    /// Sends a message whose last argument is a pointer.
+    std::intptr_t SendPointer(unsigned message, std::uintptr_t wParam, const void* pointer) const;
+    Window* parent() const { return parent_; }
+
+ private:
+    friend struct ControlProcedure;
+
+    Window* parent_ = nullptr;
+    WindowHandle handle_ = nullptr;
+    int id_ = 0;
+    int helpNumber_ = 0;
+    std::string tip_;
+    void* formerProcedure_ = nullptr;
+};
+
+/// Enables or disables several controls, each in turn.
+template <typename... Controls>
+void EnableControls(bool enabled, Controls&... controls) {
+    (controls.SetEnabled(enabled), ...);
+}
+
+}  // namespace vistrel

@@ -1,0 +1,29 @@
+// Lets files and folders be dropped on a window.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/handles.h"
+
+namespace vistrel {
+
+class FileDropTarget {
+ public:
+    /// `dropped` gets the full paths of each drop that offers the file-list format; others are
+    /// refused. The thread must have called OleInitialize.
+    FileDropTarget(WindowHandle window,
+                   std::function<void(const std::vector<std::string>& paths)> dropped);
+    ~FileDropTarget();
+    FileDropTarget(const FileDropTarget&) = delete;
+    FileDropTarget& operator=(const FileDropTarget&) = delete;
+
+ private:
+    class Receiver;
+
+    WindowHandle window_;
+    Receiver* receiver_;
+};
+
+}  // namespace vistrel

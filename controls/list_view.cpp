@@ -1,0 +1,206 @@
+#include "controls/list_view.h"
+
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "controls/file_drop_target.h"
+#include "platform/instance.h"
+
+namespace vistrel {
+namespace {
+
+// Longer than any file name, so that a whole label always fits.
+constexpr int kLongestLabel = 1024;
+
+}  // namespace
+
+ListView::ListView() = default;
+
+ListView::~ListView() {
+    if (icons_) ImageList_Destroy(icons_);
+}
+
+void ListView::OnAttach() {
+    if (OLEDragDrop) dropTarget_ = std::make_unique<FileDropTarget>(handle(), OLEDragDrop);
+}
+
+void ListView::LoadIcons(int bitmapResource, long transparent,
+                         const std::vector<std::string>& keys) {
+    iconKeys_ = keys;
+    icons_ = ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
+                                  static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
+    SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons_);
+}
+
+void ListView::AddColumn(const std::string& heading, int width) {
+    LVCOLUMNA column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH;
+    column.cx = width;
+    column.pszText = const_cast<char*>(heading.c_str());
+    SendPointer(LVM_INSERTCOLUMNA, 0, &column);
+}
+
+void ListView::SetColumnWidth(int width) { Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width, 0)); }
+
+int ListView::Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
+
+int ListView::AddItem(const std::string& text, const std::string& iconKey) {
+    LVITEMA item{};
+    item.mask = LVIF_TEXT | LVIF_IMAGE;
+    item.iItem = INT_MAX;
+    item.pszText = const_cast<char*>(text.c_str());
+    item.iImage = IconNumber(iconKey);
+    return static_cast<int>(SendPointer(LVM_INSERTITEMA, 0, &item));
+}
+
+void ListView::RemoveItem(int index) { Send(LVM_DELETEITEM, static_cast<WPARAM>(index)); }
+
+void ListView::Clear() { Send(LVM_DELETEALLITEMS); }
+
+std::string ListView::ItemText(int index) const {
+    std::string text(kLongestLabel, '\0');
+    LVITEMA item{};
+    item.pszText = text.data();
+    item.cchTextMax = kLongestLabel;
+    text.resize(static_cast<std::size_t>(
+        std::max<LRESULT>(SendPointer(LVM_GETITEMTEXTA, static_cast<WPARAM>(index), &item), 0)));
+    return text;
+}
+
+void ListView::SetItemText(int index, const std::string& text) {
+    LVITEMA item{};
+    item.pszText = const_cast<char*>(text.c_str());
+    SendPointer(LVM_SETITEMTEXTA, static_cast<WPARAM>(index), &item);
+}
+
+int ListView::IconNumber(const std::string& key) const {
+    return static_cast<int>(std::find(iconKeys_.begin(), iconKeys_.end(), key) - iconKeys_.begin());
+}
+
+std::string ListView::ItemIcon(int index) const {
+    LVITEMA item{};
+    item.mask = LVIF_IMAGE;
+    item.iItem = index;
+    SendPointer(LVM_GETITEMA, 0, &item);
+    const auto number = static_cast<std::size_t>(item.iImage);
+    return number < iconKeys_.size() ? iconKeys_[number] : std::string();
+}
+
+void ListView::SetItemIcon(int index, const std::string& iconKey) {
+    LVITEMA item{};
+    item.mask = LVIF_IMAGE;
+    item.iItem = index;
+    item.iImage = IconNumber(iconKey);
+    SendPointer(LVM_SETITEMA, 0, &item);
+}
+
+int ListView::FindItem(const std::string& text) const {
+    LVFINDINFOA find{};
+    find.flags = LVFI_STRING;
+    find.psz = text.c_str();
+    // The control's search ignores case; names that differ by case only are told apart here.
+    int index = -1;
+    while ((index = static_cast<int>(
+                SendPointer(LVM_FINDITEMA, static_cast<WPARAM>(index), &find))) >= 0)
+        if (ItemText(index) == text) return index;
+    return -1;
+}
+
+int ListView::SelectedItem() const {
+    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void ListView::Select(int index) {
+    LVITEMA item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    selectingByCode_ = true;
+    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), &item);
+    item.state = item.stateMask;
+    if (index >= 0) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
+    selectingByCode_ = false;
+}
+
+void ListView::EnsureVisible(int index) {
+    Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+}
+
+int ListView::HitTest(Point at) const {
+    LVHITTESTINFO hit{};
+    hit.pt = {at.x, at.y};
+    return static_cast<int>(SendPointer(LVM_HITTEST, 0, &hit));
+}
+
+ListViewMode ListView::Mode() const {
+    return (GetWindowLongA(handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT ? ListViewMode::Report
+                                                                              : ListViewMode::List;
+}
+
+void ListView::SetMode(ListViewMode mode) {
+    const LONG style = GetWindowLongA(handle(), GWL_STYLE) & ~LVS_TYPEMASK;
+    SetWindowLongA(handle(), GWL_STYLE,
+                   style | (mode == ListViewMode::Report ? LVS_REPORT : LVS_LIST));
+    Repaint();
+}
+
+void ListView::SuspendPainting() { Send(WM_SETREDRAW, FALSE); }
+
+void ListView::ResumePainting() {
+    Send(WM_SETREDRAW, TRUE);
+    Repaint();
+}
+
+void ListView::StartLabelEdit() {
+    Focus();
+    Send(LVM_EDITLABELA, static_cast<WPARAM>(SelectedItem()));
+}
+
+bool ListView::EditingLabel() const { return Send(LVM_GETEDITCONTROL) != 0; }
+
+std::intptr_t ListView::OnNotify(void* header) {
+    switch (static_cast<const NMHDR*>(header)->code) {
+        case LVN_ITEMCHANGED: {
+            const auto& change = *static_cast<const NMLISTVIEW*>(header);
+            const bool selected = (change.uChanged & LVIF_STATE) &&
+                                  (change.uNewState & LVIS_SELECTED) &&
+                                  !(change.uOldState & LVIS_SELECTED);
+            if (selected && !selectingByCode_ && ItemClick) ItemClick(change.iItem);
+            return 0;
+        }
+        case NM_CLICK:
+        case NM_RCLICK: {
+            // The control waits for the release itself and then tells so; the release is not seen
+            // as a message of its own.
+            POINT at{};
+            GetCursorPos(&at);
+            ScreenToClient(handle(), &at);
+            const int button =
+                static_cast<const NMHDR*>(header)->code == NM_CLICK ? kLeftButton : kRightButton;
+            if (MouseUp) MouseUp(button, {static_cast<int>(at.x), static_cast<int>(at.y)});
+            return 1;
+        }
+        case NM_DBLCLK:
+            if (DblClick) DblClick();
+            return 0;
+        case LVN_BEGINLABELEDITA:
+            return BeforeLabelEdit && !BeforeLabelEdit() ? TRUE : FALSE;
+        case LVN_ENDLABELEDITA: {
+            const char* text = static_cast<const NMLVDISPINFOA*>(header)->item.pszText;
+            return text && AfterLabelEdit && AfterLabelEdit(text) ? TRUE : FALSE;
+        }
+        default:
+            return 0;
+    }
+}
+
+bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                         std::intptr_t& result) {
+    // Releases arrive as NM_CLICK and NM_RCLICK.
+    if (message == WM_LBUTTONUP || message == WM_RBUTTONUP) return false;
+    if (message == WM_DESTROY) dropTarget_.reset();
+    return Control::OnMessage(message, wParam, lParam, result);
+}
+
+}  // namespace vistrel

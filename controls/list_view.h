@@ -1,0 +1,87 @@
+// A list of items with small icons, as a list or as a report of one column, whose labels can be
+// edited in place. Items are numbered from 0.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace vistrel {
+
+enum class ListViewMode { List = 2, Report = 3 };
+
+class FileDropTarget;
+
+class ListView : public Control {
+ public:
+    ListView();
+    ~ListView() override;
+
+    /// Takes the small icons from a bitmap resource, `keys` naming them from left to right. Pixels
+    /// of `transparent` (blue-green-red) show the background.
+    void LoadIcons(int bitmapResource, long transparent, const std::vector<std::string>& keys);
+    void AddColumn(const std::string& heading, int width);
+    void SetColumnWidth(int width);
+
+    int Count() const;
+    /// Adds an item at the end; its number.
+    int AddItem(const std::string& text, const std::string& iconKey);
+    void RemoveItem(int index);
+    void Clear();
+    std::string ItemText(int index) const;
+    void SetItemText(int index, const std::string& text);
+    /// Key of the item's icon.
+    std::string ItemIcon(int index) const;
+    void SetItemIcon(int index, const std::string& iconKey);
+    /// Number of the item with exactly this text; -1 when there is none.
+    int FindItem(const std::string& text) const;
+
+    /// Number of the selected item; -1 when none is.
+    int SelectedItem() const;
+    /// Selects one item, or none with -1. ItemClick does not run.
+    void Select(int index);
+    void EnsureVisible(int index);
+    /// The item at a point of the control; -1 when there is none.
+    int HitTest(Point at) const;
+
+    ListViewMode Mode() const;
+    void SetMode(ListViewMode mode);
+
+    /// Between these nothing is painted; the end paints all once.
+    void SuspendPainting();
+    void ResumePainting();
+
+    void StartLabelEdit();
+    bool EditingLabel() const;
+
+    /// The user selected an item, by mouse or keyboard.
+    std::function<void(int index)> ItemClick;
+    std::function<void()> DblClick;
+    /// Editing of an item's label begins; false forbids it.
+    std::function<bool()> BeforeLabelEdit;
+    /// Editing ended with a new text; false keeps the old one.
+    std::function<bool(const std::string& newText)> AfterLabelEdit;
+    /// Files and folders were dropped on the list: their full paths. Setting this before the window
+    /// is created makes the list a drop target.
+    std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
+
+    std::intptr_t OnNotify(void* header) override;
+
+ protected:
+    void OnAttach() override;
+    bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                   std::intptr_t& result) override;
+
+ private:
+    int IconNumber(const std::string& key) const;
+
+    std::vector<std::string> iconKeys_;
+    ImageListHandle icons_ = nullptr;
+    bool selectingByCode_ = false;
+    std::unique_ptr<FileDropTarget> dropTarget_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,54 @@
+#include "controls/menu.h"
+
+#include <windows.h>
+
+#include "platform/instance.h"
+
+namespace vistrel {
+
+MenuHandle LoadMenuResource(int id) {
+    return LoadMenuA(ProgramInstance(), MAKEINTRESOURCEA(id));
+}
+
+void FreeMenu(MenuHandle menu) { DestroyMenu(menu); }
+
+MenuHandle SubMenu(MenuHandle menu, int place) { return GetSubMenu(menu, place); }
+
+void SetMenuMark(MenuHandle menu, int id, bool checked) {
+    CheckMenuItem(menu, static_cast<UINT>(id), checked ? MF_CHECKED : MF_UNCHECKED);
+}
+
+bool HasMenuMark(MenuHandle menu, int id) {
+    return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) & MF_CHECKED) != 0;
+}
+
+void SetMenuEnabled(MenuHandle menu, int id, bool enabled) {
+    EnableMenuItem(menu, static_cast<UINT>(id), enabled ? MF_ENABLED : MF_GRAYED);
+}
+
+bool IsMenuEnabled(MenuHandle menu, int id) {
+    return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) &
+            (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+void SetMenuCaption(MenuHandle menu, int id, const std::string& caption) {
+    // ModifyMenu would take the mark away.
+    MENUITEMINFOA info{};
+    info.cbSize = 44;  // the size that Windows 95 knows on 32 bits; others are told apart below
+#ifdef _WIN64
+    info.cbSize = sizeof info;
+#endif
+    info.fMask = MIIM_TYPE;
+    info.fType = MFT_STRING;
+    info.dwTypeData = const_cast<char*>(caption.c_str());
+    SetMenuItemInfoA(menu, static_cast<UINT>(id), FALSE, &info);
+}
+
+std::string MenuCaption(MenuHandle menu, int id) {
+    std::string text(256, '\0');
+    text.resize(static_cast<std::size_t>(GetMenuStringA(menu, static_cast<UINT>(id), text.data(),
+                                                        256, MF_BYCOMMAND)));
+    return text;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,65 @@
+#include "controls/message_loop.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "controls/window.h"
+
+namespace vistrel {
+namespace {
+
+std::vector<Window*>& openWindows() {
+    static std::vector<Window*> windows;
+    return windows;
+}
+
+Window* WindowOf(HWND handle) {
+    for (Window* window : openWindows())
+        if (window->handle() == handle || IsChild(window->handle(), handle)) return window;
+    return nullptr;
+}
+
+void Handle(MSG& message) {
+    Window* window = message.hwnd ? WindowOf(message.hwnd) : nullptr;
+    if (window) {
+        // WM_CHAR exists only after translation, which the dialog manager does itself.
+        if (window->TranslateKey(&message)) return;
+        if (IsDialogMessageA(window->handle(), &message)) return;
+    }
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+}
+
+}  // namespace
+
+void EnterLoop(Window& window) { openWindows().push_back(&window); }
+
+void LeaveLoop(Window& window) {
+    auto& windows = openWindows();
+    windows.erase(std::remove(windows.begin(), windows.end(), &window), windows.end());
+}
+
+void RunLoopWhileOpen(const Window& window) {
+    MSG message{};
+    while (window.IsOpen()) {
+        if (GetMessageA(&message, nullptr, 0, 0) <= 0) {
+            // The end of the program is for the outermost loop too.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        Handle(message);
+    }
+}
+
+bool HandleWaitingMessages() {
+    MSG message{};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) return false;
+        Handle(message);
+    }
+    return true;
+}
+
+}  // namespace vistrel

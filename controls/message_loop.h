@@ -1,0 +1,18 @@
+// The one thread's message loop, for windows shown beside each other and for modal ones.
+#pragma once
+
+namespace vistrel {
+
+class Window;
+
+/// Takes a window's keys into the loop, and out again.
+void EnterLoop(Window& window);
+void LeaveLoop(Window& window);
+
+/// Runs until this window has been closed, or the program is to end.
+void RunLoopWhileOpen(const Window& window);
+/// Handles the messages that wait, and returns when there are none. False when the program is to
+/// end.
+bool HandleWaitingMessages();
+
+}  // namespace vistrel

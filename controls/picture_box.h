@@ -1,0 +1,51 @@
+// A box that shows a picture. Its window text is its tag: the path of the file that it shows.
+#pragma once
+
+#include <string>
+
+#include "controls/control.h"
+
+namespace vistrel {
+
+class PictureBox : public Control {
+ public:
+    ~PictureBox() override;
+
+    /// Size of the drawing area in pixels.
+    int ScaleWidth() const;
+    int ScaleHeight() const;
+    /// Makes the drawing area this large; the box's place stays.
+    void SetScaleSize(Size size);
+
+    /// Takes the picture away.
+    void Clear();
+    /// A device context of the drawing area's size to draw the next picture into; empty at first.
+    /// What is drawn is seen after Keep.
+    DeviceContext Canvas();
+    /// Makes what was drawn into the canvas the picture.
+    void Keep();
+    bool HasPicture() const { return hasPicture_; }
+
+    std::string Tag() const { return Text(); }
+    void SetTag(const std::string& tag) { SetText(tag); }
+
+ protected:
+    bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                   std::intptr_t& result) override;
+
+ private:
+    void ReleaseCanvas();
+    void Paint(DeviceContext target);
+
+    bool hasPicture_ = false;
+    DeviceContext canvas_ = nullptr;
+    BitmapHandle bitmap_ = nullptr;
+    void* formerBitmap_ = nullptr;
+    void* formerPalette_ = nullptr;
+    Size canvasSize_;
+};
+
+/// Makes the window class that templates name "PictureBox" known to the system.
+void RegisterPictureBoxClass();
+
+}  // namespace vistrel

@@ -1,0 +1,35 @@
+#include "controls/tab_strip.h"
+
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
+namespace vistrel {
+
+void TabStrip::AddTab(const std::string& caption) {
+    TCITEMA item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = const_cast<char*>(caption.c_str());
+    SendPointer(TCM_INSERTITEMA, static_cast<WPARAM>(Count()), &item);
+}
+
+int TabStrip::Count() const { return static_cast<int>(Send(TCM_GETITEMCOUNT)); }
+
+int TabStrip::SelectedIndex() const { return static_cast<int>(Send(TCM_GETCURSEL)) + 1; }
+
+void TabStrip::Select(int index) { Send(TCM_SETCURSEL, static_cast<WPARAM>(index - 1)); }
+
+Rect TabStrip::PageArea() const {
+    const Rect place = Bounds();
+    RECT r{place.left, place.top, place.right(), place.bottom()};
+    SendPointer(TCM_ADJUSTRECT, FALSE, &r);
+    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
+            static_cast<int>(r.bottom - r.top)};
+}
+
+std::intptr_t TabStrip::OnNotify(void* header) {
+    if (static_cast<const NMHDR*>(header)->code == TCN_SELCHANGE && Click) Click();
+    return 0;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,28 @@
+// A row of tabs.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "controls/control.h"
+
+namespace vistrel {
+
+class TabStrip : public Control {
+ public:
+    void AddTab(const std::string& caption);
+    int Count() const;
+    /// Number of the selected tab, from 1.
+    int SelectedIndex() const;
+    /// Selects a tab by its number, from 1. Click does not run.
+    void Select(int index);
+    /// The part of the control that the tabs leave for a page, within the parent's client area.
+    Rect PageArea() const;
+
+    /// Another tab was selected by the user.
+    std::function<void()> Click;
+
+    std::intptr_t OnNotify(void* header) override;
+};
+
+}  // namespace vistrel

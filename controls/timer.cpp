@@ -1,0 +1,18 @@
+#include "controls/timer.h"
+
+#include <windows.h>
+
+namespace vistrel {
+
+void Timer::SetEnabled(bool enabled) {
+    // The timer's address is its number, so the window finds it by its message alone.
+    const auto number = reinterpret_cast<UINT_PTR>(this);
+    if (enabled)
+        enabled_ = SetTimer(window_, number, interval_, nullptr) != 0;
+    else if (enabled_) {
+        KillTimer(window_, number);
+        enabled_ = false;
+    }
+}
+
+}  // namespace vistrel

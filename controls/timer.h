@@ -1,0 +1,31 @@
+// A clock that ticks while it is enabled.
+#pragma once
+
+#include <functional>
+
+#include "platform/handles.h"
+
+namespace vistrel {
+
+class Timer {
+ public:
+    /// `interval` in milliseconds.
+    explicit Timer(unsigned interval) : interval_(interval) {}
+    ~Timer() { SetEnabled(false); }
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    void Attach(WindowHandle window) { window_ = window; }
+    bool Enabled() const { return enabled_; }
+    /// Starting it anew begins a whole interval.
+    void SetEnabled(bool enabled);
+
+    std::function<void()> Tick;
+
+ private:
+    unsigned interval_;
+    WindowHandle window_ = nullptr;
+    bool enabled_ = false;
+};
+
+}  // namespace vistrel

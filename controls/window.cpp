@@ -1,0 +1,342 @@
+#include "controls/window.h"
+
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
+#include "controls/message_loop.h"
+#include "controls/timer.h"
+#include "platform/help_viewer.h"
+#include "platform/instance.h"
+#include "platform/pointer.h"
+
+namespace vistrel {
+namespace {
+
+std::string& helpFile() {
+    static std::string path;
+    return path;
+}
+
+constexpr int kWhatsThis = 0x7f00;
+
+/// A class of its own name for each window, so that it can be told from others from outside. The
+/// dialog manager's procedure does the work.
+void RegisterFormClass(const char* name) {
+    WNDCLASSEXA c{};
+    c.cbSize = sizeof c;
+    if (GetClassInfoExA(ProgramInstance(), name, &c)) return;
+    c = {};
+    c.cbSize = sizeof c;
+    c.style = CS_DBLCLKS;
+    c.lpfnWndProc = DefDlgProcA;
+    c.cbWndExtra = DLGWINDOWEXTRA;
+    c.hInstance = ProgramInstance();
+    c.hIcon = LoadIconA(ProgramInstance(), "logoicon");
+    c.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+    c.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    c.lpszClassName = name;
+    RegisterClassExA(&c);
+}
+
+}  // namespace
+
+struct WindowProcedure {
+    static INT_PTR CALLBACK Run(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_INITDIALOG) {
+            SetWindowLongPtrA(handle, DWLP_USER, lParam);
+            return TRUE;
+        }
+        auto* window = reinterpret_cast<Window*>(GetWindowLongPtrA(handle, DWLP_USER));
+        if (!window || window->handle_ != handle) return FALSE;
+        // No exception may cross the system's code.
+        try {
+            std::intptr_t result = 0;
+            if (!window->OnMessage(message, wParam, lParam, result)) return FALSE;
+            if (message == WM_CTLCOLORSTATIC) return result;  // these answer directly
+            SetWindowLongPtrA(handle, DWLP_MSGRESULT, result);
+            return TRUE;
+        } catch (...) {
+            return FALSE;
+        }
+    }
+};
+
+Window::Window(const char* className, int templateId)
+    : className_(className), templateId_(templateId) {}
+
+Window::~Window() {
+    if (handle_) DestroyWindow(handle_);
+}
+
+void Window::SetHelpFile(const std::string& path) { helpFile() = path; }
+
+const std::string& Window::HelpFile() { return helpFile(); }
+
+void Window::Add(Control& control, int id, const char* tip) {
+    controls_[id] = &control;
+    control.SetTip(tip);
+}
+
+void Window::Add(Timer& timer) { timers_.push_back(&timer); }
+
+bool Window::Create(WindowHandle owner) {
+    InitCommonControls();
+    RegisterFormClass(className_);
+    const HWND handle =
+        CreateDialogParamA(ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
+                           &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
+    if (!handle) return false;
+    handle_ = handle;
+    tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP,
+                            CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_,
+                            nullptr, ProgramInstance(), nullptr);
+    for (auto& [id, control] : controls_) control->Attach(*this, id);
+    for (Timer* timer : timers_) timer->Attach(handle_);
+    EnterLoop(*this);
+    Form_Load();
+    Form_Resize(ClientSize());
+    return true;
+}
+
+void Window::Show() {
+    ShowWindow(handle_, SW_SHOW);
+    UpdateWindow(handle_);
+}
+
+void Window::ShowModal(WindowHandle owner) {
+    if (!Create(owner)) return;
+    if (owner && IsWindowEnabled(owner)) {
+        disabledOwner_ = owner;
+        EnableWindow(owner, FALSE);
+    }
+    Show();
+    RunLoopWhileOpen(*this);
+}
+
+bool Window::Unload() {
+    if (!handle_) return true;
+    if (!Form_Unload()) return false;
+    for (Timer* timer : timers_) timer->SetEnabled(false);
+    // The owner must be able to take the focus before this window gives it up.
+    if (disabledOwner_) EnableWindow(disabledOwner_, TRUE);
+    disabledOwner_ = nullptr;
+    const HWND closing = handle_;
+    LeaveLoop(*this);
+    DestroyWindow(closing);
+    handle_ = nullptr;
+    tips_ = nullptr;
+    active_ = false;
+    return true;
+}
+
+Control* Window::Find(int id) const {
+    const auto found = controls_.find(id);
+    return found == controls_.end() ? nullptr : found->second;
+}
+
+Control* Window::ControlOf(WindowHandle child) const {
+    while (child && child != handle_) {
+        Control* control = Find(GetDlgCtrlID(child));
+        if (control && control->handle() == child) return control;
+        child = GetParent(child);
+    }
+    return nullptr;
+}
+
+Size Window::ClientSize() const {
+    RECT r{};
+    GetClientRect(handle_, &r);
+    return {static_cast<int>(r.right), static_cast<int>(r.bottom)};
+}
+
+void Window::MoveTo(const Rect& place) {
+    MoveWindow(handle_, place.left, place.top, place.width, place.height, TRUE);
+}
+
+Rect Window::FromDialogUnits(const Rect& units) const {
+    RECT r{units.left, units.top, units.right(), units.bottom()};
+    MapDialogRect(handle_, &r);
+    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
+            static_cast<int>(r.bottom - r.top)};
+}
+
+void Window::ShowTip(WindowHandle child, const std::string& tip) {
+    TOOLINFOA info{};
+    info.cbSize = TTTOOLINFOA_V1_SIZE;  // the size that Windows 95 knows
+    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    info.hwnd = handle_;
+    info.uId = reinterpret_cast<UINT_PTR>(child);
+    SendMessageA(tips_, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&info));
+    if (tip.empty()) return;
+    info.lpszText = const_cast<char*>(tip.c_str());
+    SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+void Window::PopUpMenu(MenuHandle menu, Point screen, int defaultItem) {
+    SetMenuDefaultItem(menu, defaultItem ? static_cast<UINT>(defaultItem) : UINT(-1), FALSE);
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
+}
+
+bool Window::TranslateKey(const void* message) {
+    const auto& m = *static_cast<const MSG*>(message);
+    if (m.message == WM_KEYUP) Form_KeyUp(static_cast<int>(m.wParam));
+    if (m.message == WM_CHAR) Form_KeyPress(static_cast<char>(m.wParam));
+    // A key handler may have closed the window; its message is then nobody's.
+    return handle_ == nullptr;
+}
+
+bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
+    const int id = LOWORD(wParam);
+    if (lParam != 0) {
+        if (Control* control = Find(id)) {
+            control->OnCommand(HIWORD(wParam));
+            return true;
+        }
+    }
+    if (id == kWhatsThis) return true;
+    if (lParam == 0) {
+        // Enter and Esc arrive without a control; a button of that number stands for them.
+        if (Control* control = Find(id)) {
+            control->OnCommand(BN_CLICKED);
+            return true;
+        }
+    }
+    MenuCommand(id);
+    return true;
+}
+
+void Window::ShowTopic(const Control& control) {
+    ShowHelp(control.handle(), HelpFile(), HelpCommand::ContextPopup,
+             static_cast<unsigned long>(control.helpNumber()));
+}
+
+bool Window::OnHelp(std::intptr_t lParam) {
+    const auto& info = *reinterpret_cast<const HELPINFO*>(lParam);
+    if (info.iContextType != HELPINFO_WINDOW) return false;
+    const Control* control = ControlOf(static_cast<HWND>(info.hItemHandle));
+    if (!control || control->helpNumber() == 0) return false;
+    ShowTopic(*control);
+    return true;
+}
+
+bool Window::OnContextMenu(WindowHandle child, Point screen, bool byKeyboard) {
+    Control* control = ControlOf(child);
+    if (!control) return false;
+    if (byKeyboard) {
+        RECT r{};
+        GetWindowRect(control->handle(), &r);
+        screen = {static_cast<int>(r.left) + 8, static_cast<int>(r.top) + 8};
+    }
+    if (control->ContextMenu) {
+        control->ContextMenu(screen, byKeyboard);
+        return true;
+    }
+    if (control->helpNumber() == 0) return false;
+    const HMENU menu = CreatePopupMenu();
+    AppendMenuA(menu, MF_STRING, kWhatsThis, "&What's this?");
+    const BOOL chosen = TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0,
+                                       handle_, nullptr);
+    DestroyMenu(menu);
+    if (chosen == kWhatsThis) ShowTopic(*control);
+    return true;
+}
+
+bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                       std::intptr_t& result) {
+    switch (message) {
+        case WM_COMMAND:
+            return OnCommand(wParam, lParam);
+        case WM_NOTIFY: {
+            const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+            Control* control = Find(static_cast<int>(header->idFrom));
+            result = control && control->handle() == header->hwndFrom
+                         ? control->OnNotify(reinterpret_cast<void*>(lParam))
+                         : OnNotify(reinterpret_cast<void*>(lParam));
+            return true;
+        }
+        case WM_CTLCOLORSTATIC: {
+            const Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
+            if (!control || control->TextColor() < 0) return false;
+            SetTextColor(reinterpret_cast<HDC>(wParam),
+                         static_cast<COLORREF>(control->TextColor()));
+            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            result = reinterpret_cast<std::intptr_t>(GetSysColorBrush(COLOR_BTNFACE));
+            return true;
+        }
+        case WM_SETCURSOR: {
+            if (BusyPointer::Shown()) {
+                SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
+                result = TRUE;
+                return true;
+            }
+            Control* control = ControlOf(reinterpret_cast<HWND>(wParam));
+            if (!control || !control->SetPointer()) return false;
+            result = TRUE;
+            return true;
+        }
+        case WM_TIMER:
+            for (Timer* timer : timers_) {
+                if (reinterpret_cast<std::uintptr_t>(timer) != wParam) continue;
+                if (timer->Tick) timer->Tick();
+                return true;
+            }
+            return false;
+        case WM_ACTIVATE:
+            // An activation that comes while the window is still hidden is its showing.
+            if (LOWORD(wParam) != WA_INACTIVE && !active_) {
+                active_ = true;
+                Form_Activate();
+            } else if (LOWORD(wParam) == WA_INACTIVE) {
+                active_ = false;
+            }
+            return false;
+        case WM_SIZE:
+            if (wParam != SIZE_MINIMIZED) Form_Resize(ClientSize());
+            return false;
+        case WM_GETMINMAXINFO: {
+            const Size least = SmallestSize();
+            auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
+            info.ptMinTrackSize = {least.width, least.height};
+            return least.width > 0;
+        }
+        case WM_PAINT: {
+            PAINTSTRUCT paint{};
+            const HDC dc = BeginPaint(handle_, &paint);
+            Form_Paint(dc);
+            EndPaint(handle_, &paint);
+            return true;
+        }
+        case WM_INITMENUPOPUP:
+            if (HIWORD(lParam) == FALSE) MenuOpens(reinterpret_cast<HMENU>(wParam));
+            return false;
+        case WM_HELP:
+            return OnHelp(lParam);
+        case WM_CONTEXTMENU:
+            return OnContextMenu(
+                reinterpret_cast<HWND>(wParam),
+                {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))},
+                lParam == -1);
+        case WM_PALETTECHANGED:
+        case WM_QUERYNEWPALETTE:
+            // Picture boxes hold the colours; each realises its own when it paints.
+            if (reinterpret_cast<HWND>(wParam) != handle_)
+                RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+            result = TRUE;
+            return true;
+        case WM_CLOSE:
+            Unload();
+            return true;
+        case WM_QUERYENDSESSION:
+            result = TRUE;
+            return true;
+        case WM_ENDSESSION:
+            // The system ends the program right after this message.
+            if (wParam) Form_Unload();
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace vistrel

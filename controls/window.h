@@ -1,0 +1,106 @@
+// A top-level window made from a dialog template: it holds its controls, passes their events on and
+// is shown beside others or, modally, in front of its owner.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+#include "controls/geometry.h"
+#include "platform/handles.h"
+
+namespace vistrel {
+
+class Timer;
+
+class Window {
+ public:
+    /// `className` is the window class that the template names; `templateId` the template's number.
+    Window(const char* className, int templateId);
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    /// Makes the real window with its controls, not yet visible, and runs Form_Load. False when the
+    /// system refuses.
+    bool Create(WindowHandle owner);
+    void Show();
+    /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns when
+    /// it has been closed.
+    void ShowModal(WindowHandle owner);
+    /// Closes the window unless Form_Unload refuses. False when it did.
+    bool Unload();
+
+    WindowHandle handle() const { return handle_; }
+    bool IsOpen() const { return handle_ != nullptr; }
+    /// The control with this number; null when the window has none.
+    Control* Find(int id) const;
+    const std::map<int, Control*>& controls() const { return controls_; }
+
+    Size ClientSize() const;
+    /// Moves the whole window to a place of the screen.
+    void MoveTo(const Rect& place);
+    /// Shows a short text when the pointer rests on a child window; an empty text takes it away.
+    void ShowTip(WindowHandle child, const std::string& tip);
+    /// Pops up a menu at a point of the screen; what is chosen arrives at MenuCommand.
+    /// `defaultItem` is shown in bold; 0 for none.
+    void PopUpMenu(MenuHandle menu, Point screen, int defaultItem = 0);
+
+    /// Sees each of the window's messages before the dialog manager; see message_loop.h.
+    bool TranslateKey(const void* message);
+
+    /// The file whose topics the help numbers of controls name.
+    static void SetHelpFile(const std::string& path);
+    static const std::string& HelpFile();
+
+ protected:
+    /// Ties a member to the child window with number `id`.
+    void Add(Control& control, int id, const char* tip = "");
+    void Add(Timer& timer);
+
+    virtual void Form_Load() {}
+    /// The window became the active one.
+    virtual void Form_Activate() {}
+    /// Called when the window is about to close; false keeps it open.
+    virtual bool Form_Unload() { return true; }
+    virtual void Form_Resize(Size) {}
+    virtual void Form_Paint(DeviceContext) {}
+    virtual void Form_KeyUp(int) {}
+    virtual void Form_KeyPress(char) {}
+    /// A menu item, a tool or, without a control of that number, a dialog command (1 Enter, 2 Esc).
+    virtual void MenuCommand(int) {}
+    /// A menu is about to open.
+    virtual void MenuOpens(MenuHandle) {}
+    /// A notification of a child window that is no Control, a toolbar for instance.
+    virtual std::intptr_t OnNotify(void*) { return 0; }
+    /// The smallest size of the whole window that the user can drag it to.
+    virtual Size SmallestSize() const { return {0, 0}; }
+
+    /// Converts dialog units of this window's font to pixels.
+    Rect FromDialogUnits(const Rect& units) const;
+
+ private:
+    friend struct WindowProcedure;
+
+    bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                   std::intptr_t& result);
+    bool OnCommand(std::uintptr_t wParam, std::intptr_t lParam);
+    bool OnHelp(std::intptr_t lParam);
+    bool OnContextMenu(WindowHandle child, Point screen, bool byKeyboard);
+    void ShowTopic(const Control& control);
+    Control* ControlOf(WindowHandle child) const;
+
+    const char* className_;
+    int templateId_;
+    WindowHandle handle_ = nullptr;
+    WindowHandle tips_ = nullptr;
+    WindowHandle disabledOwner_ = nullptr;
+    bool active_ = false;
+    std::map<int, Control*> controls_;
+    std::vector<Timer*> timers_;
+};
+
+}  // namespace vistrel

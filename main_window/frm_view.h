@@ -1,0 +1,29 @@
+// One picture at its actual size; a click or a key closes it.
+#pragma once
+
+#include <string>
+
+#include "controls/picture_box.h"
+#include "controls/window.h"
+
+namespace vistrel {
+
+class FrmView : public Window {
+ public:
+    /// `animate`: a screen with animated palette entries moves as it does while the system starts.
+    FrmView(std::string path, bool animate);
+
+    PictureBox Preview;
+
+ protected:
+    void Form_Load() override;
+    void Form_KeyPress(char character) override;
+
+ private:
+    void Preview_Click();
+
+    std::string path_;
+    bool animate_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,154 @@
+#include "main_window/principale.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "controls/menu.h"
+#include "controls/screen_metrics.h"
+#include "core/boot_option.h"
+#include "core/close.h"
+#include "core/generali.h"
+#include "core/library.h"
+#include "main_window/tool_table.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr long kBlue = 0xFF0000;
+constexpr long kToolbarTransparent = 0xFF00FF;
+constexpr int kTwipsPerInch = 1440;
+/// The editor opens this many milliseconds after its command, once the click has fully returned.
+constexpr unsigned kBrowserDelay = 50;
+
+}  // namespace
+
+Principale::Principale(SystemLocations locations)
+    : Window("Principale", IDD_Principale),
+      ActiveBar1(MainTools(), MainBands()),
+      Timer1(kBrowserDelay),
+      locations_(std::move(locations)) {
+    Add(MyList, ID_MyList);
+    for (int i = 0; i < 3; ++i) {
+        Add(Imag[i], ID_Imag + i);
+        Add(LblScreen[i], ID_LblScreen + i);
+    }
+    Add(DefaultLogo, ID_DefaultLogo, "Default logo set");
+    Add(LblDefaultLogo, ID_LblDefaultLogo);
+    Add(LogoType, ID_LogoType);
+    Add(NumLogo, ID_NumLogo);
+    Add(Timer1);
+
+    ActiveBar1.Click = [this](const Tool& tool) { ActiveBar1_Click(tool); };
+    ActiveBar1.PreCustomizeMenu = [](bool& cancel) { cancel = true; };
+    MyList.ItemClick = [this](int) { MyList_ItemClick(); };
+    MyList.MouseDown = [this](int, Point at) { MyList_MouseDown(at); };
+    MyList.MouseUp = [this](int button, Point) { MyList_MouseUp(button); };
+    MyList.DblClick = [this] { MyList_DblClick(); };
+    MyList.KeyUp = [this](int key) { MyList_KeyUp(key); };
+    MyList.BeforeLabelEdit = [this] { return MyList_BeforeLabelEdit(); };
+    MyList.AfterLabelEdit = [this](const std::string& name) { return MyList_AfterLabelEdit(name); };
+    MyList.OLEDragDrop = [this](const std::vector<std::string>& paths) {
+        MyList_OLEDragDrop(paths);
+    };
+    MyList.ContextMenu = [this](Point screen, bool byKeyboard) {
+        if (byKeyboard) PopUpMenu(ClassicMenu(kMenuListLogo), screen);
+    };
+    for (int i = 0; i < 3; ++i)
+        Imag[i].MouseUp = [this, i](int button, Point) { Imag_MouseUp(i, button); };
+    Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+Principale::~Principale() {
+    if (classicMenus_) FreeMenu(classicMenus_);
+}
+
+// Every step is done whether or not the ones before it succeeded.
+void Principale::Form_Load() {
+    classicMenus_ = LoadMenuResource(IDM_Principale);
+    ActiveBar1.Attach(*this, ID_ActiveBar1, IDB_Toolbar, kToolbarTransparent);
+    MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
+    DefaultLogo.SetFont(true);
+    DefaultLogo.SetForeColor(kBlue);
+
+    locations_.startupFolder = GetStartupFolder();
+    for (int i = 0; i < 3; ++i)
+        LblScreen[i].SetText(std::string(kScreenFileNames[i]) + "\r\n" + kScreenTitles[i]);
+    const int margin = 600 * PixelsPerInch() / kTwipsPerInch;
+    MyList.AddColumn("Logoset name", MyList.Bounds().width - margin);
+    bootLogoOption_ = ReadBootLogoOption(locations_.BootConfigurationFile());
+
+    settings_ = LoadSettings(locations_);
+    ItmViewType_Click(settings_.view);
+    ShowCustomProgramName();
+    // The boxes have their real sizes before anything is drawn into them.
+    Form_Resize(ClientSize());
+    LeggiDatiDisco();
+    CheckSetCommands();
+    MyList.Focus();
+}
+
+bool Principale::Form_Unload() {
+    CloseAll();
+    return true;
+}
+
+void Principale::CloseAll() {
+    ClosingState state;
+    if (bootLogoOptionChanged_) state.changedBootOption = bootLogoOption_;
+    state.companionWanted = companionWanted_;
+    state.settings = settings_;
+    state.settings.view = MenuMark(ID_ItmViewType) ? 0 : 1;
+    const std::string shown = CurrentSet();
+    state.settings.defaultLogoSet = shown == kUnknownSet ? std::string() : shown;
+    WriteBackOnClose(locations_, state);
+}
+
+Size Principale::SmallestSize() const { return {520, 400}; }
+
+// The list and the screens share the width; the screens get what their 4:3 shape can use of the
+// height: the startup screen with its label beside it, the other two below with theirs underneath.
+void Principale::Form_Resize(Size client) {
+    if (!ActiveBar1.bar()) return;
+    const int gap = 8;
+    const int line = LblDefaultLogo.Bounds().height;
+    const int twoLines = LblScreen[0].Bounds().height;
+    const int labelWidth = FromDialogUnits({0, 0, 52, 0}).width;
+    const int top = ActiveBar1.Resize() + gap;
+    const int height = client.height - top - gap;
+    const int leastList = FromDialogUnits({0, 0, 110, 0}).width;
+
+    // The height that a panel of width w takes: line + gap + 3/4 (w - label) + gap
+    // + 3/8 (w - gap) + 2 + twoLines.
+    const int fixed = line + 2 * gap + 2 + twoLines;
+    const int byHeight = (8 * (height - fixed) + 6 * (labelWidth + gap) + 3 * gap) / 9;
+    const int panel = std::max(120, std::min(byHeight, client.width - 3 * gap - leastList));
+    const int left = client.width - gap - panel;
+
+    MyList.MoveTo({gap, top, left - 2 * gap, height - line - 4});
+    const int listWidth = left - 2 * gap;
+    const int below = client.height - gap - line;
+    NumLogo.MoveTo({gap, below, listWidth / 2, line});
+    LogoType.MoveTo({gap + listWidth / 2, below, listWidth - listWidth / 2, line});
+
+    const int caption = LblDefaultLogo.Bounds().width;
+    LblDefaultLogo.MoveTo({left, top, caption, line});
+    DefaultLogo.MoveTo({left + caption, top, panel - caption, line});
+
+    const int bigWidth = panel - labelWidth - gap;
+    const int bigTop = top + line + gap;
+    Imag[0].MoveTo({left, bigTop, bigWidth, bigWidth * 3 / 4});
+    LblScreen[0].MoveTo({left + bigWidth + gap, bigTop, labelWidth, twoLines});
+    const int smallWidth = (panel - gap) / 2;
+    const int smallTop = bigTop + bigWidth * 3 / 4 + gap;
+    for (int i = 1; i < 3; ++i) {
+        const int x = left + (i - 1) * (smallWidth + gap);
+        Imag[i].MoveTo({x, smallTop, smallWidth, smallWidth * 3 / 4});
+        LblScreen[i].MoveTo({x, smallTop + smallWidth * 3 / 4 + 2, smallWidth, twoLines});
+    }
+    RedrawScreens();
+}
+
+std::intptr_t Principale::OnNotify(void* header) { return ActiveBar1.OnNotify(header); }
+
+}  // namespace vistrel

@@ -1,0 +1,146 @@
+// The main window ("principale": main): the list of logo sets, the three screens of the selected one
+// and the commands on them.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/active_bar.h"
+#include "controls/label.h"
+#include "controls/list_view.h"
+#include "controls/picture_box.h"
+#include "controls/timer.h"
+#include "controls/window.h"
+#include "main_window/main_window.h"
+
+namespace vistrel {
+
+class Principale : public Window, public MainWindow {
+ public:
+    /// `locations` lack the Startup folder, which is found when the window loads.
+    explicit Principale(SystemLocations locations);
+    ~Principale() override;
+
+    // MainWindow
+    const SystemLocations& Locations() const override { return locations_; }
+    Settings& Preferences() override { return settings_; }
+    std::vector<std::string> SetNames() const override;
+    int SelectedSet() const override { return MyList.SelectedItem(); }
+    void LeggiDatiDisco() override;
+    void VisualizzaNumLogo() override;
+    std::string CurrentSet() const override;
+    void SetCurrentSet(const std::string& name) override;
+    void SetCurrentPicture(const std::string& path) override { currentPicture_ = path; }
+    void AzioneSuImmagine(int index, WindowHandle owner) override;
+    MenuHandle OpenWithMenu() override;
+    int DefaultOpenWithItem() const override;
+    bool OpenWithCommand(int id, WindowHandle owner) override;
+    void ShowCustomProgramName() override;
+    bool AnimationShown() const override;
+    void SetAnimationShown(bool shown) override;
+    std::int16_t BootLogoOption() const override { return bootLogoOption_; }
+    void SetBootLogoOption(std::int16_t option) override { bootLogoOption_ = option; }
+    void RaiseBootLogoOptionChanged() override { bootLogoOptionChanged_ = true; }
+
+    /// Shows the screens and the kind of the selected set ("mostra la lista del logo").
+    void ShowListaLogo();
+    /// Selects the set of this name, if there is one, and shows it.
+    void SelItem(const std::string& name);
+    void LogoRandomChange();
+
+    ActiveBar ActiveBar1;
+    ListView MyList;
+    PictureBox Imag[3];
+    Label LblScreen[3];
+    Label DefaultLogo;
+    Label LblDefaultLogo;
+    Label LogoType;
+    Label NumLogo;
+    Timer Timer1;
+
+ protected:
+    void Form_Load() override;
+    bool Form_Unload() override;
+    void Form_Resize(Size client) override;
+    void Form_KeyUp(int key) override;
+    void MenuCommand(int id) override;
+    void MenuOpens(MenuHandle menu) override;
+    std::intptr_t OnNotify(void* header) override;
+    Size SmallestSize() const override;
+
+ private:
+    // Where a click or a key arrives, in the order in which a user meets them.
+    void ActiveBar1_Click(const Tool& tool);
+    void MyList_ItemClick();
+    void MyList_MouseDown(Point at);
+    void MyList_MouseUp(int button);
+    void MyList_DblClick();
+    void MyList_KeyUp(int key);
+    bool MyList_BeforeLabelEdit();
+    bool MyList_AfterLabelEdit(const std::string& newName);
+    void MyList_OLEDragDrop(const std::vector<std::string>& paths);
+    void Imag_MouseUp(int index, int button);
+    void MnuListLogo_Click();
+    void Timer1_Timer();
+
+    void ItmRename_Click();
+    void ItmDelete_Click();
+    void ItmSetDefault_Click();
+    void ItmLogoManager_Click();
+    void ItmExplore_Click();
+    void itmRefresh_Click();
+    void ViewAsList();
+    void ViewAsReport();
+    void ItmViewType_Click(int index);
+    void ToggleShowCurrent();
+    void ItmViewDefOrActual_Click();
+    void ItmRandomSpin_Click();
+    void ItmPref_Click();
+    void ItmContents_Click();
+    void ShowTutorial();
+    void ItmBugReport_Click();
+    void ItmAbout_Click();
+    void ItmExit_Click();
+
+    void CloseAll();
+    void CheckSetCommands();
+    bool ASetIsSelected() const;
+    void ShowScreens(const std::array<std::string, 3>& paths);
+    void ShowInstalledScreens();
+    void ShowSetScreens();
+    void SelectAfterDelete(int index);
+    bool ConfirmFormatChange(bool toSingle);
+    void ShowActualSize(WindowHandle owner);
+    void OpenPaint(WindowHandle owner);
+    void OpenCustomProgram(WindowHandle owner);
+    void ShowPreferences(WindowHandle owner);
+    void OpenExplorer(const std::string& folder);
+    void RedrawScreens();
+    MenuHandle ClassicMenu(int place) const;
+    bool MenuMark(int id) const;
+
+    /// Places of the classic menus in their resource.
+    enum ClassicMenuPlace { kMenuListLogo = 0, kMenuTools = 1, kMenuHelp = 2, kMenuOpenWith = 3 };
+
+    /// What the installed view puts back when it is left.
+    struct SavedView {
+        std::string currentSet;
+        std::string selectedSet;
+    };
+
+    SystemLocations locations_;
+    Settings settings_;
+    MenuHandle classicMenus_ = nullptr;
+    std::int16_t bootLogoOption_ = 1;
+    bool bootLogoOptionChanged_ = false;
+    bool companionWanted_ = false;
+    bool browserOpen_ = false;
+    std::string currentPicture_;
+    std::string oldName_;
+    Point lastMouseDown_;
+    std::optional<SavedView> savedView_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,290 @@
+// The main window's commands: which handler a tool, a menu item or a key runs, and what it does.
+#include <string_view>
+
+#include "about/contacts.h"
+#include "about/frm_about_reg.h"
+#include "controls/menu.h"
+#include "controls/screen_metrics.h"
+#include "core/generali.h"
+#include "core/install.h"
+#include "core/library.h"
+#include "core/random_choice.h"
+#include "editor/elimina_logo_set.h"
+#include "editor/select_picture_form.h"
+#include "main_window/principale.h"
+#include "options/frm_options.h"
+#include "pictures/draw_preview.h"
+#include "platform/clock.h"
+#include "platform/help_viewer.h"
+#include "platform/pointer.h"
+#include "platform/shell.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr long kGreen = 0x008000;
+constexpr long kBlue = 0xFF0000;
+constexpr unsigned long kTutorialTopic = 30;
+
+}  // namespace
+
+bool Principale::ASetIsSelected() const { return MyList.SelectedItem() >= 0; }
+
+void Principale::CheckSetCommands() {
+    for (const char* tool : {"ToolRename", "ToolDelete", "ToolSetDefault"})
+        ActiveBar1.SetEnabled(tool, ASetIsSelected());
+}
+
+void Principale::ActiveBar1_Click(const Tool& tool) {
+    const struct {
+        std::string_view name;
+        void (Principale::*run)();
+    } actions[] = {
+        {"ToolRename", &Principale::ItmRename_Click},
+        {"ToolDelete", &Principale::ItmDelete_Click},
+        {"ToolSetDefault", &Principale::ItmSetDefault_Click},
+        {"ToolBrowser", &Principale::ItmLogoManager_Click},
+        {"ToolExplore", &Principale::ItmExplore_Click},
+        {"ToolRefresh", &Principale::itmRefresh_Click},
+        {"ToolListView", &Principale::ViewAsList},
+        {"ToolReportView", &Principale::ViewAsReport},
+        {"ToolShowCurrent", &Principale::ToggleShowCurrent},
+        {"ToolRandom", &Principale::ItmRandomSpin_Click},
+        {"ToolPrefer", &Principale::ItmPref_Click},
+        {"ToolContents", &Principale::ItmContents_Click},
+        {"ToolTutorial", &Principale::ShowTutorial},
+        {"ToolAbout", &Principale::ItmAbout_Click},
+        {"ToolBug", &Principale::ItmBugReport_Click},
+        {"MnuExit", &Principale::ItmExit_Click},
+    };
+    for (const auto& action : actions)
+        if (action.name == tool.name) (this->*action.run)();
+}
+
+void Principale::MenuCommand(int id) {
+    if (ActiveBar1.OnCommand(id)) return;
+    if (OpenWithCommand(id, handle())) return;
+    const struct {
+        int id;
+        void (Principale::*run)();
+    } items[] = {
+        {ID_ItmRename, &Principale::ItmRename_Click},
+        {ID_ItmDelete, &Principale::ItmDelete_Click},
+        {ID_ItmSetDefault, &Principale::ItmSetDefault_Click},
+        {ID_ItmExplore, &Principale::ItmExplore_Click},
+        {ID_ItmRefresh, &Principale::itmRefresh_Click},
+        {ID_ItmLogoManager, &Principale::ItmLogoManager_Click},
+        {ID_ItmViewType, &Principale::ViewAsList},
+        {ID_ItmViewType + 1, &Principale::ViewAsReport},
+        {ID_ItmViewDefOrActual, &Principale::ItmViewDefOrActual_Click},
+        {ID_ItmRandomSpin, &Principale::ItmRandomSpin_Click},
+        {ID_ItmPref, &Principale::ItmPref_Click},
+        {ID_ItmContents, &Principale::ItmContents_Click},
+        {ID_ItmBugReport, &Principale::ItmBugReport_Click},
+        {ID_ItmAbout, &Principale::ItmAbout_Click},
+        {ID_ItmExit, &Principale::ItmExit_Click},
+    };
+    for (const auto& item : items)
+        if (item.id == id) (this->*item.run)();
+}
+
+void Principale::MenuOpens(MenuHandle menu) {
+    if (menu == ClassicMenu(kMenuListLogo)) MnuListLogo_Click();
+}
+
+void Principale::MnuListLogo_Click() {
+    for (const int item : {ID_ItmRename, ID_ItmDelete, ID_ItmSetDefault})
+        SetMenuEnabled(ClassicMenu(kMenuListLogo), item, ASetIsSelected());
+}
+
+MenuHandle Principale::ClassicMenu(int place) const { return SubMenu(classicMenus_, place); }
+
+bool Principale::MenuMark(int id) const { return HasMenuMark(classicMenus_, id); }
+
+void Principale::MyList_ItemClick() {
+    ShowListaLogo();
+    // The keyboard selects too, and no mouse button is released then.
+    CheckSetCommands();
+}
+
+void Principale::MyList_MouseDown(Point at) { lastMouseDown_ = at; }
+
+void Principale::MyList_MouseUp(int button) {
+    CheckSetCommands();
+    if (button == kRightButton) ActiveBar1.PopUp("LogoBand", PointerPosition());
+}
+
+void Principale::MyList_DblClick() {
+    if (MyList.HitTest(lastMouseDown_) < 0) return;
+    if (settings_.actionOnDoubleClick == 0)
+        ItmSetDefault_Click();
+    else
+        ItmLogoManager_Click();
+}
+
+void Principale::MyList_KeyUp(int key) {
+    // A key that ends or serves the editing of a label is not a command.
+    if (MyList.EditingLabel()) return;
+    if (key == kKeyDelete && ActiveBar1.Enabled("ToolDelete")) ItmDelete_Click();
+    if (key == kKeyF2 && ActiveBar1.Enabled("ToolRename")) ItmRename_Click();
+    if (key == kKeyF5) itmRefresh_Click();
+}
+
+void Principale::Form_KeyUp(int key) {
+    if (key == kKeyF1) ItmContents_Click();
+}
+
+void Principale::ItmRename_Click() { MyList.StartLabelEdit(); }
+
+void Principale::ItmDelete_Click() {
+    const int index = MyList.SelectedItem();
+    if (index < 0) return;
+    const std::string name = MyList.ItemText(index);
+    // No set is loaded in the editor here, so it has no name of its own to compare.
+    if (!EliminaLogoSet(handle(), *this, settings_.logoPath + name, name, "")) return;
+    if (CurrentSet() == name) SetCurrentSet(kUnknownSet);
+    MyList.RemoveItem(index);
+    SelectAfterDelete(index);
+    VisualizzaNumLogo();
+    CheckSetCommands();
+}
+
+void Principale::ItmSetDefault_Click() {
+    if (!ASetIsSelected()) return;
+    const BusyPointer busy;
+    const bool synchronize = settings_.synchronizeLogos != 0;
+    InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
+                   MyList.ItemText(MyList.SelectedItem()), synchronize);
+    companionWanted_ = synchronize;
+    SetCurrentSet(MyList.ItemText(MyList.SelectedItem()));
+}
+
+void Principale::ItmLogoManager_Click() { Timer1.SetEnabled(true); }
+
+void Principale::Timer1_Timer() {
+    if (browserOpen_) return;  // the timer goes on ticking while the browser is open
+    browserOpen_ = true;
+    {
+        SelPictureForm editor(*this);
+        editor.ShowModal(handle());
+    }
+    ShowDefaultPointer();
+    Timer1.SetEnabled(false);
+    browserOpen_ = false;
+    CheckSetCommands();
+}
+
+void Principale::ItmExplore_Click() {
+    OpenExplorer(ActiveBar1.Enabled("ToolDelete") && ASetIsSelected()
+                     ? settings_.logoPath + MyList.ItemText(MyList.SelectedItem())
+                     : settings_.logoPath);
+}
+
+void Principale::OpenExplorer(const std::string& folder) {
+    ShellOpen(handle(), folder, locations_.programFolder, ShowState::Normal);
+}
+
+void Principale::itmRefresh_Click() { LeggiDatiDisco(); }
+
+void Principale::ViewAsList() { ItmViewType_Click(0); }
+
+void Principale::ViewAsReport() { ItmViewType_Click(1); }
+
+void Principale::ItmViewType_Click(int index) {
+    MyList.SetMode(index == 0 ? ListViewMode::List : ListViewMode::Report);
+    ActiveBar1.SetChecked("ToolListView", index == 0);
+    ActiveBar1.SetChecked("ToolReportView", index != 0);
+    SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
+    SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
+}
+
+void Principale::ToggleShowCurrent() {
+    ActiveBar1.SetChecked("ToolShowCurrent", !ActiveBar1.Checked("ToolShowCurrent"));
+    ItmViewDefOrActual_Click();
+}
+
+void Principale::ItmViewDefOrActual_Click() {
+    const BusyPointer busy;
+    if (ActiveBar1.Checked("ToolShowCurrent"))
+        ShowInstalledScreens();
+    else
+        ShowSetScreens();
+}
+
+void Principale::ShowInstalledScreens() {
+    DefaultLogo.SetTip("Showing current logo setting");
+    ActiveBar1.SetEnabled("MnuLogo", false);
+    LogoType.SetVisible(false);
+    LblDefaultLogo.SetVisible(false);
+    ActiveBar1.SetEnabled("ToolRandom", false);
+    // Run again while they are shown already, there is nothing new to save.
+    if (!savedView_) {
+        const int selected = MyList.SelectedItem();
+        savedView_ = {DefaultLogo.Text(),
+                      selected < 0 ? std::string() : MyList.ItemText(selected)};
+    }
+    MyList.Select(-1);
+    ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
+    DefaultLogo.SetText("");
+    DefaultLogo.SetForeColor(kGreen);
+    DefaultLogo.SetText("Current logo setting");
+}
+
+void Principale::ShowSetScreens() {
+    DefaultLogo.SetTip("Default logo set");
+    ActiveBar1.SetEnabled("MnuLogo", true);
+    ActiveBar1.SetEnabled("ToolRandom", true);
+    DefaultLogo.SetForeColor(kBlue);
+    if (savedView_) {
+        const SavedView saved = *savedView_;
+        savedView_.reset();
+        DefaultLogo.SetText(saved.currentSet);
+        SelItem(saved.selectedSet);
+    } else {
+        ShowListaLogo();
+    }
+    LblDefaultLogo.SetVisible(true);
+    LogoType.SetVisible(true);
+    CheckSetCommands();
+}
+
+void Principale::ItmRandomSpin_Click() { LogoRandomChange(); }
+
+void Principale::LogoRandomChange() {
+    const int count = MyList.Count();
+    if (count <= 1) return;
+    RandomGenerator generator(SecondsSinceMidnight());
+    const int chosen = DrawOther(generator, count, MyList.SelectedItem() + 1);
+    SelItem(MyList.ItemText(chosen - 1));
+    ItmSetDefault_Click();
+}
+
+void Principale::ItmPref_Click() { ShowPreferences(handle()); }
+
+void Principale::ShowPreferences(WindowHandle owner) {
+    FrmOptions options(*this);
+    options.ShowModal(owner);
+}
+
+void Principale::ItmContents_Click() {
+    ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0);
+}
+
+void Principale::ShowTutorial() {
+    ShowHelp(handle(), HelpFile(), HelpCommand::Context, kTutorialTopic);
+}
+
+void Principale::ItmBugReport_Click() {
+    ShellOpen(handle(), std::string("mailto:") + kSupportAddress + "?subject=Bug report",
+              locations_.programFolder, ShowState::Normal);
+}
+
+void Principale::ItmAbout_Click() {
+    FrmAboutReg about;
+    about.ShowModal(handle());
+}
+
+void Principale::ItmExit_Click() { Unload(); }
+
+}  // namespace vistrel

@@ -1,0 +1,162 @@
+// The main window's list: reading the logo folder, showing a set, selecting, renaming, deleting and
+// importing sets.
+#include "controls/screen_metrics.h"
+#include "core/generali.h"
+#include "core/library.h"
+#include "main_window/principale.h"
+#include "pictures/draw_preview.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
+#include "platform/shell.h"
+
+namespace vistrel {
+namespace {
+
+/// SHFileOperation's flag that answers yes to every question.
+constexpr unsigned short kYesToAll = 16;
+
+}  // namespace
+
+std::vector<std::string> Principale::SetNames() const {
+    std::vector<std::string> names;
+    for (int i = 0; i < MyList.Count(); ++i) names.push_back(MyList.ItemText(i));
+    return names;
+}
+
+std::string Principale::CurrentSet() const {
+    return savedView_ ? savedView_->currentSet : DefaultLogo.Text();
+}
+
+void Principale::SetCurrentSet(const std::string& name) {
+    settings_.defaultLogoSet = name;
+    // While the installed screens are shown the label keeps saying so.
+    if (savedView_)
+        savedView_->currentSet = name;
+    else
+        DefaultLogo.SetText(name);
+}
+
+void Principale::LeggiDatiDisco() {
+    const bool installedShown = savedView_.has_value();
+    if (installedShown) ShowSetScreens();
+
+    bool installedFound = false;
+    MyList.SuspendPainting();
+    MyList.Clear();
+    ForEachLogoSet(AddBackslash(settings_.logoPath), [&](const std::string& name) {
+        if (name == settings_.defaultLogoSet) installedFound = true;
+        MyList.AddItem(name, IconKeyOfSet(name));
+    });
+    MyList.ResumePainting();
+    for (PictureBox& box : Imag) box.Clear();
+    VisualizzaNumLogo();
+    if (installedFound) SelItem(settings_.defaultLogoSet);
+    DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : kUnknownSet);
+    CheckSetCommands();
+
+    if (installedShown) ShowInstalledScreens();
+}
+
+void Principale::VisualizzaNumLogo() {
+    NumLogo.SetText(CountLine(MyList.Count()));
+    if (MyList.Count() == 0) LogoType.SetText("");
+}
+
+void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
+    for (int i = 0; i < 3; ++i) {
+        if (FileExists(paths[i]))
+            DrawPreview(paths[i], Imag[i]);
+        else
+            Imag[i].Clear();
+        Imag[i].SetTag(paths[i]);
+    }
+}
+
+void Principale::RedrawScreens() {
+    for (PictureBox& box : Imag)
+        if (box.HasPicture()) DrawPreview(box.Tag(), box);
+}
+
+void Principale::ShowListaLogo() {
+    const int selected = MyList.SelectedItem();
+    if (selected < 0) return;
+    const BusyPointer busy;
+    const std::string name = MyList.ItemText(selected);
+    LogoType.SetText(TypeCaptionOfSet(name));
+    ShowScreens(ScreenPathsOfSet(settings_.logoPath, name));
+}
+
+void Principale::SelItem(const std::string& name) {
+    const int index = MyList.FindItem(name);
+    if (index < 0) return;
+    MyList.Select(index);
+    MyList.EnsureVisible(index);
+    ShowListaLogo();
+}
+
+bool Principale::MyList_BeforeLabelEdit() {
+    oldName_ = MyList.ItemText(MyList.SelectedItem());
+    return true;
+}
+
+bool Principale::ConfirmFormatChange(bool toSingle) {
+    if (settings_.confirmLogoTypeChange != 1) return true;
+    const std::string from = toSingle ? "Multi Logo" : "Single Logo";
+    const std::string to = toSingle ? "Single Logo" : "Multi Logo";
+    return Ask(handle(),
+               "Would you like to change your logoset format from " + from + " to " + to + "?",
+               kQuestionYesNo) == Answer::Yes;
+}
+
+bool Principale::MyList_AfterLabelEdit(const std::string& newName) {
+    const bool toSingle = IsSingleLogoSet(newName);
+    const bool formatChanges = toSingle != IsSingleLogoSet(oldName_);
+    if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
+
+    const int selected = MyList.SelectedItem();
+    // The new icon stays although the renaming may fail: it is kept so until the next refresh.
+    if (formatChanges) MyList.SetItemIcon(selected, IconKeyOfSet(newName));
+    if (!Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
+        Ask(handle(), "Cannot rename folder. The folder already exists or has an invalid name",
+            kExclamationOk);
+        return false;
+    }
+    MyList.SetItemText(selected, newName);
+    SelItem(newName);
+    if (CurrentSet() == oldName_) SetCurrentSet(newName);
+    return true;
+}
+
+void Principale::SelectAfterDelete(int index) {
+    if (MyList.Count() == 0) {
+        for (PictureBox& box : Imag) box.Clear();
+        return;
+    }
+    const int next = index == MyList.Count() ? index - 1 : index;
+    SelItem(MyList.ItemText(next));
+}
+
+void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
+    bool showLast = false;
+    std::string name;
+    for (std::string path : paths) {
+        showLast = false;
+        if (!IsFolder(AddBackslash(path))) continue;
+        name = GetFileName(path);
+        const bool exists = IsFolder(settings_.logoPath + name);
+        if (exists && Ask(handle(),
+                          "The selected folder '" + name +
+                              "' already exist in your logo folder. Would you like to overwrite "
+                              "the existing files?",
+                          kQuestionYesNoDefaultNo) != Answer::Yes)
+            continue;
+        // Whether the shell could copy it is not asked: the list catches up at the next refresh.
+        ShellCopy(handle(), path, settings_.logoPath, kYesToAll);
+        if (!exists) MyList.AddItem(name, IconKeyOfSet(name));
+        showLast = true;
+    }
+    if (showLast) SelItem(name);
+}
+
+}  // namespace vistrel

@@ -1,0 +1,82 @@
+// Clicks on the screens, and what is done with the picture that was clicked.
+#include "controls/menu.h"
+#include "controls/screen_metrics.h"
+#include "core/generali.h"
+#include "main_window/frm_view.h"
+#include "main_window/principale.h"
+#include "platform/message_box.h"
+#include "platform/shell.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+
+void Principale::Imag_MouseUp(int index, int button) {
+    if (!Imag[index].HasPicture()) return;
+    SetCurrentPicture(Imag[index].Tag());
+    if (button == kLeftButton)
+        AzioneSuImmagine(settings_.defaultAction, handle());
+    else if (button == kRightButton)
+        PopUpMenu(OpenWithMenu(), PointerPosition(), DefaultOpenWithItem());
+}
+
+MenuHandle Principale::OpenWithMenu() { return ClassicMenu(kMenuOpenWith); }
+
+int Principale::DefaultOpenWithItem() const { return ID_ItmOpenAct + settings_.defaultAction; }
+
+bool Principale::OpenWithCommand(int id, WindowHandle owner) {
+    if (id == ID_ItmAnimate)
+        SetAnimationShown(!AnimationShown());
+    else if (id >= ID_ItmOpenAct && id <= ID_ItmOpenAct + 2)
+        AzioneSuImmagine(id - ID_ItmOpenAct, owner);
+    else
+        return false;
+    return true;
+}
+
+bool Principale::AnimationShown() const { return MenuMark(ID_ItmAnimate); }
+
+void Principale::SetAnimationShown(bool shown) { SetMenuMark(classicMenus_, ID_ItmAnimate, shown); }
+
+void Principale::ShowCustomProgramName() {
+    SetMenuCaption(classicMenus_, ID_ItmOpenAct + 2,
+                   settings_.customProgName.empty() ? "Custom Program" : settings_.customProgName);
+}
+
+void Principale::AzioneSuImmagine(int index, WindowHandle owner) {
+    if (index == 0) ShowActualSize(owner);
+    if (index == 1) OpenPaint(owner);
+    if (index == 2) OpenCustomProgram(owner);
+}
+
+void Principale::ShowActualSize(WindowHandle owner) {
+    FrmView view(currentPicture_, AnimationShown());
+    view.ShowModal(owner);
+}
+
+void Principale::OpenPaint(WindowHandle owner) {
+    if (StartProgram(locations_.windowsDirectory + "pbrush.exe " +
+                     CutAtNul(GetShortPath(currentPicture_))))
+        return;
+    Ask(owner,
+        "Cannot find Paint! If you want to edit your logos install it from Add/Remove Software "
+        "from the Control Panel.",
+        kExclamationOk);
+}
+
+void Principale::OpenCustomProgram(WindowHandle owner) {
+    const std::string& program = settings_.customProgPath;
+    if (FileExists(program)) {
+        StartProgram(program + " " + CutAtNul(GetShortPath(currentPicture_)));
+    } else if (!program.empty()) {
+        Ask(owner,
+            "Cannot find the file " + program +
+                " or it is not an executable file. Check it out and retry.",
+            kExclamationOk);
+    } else if (Ask(owner,
+                   "You haven't specified a custom program. Would you like to do it now?",
+                   kQuestionYesNo) == Answer::Yes) {
+        ShowPreferences(owner);
+    }
+}
+
+}  // namespace vistrel

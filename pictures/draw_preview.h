@@ -1,0 +1,29 @@
+// Draws picture files into picture boxes (the module `Grafica`: graphics). Nothing here shows a
+// message: a picture that cannot be read leaves an empty box.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "controls/picture_box.h"
+
+namespace vistrel {
+
+/// Draws a BMP, SYS, GIF or JPG picture stretched over the whole of `target` and gives its size in
+/// pixels and its colour depth: 8 for GIF, 24 for JPG, the header's for anything else. What cannot
+/// be read leaves width, height and depth as they were.
+void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
+                 std::int32_t& height, std::int16_t& depth);
+
+/// The same for whoever does not need the facts.
+void DrawPreview(const std::string& path, PictureBox& target);
+
+/// Shows a picture at its own size: makes the box's drawing area as large as the picture.
+void ShowPictureInBox(const std::string& path, PictureBox& box);
+
+/// Reads width, height and bits a pixel from a bitmap file's header (offsets 18, 22 and 28). A
+/// missing or short file leaves them as they were.
+void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
+                      std::int16_t& depth);
+
+}  // namespace vistrel

@@ -1,0 +1,74 @@
+// The numbers of templates, menus, pictures, controls and commands; one header for the resource
+// compiler and for C++. A control's number is named after it; members of an array follow each other.
+#pragma once
+
+// Templates, menus and bitmaps
+#define IDD_Principale 100
+#define IDD_Splash 101
+#define IDD_FrmView 102
+#define IDD_SelPictureForm 103
+#define IDD_FrmOptions 104
+#define IDD_FrmAboutReg 105
+#define IDM_Principale 110
+#define IDM_SelPictureForm 111
+#define IDB_Toolbar 120
+#define IDB_List 121
+#define IDB_Browser 122
+#define IDB_Drives 123
+
+// Main window: 1000 to 1199
+#define ID_ActiveBar1 1000
+#define ID_MyList 1001
+#define ID_Imag 1002  // 1002 startup, 1003 wait, 1004 shutdown
+#define ID_LblScreen 1005  // 1005 to 1007, in the same order
+#define ID_DefaultLogo 1008
+#define ID_LogoType 1009
+#define ID_NumLogo 1010
+#define ID_LblDefaultLogo 1011
+
+#define ID_ToolRename 1050
+#define ID_ToolDelete 1051
+#define ID_ToolSetDefault 1052
+#define ID_ToolBrowser 1053
+#define ID_ToolExplore 1054
+#define ID_ToolRefresh 1055
+#define ID_ToolListView 1056
+#define ID_ToolReportView 1057
+#define ID_ToolShowCurrent 1058
+#define ID_ToolRandom 1059
+#define ID_ToolPrefer 1060
+#define ID_Online 1061
+#define ID_ToolContents 1062
+#define ID_ToolTutorial 1063
+#define ID_ToolAbout 1064
+#define ID_ToolBug 1065
+#define ID_MnuExit 1066
+#define ID_WhatIsThis 1067
+
+#define ID_ItmRename 1100
+#define ID_ItmDelete 1101
+#define ID_ItmSetDefault 1102
+#define ID_ItmExplore 1103
+#define ID_ItmRefresh 1104
+#define ID_ItmLogoManager 1105
+#define ID_ItmViewType 1106  // 1106 list, 1107 report
+#define ID_ItmViewDefOrActual 1108
+#define ID_ItmRandomSpin 1109
+#define ID_ItmPref 1110
+#define ID_ItmNetUpdate 1111
+#define ID_ItmContents 1112
+#define ID_ItmBugReport 1113
+#define ID_ItmAbout 1114
+#define ID_ItmExit 1115
+#define ID_ItmOpenAct 1116  // 1116 actual size, 1117 Paint, 1118 custom program
+#define ID_ItmAnimate 1119
+#define ID_ItmDriveList 1130  // 1130 stands for none; 1131 on, one for each fixed drive
+
+// Splash and actual-size preview: 1180 to 1199
+#define ID_LblSplashVersion 1180
+#define ID_SplashPicture 1181
+#define ID_Preview 1190
+
+// Logo browser: 1200 to 1399
+// Preferences: 1400 to 1599
+// About box: 1600 to 1699
