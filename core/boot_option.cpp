@@ -29,8 +29,9 @@ void KeepBootLogoOption(const std::string& bootConfigurationFile) {
 
 void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option) {
     SetAttributes(bootConfigurationFile, kNormalFile);
-    const char* sign = option < 0 ? "" : " ";
-    WriteProfileText(bootConfigurationFile, kSection, kKey, sign + std::to_string(option));
+    std::string text = option < 0 ? "" : " ";
+    text += std::to_string(option);
+    WriteProfileText(bootConfigurationFile, kSection, kKey, text);
 }
 
 }  // namespace vistrel

@@ -6,7 +6,6 @@
 
 #include "core/mdl_registry.h"
 #include "platform/files.h"
-#include "platform/shell.h"
 
 namespace vistrel {
 
@@ -61,11 +60,6 @@ std::string CompactPath(const std::string& path, int maximum) {
     const auto tail = path.find('\\', static_cast<std::size_t>(start - 1));
     const std::string head = path.substr(0, 3) + "...";
     return tail == std::string::npos ? head : head + path.substr(tail);
-}
-
-std::string BrowseForFolder(WindowHandle owner, const std::string& prompt,
-                            const std::string& start) {
-    return PickFolder(owner, prompt, start);
 }
 
 std::string CutAtNul(std::string text) {

@@ -49,7 +49,10 @@ std::vector<std::string> LogoSetNames(const std::string& logoFolder) {
 }
 
 std::string CountLine(int sets) {
-    return " " + std::to_string(sets) + (sets == 1 ? " logo set" : " logo sets");
+    std::string line = " ";
+    line += std::to_string(sets);
+    line += sets == 1 ? " logo set" : " logo sets";
+    return line;
 }
 
 std::optional<std::string> NextLogoSet(const std::vector<std::string>& sets,
