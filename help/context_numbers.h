@@ -1,0 +1,50 @@
+// The numbers by which the windows ask for the help on a control: one pop-up topic each.
+#pragma once
+
+namespace vistrel::help_number {
+
+/// The tutorial, an ordinary topic.
+inline constexpr unsigned long Tutorial = 30;
+
+// The preferences dialog. Boxes and buttons that belong together share a number.
+inline constexpr unsigned long ActiveStart = 32;
+inline constexpr unsigned long ChkShowSplash = 33;
+inline constexpr unsigned long ChkSyncronize = 34;
+inline constexpr unsigned long DriveHost = 35;
+inline constexpr unsigned long TxtLogoPath = 36;
+inline constexpr unsigned long btnBrwFolder = 36;
+inline constexpr unsigned long DblAction = 37;
+inline constexpr unsigned long ChkDeleteRecycle = 38;
+inline constexpr unsigned long ChkDelConfirm = 39;
+inline constexpr unsigned long ChkConfirmChange = 40;
+inline constexpr unsigned long OptOpen[] = {41, 42, 43};
+inline constexpr unsigned long CustomName = 43;
+inline constexpr unsigned long CustProg = 44;
+inline constexpr unsigned long BtnBrowse = 44;
+inline constexpr unsigned long StartUpAction[] = {54, 55};
+
+// The Logo browser.
+inline constexpr unsigned long LogoList = 60;
+inline constexpr unsigned long Drive1 = 61;
+inline constexpr unsigned long CurPath = 62;
+inline constexpr unsigned long CurView = 63;
+inline constexpr unsigned long ImageInfo = 64;
+inline constexpr unsigned long ImgPreview[] = {65, 66, 67};
+inline constexpr unsigned long AddButton = 68;
+inline constexpr unsigned long DeleteButton = 69;
+inline constexpr unsigned long OptCompSet = 70;
+inline constexpr unsigned long OptDefShut = 71;
+inline constexpr unsigned long OptOnlyStart = 72;
+inline constexpr unsigned long NameLogoSet = 73;
+inline constexpr unsigned long ActButton = 74;
+inline constexpr unsigned long CloseButton = 75;
+
+// The main window.
+inline constexpr unsigned long MyList = 80;
+inline constexpr unsigned long Imag[] = {81, 82, 83};
+inline constexpr unsigned long DefaultLogo = 84;
+inline constexpr unsigned long LogoType = 85;
+inline constexpr unsigned long NumLogo = 86;
+inline constexpr unsigned long ActiveBar1 = 87;
+
+}  // namespace vistrel::help_number
