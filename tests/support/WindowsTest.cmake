@@ -1,0 +1,46 @@
+# Windows test programs: compiled with GoogleTest for Windows and run in Wine.
+
+set(GOOGLETEST_SOURCES /usr/src/googletest)
+add_library(windows_test STATIC
+    ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp)
+# The compiler has no threads of its own kind, so that GoogleTest goes without.
+target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
+target_include_directories(windows_test SYSTEM
+    PUBLIC ${GOOGLETEST_SOURCES}/googletest/include ${GOOGLETEST_SOURCES}/googlemock/include
+    PRIVATE ${GOOGLETEST_SOURCES}/googletest ${GOOGLETEST_SOURCES}/googlemock)
+target_link_libraries(windows_test PUBLIC gdi32)
+
+set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
+set(RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/run_in_wine)
+add_custom_command(
+    OUTPUT ${WINE_TEMPLATE}/system.reg
+    COMMAND ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${WINE_TEMPLATE}
+    COMMAND ${CMAKE_COMMAND} -E touch ${WINE_TEMPLATE}/system.reg
+    DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
+            ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
+    COMMENT "Wine prefix for tests"
+    VERBATIM)
+add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
+
+# add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
+#                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
+#                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>])
+# The target and the program are called <name>; the program's folder is its current one, C:\test.
+# Building the target makes everything that `ctest -R <name>` needs.
+function(add_windows_test)
+    cmake_parse_arguments(ARG "" "NAME;TIMEOUT" "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    add_executable(${ARG_NAME} ${ARG_SOURCES})
+    target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} windows_test)
+    add_dependencies(${ARG_NAME} wine_template ${ARG_DEPENDS})
+    add_test(NAME ${ARG_NAME}
+        COMMAND ${RUN_IN_WINE} ${WINE_TEMPLATE} ${ARG_TIMEOUT} $<TARGET_FILE:${ARG_NAME}> ${ARG_FILES})
+    math(EXPR limit "${ARG_TIMEOUT} + 60")
+    set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit})
+endfunction()

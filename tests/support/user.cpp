@@ -1,0 +1,225 @@
+// Finding windows, reading them, mouse and keyboard of the tests' user.
+#include "tests/support/user.h"
+
+namespace vistrel::user {
+
+namespace {
+
+DWORD WINAPI RunActions(void* actions) {
+    (*static_cast<std::function<void()>*>(actions))();
+    return 0;
+}
+
+struct TopWindowSearch {
+    std::string window_class;
+    std::string title;
+    DWORD process;
+    HWND found;
+};
+
+BOOL CALLBACK IsWantedTop(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<TopWindowSearch*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (!IsWindowVisible(window) || (search.process != 0 && process != search.process) ||
+        ClassOf(window) != search.window_class ||
+        (!search.title.empty() && TextOf(window) != search.title)) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
+struct ControlSearch {
+    int id;
+    HWND found;
+};
+
+BOOL CALLBACK IsWantedControl(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<ControlSearch*>(parameter);
+    if (GetDlgCtrlID(window) != search.id) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+INPUT MouseInput(DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+INPUT KeyInput(WORD key, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, 0));
+    const bool extended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT ||
+                          key == VK_DELETE || key == VK_APPS;
+    input.ki.dwFlags = flags | (extended ? KEYEVENTF_EXTENDEDKEY : 0);
+    return input;
+}
+
+void Send(std::vector<INPUT> inputs) {
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+/// Clicks `times` times at the point. Lets a possible double click with an earlier click pass by.
+void ClickButton(POINT point, DWORD down, DWORD up, int times) {
+    static DWORD last_click = GetTickCount() - GetDoubleClickTime() - 1;
+    MoveTo(point);
+    WaitUntil([] { return GetTickCount() - last_click > GetDoubleClickTime(); });
+    for (int i = 0; i < times; ++i) Send({MouseInput(down), MouseInput(up)});
+    last_click = GetTickCount();
+}
+
+/// Whether a click at this point reaches the window or a part of it.
+bool IsSeenAt(HWND window, POINT point) {
+    const HWND hit = WindowFromPoint(point);
+    return hit == window || IsChild(window, hit);
+}
+
+bool WaitUntilSeen(HWND window) {
+    return WaitUntil([&] { return IsSeenAt(window, CentreOf(window)); }, 1000);
+}
+
+}  // namespace
+
+Meanwhile::Meanwhile(std::function<void()> actions) : actions_(std::move(actions)) {
+    DWORD thread_id = 0;
+    thread_ = CreateThread(nullptr, 0, RunActions, &actions_, 0, &thread_id);
+}
+
+void Meanwhile::Finish() {
+    if (thread_ == nullptr) return;
+    while (MsgWaitForMultipleObjects(1, &thread_, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
+        PumpMessages();
+    }
+    CloseHandle(thread_);
+    thread_ = nullptr;
+}
+
+HWND FindTop(const std::string& window_class, const std::string& title, DWORD process) {
+    TopWindowSearch search = {window_class, title, process, nullptr};
+    EnumWindows(IsWantedTop, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND WaitForTop(const std::string& window_class, const std::string& title, DWORD process,
+                DWORD milliseconds) {
+    HWND found = nullptr;
+    WaitUntil([&] { return (found = FindTop(window_class, title, process)) != nullptr; },
+              milliseconds);
+    return found;
+}
+
+bool WaitUntilGone(HWND window, DWORD milliseconds) {
+    return WaitUntil([&] { return !IsWindow(window); }, milliseconds);
+}
+
+HWND Control(HWND window, int id) {
+    ControlSearch search = {id, nullptr};
+    EnumChildWindows(window, IsWantedControl, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::string TextOf(HWND window) {
+    DWORD_PTR length = 0;
+    if (!SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 5000, &length)) {
+        return "";
+    }
+    std::string text(length + 1, '\0');
+    DWORD_PTR copied = 0;
+    SendMessageTimeoutA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                        SMTO_ABORTIFHUNG, 5000, &copied);
+    text.resize(copied);
+    return text;
+}
+
+std::string ClassOf(HWND window) {
+    char name[256] = "";
+    GetClassNameA(window, name, sizeof name);
+    return name;
+}
+
+POINT CentreOf(HWND window) {
+    RECT area = {};
+    GetWindowRect(window, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+bool Activate(HWND window) {
+    const HWND top = GetAncestor(window, GA_ROOT);
+    SetForegroundWindow(top);
+    return WaitUntil([&] { return GetForegroundWindow() == top; });
+}
+
+void MoveTo(POINT point) {
+    // This moves the screen's own pointer as well. A move by SendInput does not, and is undone when
+    // the X server tells where its pointer is.
+    SetCursorPos(point.x, point.y);
+}
+
+void ClickAt(POINT point) { ClickButton(point, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 1); }
+
+void DoubleClickAt(POINT point) { ClickButton(point, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 2); }
+
+void RightClickAt(POINT point) {
+    ClickButton(point, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 1);
+}
+
+void Drag(POINT from, POINT to) {
+    MoveTo(from);
+    Send({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+    constexpr int kSteps = 10;
+    for (int step = 1; step <= kSteps; ++step) {
+        MoveTo(
+            {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
+        // Whoever drags looks at each position once; moves in the queue would become one.
+        WaitUntil([start = GetTickCount()] { return GetTickCount() - start >= 20; });
+    }
+    Send({MouseInput(MOUSEEVENTF_LEFTUP)});
+}
+
+bool Click(HWND window) {
+    if (!WaitUntilSeen(window)) return false;
+    ClickAt(CentreOf(window));
+    return true;
+}
+
+bool DoubleClick(HWND window) {
+    if (!WaitUntilSeen(window)) return false;
+    DoubleClickAt(CentreOf(window));
+    return true;
+}
+
+bool RightClick(HWND window) {
+    if (!WaitUntilSeen(window)) return false;
+    RightClickAt(CentreOf(window));
+    return true;
+}
+
+void Press(WORD key, const std::vector<WORD>& held) {
+    for (const WORD holding : held) Send({KeyInput(holding, 0)});
+    Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
+    for (auto holding = held.rbegin(); holding != held.rend(); ++holding) {
+        Send({KeyInput(*holding, KEYEVENTF_KEYUP)});
+    }
+}
+
+void Type(const std::string& text) {
+    std::wstring wide(text.size(), L'\0');
+    MultiByteToWideChar(1252, 0, text.data(), static_cast<int>(text.size()), wide.data(),
+                        static_cast<int>(wide.size()));
+    for (const wchar_t letter : wide) {
+        INPUT input = {};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wScan = letter;
+        input.ki.dwFlags = KEYEVENTF_UNICODE;
+        INPUT release = input;
+        release.ki.dwFlags |= KEYEVENTF_KEYUP;
+        Send({input, release});
+    }
+}
+
+}  // namespace vistrel::user

@@ -1,0 +1,111 @@
+// A user for tests: acts on real windows, of this process or another, with the real mouse and
+// keyboard, and reads what a user could read.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "tests/support/poll.h"
+
+namespace vistrel::user {
+
+/// Runs `actions` on a thread of its own while the thread that made it goes on, so that a user can
+/// answer a message box or choose from a menu that holds this thread up. The actions must not use
+/// GoogleTest's macros: let them note what they saw, and check it after `Finish`.
+class Meanwhile {
+ public:
+    explicit Meanwhile(std::function<void()> actions);
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+    ~Meanwhile() { Finish(); }
+
+    /// Waits until the actions are done, while this thread's windows go on working.
+    void Finish();
+
+ private:
+    std::function<void()> actions_;
+    HANDLE thread_;
+};
+
+// Finding windows.
+
+/// The visible top window of this class, topmost first, or null. An empty title and a process of 0
+/// stand for any; several windows of a class are told apart by `title`.
+HWND FindTop(const std::string& window_class, const std::string& title = "", DWORD process = 0);
+
+/// Waits until there is such a window, and returns it; null if none came.
+HWND WaitForTop(const std::string& window_class, const std::string& title = "", DWORD process = 0,
+                DWORD milliseconds = 20000);
+
+/// Waits until the window is no more.
+bool WaitUntilGone(HWND window, DWORD milliseconds = 20000);
+
+/// The control with this number, of `window` or of one of its child windows, or null.
+HWND Control(HWND window, int id);
+
+// Reading.
+
+std::string TextOf(HWND window);
+std::string ClassOf(HWND window);
+
+// Mouse, in screen pixels. Positions of controls are centres.
+
+POINT CentreOf(HWND window);
+/// Brings the window's top window to the front and waits until it is there.
+bool Activate(HWND window);
+void MoveTo(POINT point);
+void ClickAt(POINT point);
+void DoubleClickAt(POINT point);
+void RightClickAt(POINT point);
+/// Presses the left button at one point, moves in small steps to the other and lets go.
+void Drag(POINT from, POINT to);
+
+/// Clicks the middle of a window. Returns false, without a click, when it cannot be seen there
+/// within a second because it is hidden or another window lies above it.
+bool Click(HWND window);
+bool DoubleClick(HWND window);
+bool RightClick(HWND window);
+
+// Keyboard: goes to the window that has the focus.
+
+/// Presses and lets go a key, with these keys (VK_CONTROL, VK_MENU, VK_SHIFT) held down.
+void Press(WORD key, const std::vector<WORD>& held = {});
+/// Types ANSI text.
+void Type(const std::string& text);
+
+// Menus of this process; use a `Meanwhile` when the menu belongs to the thread of the test.
+
+/// Chooses a command from the menu bar of the active window by keyboard. Returns false, without a
+/// key pressed, when the menu bar has no such command.
+bool ChooseFromMenuBar(HWND window, unsigned command);
+/// Waits for a pop-up menu and chooses a command from it by keyboard. When the menu does not have
+/// it the menu is closed and the result is false.
+bool ChooseFromPopUp(unsigned command);
+/// The pop-up menu that is open (wait for it), or null.
+HMENU WaitForPopUp();
+
+// Message boxes.
+
+/// What a user sees of a message box.
+struct Box {
+    HWND window = nullptr;  ///< null when no box came
+    std::string title;
+    std::string text;
+    unsigned icon = 0;         ///< MB_ICON... or 0 without an icon; only of this process's boxes
+    std::vector<int> buttons;  ///< IDOK, IDYES, ... from left to right
+    int default_button = 0;    ///< the one that Enter presses
+};
+
+/// Waits for a message box, of this process or any (`process` 0 is this one).
+Box WaitForBox(DWORD process = 0, DWORD milliseconds = 20000);
+/// Waits for a message box, presses this button and waits until the box is closed.
+Box AnswerBox(int button, DWORD process = 0);
+
+/// Keeps what the screen shows as NAME.png in the folder that the environment variable
+/// VISTREL_SHOTS names; does nothing without it.
+void TakeShot(const std::string& name);
+
+}  // namespace vistrel::user

@@ -1,0 +1,153 @@
+// Menus and message boxes as the tests' user sees and answers them.
+#include <algorithm>
+
+#include "tests/support/user.h"
+
+namespace vistrel::user {
+
+namespace {
+
+/// One step of the way to a command: how many items to go down from the first, passing over
+/// separators.
+using MenuPath = std::vector<int>;
+
+bool FindCommand(HMENU menu, unsigned command, MenuPath* path) {
+    int selectable = 0;
+    const int count = GetMenuItemCount(menu);
+    for (int i = 0; i < count; ++i) {
+        MENUITEMINFOA item = {};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_TYPE | MIIM_ID | MIIM_SUBMENU;
+        if (!GetMenuItemInfoA(menu, i, TRUE, &item) || (item.fType & MFT_SEPARATOR) != 0) continue;
+        path->push_back(selectable++);
+        if (item.hSubMenu != nullptr ? FindCommand(item.hSubMenu, command, path)
+                                     : item.wID == command) {
+            return true;
+        }
+        path->pop_back();
+    }
+    return false;
+}
+
+/// Goes the rest of the way in an open pop-up whose first item is selected.
+void WalkDown(MenuPath::const_iterator step, MenuPath::const_iterator end) {
+    while (step != end) {
+        for (int i = 0; i < *step; ++i) Press(VK_DOWN);
+        if (++step != end) Press(VK_RIGHT);
+    }
+    Press(VK_RETURN);
+}
+
+BOOL CALLBACK CollectChild(HWND window, LPARAM children) {
+    reinterpret_cast<std::vector<HWND>*>(children)->push_back(window);
+    return TRUE;
+}
+
+std::vector<HWND> ChildrenOf(HWND window) {
+    std::vector<HWND> children;
+    EnumChildWindows(window, CollectChild, reinterpret_cast<LPARAM>(&children));
+    return children;
+}
+
+unsigned IconOf(HWND picture) {
+    const auto icon = reinterpret_cast<HICON>(SendMessageA(picture, STM_GETICON, 0, 0));
+    constexpr struct {
+        unsigned flag;
+        int name;
+    } kIcons[] = {{MB_ICONHAND, 32513},
+                  {MB_ICONQUESTION, 32514},
+                  {MB_ICONEXCLAMATION, 32515},
+                  {MB_ICONASTERISK, 32516}};
+    for (const auto& known : kIcons) {
+        if (icon == LoadIconA(nullptr, MAKEINTRESOURCEA(known.name))) return known.flag;
+    }
+    return 0;
+}
+
+bool IsButton(HWND window) { return ClassOf(window) == "Button"; }
+
+/// Fills the box from the controls of a dialog. Returns false when it is not a message box: one
+/// has no controls but buttons, at most one icon and one text.
+bool ReadBox(HWND dialog, Box* box) {
+    int texts = 0;
+    for (HWND child : ChildrenOf(dialog)) {
+        if (!IsWindowVisible(child)) continue;
+        const LONG style = GetWindowLongA(child, GWL_STYLE);
+        if (IsButton(child)) {
+            box->buttons.push_back(GetDlgCtrlID(child));
+        } else if (ClassOf(child) != "Static") {
+            return false;
+        } else if ((style & SS_TYPEMASK) == SS_ICON) {
+            box->icon = IconOf(child);
+        } else {
+            box->text = TextOf(child);
+            ++texts;
+        }
+    }
+    if (texts != 1 || box->buttons.empty()) return false;
+    std::sort(box->buttons.begin(), box->buttons.end(), [&](int left, int right) {
+        return CentreOf(GetDlgItem(dialog, left)).x < CentreOf(GetDlgItem(dialog, right)).x;
+    });
+    box->window = dialog;
+    box->title = TextOf(dialog);
+    box->default_button = LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0));
+    return true;
+}
+
+}  // namespace
+
+bool ChooseFromMenuBar(HWND window, unsigned command) {
+    MenuPath path;
+    if (!FindCommand(GetMenu(window), command, &path)) return false;
+    Press(VK_F10);
+    for (int i = 0; i < path.front(); ++i) Press(VK_RIGHT);
+    Press(VK_DOWN);
+    WalkDown(path.begin() + 1, path.end());
+    return true;
+}
+
+HMENU WaitForPopUp() {
+    const HWND window = WaitForTop("#32768");
+    if (window == nullptr) return nullptr;
+    constexpr UINT kGetMenu = 0x01E1;
+    return reinterpret_cast<HMENU>(SendMessageA(window, kGetMenu, 0, 0));
+}
+
+bool ChooseFromPopUp(unsigned command) {
+    const HMENU menu = WaitForPopUp();
+    MenuPath path;
+    if (menu == nullptr) return false;
+    if (!FindCommand(menu, command, &path)) {
+        Press(VK_ESCAPE);
+        return false;
+    }
+    Press(VK_DOWN);
+    WalkDown(path.begin(), path.end());
+    return true;
+}
+
+Box WaitForBox(DWORD process, DWORD milliseconds) {
+    if (process == 0) process = GetCurrentProcessId();
+    Box box;
+    WaitUntil(
+        [&] {
+            const HWND dialog = FindTop("#32770", "", process);
+            Box seen;
+            const bool found =
+                dialog != nullptr && GetForegroundWindow() == dialog && ReadBox(dialog, &seen);
+            if (found) box = seen;
+            return found;
+        },
+        milliseconds);
+    return box;
+}
+
+Box AnswerBox(int button, DWORD process) {
+    const Box box = WaitForBox(process);
+    if (box.window == nullptr) return box;
+    Click(GetDlgItem(box.window, button));
+    WaitUntilGone(box.window);
+    return box;
+}
+
+}  // namespace vistrel::user

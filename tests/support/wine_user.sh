@@ -1,0 +1,73 @@
+# Sourced by the scripts that start Wine: who runs it, and in which surroundings.
+
+# Wine programs run as an ordinary user: to root no file is read-only and no folder is closed.
+as_user=()
+if [ "$(id -u)" = 0 ]; then
+    as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups)
+fi
+
+# Makes a private folder in which that user may work, and prints its path. DOS attributes are kept
+# in extended attributes, which not every file system for temporary files has.
+make_private_folder() {
+    local parent folder
+    for parent in /tmp /var/tmp; do
+        folder=$(mktemp -d "$parent/vistrel.XXXXXXXX") || continue
+        if /usr/bin/python3 -c 'import os, sys; os.setxattr(sys.argv[1], "user.test", b"1")' "$folder" \
+            2>/dev/null; then
+            if [ "$(id -u)" = 0 ]; then chown 65534:65534 "$folder"; fi
+            echo "$folder"
+            return 0
+        fi
+        rmdir "$folder"
+    done
+    echo "no folder for temporary files keeps extended attributes" >&2
+    return 1
+}
+
+# in_wine FOLDER COMMAND...: runs a command as the ordinary user with the prefix FOLDER/prefix and
+# the home FOLDER/home. The code page is fixed (1252), whatever the caller's language is.
+in_wine() {
+    local folder=$1
+    shift
+    "${as_user[@]}" env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u XDG_CACHE_HOME -u XDG_RUNTIME_DIR \
+        -u LANGUAGE -u WINEARCH -u WINELOADER LC_ALL=C.UTF-8 HOME="$folder/home" \
+        WINEPREFIX="$folder/prefix" WINEDEBUG="${WINEDEBUG:--all}" \
+        WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=' "$@"
+}
+
+# Ends every program of FOLDER/prefix and waits until they are gone.
+end_wine() {
+    if [ -d "$1/prefix" ]; then in_wine "$1" wineserver -k 2>/dev/null; fi
+    return 0
+}
+
+# Removes a private folder; a program that is just ending may still write into it.
+remove_private_folder() {
+    local attempt
+    for attempt in 1 2 3 4 5; do
+        rm -rf "$1" 2>/dev/null && return 0
+        sleep 0.2
+    done
+    rm -rf "$1"
+}
+
+# start_screen FOLDER: starts a virtual X screen on a free display. Sets DISPLAY and screen_pid.
+start_screen() {
+    local attempt
+    if [ "$(id -u)" = 0 ]; then mkdir -p -m 1777 /tmp/.X11-unix; fi
+    : >"$1/display"
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -fbdir "$1" -nolisten tcp -noreset \
+        3>"$1/display" >"$1/screen.log" 2>&1 &
+    screen_pid=$!
+    for attempt in $(seq 300); do
+        if [ -s "$1/display" ]; then
+            DISPLAY=:$(cat "$1/display")
+            export DISPLAY
+            return 0
+        fi
+        kill -0 "$screen_pid" 2>/dev/null || break
+        sleep 0.1
+    done
+    echo "the virtual screen did not start: $(tail -n 1 "$1/screen.log")" >&2
+    return 1
+}
