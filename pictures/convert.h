@@ -8,6 +8,10 @@
 
 namespace vistrel {
 
+/// The size of every screen file, in pixels.
+inline constexpr int kLogoWidth = 320;
+inline constexpr int kLogoHeight = 400;
+
 enum class PictureFormat { Bmp, Gif, Jpg };
 
 /// The format that the last four characters of a name stand for, in any case: ".GIF" and ".JPG";
@@ -18,11 +22,16 @@ PictureFormat FormatOfName(const std::string& path);
 std::optional<RgbPicture> ReadPicture(const std::string& path);
 
 /// Reads a picture file scaled to `width` x `height` pixels: the fast way for whoever does not
-/// need the picture itself. Empty when it cannot be read.
+/// need the picture itself. Empty when it cannot be read or the size is out of range.
 std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int width, int height);
 
-/// Makes a 320 x 400, 256-colour screen file of any BMP, GIF or JPG picture. Nothing is written
-/// when the picture cannot be read.
+enum class ConversionResult { Written, NotRead, NotReduced, NotWritten };
+
+/// Makes a 320 x 400, 256-colour screen file of any BMP, GIF or JPG picture and tells how far it
+/// came. Unless the result is Written, the target is as it was.
+ConversionResult TryConvertToLogo(const std::string& sourcePath, const std::string& targetPath);
+
+/// The same, telling nothing.
 void ConvertToLogo(const std::string& sourcePath, const std::string& targetPath);
 
 }  // namespace vistrel

@@ -1,0 +1,91 @@
+// The way of a picture from its file to a screen file.
+#include "pictures/convert.h"
+
+#include <new>
+
+#include "pictures/bmp_reader.h"
+#include "pictures/bmp_writer.h"
+#include "pictures/gif_reader.h"
+#include "pictures/jpg_reader.h"
+#include "pictures/quantize.h"
+#include "pictures/resize.h"
+#include "pictures/whole_file.h"
+
+namespace vistrel {
+namespace {
+
+char Upper(char letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+std::optional<RgbPicture> Decode(PictureFormat format, FileBytes file) {
+    switch (format) {
+        case PictureFormat::Gif:
+            return ReadGif(file);
+        case PictureFormat::Jpg:
+            return ReadJpg(file);
+        case PictureFormat::Bmp:
+            break;
+    }
+    return ReadBmp(file);
+}
+
+std::optional<ScaledPicture> DecodeScaled(PictureFormat format, FileBytes file, int width,
+                                          int height) {
+    if (format == PictureFormat::Jpg) return ReadJpgScaled(file, width, height);
+    const std::optional<RgbPicture> whole = Decode(format, file);
+    if (!whole) return std::nullopt;
+    return ScaledPicture{Resize(*whole, width, height), whole->width, whole->height};
+}
+
+}  // namespace
+
+PictureFormat FormatOfName(const std::string& path) {
+    std::string ending = path.size() < 4 ? "" : path.substr(path.size() - 4);
+    for (char& letter : ending) letter = Upper(letter);
+    if (ending == ".GIF") return PictureFormat::Gif;
+    if (ending == ".JPG") return PictureFormat::Jpg;
+    return PictureFormat::Bmp;
+}
+
+// Nothing is thrown at callers: where memory runs out, a picture cannot be read.
+std::optional<RgbPicture> ReadPicture(const std::string& path) try {
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    return file ? Decode(FormatOfName(path), *file) : std::nullopt;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int width, int height) try {
+    if (!IsPlausibleSize(width, height)) return std::nullopt;
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    return file ? DecodeScaled(FormatOfName(path), *file, width, height) : std::nullopt;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+ConversionResult TryConvertToLogo(const std::string& sourcePath,
+                                  const std::string& targetPath) try {
+    constexpr int kColors = 256;
+    const std::optional<ScaledPicture> scaled =
+        ReadPictureScaled(sourcePath, kLogoWidth, kLogoHeight);
+    if (!scaled) return ConversionResult::NotRead;
+    std::vector<std::uint8_t> indices(std::size_t{kLogoWidth} * kLogoHeight);
+    std::vector<std::uint8_t> palette(kColors * 4);
+    if (!QuantizeRgb(scaled->picture.pixels.data(), kLogoWidth, kLogoHeight, kColors,
+                     indices.data(), palette.data())) {
+        return ConversionResult::NotReduced;
+    }
+    const std::vector<std::uint8_t> file =
+        ColormappedBmp(indices.data(), kLogoWidth, kLogoHeight, kColors, palette.data());
+    return WriteWholeFile(targetPath, file) ? ConversionResult::Written
+                                            : ConversionResult::NotWritten;
+} catch (const std::bad_alloc&) {
+    return ConversionResult::NotReduced;
+}
+
+void ConvertToLogo(const std::string& sourcePath, const std::string& targetPath) {
+    TryConvertToLogo(sourcePath, targetPath);
+}
+
+}  // namespace vistrel
