@@ -10,8 +10,6 @@ namespace vistrel {
 class frmSplash : public Window {
  public:
     frmSplash();
-    /// Shows the window and paints it at once.
-    void ShowAtOnce();
 
     PictureBox SplashPicture;
     Label LblVersion;

@@ -23,4 +23,9 @@ void OptionButton::SetMark(bool chosen) {
     SetWindowLongA(handle(), GWL_STYLE, chosen ? style | WS_TABSTOP : style & ~WS_TABSTOP);
 }
 
+void Frame::ShowWithAll(bool visible) {
+    for (Control* control : held_) control->SetVisible(visible);
+    SetVisible(visible);
+}
+
 }  // namespace vistrel

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 #include "controls/control.h"
 
@@ -37,7 +39,14 @@ class OptionButton : public Button {
     void SetMark(bool chosen);
 };
 
-/// A box with a caption around controls.
-class Frame : public Control {};
+/// A box around controls, which are shown and hidden with it.
+class Frame : public Control {
+ public:
+    void Hold(std::vector<Control*> controls) { held_ = std::move(controls); }
+    void ShowWithAll(bool visible);
+
+ private:
+    std::vector<Control*> held_;
+};
 
 }  // namespace vistrel

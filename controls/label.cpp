@@ -15,20 +15,34 @@ void Label::SetForeColor(long color) {
     Repaint();
 }
 
-void Label::SetFont(bool bold, int points, const char* face) {
+void Label::SetFont(const FontChange& change) {
     LOGFONTA font{};
     GetObjectA(reinterpret_cast<HFONT>(Send(WM_GETFONT)), sizeof font, &font);
-    if (bold) font.lfWeight = FW_BOLD;
-    if (points > 0) {
+    if (change.bold) font.lfWeight = FW_BOLD;
+    if (change.underline) font.lfUnderline = TRUE;
+    if (change.points > 0) {
         const HDC screen = GetDC(nullptr);
-        font.lfHeight = -MulDiv(points, GetDeviceCaps(screen, LOGPIXELSY), 72);
+        font.lfHeight = -MulDiv(change.points, GetDeviceCaps(screen, LOGPIXELSY), 72);
         ReleaseDC(nullptr, screen);
     }
-    if (*face) lstrcpynA(font.lfFaceName, face, LF_FACESIZE);
+    if (*change.face) lstrcpynA(font.lfFaceName, change.face, LF_FACESIZE);
     const HFONT made = CreateFontIndirectA(&font);
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(made), TRUE);
     if (font_) DeleteObject(font_);
     font_ = made;
+}
+
+void Label::FitToText() {
+    const std::string text = Text();
+    const HDC dc = GetDC(handle());
+    const HGDIOBJ former = SelectObject(dc, reinterpret_cast<HFONT>(Send(WM_GETFONT)));
+    SIZE size{};
+    GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    SelectObject(dc, former);
+    ReleaseDC(handle(), dc);
+    Rect place = Bounds();
+    place.width = static_cast<int>(size.cx);
+    MoveTo(place);
 }
 
 void Label::SetHandPointer(const char* cursorResource) { cursor_ = cursorResource; }

@@ -7,14 +7,23 @@
 
 namespace vistrel {
 
+/// How a label's font differs from the dialog's; 0 points and an empty face keep the dialog's.
+struct FontChange {
+    bool bold = false;
+    bool underline = false;
+    int points = 0;
+    const char* face = "";
+};
+
 class Label : public Control {
  public:
     /// Colours are 24-bit numbers in blue-green-red order.
     void SetForeColor(long color);
     long ForeColor() const { return color_; }
-    /// A font of the label's own: the dialog's, made bold, or resized to `points`, or of another
-    /// face. Empty and 0 keep what the dialog has.
-    void SetFont(bool bold, int points = 0, const char* face = "");
+    /// Gives the label a font of its own.
+    void SetFont(const FontChange& change);
+    /// Makes the label just as wide as its text of one line.
+    void FitToText();
     /// Shows the hand over the text, from the program's cursor resource of this name.
     void SetHandPointer(const char* cursorResource);
 

@@ -14,6 +14,17 @@ void FreeMenu(MenuHandle menu) { DestroyMenu(menu); }
 
 MenuHandle SubMenu(MenuHandle menu, int place) { return GetSubMenu(menu, place); }
 
+MenuHandle NewPopUpMenu() { return CreatePopupMenu(); }
+
+void AddMenuItem(MenuHandle menu, int id, const std::string& caption) {
+    AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(id), caption.c_str());
+}
+
+void EmptyMenu(MenuHandle menu) {
+    while (DeleteMenu(menu, 0, MF_BYPOSITION)) {
+    }
+}
+
 void SetMenuMark(MenuHandle menu, int id, bool checked) {
     CheckMenuItem(menu, static_cast<UINT>(id), checked ? MF_CHECKED : MF_UNCHECKED);
 }

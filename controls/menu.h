@@ -12,6 +12,10 @@ void FreeMenu(MenuHandle menu);
 /// The drop-down at a place of a menu bar, from 0.
 MenuHandle SubMenu(MenuHandle menu, int place);
 
+MenuHandle NewPopUpMenu();
+void AddMenuItem(MenuHandle menu, int id, const std::string& caption);
+void EmptyMenu(MenuHandle menu);
+
 // Each finds the item by its number, in drop-downs too.
 void SetMenuMark(MenuHandle menu, int id, bool checked);
 bool HasMenuMark(MenuHandle menu, int id);

@@ -41,6 +41,12 @@ void LeaveLoop(Window& window) {
     windows.erase(std::remove(windows.begin(), windows.end(), &window), windows.end());
 }
 
+Window* OpenWindowOf(WindowHandle handle) {
+    for (Window* window : openWindows())
+        if (window->handle() == handle) return window;
+    return nullptr;
+}
+
 void RunLoopWhileOpen(const Window& window) {
     MSG message{};
     while (window.IsOpen()) {

@@ -1,6 +1,8 @@
 // The one thread's message loop, for windows shown beside each other and for modal ones.
 #pragma once
 
+#include "platform/handles.h"
+
 namespace vistrel {
 
 class Window;
@@ -8,6 +10,9 @@ class Window;
 /// Takes a window's keys into the loop, and out again.
 void EnterLoop(Window& window);
 void LeaveLoop(Window& window);
+
+/// The window of ours with this handle; null when there is none open.
+Window* OpenWindowOf(WindowHandle handle);
 
 /// Runs until this window has been closed, or the program is to end.
 void RunLoopWhileOpen(const Window& window);

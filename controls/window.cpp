@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include "controls/message_loop.h"
+#include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "platform/help_viewer.h"
 #include "platform/instance.h"
@@ -82,6 +83,7 @@ void Window::Add(Timer& timer) { timers_.push_back(&timer); }
 
 bool Window::Create(WindowHandle owner) {
     InitCommonControls();
+    RegisterPictureBoxClass();
     RegisterFormClass(className_);
     const HWND handle =
         CreateDialogParamA(ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
@@ -101,7 +103,9 @@ bool Window::Create(WindowHandle owner) {
 
 void Window::Show() {
     ShowWindow(handle_, SW_SHOW);
-    UpdateWindow(handle_);
+    // Before anything is painted, so that nobody sees the controls empty.
+    Form_Activate();
+    if (handle_) UpdateWindow(handle_);
 }
 
 void Window::ShowModal(WindowHandle owner) {
@@ -112,6 +116,7 @@ void Window::ShowModal(WindowHandle owner) {
     }
     Show();
     RunLoopWhileOpen(*this);
+    if (Window* below = OpenWindowOf(owner)) below->Form_Activate();
 }
 
 bool Window::Unload() {
@@ -126,7 +131,6 @@ bool Window::Unload() {
     DestroyWindow(closing);
     handle_ = nullptr;
     tips_ = nullptr;
-    active_ = false;
     return true;
 }
 
@@ -150,8 +154,25 @@ Size Window::ClientSize() const {
     return {static_cast<int>(r.right), static_cast<int>(r.bottom)};
 }
 
-void Window::MoveTo(const Rect& place) {
-    MoveWindow(handle_, place.left, place.top, place.width, place.height, TRUE);
+void Window::SetClientSize(Size size) {
+    RECT r{0, 0, size.width, size.height};
+    AdjustWindowRectEx(&r, static_cast<DWORD>(GetWindowLongA(handle_, GWL_STYLE)),
+                       GetMenu(handle_) != nullptr,
+                       static_cast<DWORD>(GetWindowLongA(handle_, GWL_EXSTYLE)));
+    SetWindowPos(handle_, nullptr, 0, 0, r.right - r.left, r.bottom - r.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Window::CentreIn(const Rect& area) {
+    RECT r{};
+    GetWindowRect(handle_, &r);
+    SetWindowPos(handle_, nullptr, area.left + (area.width - static_cast<int>(r.right - r.left)) / 2,
+                 area.top + (area.height - static_cast<int>(r.bottom - r.top)) / 2, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Window::PaintAtOnce() {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 Rect Window::FromDialogUnits(const Rect& units) const {
@@ -280,15 +301,6 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
                 if (reinterpret_cast<std::uintptr_t>(timer) != wParam) continue;
                 if (timer->Tick) timer->Tick();
                 return true;
-            }
-            return false;
-        case WM_ACTIVATE:
-            // An activation that comes while the window is still hidden is its showing.
-            if (LOWORD(wParam) != WA_INACTIVE && !active_) {
-                active_ = true;
-                Form_Activate();
-            } else if (LOWORD(wParam) == WA_INACTIVE) {
-                active_ = false;
             }
             return false;
         case WM_SIZE:

@@ -41,8 +41,12 @@ class Window {
     const std::map<int, Control*>& controls() const { return controls_; }
 
     Size ClientSize() const;
-    /// Moves the whole window to a place of the screen.
-    void MoveTo(const Rect& place);
+    /// Makes the window as large as its client area must be for this.
+    void SetClientSize(Size size);
+    /// Puts the window into the middle of a part of the screen.
+    void CentreIn(const Rect& area);
+    /// Paints the window and its controls now, not when messages have been handled.
+    void PaintAtOnce();
     /// Shows a short text when the pointer rests on a child window; an empty text takes it away.
     void ShowTip(WindowHandle child, const std::string& tip);
     /// Pops up a menu at a point of the screen; what is chosen arrives at MenuCommand.
@@ -62,7 +66,8 @@ class Window {
     void Add(Timer& timer);
 
     virtual void Form_Load() {}
-    /// The window became the active one.
+    /// The window was shown, or became the active one again after a window of ours in front of it
+    /// was closed. The system's dialogs and other programs in between do not count.
     virtual void Form_Activate() {}
     /// Called when the window is about to close; false keeps it open.
     virtual bool Form_Unload() { return true; }
@@ -98,7 +103,6 @@ class Window {
     WindowHandle handle_ = nullptr;
     WindowHandle tips_ = nullptr;
     WindowHandle disabledOwner_ = nullptr;
-    bool active_ = false;
     std::map<int, Control*> controls_;
     std::vector<Timer*> timers_;
 };

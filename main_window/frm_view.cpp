@@ -16,10 +16,8 @@ FrmView::FrmView(std::string path, bool animate)
 
 void FrmView::Form_Load() {
     ShowPictureInBox(path_, Preview);
-    const Size size{Preview.ScaleWidth(), Preview.ScaleHeight()};
-    const Rect area = WorkArea();
-    MoveTo({area.left + (area.width - size.width) / 2, area.top + (area.height - size.height) / 2,
-            size.width, size.height});
+    SetClientSize({Preview.ScaleWidth(), Preview.ScaleHeight()});
+    CentreIn(WorkArea());
 }
 
 void FrmView::Form_KeyPress(char) { Unload(); }

@@ -68,7 +68,7 @@ void Principale::Form_Load() {
     classicMenus_ = LoadMenuResource(IDM_Principale);
     ActiveBar1.Attach(*this, ID_ActiveBar1, IDB_Toolbar, kToolbarTransparent);
     MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
-    DefaultLogo.SetFont(true);
+    DefaultLogo.SetFont({.bold = true});
     DefaultLogo.SetForeColor(kBlue);
 
     locations_.startupFolder = GetStartupFolder();

@@ -71,4 +71,42 @@
 
 // Logo browser: 1200 to 1399
 // Preferences: 1400 to 1599
+#define ID_TabStrip1 1400
+#define ID_MyFrame 1401  // 1401 to 1404, in the order of the tabs
+#define ID_LblLogoPath 1405
+#define ID_TxtLogoPath 1406
+#define ID_btnBrwFolder 1407
+#define ID_LblDblAction 1408
+#define ID_DblAction 1409
+#define ID_ChkShowSplash 1410
+#define ID_ChkSyncronize 1411
+#define ID_ActiveStart 1412
+#define ID_LblDriveHost 1413
+#define ID_DriveHost 1414
+#define ID_ChkConfirmChange 1415
+#define ID_ChkDelConfirm 1416
+#define ID_ChkDeleteRecycle 1417
+#define ID_ChkShowAnim 1418
+#define ID_FrameOpen 1419
+#define ID_OptOpen 1420  // 1420 actual size, 1421 Paint, 1422 custom program
+#define ID_CustomName 1423
+#define ID_CustProg 1424
+#define ID_BtnBrowse 1425
+#define ID_LblStartUp 1426
+#define ID_StartUpAction 1427  // 1427 Rotaline, 1428 Shufflet, 1429 nothing
+#define ID_LblCustomName 1430
+#define ID_LblCustProg 1431
+
 // About box: 1600 to 1699
+#define ID_Image1 1600
+#define ID_LblTitProgram 1601
+#define ID_LblVersion 1602
+#define ID_LblComments 1603
+#define ID_Label4 1604
+#define ID_Label5 1605
+#define ID_LblInternet 1606  // 1606 and 1608 mail, 1607 and 1609 web
+#define ID_Line1 1610
+
+// Buttons that Enter and Esc press
+#define ID_BtnOK 1
+#define ID_BtnCancel 2

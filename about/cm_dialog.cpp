@@ -1,0 +1,40 @@
+#include "about/cm_dialog.h"
+
+#include <algorithm>
+
+#include "core/generali.h"
+#include "platform/open_dialog.h"
+
+namespace vistrel {
+namespace {
+
+/// The file must exist (0x1000), and there is no check box for opening it read-only (4).
+constexpr unsigned kFileMustExistHideReadOnly = 4100;
+constexpr std::size_t kBufferLength = 254;
+
+}  // namespace
+
+std::string FileTitle;
+
+std::string DialogFilter(std::string filter) {
+    if (filter.empty() || filter.back() != '|') filter += '|';
+    std::replace(filter.begin(), filter.end(), '|', '\0');
+    return filter;
+}
+
+std::string ShowOpenDialog(WindowHandle owner, const std::string& filter, const std::string& title,
+                           const std::string& initialFolder) {
+    OpenDialogRequest request;
+    request.owner = owner;
+    request.filter = DialogFilter(filter);
+    request.title = title;
+    request.initialFolder = initialFolder;
+    request.flags = kFileMustExistHideReadOnly;
+    request.file = std::string(kBufferLength, ' ');
+    request.fileTitle = std::string(kBufferLength, '\0');
+    const bool chosen = RunOpenDialog(request);
+    FileTitle = CutAtNul(request.fileTitle);
+    return chosen ? Trim(request.file) : std::string();
+}
+
+}  // namespace vistrel

@@ -1,0 +1,72 @@
+#include "about/frm_about_reg.h"
+
+#include <string>
+
+#include "about/about.h"
+#include "about/contacts.h"
+#include "controls/drawing.h"
+#include "controls/picture_resource.h"
+#include "platform/message_box.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr long kBlue = 0xFF0000;
+constexpr const char* kVersion = "Version: 4.00b2 - Beta 2";
+constexpr const char* kLegalWarning =
+    "Copying this program in parts or under another name is against the law.";
+
+/// The web pages stand between the mail addresses.
+bool IsWebPage(int index) { return index == 1 || index == 3; }
+
+}  // namespace
+
+FrmAboutReg::FrmAboutReg() : Window("FrmAboutReg", IDD_FrmAboutReg) {
+    Add(Image1, ID_Image1);
+    Add(LblTitProgram, ID_LblTitProgram);
+    Add(LblVersion, ID_LblVersion);
+    Add(LblComments, ID_LblComments);
+    Add(Label4, ID_Label4);
+    Add(Label5, ID_Label5);
+    for (int i = 0; i < 4; ++i) Add(LblInternet[i], ID_LblInternet + i);
+    Add(Line1, ID_Line1);
+    Add(BtnOK, ID_BtnOK);
+
+    for (int i = 0; i < 4; ++i) LblInternet[i].Click = [this, i] { LblInternet_Click(i); };
+    BtnOK.Click = [this] { BtnOK_Click(); };
+}
+
+void FrmAboutReg::Form_Load() {
+    ShowPictureResource("logoicon", Image1);
+    LblTitProgram.SetFont({.bold = true, .points = 18, .face = "Arial"});
+    LblTitProgram.SetText(kProgramTitle);
+    LblVersion.SetText(kVersion);
+    LblComments.SetText(kLegalWarning);
+    const char* addresses[] = {kSupportAddress, kHomePage, kSuggestionsAddress, kLogoPage};
+    for (int i = 0; i < 4; ++i) {
+        LblInternet[i].SetText(addresses[i]);
+        LblInternet[i].SetForeColor(kBlue);
+        LblInternet[i].SetFont({.underline = true});
+        LblInternet[i].SetHandPointer("mano");
+        // Only the text itself is the link.
+        LblInternet[i].FitToText();
+    }
+}
+
+void FrmAboutReg::Form_Paint(DeviceContext target) {
+    DrawSeparator(target, {720, 1260}, {4560, 1270});
+}
+
+void FrmAboutReg::LblInternet_Click(int index) {
+    const std::string text = LblInternet[index].Text();
+    OpenLink(IsWebPage(index) ? text : "mailto:" + text + "?subject=Vistrel 98", handle());
+}
+
+void FrmAboutReg::BtnOK_Click() { Unload(); }
+
+void FrmAboutReg::MenuCommand(int id) {
+    if (id == ID_BtnCancel) Unload();  // Esc
+}
+
+}  // namespace vistrel

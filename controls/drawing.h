@@ -1,0 +1,13 @@
+// Drawing on a window itself.
+#pragma once
+
+#include "controls/geometry.h"
+#include "platform/handles.h"
+
+namespace vistrel {
+
+/// Draws a separator, a dark line with a light one below, between two points in twips (1,440 of
+/// them an inch).
+void DrawSeparator(DeviceContext target, Point from, Point to);
+
+}  // namespace vistrel

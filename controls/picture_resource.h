@@ -1,0 +1,11 @@
+// Pictures from the program's resources.
+#pragma once
+
+#include "controls/picture_box.h"
+
+namespace vistrel {
+
+/// Shows the bitmap resource of this name in a box, at its own size.
+void ShowPictureResource(const char* name, PictureBox& box);
+
+}  // namespace vistrel

@@ -1,0 +1,58 @@
+// Where the program starts: what it needs to know, the splash screen, the main window.
+#include <windows.h>
+// ole2.h needs windows.h first.
+#include <ole2.h>
+
+#include "about/frm_splash.h"
+#include "controls/message_loop.h"
+#include "core/locations.h"
+#include "core/settings.h"
+#include "main_window/principale.h"
+#include "pictures/imgdll.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+
+namespace vistrel {
+namespace {
+
+/// The image library is our own and asks for no code.
+constexpr const char* kImageLibraryCode = "";
+
+void Run() {
+    FailOnDrivesNotReady();
+    const SystemLocations locations = FindSystemLocations();
+    Window::SetHelpFile(locations.HelpFile());
+    ImgDLLStringInitDLL(kImageLibraryCode);
+
+    frmSplash splash;
+    const bool showSplash = ReadShowSplashScreen() == 1;
+    double shownAt = 0;
+    if (showSplash && splash.Create(nullptr)) {
+        splash.Show();
+        splash.PaintAtOnce();
+        shownAt = TimeOfDay();
+    }
+
+    Principale principale(locations);
+    if (!principale.Create(nullptr)) return;
+
+    if (splash.IsOpen()) {
+        // The elapsed time is in days, so the splash stays about 700 ms after the main window has
+        // loaded: kept so.
+        const double wait = 700 - 1000 * (TimeOfDay() - shownAt);
+        if (wait > 0) SleepMilliseconds(static_cast<unsigned long>(wait));
+        splash.Unload();
+    }
+    principale.Show();
+    RunLoopWhileOpen(principale);
+}
+
+}  // namespace
+}  // namespace vistrel
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    OleInitialize(nullptr);  // for folders dropped on the list
+    vistrel::Run();
+    OleUninitialize();
+    return 0;
+}

@@ -1,0 +1,81 @@
+#include "pictures/draw_preview.h"
+
+#include <cstdio>
+#include <optional>
+
+#include "pictures/convert.h"
+#include "pictures/imgdll.h"
+#include "pictures/little_endian.h"
+#include "platform/standard_picture.h"
+
+namespace vistrel {
+namespace {
+
+constexpr std::int16_t kGifDepth = 8;
+constexpr std::int16_t kJpgDepth = 24;
+
+void DrawOver(PictureBox& box, const std::uint8_t* rgb, int width, int height) {
+    ImgDLLDrawRGB(box.Canvas(), rgb, width, height, 0, 0, box.ScaleWidth(), box.ScaleHeight(), 0);
+    box.Keep();
+}
+
+}  // namespace
+
+void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
+                      std::int16_t& depth) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (!file) return;
+    std::uint8_t header[30];
+    const std::size_t size = std::fread(header, 1, sizeof header, file);
+    std::fclose(file);
+    if (size < sizeof header) return;
+    width = static_cast<std::int32_t>(DoubleWord(header, 18));
+    height = static_cast<std::int32_t>(DoubleWord(header, 22));
+    depth = static_cast<std::int16_t>(Word(header, 28));
+}
+
+void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
+                 std::int32_t& height, std::int16_t& depth) {
+    const PictureFormat format = FormatOfName(path);
+    // The picture is scaled straight to the box: nobody here needs all of it.
+    const auto scaled = ReadPictureScaled(path, target.ScaleWidth(), target.ScaleHeight());
+    if (format == PictureFormat::Bmp) {
+        // The header tells the size even where the pixels cannot be read.
+        ReadBitmapHeader(path, width, height, depth);
+    } else {
+        depth = format == PictureFormat::Gif ? kGifDepth : kJpgDepth;
+        if (scaled) {
+            width = scaled->fileWidth;
+            height = scaled->fileHeight;
+        }
+    }
+    if (scaled)
+        DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width,
+                 scaled->picture.height);
+    else
+        target.Clear();
+}
+
+void DrawPreview(const std::string& path, PictureBox& target) {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::int16_t depth = 0;
+    DrawPreview(path, target, width, height, depth);
+}
+
+void ShowPictureInBox(const std::string& path, PictureBox& box) {
+    box.Clear();
+    StandardPicture standard;
+    if (LoadStandardPicture(path, standard)) {
+        box.SetScaleSize({standard.width, standard.height});
+        DrawOver(box, standard.pixels.data(), standard.width, standard.height);
+        return;
+    }
+    // What the system's loader does not know, our own readers may.
+    if (const auto picture = ReadPicture(path)) {
+        box.SetScaleSize({picture->width, picture->height});
+        DrawOver(box, picture->pixels.data(), picture->width, picture->height);
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,65 @@
+// Drawing of 24-bit pixels on a device context: the image library's one operation that needs Windows.
+#include <windows.h>
+
+#include <vector>
+
+#include "controls/display_palette.h"
+#include "pictures/imgdll.h"
+
+namespace vistrel {
+namespace {
+
+/// Header of a bitmap whose rows come from the top, with room for 256 colours.
+struct BitmapHeader {
+    BITMAPINFOHEADER header{};
+    RGBQUAD colors[256] = {};
+
+    BitmapHeader(int width, int height, int bits) {
+        header.biSize = sizeof header;
+        header.biWidth = width;
+        header.biHeight = -height;
+        header.biPlanes = 1;
+        header.biBitCount = static_cast<WORD>(bits);
+    }
+    const BITMAPINFO* info() const { return reinterpret_cast<const BITMAPINFO*>(this); }
+};
+
+/// Rows of blue, green, red, each padded to a multiple of four bytes, as Windows draws them.
+std::vector<std::uint8_t> BlueGreenRedRows(const std::uint8_t* rgb, int width, int height) {
+    const std::size_t stride = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
+    std::vector<std::uint8_t> rows(stride * height);
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* out = &rows[y * stride];
+        for (int x = 0; x < width; ++x, rgb += 3, out += 3) {
+            out[0] = rgb[2];
+            out[1] = rgb[1];
+            out[2] = rgb[0];
+        }
+    }
+    return rows;
+}
+
+}  // namespace
+
+void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth, int pixelHeight,
+                   int x, int y, int width, int height, int) {
+    SetStretchBltMode(target, COLORONCOLOR);
+    if (HasPalette(target)) {
+        // The display holds 256 colours: without dithering a sky would turn to bands.
+        BitmapHeader header(pixelWidth, pixelHeight, 8);
+        PALETTEENTRY entries[256];
+        const UINT count = GetPaletteEntries(DisplayPalette(), 0, 256, entries);
+        for (UINT i = 0; i < count; ++i)
+            header.colors[i] = {entries[i].peBlue, entries[i].peGreen, entries[i].peRed, 0};
+        const auto rows = DitherToDisplayPalette(rgb, pixelWidth, pixelHeight);
+        StretchDIBits(target, x, y, width, height, 0, 0, pixelWidth, pixelHeight, rows.data(),
+                      header.info(), DIB_RGB_COLORS, SRCCOPY);
+        return;
+    }
+    const BitmapHeader header(pixelWidth, pixelHeight, 24);
+    const auto rows = BlueGreenRedRows(rgb, pixelWidth, pixelHeight);
+    StretchDIBits(target, x, y, width, height, 0, 0, pixelWidth, pixelHeight, rows.data(),
+                  header.info(), DIB_RGB_COLORS, SRCCOPY);
+}
+
+}  // namespace vistrel
