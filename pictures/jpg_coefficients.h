@@ -1,0 +1,74 @@
+// Which of a block's coefficients are kept, and rows of blocks to keep them in.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "pictures/jpg_tables.h"
+
+namespace vistrel {
+
+/// The low frequencies of a block that somebody needs: `across` of the eight horizontal and `down`
+/// of the eight vertical ones. They are kept as a matrix of `down` rows.
+struct KeptFrequencies {
+    /// Positions that a damaged file can make a run of zeros end at: 15 beyond the last.
+    static constexpr std::size_t kPositions = kBlockSize + 16;
+
+    int across = 8;
+    int down = 8;
+    int last = kBlockSize - 1;  ///< position in the file's order of the last one needed
+    int stride = kBlockSize;    ///< numbers per block
+    std::array<std::uint8_t, kPositions> slot = {};  ///< where each position goes in its block
+
+    /// The frequencies 0..across-1 and 0..down-1 (both 1 to 8).
+    static KeptFrequencies Of(int across, int down) {
+        KeptFrequencies kept;
+        kept.across = across;
+        kept.down = down;
+        // Needless positions share one slot behind the matrix; a whole block needs none, as what
+        // lies beyond its end is damage anyway.
+        const int spare = std::min(across * down, kBlockSize - 1);
+        kept.stride = spare + 1;
+        kept.slot.fill(static_cast<std::uint8_t>(spare));
+        for (int k = 0; k < kBlockSize; ++k) {
+            const int row = kZigzag[static_cast<std::size_t>(k)] / 8;
+            const int column = kZigzag[static_cast<std::size_t>(k)] % 8;
+            if (row >= down || column >= across) continue;
+            kept.slot[static_cast<std::size_t>(k)] =
+                static_cast<std::uint8_t>(row * across + column);
+            kept.last = k;
+        }
+        return kept;
+    }
+};
+
+/// Rows of blocks of one component.
+struct BlockRows {
+    int across = 0;  ///< blocks in a row
+    int stride = 0;  ///< numbers per block
+    std::vector<std::int16_t> numbers;
+
+    BlockRows(int blocksAcross, int rows, int numbersPerBlock)
+        : across(blocksAcross),
+          stride(numbersPerBlock),
+          numbers(static_cast<std::size_t>(blocksAcross) * static_cast<std::size_t>(rows) *
+                  static_cast<std::size_t>(numbersPerBlock)) {}
+
+    std::int16_t* Block(int column, int row) {
+        return numbers.data() + (static_cast<std::ptrdiff_t>(row) * across + column) * stride;
+    }
+};
+
+/// Takes the coefficients of a picture row by row.
+class BlockRowTaker {
+ public:
+    virtual ~BlockRowTaker() = default;
+
+    /// The blocks of a component's row `row`, as many as the component has across. Each component's
+    /// rows come in order, each once.
+    virtual void TakeBlockRow(int component, int row, const std::int16_t* blocks) = 0;
+};
+
+}  // namespace vistrel

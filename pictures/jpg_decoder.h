@@ -1,0 +1,18 @@
+// Brings the coefficients of a JPEG file, of whatever kind it is, row by row to whoever needs them.
+#pragma once
+
+#include <span>
+
+#include "pictures/jpg_coefficients.h"
+#include "pictures/jpg_markers.h"
+
+namespace vistrel {
+
+/// Reads the scans of the file from the one on at which `markers` stands, and hands over every row
+/// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
+/// which stand for grey. False when the file has not even a tenth of the picture; `taker` has then
+/// had some rows or none.
+bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
+                      BlockRowTaker& taker);
+
+}  // namespace vistrel
