@@ -42,10 +42,16 @@ BOOL CALLBACK IsWantedControl(HWND window, LPARAM parameter) {
     return FALSE;
 }
 
-INPUT MouseInput(DWORD flags) {
+/// A button going down or up at a point of the screen.
+INPUT MouseInput(DWORD button, POINT point) {
+    // The whole screen is 65536 units wide and high; rounding up hits the pixel itself.
+    const LONG width = GetSystemMetrics(SM_CXSCREEN);
+    const LONG height = GetSystemMetrics(SM_CYSCREEN);
     INPUT input = {};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dwFlags = button | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    input.mi.dx = (point.x * 65536 + width - 1) / width;
+    input.mi.dy = (point.y * 65536 + height - 1) / height;
     return input;
 }
 
@@ -69,7 +75,7 @@ void ClickButton(POINT point, DWORD down, DWORD up, int times) {
     static DWORD last_click = GetTickCount() - GetDoubleClickTime() - 1;
     MoveTo(point);
     WaitUntil([] { return GetTickCount() - last_click > GetDoubleClickTime(); });
-    for (int i = 0; i < times; ++i) Send({MouseInput(down), MouseInput(up)});
+    for (int i = 0; i < times; ++i) Send({MouseInput(down, point), MouseInput(up, point)});
     last_click = GetTickCount();
 }
 
@@ -155,9 +161,11 @@ bool Activate(HWND window) {
 }
 
 void MoveTo(POINT point) {
-    // This moves the screen's own pointer as well. A move by SendInput does not, and is undone when
-    // the X server tells where its pointer is.
+    // The first moves the X server's pointer as well, which would otherwise be told back to Wine
+    // with the next window that opens. Such news can still be under way: the second has the point
+    // with it, and so has each button.
     SetCursorPos(point.x, point.y);
+    Send({MouseInput(0, point)});
 }
 
 void ClickAt(POINT point) { ClickButton(point, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 1); }
@@ -170,7 +178,7 @@ void RightClickAt(POINT point) {
 
 void Drag(POINT from, POINT to) {
     MoveTo(from);
-    Send({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+    Send({MouseInput(MOUSEEVENTF_LEFTDOWN, from)});
     constexpr int kSteps = 10;
     for (int step = 1; step <= kSteps; ++step) {
         MoveTo(
@@ -178,7 +186,7 @@ void Drag(POINT from, POINT to) {
         // Whoever drags looks at each position once; moves in the queue would become one.
         WaitUntil([start = GetTickCount()] { return GetTickCount() - start >= 20; });
     }
-    Send({MouseInput(MOUSEEVENTF_LEFTUP)});
+    Send({MouseInput(MOUSEEVENTF_LEFTUP, to)});
 }
 
 bool Click(HWND window) {

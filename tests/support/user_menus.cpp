@@ -64,8 +64,6 @@ unsigned IconOf(HWND picture) {
     return 0;
 }
 
-bool IsButton(HWND window) { return ClassOf(window) == "Button"; }
-
 /// Fills the box from the controls of a dialog. Returns false when it is not a message box: one
 /// has no controls but buttons, at most one icon and one text.
 bool ReadBox(HWND dialog, Box* box) {
@@ -73,8 +71,10 @@ bool ReadBox(HWND dialog, Box* box) {
     for (HWND child : ChildrenOf(dialog)) {
         if (!IsWindowVisible(child)) continue;
         const LONG style = GetWindowLongA(child, GWL_STYLE);
-        if (IsButton(child)) {
+        if (ClassOf(child) == "Button") {
             box->buttons.push_back(GetDlgCtrlID(child));
+            if ((style & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
+                box->default_button = GetDlgCtrlID(child);
         } else if (ClassOf(child) != "Static") {
             return false;
         } else if ((style & SS_TYPEMASK) == SS_ICON) {
@@ -90,7 +90,6 @@ bool ReadBox(HWND dialog, Box* box) {
     });
     box->window = dialog;
     box->title = TextOf(dialog);
-    box->default_button = LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0));
     return true;
 }
 
