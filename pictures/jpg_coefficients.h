@@ -22,6 +22,12 @@ struct KeptFrequencies {
     int stride = kBlockSize;    ///< numbers per block
     std::array<std::uint8_t, kPositions> slot = {};  ///< where each position goes in its block
 
+    /// True when the coefficient at a position of the file's order is one of those needed.
+    bool IsKept(int position) const {
+        const int place = kZigzag[static_cast<std::size_t>(position)];
+        return place / 8 < down && place % 8 < across;
+    }
+
     /// The frequencies 0..across-1 and 0..down-1 (both 1 to 8).
     static KeptFrequencies Of(int across, int down) {
         KeptFrequencies kept;
@@ -33,11 +39,10 @@ struct KeptFrequencies {
         kept.stride = spare + 1;
         kept.slot.fill(static_cast<std::uint8_t>(spare));
         for (int k = 0; k < kBlockSize; ++k) {
-            const int row = kZigzag[static_cast<std::size_t>(k)] / 8;
-            const int column = kZigzag[static_cast<std::size_t>(k)] % 8;
-            if (row >= down || column >= across) continue;
+            if (!kept.IsKept(k)) continue;
+            const int place = kZigzag[static_cast<std::size_t>(k)];
             kept.slot[static_cast<std::size_t>(k)] =
-                static_cast<std::uint8_t>(row * across + column);
+                static_cast<std::uint8_t>(place / 8 * across + place % 8);
             kept.last = k;
         }
         return kept;

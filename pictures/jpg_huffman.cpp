@@ -99,7 +99,7 @@ unsigned HuffmanTable::LongSymbol(unsigned window) const {
                           offset_[static_cast<std::size_t>(length)];
         return static_cast<unsigned>(length) << 8 | symbols_[static_cast<std::size_t>(index & 255)];
     }
-    return kLongestCode << 8;
+    return (kLongestCode + 1) << 8;
 }
 
 }  // namespace vistrel
