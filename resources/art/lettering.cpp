@@ -54,8 +54,7 @@ void AddSlabs(std::vector<Line>& lines) {
 
 // Pairs whose slopes leave a gap between them.
 double Kerning(char first, char second) {
-    static const char* const kClose[] = {"Yo", "Yu", "Ye", "To", "Tr", "Ty", "Wa", "We", "Vi",
-                                         "Ve", "wa", "ay", "AV", "AW", "LT", "rr", "ry", "f "};
+    static const char* const kClose[] = {"Yo", "Yu", "Ye", "To", "Tr", "Ty", "Wa", "We",                                          "Ve", "wa", "ay", "AV", "AW", "LT", "rr", "ry", "f "};
     for (const char* pair : kClose) {
         if (pair[0] == first && pair[1] == second) return pair[0] < 'a' ? -1.5 : -.5;
     }

@@ -3,6 +3,7 @@
 
 #include "pictures/quantize.h"
 #include "pictures/resize.h"
+#include "resources/art/kestrel.h"
 #include "resources/art/lettering.h"
 #include "resources/art/noise.h"
 #include "resources/art/pictures.h"
@@ -58,41 +59,18 @@ void PaintSea(Painting& painting) {
     }
 }
 
-// Two wings and a body, as seen from afar.
-void PaintKestrel(Painting& painting, double x, double y, double size) {
-    const Shape wings = Common(Union(Polygon(Curve({{x - 5 * size, y - 2.2 * size},
-                                                    {x - 2.4 * size, y - 1.9 * size},
-                                                    {x, y},
-                                                    {x - .2 * size, y + .9 * size},
-                                                    {x - 2.2 * size, y - .7 * size},
-                                                    {x - 5 * size, y - 2.2 * size}})),
-                                     Polygon(Curve({{x + 5 * size, y - 2.6 * size},
-                                                    {x + 2.4 * size, y - 2 * size},
-                                                    {x, y},
-                                                    {x + .2 * size, y + .9 * size},
-                                                    {x + 2.2 * size, y - .8 * size},
-                                                    {x + 5 * size, y - 2.6 * size}}))),
-                               Box(0, 0, kWidth, kHeight));
-    const Shape body = Polygon({{x - .5 * size, y - .4 * size},
-                                {x + .4 * size, y - .6 * size},
-                                {x + .3 * size, y + .9 * size},
-                                {x + .9 * size, y + 2.6 * size},
-                                {x - .1 * size, y + 2.4 * size}});
-    painting.Fill(Union(wings, body), Hex(0x1A1440));
-}
-
 }  // namespace
 
 Pixels SplashPicture() {
     Painting painting(kWidth, kHeight, kWidth * 3, kHeight * 3);
     PaintSky(painting);
     PaintSea(painting);
-    PaintKestrel(painting, 64, 70, 5.2);
-    const Hand hand{1.5, 1.4, 1.6, .55, false, 0};
-    Letter(painting, WriteFrom(136, 104, 62, "Vistrel", hand),
+    painting.Fill(Kestrel(66, 66, 6.5), Hex(0x1A1440));
+    const Hand hand{1.45, 1.4, 1.2, .55, false, 0};
+    Letter(painting, WriteFrom(138, 100, 57, "Vistrel", hand),
            Vertical({{40, Hex(0xFFFFFF)}, {112, Hex(0xFFE8B8)}}), 3, Hex(0x140C34));
-    const Hand small{.9, 0, 1.6, 1, false, 0};
-    Letter(painting, WriteFrom(150, 130, 10.5, "Logo sets for startup and shutdown", small),
+    const Hand small{.9, 0, 1.4, 1, false, 0};
+    Letter(painting, WriteFrom(146, 126, 9.6, "Logo sets for startup and shutdown", small),
            Plain(Hex(0xFFF4E0)), 1, Hex(0x40204C));
     // A fine bevel closes the picture, since the splash screen has no border of its own.
     painting.Fill(Box(0, 0, kWidth, 1), Hex(0xFFFFFF), .5);

@@ -1,0 +1,93 @@
+// Paints the sample sets, the screens of a fresh machine and some pictures into a folder.
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+#include "pictures/bmp_writer.h"
+#include "pictures/resize.h"
+#include "samples/gif_writer.h"
+#include "samples/jpg_writer.h"
+#include "samples/scene.h"
+#include "samples/screen_file.h"
+
+using namespace vistrel;
+using namespace vistrel::samples;
+
+namespace {
+
+struct Set {
+    const char* name;
+    Scene scene;
+    const MovingBar* bar;  // of the startup screen, or a null pointer
+};
+
+std::vector<Tint> Wave(const Tint& rest, const Tint& crest) {
+    std::vector<Tint> colors;
+    for (int i = 0; i < 20; ++i)
+        colors.push_back(Mix(rest, crest, i < 14 ? i * i / 169. : (19 - i) / 6.));
+    return colors;
+}
+
+const MovingBar kStarlight{384, 7, Wave(Hex(0x0A1222), Hex(0xC8DCFF))};
+const MovingBar kTraffic{304, 4, Wave(Hex(0x100C18), Hex(0xFFB050))};
+
+const Set kMultiLogo[] = {
+    {"Night Sky", NightSky, &kStarlight},   {"Green Hills", GreenHills, nullptr},
+    {"Typewriter", Typewriter, nullptr},    {"Weave", Weave, nullptr},
+    {"Sunny Day", SunnyDay, nullptr},       {"Deep Sea", DeepSea, nullptr},
+    {"City Lights", CityLights, &kTraffic},
+};
+const Set kSingleLogo[] = {
+    {"Sunrise.SLS", Sunrise, nullptr},
+    {"Circuit.SLS", Circuit, nullptr},
+    {"Marbles.SLS", Marbles, nullptr},
+};
+
+void Write(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
+    std::filesystem::create_directories(path.parent_path());
+    if (WriteWholeFile(path.string(), bytes)) return;
+    std::fprintf(stderr, "cannot write %s\n", path.string().c_str());
+    std::exit(1);
+}
+
+// Painted four times as fine across and twice as fine down as the screen's pixels.
+void WriteScreen(const std::filesystem::path& path, Scene scene, Screen screen,
+                 const MovingBar* bar = nullptr) {
+    Painting painting(kWidth, kHeight, 1280, 800);
+    scene(painting, screen);
+    Write(path, bar ? MovingScreen(painting, *bar) : StillScreen(painting));
+}
+
+void WriteTrio(const std::filesystem::path& folder, const Set& set) {
+    WriteScreen(folder / "LOGO.SYS", set.scene, Screen::Startup, set.bar);
+    WriteScreen(folder / "LOGOW.SYS", set.scene, Screen::Wait);
+    WriteScreen(folder / "LOGOS.SYS", set.scene, Screen::Shutdown);
+}
+
+RgbPicture Painted(void (*scene)(Painting&), int width, int height) {
+    Painting painting(width, height, width * 2, height * 2);
+    scene(painting);
+    return Resize(painting.Picture(), width, height);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    if (count != 2) {
+        std::fprintf(stderr, "draw_samples FOLDER\n");
+        return 1;
+    }
+    const std::filesystem::path folder = arguments[1];
+    for (const Set& set : kMultiLogo) WriteTrio(folder / "sets" / set.name, set);
+    for (const Set& set : kSingleLogo) {
+        WriteScreen(folder / "sets" / set.name / "LOGO.SYS", set.scene, Screen::Startup);
+    }
+    WriteScreen(folder / "sets" / "LOGOW.SYS", Shared, Screen::Wait);
+    WriteScreen(folder / "sets" / "LOGOS.SYS", Shared, Screen::Shutdown);
+    WriteTrio(folder / "installed", {"", CompassRose, nullptr});
+    Write(folder / "pictures" / "Balloons.bmp", TrueColorBitmap(Painted(Balloons, 800, 600)));
+    Write(folder / "pictures" / "Tulips.bmp", IndexedBitmap(Painted(Tulips, 320, 400)));
+    Write(folder / "pictures" / "Stained Glass.gif", GifFile(Painted(StainedGlass, 480, 360)));
+    Write(folder / "pictures" / "Lighthouse.jpg", JpgFile(Painted(Lighthouse, 640, 480)));
+    return 0;
+}
