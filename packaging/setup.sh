@@ -1,0 +1,59 @@
+# Sourced by ./run, ./test and ./package: what a fresh Debian machine needs, and building.
+# The caller has changed to the root of the tree.
+
+build_packages="cmake ninja-build g++ g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 python3"
+wine_packages="wine wine64 fonts-wine fonts-liberation xvfb util-linux"
+test_packages="googletest libgtest-dev libgmock-dev libjpeg62-turbo-dev libgif-dev libbenchmark-dev"
+fuzz_packages="clang"
+installer_packages="nsis zip"
+
+# One line a step.
+say() { echo "--- $*"; }
+
+fail() {
+    echo "$(basename "$0"): $*" >&2
+    exit 1
+}
+
+# apt COMMAND...: quietly, without questions; waits for another apt to finish.
+apt() {
+    local as_root=()
+    if [ "$(id -u)" != 0 ]; then
+        command -v sudo >/dev/null || fail "needs root or sudo to install packages: $missing"
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get -qq -o DPkg::Lock::Timeout=600 "$@" >build/apt.log 2>&1 </dev/null
+}
+
+# need_packages PACKAGE...: installs those that the machine lacks.
+need_packages() {
+    local package
+    missing=
+    for package; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            missing+=" $package"
+    done
+    [ -n "$missing" ] || return 0
+    say "Installing$missing"
+    mkdir -p build
+    # shellcheck disable=SC2086
+    apt install --no-install-recommends -y $missing && return 0
+    # The lists of packages may be absent or old.
+    # shellcheck disable=SC2086
+    apt update && apt install --no-install-recommends -y $missing ||
+        fail "cannot install$missing: $(grep '^E:' build/apt.log | tail -n 1)"
+}
+
+# build PRESET [TARGET...]: configures and builds; shows the compiler's words only when it fails.
+build() {
+    local preset=$1 log=build/$1.log
+    shift
+    say "Building $preset${*:+: $*}"
+    mkdir -p build
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${*:+--target "$@"}; } \
+        >"$log" 2>&1; then
+        grep -A 20 -E 'FAILED|error|Error' "$log" | head -n 60
+        fail "cannot build $preset; all of the output is in $log"
+    fi
+}

@@ -1,0 +1,42 @@
+#!/usr/bin/python3
+"""Sums up the last run of ctest in some build folders: "N passed, N failed".
+
+usage: count_tests.py BUILD_FOLDER...
+Counts the single tests of programs that hold many, and one for each other test. Returns 1 when a
+test failed.
+"""
+import os
+import re
+import sys
+
+
+def count(log):
+    """Passed and failed tests in the text of ctest's LastTest.log."""
+    passed = failed = 0
+    for block in re.split(r'^\d+/\d+ Testing: ', log, flags=re.M)[1:]:
+        good = re.findall(r'^\[  PASSED  \] (\d+) tests?\.$', block, re.M)
+        bad = re.findall(r'^\[  FAILED  \] (\d+) tests?, listed below:$', block, re.M)
+        block_passed = sum(map(int, good))
+        block_failed = sum(map(int, bad))
+        if re.search(r'^Test Passed\.$', block, re.M):
+            block_passed = block_passed or 1
+        else:
+            # A program that ended too early failed although none of its tests says so.
+            block_failed = block_failed or 1
+        passed += block_passed
+        failed += block_failed
+    return passed, failed
+
+
+def main():
+    passed = failed = 0
+    for folder in sys.argv[1:]:
+        with open(os.path.join(folder, 'Testing/Temporary/LastTest.log'), errors='replace') as log:
+            more_passed, more_failed = count(log.read())
+        passed += more_passed
+        failed += more_failed
+    print('%d passed, %d failed' % (passed, failed))
+    return 1 if failed else 0
+
+
+sys.exit(main())
