@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "pictures/quantize_alternatives.h"
 #include "pictures/quantize_blur.h"
 
 namespace vistrel {
@@ -28,9 +29,6 @@ class Descent {
     void RoundColors();
 
  private:
-    int BetterColor(int own, const Point& field, std::uint32_t squared,
-                    const Neighbors& neighbors) const;
-
     const std::uint8_t* const rgb_;
     const int width_;
     const int height_;
@@ -50,45 +48,13 @@ void Descent::FillField() {
     });
 }
 
-/// Changing a pixel's colour by d changes the sum by c * (|d|^2 + 2 d * field). That is negative
-/// only for colours less than twice as far away as the field is long.
-int Descent::BetterColor(int own, const Point& field, std::uint32_t squared,
-                         const Neighbors& neighbors) const {
-    const Point& from = palette_.colors[own];
-    int best = own;
-    std::int32_t least = 0;
-    for (int k = 0; k < neighbors.count; ++k) {
-        if (static_cast<std::uint32_t>(neighbors.squared[k]) / 4 >= squared) break;
-        const Point& to = palette_.colors[neighbors.color[k]];
-        const std::int32_t product =
-            (to.x - from.x) * field.x + (to.y - from.y) * field.y + (to.z - from.z) * field.z;
-        const std::int32_t change = neighbors.squared[k] + 2 * product;
-        if (change < least) {
-            least = change;
-            best = neighbors.color[k];
-        }
-    }
-    return best;
-}
-
 void Descent::ChooseIndices() {
-    const NeighborTable neighbors(palette_);
-    std::array<std::uint32_t, kMostColors> harmless{};
-    for (int i = 0; i < palette_.size; ++i) {
-        const Neighbors& list = neighbors.Of(i);
-        harmless[i] =
-            list.count == 0 ? UINT32_MAX : static_cast<std::uint32_t>(list.squared[0]) / 4;
-    }
+    const Alternatives alternatives(palette_);
     std::uint8_t* index = indices_;
     for (int y = 0; y < height_; ++y) {
         const Point* const row = field_.Row(y);
         for (int x = 0; x < width_; ++x, ++index) {
-            const Point field = row[x];
-            const std::uint32_t squared = static_cast<std::uint32_t>(field.x * field.x) +
-                                          static_cast<std::uint32_t>(field.y * field.y) +
-                                          static_cast<std::uint32_t>(field.z * field.z);
-            if (squared <= harmless[*index]) continue;
-            const int better = BetterColor(*index, field, squared, neighbors.Of(*index));
+            const int better = alternatives.Better(*index, row[x]);
             if (better == *index) continue;
             field_.Add(x, y, palette_.colors[better] - palette_.colors[*index]);
             *index = static_cast<std::uint8_t>(better);

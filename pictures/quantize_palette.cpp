@@ -6,25 +6,62 @@
 
 namespace vistrel {
 
+namespace {
+
+/// Adds a colour to a list that is kept in order and is cut to its greatest length.
+void Insert(Neighbors& list, std::int32_t squared, std::uint8_t color) {
+    int place = list.count;
+    if (place == Neighbors::kMost) {
+        if (squared >= list.squared[place - 1]) return;
+        --place;
+    } else {
+        ++list.count;
+    }
+    for (; place > 0 && squared < list.squared[place - 1]; --place) {
+        list.squared[place] = list.squared[place - 1];
+        list.color[place] = list.color[place - 1];
+    }
+    list.squared[place] = squared;
+    list.color[place] = color;
+}
+
+}  // namespace
+
 NeighborTable::NeighborTable(const Palette& palette) : table_(palette.size) {
-    for (int i = 0; i < palette.size; ++i) {
-        Neighbors& list = table_[i];
-        for (int j = 0; j < palette.size; ++j) {
-            if (j == i) continue;
-            const std::int32_t squared = SquaredDistance(palette.colors[i], palette.colors[j]);
-            int place = list.count;
-            if (place == Neighbors::kMost) {
-                if (squared >= list.squared[place - 1]) continue;
-                --place;
-            } else {
-                ++list.count;
+    // In the order of x, the search goes outwards from an entry and ends where x alone is too far.
+    std::array<std::uint8_t, kMostColors> order;
+    for (int i = 0; i < palette.size; ++i) order[i] = static_cast<std::uint8_t>(i);
+    std::sort(order.begin(), order.begin() + palette.size, [&](std::uint8_t a, std::uint8_t b) {
+        const std::int16_t x = palette.colors[a].x;
+        const std::int16_t y = palette.colors[b].x;
+        return x != y ? x < y : a < b;
+    });
+    for (int place = 0; place < palette.size; ++place) {
+        const Point& from = palette.colors[order[place]];
+        Neighbors& list = table_[order[place]];
+        const auto visit = [&](int at) {
+            const Point& to = palette.colors[order[at]];
+            const std::int32_t distance = to.x - from.x;
+            if (list.count == Neighbors::kMost &&
+                distance * distance >= list.squared[Neighbors::kMost - 1]) {
+                return false;
             }
-            for (; place > 0 && squared < list.squared[place - 1]; --place) {
-                list.squared[place] = list.squared[place - 1];
-                list.color[place] = list.color[place - 1];
+            Insert(list, SquaredDistance(from, to), order[at]);
+            return true;
+        };
+        int below = place - 1;
+        int above = place + 1;
+        bool more = true;
+        while (more) {
+            more = false;
+            if (below >= 0 && visit(below)) {
+                --below;
+                more = true;
             }
-            list.squared[place] = squared;
-            list.color[place] = static_cast<std::uint8_t>(j);
+            if (above < palette.size && visit(above)) {
+                ++above;
+                more = true;
+            }
         }
     }
 }

@@ -18,7 +18,7 @@ struct Palette {
 
 /// The nearest other colours of one palette entry, nearest first.
 struct Neighbors {
-    static constexpr int kMost = 16;
+    static constexpr int kMost = 8;
     int count = 0;
     std::array<std::int32_t, kMost> squared{};  ///< squared distances from the entry
     std::array<std::uint8_t, kMost> color{};
@@ -30,6 +30,7 @@ class NeighborTable {
     explicit NeighborTable(const Palette& palette);
 
     const Neighbors& Of(int color) const { return table_[color]; }
+    int size() const { return static_cast<int>(table_.size()); }
 
     /// The palette entry nearest to `point` among `start` and its neighbours. `start` itself wins a
     /// tie, then the neighbour that is nearer to it.

@@ -49,9 +49,9 @@ WorkingSpace::WorkingSpace(const DistanceWeights& weights) {
     }
     for (int level = 0; level < 256; ++level) {
         for (int channel = 0; channel < 3; ++channel) {
-            parts_[channel][level] = {Times(matrix_[0][channel], level),
-                                      Times(matrix_[1][channel], level),
-                                      Times(matrix_[2][channel], level)};
+            parts_[channel][level] = std::bit_cast<std::uint64_t>(
+                Point{Times(matrix_[0][channel], level), Times(matrix_[1][channel], level),
+                      Times(matrix_[2][channel], level), 0});
         }
     }
 }

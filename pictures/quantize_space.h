@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 
 namespace vistrel {
@@ -15,9 +16,12 @@ struct alignas(8) Point {
     std::int16_t w = 0;
 };
 
+/// The difference of two points whose coordinates are not negative, in one subtraction: with the
+/// sign bits set in `a` nothing is borrowed from one coordinate to the next.
 inline Point operator-(const Point& a, const Point& b) {
-    return {static_cast<std::int16_t>(a.x - b.x), static_cast<std::int16_t>(a.y - b.y),
-            static_cast<std::int16_t>(a.z - b.z), 0};
+    constexpr std::uint64_t kSigns = 0x8000800080008000u;
+    const std::uint64_t biased = std::bit_cast<std::uint64_t>(a) | kSigns;
+    return std::bit_cast<Point>((biased - std::bit_cast<std::uint64_t>(b)) ^ kSigns);
 }
 
 inline std::int32_t SquaredLength(std::int32_t x, std::int32_t y, std::int32_t z) {
@@ -51,11 +55,8 @@ class WorkingSpace {
     explicit WorkingSpace(const DistanceWeights& weights);
 
     Point FromRgb(int red, int green, int blue) const {
-        const Part& r = parts_[0][red];
-        const Part& g = parts_[1][green];
-        const Part& b = parts_[2][blue];
-        return {static_cast<std::int16_t>(r.x + g.x + b.x), static_cast<std::int16_t>(g.y + b.y),
-                b.z, 0};
+        // No part and no sum is negative: four 16-bit sums can be had by one addition.
+        return std::bit_cast<Point>(parts_[0][red] + parts_[1][green] + parts_[2][blue]);
     }
     Point FromRgb(const std::uint8_t* rgb) const { return FromRgb(rgb[0], rgb[1], rgb[2]); }
 
@@ -63,11 +64,9 @@ class WorkingSpace {
     Rgb ToRgb(const Point& point) const;
 
  private:
-    struct Part {
-        std::int16_t x, y, z;
-    };
     std::array<std::array<std::int32_t, 3>, 3> matrix_{};  ///< 16 fraction bits, upper triangle
-    std::array<std::array<Part, 256>, 3> parts_;           ///< what each channel's value adds
+    /// What each value of each channel adds: points as machine words.
+    std::array<std::array<std::uint64_t, 256>, 3> parts_{};
 };
 
 }  // namespace vistrel
