@@ -1,0 +1,9 @@
+// Any bytes as a bitmap.
+#include "pictures/bmp_reader.h"
+#include "tests/pictures/fuzz/harmless.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto picture = vistrel::ReadBmp({data, size});
+    if (picture) vistrel::fuzz::Demand(*picture);
+    return 0;
+}
