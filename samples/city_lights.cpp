@@ -43,14 +43,14 @@ void River(Painting& painting) {
         const double shift = (Clouds(x / 26, y / 3.2, 3, 91) - .5) * (6 + depth * .35);
         Tint sum;
         for (int i = -3; i <= 3; ++i) {  // smeared upright, as wet streets and rivers do
-            const double mirrored = kQuay - 6 - depth * 1.9 + i * (2 + depth * .1);
+            const double mirrored = kQuay - 4 - depth * 2.9 + i * (1.6 + depth * .08);
             const int column =
                 std::clamp(int((x + shift) / kWidth * town.width), 0, town.width - 1);
             const int row = std::clamp(int(mirrored / kHeight * town.height), 0, town.height - 1);
             const std::uint8_t* pixel = &town.pixels[(std::size_t(row) * town.width + column) * 3];
             sum = sum + Tint{double(pixel[0]), double(pixel[1]), double(pixel[2])} * (1 / 7.);
         }
-        return sum * (.72 - depth * .003) + Hex(0x040814);
+        return sum * (1.02 - depth * .003) + Hex(0x040814);
     });
     painting.Fill(Box(0, kQuay - 3, kWidth, kQuay + 1), Hex(0x0A0C18));
     for (double x = 18; x < kWidth; x += 54) {
@@ -80,8 +80,8 @@ void CityLights(Painting& painting, Screen screen) {
                             {372, Mix(Hex(0xF08860), Hex(0x382048), dark)}}));
     Stars(painting, screen == Screen::Shutdown ? 160 : 70, 190, 92);
     if (screen == Screen::Shutdown) {
-        painting.Glow(520, 84, 110, Hex(0x303848));
-        painting.Fill(Disc(520, 84, 30), Hex(0xF4F0DC));
+        painting.Glow(562, 74, 110, Hex(0x303848));
+        painting.Fill(Disc(562, 74, 28), Hex(0xF4F0DC));
     }
     Houses(painting, 90, 205, Mix(Hex(0x382050), Hex(0x0C0A1C), dark), lit * 7 / 10, 3.6, 93);
     Houses(painting, 46, 140, Mix(Hex(0x1C1434), Hex(0x06060F), dark), lit, 5.2, 94);

@@ -149,7 +149,7 @@ void DeepSea(Painting& painting, Screen screen) {
                  Hex(0xA8E0E8), Hex(0x4898B8), 1);
         }
         Fish(painting, 470, 322, 52, Hex(0xFF9838), Hex(0xFFF0E0), -1);
-        Bubbles(painting, 396, 300, 9, 58);
+        Bubbles(painting, 398, 296, 5, 58);
         Letter(painting, WriteAround(310, 156, 78, "Deep Sea", kTitle),
                Vertical({{80, Hex(0xFFFFFF)}, {160, Hex(0xC0F8F0)}}), 4, Hex(0x043050));
     } else if (screen == Screen::Wait) {

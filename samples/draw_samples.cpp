@@ -4,7 +4,6 @@
 #include <string>
 
 #include "pictures/bmp_writer.h"
-#include "pictures/resize.h"
 #include "samples/gif_writer.h"
 #include "samples/jpg_writer.h"
 #include "samples/scene.h"
@@ -50,10 +49,10 @@ void Write(const std::filesystem::path& path, const std::vector<std::uint8_t>& b
     std::exit(1);
 }
 
-// Painted four times as fine across and twice as fine down as the screen's pixels.
+// Painted twice as fine as the screen's pixels, for the scaling to work on.
 void WriteScreen(const std::filesystem::path& path, Scene scene, Screen screen,
                  const MovingBar* bar = nullptr) {
-    Painting painting(kWidth, kHeight, 1280, 800);
+    Painting painting(kWidth, kHeight, 640, 800);
     scene(painting, screen);
     Write(path, bar ? MovingScreen(painting, *bar) : StillScreen(painting));
 }
@@ -64,10 +63,11 @@ void WriteTrio(const std::filesystem::path& folder, const Set& set) {
     WriteScreen(folder / "LOGOS.SYS", set.scene, Screen::Shutdown);
 }
 
-RgbPicture Painted(void (*scene)(Painting&), int width, int height) {
-    Painting painting(width, height, width * 2, height * 2);
+RgbPicture Painted(void (*scene)(Painting&), double width, double height, int pixelWidth,
+                   int pixelHeight) {
+    Painting painting(width, height, pixelWidth, pixelHeight);
     scene(painting);
-    return Resize(painting.Picture(), width, height);
+    return painting.Picture();
 }
 
 }  // namespace
@@ -85,9 +85,12 @@ int main(int count, char** arguments) {
     WriteScreen(folder / "sets" / "LOGOW.SYS", Shared, Screen::Wait);
     WriteScreen(folder / "sets" / "LOGOS.SYS", Shared, Screen::Shutdown);
     WriteTrio(folder / "installed", {"", CompassRose, nullptr});
-    Write(folder / "pictures" / "Balloons.bmp", TrueColorBitmap(Painted(Balloons, 800, 600)));
-    Write(folder / "pictures" / "Tulips.bmp", IndexedBitmap(Painted(Tulips, 320, 400)));
-    Write(folder / "pictures" / "Stained Glass.gif", GifFile(Painted(StainedGlass, 480, 360)));
-    Write(folder / "pictures" / "Lighthouse.jpg", JpgFile(Painted(Lighthouse, 640, 480)));
+    Write(folder / "pictures" / "Balloons.bmp",
+          TrueColorBitmap(Painted(Balloons, 800, 600, 800, 600)));
+    Write(folder / "pictures" / "Tulips.bmp",
+          IndexedBitmap(Painted(Tulips, kWidth, kHeight, 320, 400)));
+    Write(folder / "pictures" / "Stained Glass.gif",
+          GifFile(Painted(StainedGlass, 480, 360, 480, 360)));
+    Write(folder / "pictures" / "Lighthouse.jpg", JpgFile(Painted(Lighthouse, 640, 480, 640, 480)));
     return 0;
 }

@@ -6,7 +6,7 @@
 namespace vistrel::samples {
 namespace {
 
-const Hand kTitle{1.7, 0, 1.8, 1, false, 0};
+const Hand kTitle{1.7, 0, 1.6, 1, false, 0};
 const Hand kText{1.3, 0, 1.8, 1, false, 0};
 
 // The tints of one time of the day.
@@ -71,7 +71,7 @@ void Road(Painting& painting, const Light& light) {
 void GreenHills(Painting& painting, Screen screen) {
     const Light light = LightOf(screen);
     painting.Fill(Vertical({{0, light.skyTop}, {290, light.skyBottom}}));
-    const double sunX = 452, sunY = screen == Screen::Wait ? 236 : 138;
+    const double sunX = 520, sunY = screen == Screen::Wait ? 230 : 132;
     for (double radius : {150., 116., 86.})
         painting.Fill(Disc(sunX, sunY, radius), light.ring, .22);
     painting.Fill(Disc(sunX, sunY, 58), light.disc);
@@ -86,14 +86,14 @@ void GreenHills(Painting& painting, Screen screen) {
         }
     }
     if (screen == Screen::Startup) {
-        Letter(painting, WriteAround(250, 116, 62, "Green Hills", kTitle), Plain(light.letters), 0);
+        Letter(painting, WriteAround(216, 106, 50, "Green Hills", kTitle), Plain(light.letters), 0);
     } else if (screen == Screen::Wait) {
-        Letter(painting, WriteAround(320, 100, 52, "Just a moment", kTitle), Plain(light.letters),
+        Letter(painting, WriteAround(320, 104, 48, "Just a moment", kTitle), Plain(light.letters),
                3, light.under);
     } else {
-        Letter(painting, WriteAround(236, 100, 52, "Good night", kTitle), Plain(light.letters), 3,
+        Letter(painting, WriteAround(216, 104, 48, "Good night", kTitle), Plain(light.letters), 3,
                light.under);
-        Letter(painting, WriteAround(236, 150, 25, "You may switch off now", kText),
+        Letter(painting, WriteAround(216, 152, 23, "You may switch off now", kText),
                Plain(light.letters), 2, light.under);
     }
 }

@@ -71,7 +71,7 @@ void Marbles(Painting& painting, Screen) {
     Table(painting);
     for (const Marble& marble : kMarbles) Shadow(painting, marble);
     for (const Marble& marble : kMarbles) Glass(painting, marble);
-    Letter(painting, WriteAround(320, 110, 56, "Ready to play", kTitle),
+    Letter(painting, WriteAround(320, 108, 48, "Ready to play", kTitle),
            Vertical({{50, Hex(0xFFFBE8)}, {112, Hex(0xFFD890)}}), 4, Hex(0x1C0C00));
 }
 

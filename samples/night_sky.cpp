@@ -6,7 +6,7 @@
 namespace vistrel::samples {
 namespace {
 
-const Hand kThin{1, 0, 2.6, .7, false, 0};
+const Hand kThin{1.05, 0, 2, .7, false, 0};
 const Hand kText{1.15, 0, 1.8, 1, false, 0};
 
 // A pale band of far stars from the lower left to the upper right.
@@ -60,7 +60,7 @@ void Hut(Painting& painting, double x, double y) {
                            {x + 36, y - 22},
                            {x + 30, y - 24},
                            {x + 30, y}}),
-                  Hex(0x02040A));
+                  Hex(0x0C1220));
     painting.Glow(x + 4, y - 14, 90, Hex(0x402808));
     painting.Fill(Box(x - 3, y - 22, x + 11, y - 8), Hex(0xFFC860));
     painting.Fill(Box(x + 3, y - 22, x + 5, y - 8), Hex(0x201004));
@@ -77,11 +77,11 @@ void NightSky(Painting& painting, Screen screen) {
                             {430, Mix(Hex(0x6878A0), Hex(0x18244C), late)}}));
     MilkyWay(painting, screen == Screen::Shutdown ? 1.15 : .9);
     Stars(painting, 420, 430, 7);
-    if (screen == Screen::Startup) Crescent(painting, 508, 96, 44);
+    if (screen == Screen::Startup) Crescent(painting, 520, 92, 44);
     if (screen == Screen::Wait) FullMoon(painting, 320, 330, 66);
     Wood(painting);
     if (screen == Screen::Startup) {
-        Letter(painting, WriteAround(272, 236, 72, "Night Sky", kThin),
+        Letter(painting, WriteAround(262, 232, 60, "Night Sky", kThin),
                Vertical({{160, Hex(0xFFFFFF)}, {240, Hex(0xB8CCF8)}}), 3);
     } else if (screen == Screen::Wait) {
         Letter(painting, WriteAround(320, 150, 44, "Please wait", kThin), Plain(Hex(0xF0ECD8)), 3);

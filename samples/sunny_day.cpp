@@ -101,11 +101,11 @@ void Outlined(Painting& painting, double x, double y, double size, const std::st
 
 void SunnyDay(Painting& painting, Screen screen) {
     if (screen == Screen::Startup) {
-        Rays(painting, 320, 232, Hex(0xFFE468), Hex(0xFFF4A8), Hex(0xFFC048));
-        Sun(painting, 320, 232, 104, false);
+        Rays(painting, 320, 244, Hex(0xFFE468), Hex(0xFFF4A8), Hex(0xFFC048));
+        Sun(painting, 320, 244, 96, false);
         Sea(painting, 372, Hex(0x50D0D0), Hex(0x1080A8));
         Boat(painting, 520, 392);
-        Outlined(painting, 320, 76, 52, "Hello!", Hex(0xFFFFFF), Hex(0xE05820));
+        Outlined(painting, 320, 78, 50, "Hello!", Hex(0xFFFFFF), Hex(0xE05820));
     } else if (screen == Screen::Wait) {
         Rays(painting, 320, 250, Hex(0xA8E4E8), Hex(0xC4F0EC), Hex(0x68BCD8));
         Sun(painting, 320, 250, 104, false);
@@ -117,10 +117,10 @@ void SunnyDay(Painting& painting, Screen screen) {
         Outlined(painting, 320, 82, 44, "Just a minute", Hex(0xFFFFFF), Hex(0x2070A0));
     } else {
         Rays(painting, 320, 380, Hex(0xF89060), Hex(0xFFA870), Hex(0x9050A0));
-        Sun(painting, 320, 340, 104, true);
+        Sun(painting, 320, 318, 98, true);
         Sea(painting, 372, Hex(0x6868B8), Hex(0x282868));
         Outlined(painting, 320, 84, 46, "See you soon", Hex(0xFFFFFF), Hex(0x803070));
-        Letter(painting, WriteAround(320, 150, 25, "You may switch off now", kText),
+        Letter(painting, WriteAround(320, 142, 25, "You may switch off now", kText),
                Plain(Hex(0xFFFFFF)), 2, Hex(0x602060));
     }
 }

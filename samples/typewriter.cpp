@@ -6,7 +6,7 @@
 namespace vistrel::samples {
 namespace {
 
-const Hand kType{1.25, 0, 1.2, 1, true, 8.6};
+const Hand kType{1.35, 0, 1.2, 1, true, 10};
 const Hand kKey{1.5, 0, 1.2, 1, false, 0};
 
 void Desk(Painting& painting) {
@@ -29,7 +29,7 @@ void Paper(Painting& painting) {
 // Each letter sits a little off its place and is a little too dark or too light.
 void TypeLine(Painting& painting, double y, const std::string& text, const Tint& ink,
               unsigned seed) {
-    const std::vector<Shape> letters = WriteFrom(104, y, 30, text, kType);
+    const std::vector<Shape> letters = WriteFrom(100, y, 27, text, kType);
     Dice dice(seed);
     for (const Shape& letter : letters) {
         const double dx = dice.Roll(-.5, .5), dy = dice.Roll(-1, 1);
@@ -94,7 +94,7 @@ void Typewriter(Painting& painting, Screen screen) {
         TypeLine(painting, 152, "please.", black, 5);
         TypeLine(painting, 232, "Last lines...", red, 6);
     } else {
-        TypeLine(painting, 96, "     The end.", red, 7);
+        TypeLine(painting, 96, "    The end.", red, 7);
         TypeLine(painting, 176, "You may now", black, 8);
         TypeLine(painting, 232, "switch me off.", black, 9);
     }

@@ -12,6 +12,7 @@ namespace {
 
 using Line = std::vector<Point>;
 
+constexpr double kSlab = 1.3;  // how far a slab reaches to either side
 constexpr double kRadian = 3.14159265358979323846 / 180;
 
 std::vector<Line> LinesOf(const Skeleton& skeleton) {
@@ -46,15 +47,27 @@ void AddSlabs(std::vector<Line>& lines) {
              {std::pair(line.front(), line[1]), std::pair(line.back(), line[line.size() - 2])}) {
             const bool onLine = end.y == 0 || end.y == 6.5 || end.y == 10 || end.y == -3.2;
             if (!onLine || std::abs(next.x - end.x) > .6 * std::abs(next.y - end.y)) continue;
-            slabs.push_back({{end.x - 1.3, end.y}, {end.x + 1.3, end.y}});
+            slabs.push_back({{end.x - kSlab, end.y}, {end.x + kSlab, end.y}});
         }
     }
     lines.insert(lines.end(), slabs.begin(), slabs.end());
 }
 
+// A typewriter's wide letters are drawn together into the room that all letters have. Returns the
+// letter's width then.
+double Squeeze(std::vector<Line>& lines, double width, const Hand& hand) {
+    const double room = hand.pitch - hand.weight - 2 * kSlab - .2;
+    if (width <= room) return width;
+    for (Line& line : lines) {
+        for (Point& point : line) point.x *= room / width;
+    }
+    return room;
+}
+
 // Pairs whose slopes leave a gap between them.
 double Kerning(char first, char second) {
-    static const char* const kClose[] = {"Yo", "Yu", "Ye", "To", "Tr", "Ty", "Wa", "We",                                          "Ve", "wa", "ay", "AV", "AW", "LT", "rr", "ry", "f "};
+    static const char* const kClose[] = {"Yo", "Yu", "Ye", "To", "Tr", "Ty", "Wa", "We", "Ve",
+                                         "wa", "ay", "AV", "AW", "LT", "rr", "ry", "f "};
     for (const char* pair : kClose) {
         if (pair[0] == first && pair[1] == second) return pair[0] < 'a' ? -1.5 : -.5;
     }
@@ -101,10 +114,11 @@ std::vector<Shape> WriteFrom(double left, double baseline, double size, const st
     double x = hand.weight / 2;
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (const Skeleton* skeleton = SkeletonOf(text[i])) {
+            double width = skeleton->width;
             std::vector<Line> lines = LinesOf(*skeleton);
+            if (hand.pitch > 0) width = Squeeze(lines, width, hand);
             if (hand.slabs) AddSlabs(lines);
-            const double start =
-                hand.pitch > 0 ? x + (hand.pitch - hand.weight - skeleton->width) / 2 : x;
+            const double start = hand.pitch > 0 ? x + (hand.pitch - hand.weight - width) / 2 : x;
             for (Line& line : lines) {
                 for (Point& point : line) {
                     point = {left + (start + point.x + point.y * hand.slant / 10) * unit,

@@ -67,10 +67,10 @@ Pixels SplashPicture() {
     PaintSea(painting);
     painting.Fill(Kestrel(66, 66, 6.5), Hex(0x1A1440));
     const Hand hand{1.45, 1.4, 1.2, .55, false, 0};
-    Letter(painting, WriteFrom(138, 100, 57, "Vistrel", hand),
+    Letter(painting, WriteFrom(132, 99, 55, "Vistrel", hand),
            Vertical({{40, Hex(0xFFFFFF)}, {112, Hex(0xFFE8B8)}}), 3, Hex(0x140C34));
     const Hand small{.9, 0, 1.4, 1, false, 0};
-    Letter(painting, WriteFrom(146, 126, 9.6, "Logo sets for startup and shutdown", small),
+    Letter(painting, WriteFrom(143, 125, 9.6, "Logo sets for startup and shutdown", small),
            Plain(Hex(0xFFF4E0)), 1, Hex(0x40204C));
     // A fine bevel closes the picture, since the splash screen has no border of its own.
     painting.Fill(Box(0, 0, kWidth, 1), Hex(0xFFFFFF), .5);
