@@ -62,11 +62,15 @@ void BmpRows::Unpack(const std::uint8_t* row, std::uint8_t* rgb) const {
 // The leftmost pixel lies in the highest bits of the first byte.
 void BmpRows::UnpackIndices(const std::uint8_t* row, std::uint8_t* rgb) const {
     const int bits = header_.bitsPerPixel;
-    const int perByte = 8 / bits;
+    const int mask = (1 << bits) - 1;
+    int shift = 8;
     for (int x = 0; x < header_.width; ++x, rgb += 3) {
-        const int shift = 8 - bits * (x % perByte + 1);
-        const int index = row[x / perByte] >> shift & ((1 << bits) - 1);
-        std::copy_n(header_.palette[index].begin(), 3, rgb);
+        shift -= bits;
+        std::copy_n(header_.palette[*row >> shift & mask].begin(), 3, rgb);
+        if (shift == 0) {
+            shift = 8;
+            ++row;
+        }
     }
 }
 

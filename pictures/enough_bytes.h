@@ -6,8 +6,8 @@
 namespace vistrel {
 
 /// Pictures up to this size are decoded however little a file holds: a blank one may be a few
-/// bytes long, and this much memory (48 MB) does no harm.
-inline constexpr std::int64_t kDecodedAnyway = 16 * 1024 * 1024;
+/// bytes long, and this much memory (12 MB) does no harm.
+inline constexpr std::int64_t kDecodedAnyway = 4 * 1024 * 1024;
 
 /// False when the pixels of a large picture cannot be in `bytes` bytes of compressed data, even if
 /// each byte stood for `mostPixelsInAByte` pixels and only a tenth of the picture were there.

@@ -20,14 +20,13 @@ bool GifFrameWriter::Draw(std::span<const std::uint8_t> colors) {
 // Draws colour numbers that lie in one row.
 void GifFrameWriter::Put(std::span<const std::uint8_t> colors) {
     const int y = frame_.top + y_;
-    if (y >= screen_.height) return;
     const int left = frame_.left + x_;
-    const int right = std::min(left + static_cast<int>(colors.size()), screen_.width);
-    for (int x = left; x < right; ++x) {
-        const int color = colors[x - left];
-        if (color == frame_.transparent) continue;
-        const std::size_t pixel = std::size_t(y) * screen_.width + x;
-        std::copy_n(frame_.palette[color].begin(), 3, &screen_.pixels[pixel * 3]);
+    if (y >= screen_.height || left >= screen_.width) return;
+    const std::size_t room = screen_.width - left;
+    std::uint8_t* rgb = &screen_.pixels[3 * (std::size_t(y) * screen_.width + left)];
+    for (const std::uint8_t color : colors.first(std::min(colors.size(), room))) {
+        if (color != frame_.transparent) std::copy_n(frame_.palette[color].begin(), 3, rgb);
+        rgb += 3;
     }
 }
 
