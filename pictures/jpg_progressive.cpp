@@ -172,8 +172,11 @@ class AcRefinementReader : public AcReader {
                 endedBlocks_ = ReadEndedBlocks(bits, run);
                 break;
             }
-            const int at = PositionBehind(old, k, run);
-            if (at > k) bits = Correct(bits, old & Band(k, at - 1), block);
+            int at = k + run;
+            if ((old >> k & ((std::uint64_t{2} << run) - 1)) != 0) {
+                at = PositionBehind(old, k, run);
+                if (at > k) bits = Correct(bits, old & Band(k, at - 1), block);
+            }
             if (at <= last_ && value != 0) {
                 block[component_.kept.slot[static_cast<std::size_t>(at)]] =
                     static_cast<std::int16_t>(value);

@@ -1,6 +1,5 @@
 // Decodes JPEG files to a small size: of each block only the frequencies that the small picture can
 // show, each component scaled by itself from its own grid, and the colours made last.
-#include <memory>
 
 #include "pictures/exif_orientation.h"
 #include "pictures/jpg_color.h"
@@ -25,11 +24,13 @@ int FrequenciesFor(int frameSamples, int part, int whole, int target, int percen
     return static_cast<int>(std::clamp<std::int64_t>((wanted + each - 1) / each, 1, 8));
 }
 
-// A picture of half as many samples again as the target loses a tenth of a decibel. Progressive
-// files come with their low frequencies first, so that there more of them cost little, and none but
-// the constant terms costs next to nothing.
+// Half as many samples again as the target cost a tenth of a decibel of the final picture. A single
+// frequency, the mean of eight samples, is a poorer filter and needs some more. Progressive files
+// come with their low frequencies first, so that there more of them cost little, and none but the
+// constant terms costs next to nothing.
+constexpr int kPercent = 150, kProgressivePercent = 200, kSinglePercent = 160;
+
 KeptFrequencies FrequenciesOf(const JpgFrame& frame, const JpgComponent& component, Size target) {
-    constexpr int kPercent = 150, kProgressivePercent = 200, kConstantsPercent = 125;
     const auto across = [&](int percent) {
         return FrequenciesFor(frame.width, component.across, frame.maxAcross, target.width,
                               percent);
@@ -37,11 +38,23 @@ KeptFrequencies FrequenciesOf(const JpgFrame& frame, const JpgComponent& compone
     const auto down = [&](int percent) {
         return FrequenciesFor(frame.height, component.down, frame.maxDown, target.height, percent);
     };
-    if (!frame.progressive) return KeptFrequencies::Of(across(kPercent), down(kPercent));
-    if (across(kConstantsPercent) == 1 && down(kConstantsPercent) == 1) {
-        return KeptFrequencies::Of(1, 1);
-    }
-    return KeptFrequencies::Of(across(kProgressivePercent), down(kProgressivePercent));
+    const bool acrossMayBeSingle = across(kSinglePercent) == 1;
+    const bool downMayBeSingle = down(kSinglePercent) == 1;
+    if (acrossMayBeSingle && downMayBeSingle) return KeptFrequencies::Of(1, 1);
+    const int percent = frame.progressive ? kProgressivePercent : kPercent;
+    return KeptFrequencies::Of(acrossMayBeSingle ? 1 : std::max(across(percent), 2),
+                               downMayBeSingle ? 1 : std::max(down(percent), 2));
+}
+
+// What the samples of an axis hand over to their neighbours so that the picture becomes like the
+// whole one. A colour plane of half the samples is softened there by mixing neighbours 3 to 1,
+// which a small picture from its own samples would miss: 3/32 has the same effect on all but the
+// finest detail. And one sample for eight is their mean, which is a little soft: 1/24 makes good
+// for it.
+int SpreadOf(bool isHalf, int frequencies) {
+    constexpr int kOfHalf = 65536 * 3 / 32, kOfMean = -65536 / 24;
+    const int mixing = isHalf ? kOfHalf * frequencies * frequencies / 64 : 0;
+    return frequencies == 1 ? mixing + kOfMean : mixing;
 }
 
 // An axis of a component of which `frequencies` a block are kept: `part` / `whole` of the frame's
@@ -51,6 +64,7 @@ ScaleAxis AxisOf(int frameSamples, int part, int whole, int frequencies, int tar
     axis.extent65536 = (std::int64_t{frameSamples} * part * frequencies << 16) / (whole * 8);
     axis.samples = static_cast<int>((axis.extent65536 + 65535) >> 16);
     axis.target = target;
+    axis.spread65536 = SpreadOf(part * 2 == whole, frequencies);
     return axis;
 }
 
@@ -113,6 +127,19 @@ class ComponentScalers : public BlockRowTaker {
     std::vector<Channel> channels_;
 };
 
+// True when nothing is gained by scaling components one by one: a picture that becomes larger needs
+// all frequencies, and inks make colours by multiplying, which has to come before scaling.
+bool IsBetterReadWhole(const JpgFrame& frame, Size target) {
+    return frame.width < target.width || frame.height < target.height ||
+           frame.components.size() == 4;
+}
+
+std::optional<ScaledPicture> ReadWhole(FileBytes file, int width, int height) {
+    const std::optional<RgbPicture> whole = ReadJpg(file);
+    if (!whole) return std::nullopt;
+    return ScaledPicture{Resize(*whole, width, height), whole->width, whole->height};
+}
+
 RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers, Size stored) {
     const UprightPlace place(TurningOf(markers.orientation()), stored.width, stored.height);
     RgbPicture picture;
@@ -138,6 +165,7 @@ std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height
     // The target of the picture as it lies in the file.
     const bool isTurned = TurningOf(markers.orientation()).swapSides;
     const Size target = isTurned ? Size{height, width} : Size{width, height};
+    if (IsBetterReadWhole(frame, target)) return ReadWhole(file, width, height);
     std::vector<KeptFrequencies> kept;
     for (const JpgComponent& component : frame.components) {
         kept.push_back(FrequenciesOf(frame, component, target));

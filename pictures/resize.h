@@ -22,6 +22,9 @@ struct ScaleAxis {
     int samples = 0;               ///< number of source samples
     std::int64_t extent65536 = 0;  ///< how many of them the picture covers, times 65,536
     int target = 0;                ///< number of target samples
+    /// What each sample hands over to each of its two neighbours beforehand, times 65,536: above 0
+    /// the picture is softened by it, below 0 sharpened.
+    int spread65536 = 0;
 };
 
 /// Scales one plane of 16-bit samples (any range within -16,384..16,383) that is handed over row by

@@ -78,6 +78,23 @@ void AppendWeights(const std::vector<std::int32_t>& values, int shift,
     }
 }
 
+/// The weights of samples, from those of samples of which each has handed over `spread65536` /
+/// 65,536 of itself to each of its two neighbours. `first` is the number of the first weight's
+/// sample and moves with it; beyond the edges lie more of the samples at the edge.
+void SpreadWeights(int spread65536, int samples, int& first, std::vector<std::int32_t>& values) {
+    const std::vector<std::int32_t> old = values;
+    const int oldFirst = first;
+    const int oldEnd = first + static_cast<int>(old.size());
+    first = std::max(first - 1, 0);
+    values.assign(std::min(oldEnd + 1, samples) - first, 0);
+    for (int j = oldFirst; j < oldEnd; ++j) {
+        const std::int64_t share = std::int64_t{old[j - oldFirst]} * spread65536 >> 16;
+        values[j - first] += static_cast<std::int32_t>(old[j - oldFirst] - 2 * share);
+        values[std::max(j - 1, 0) - first] += static_cast<std::int32_t>(share);
+        values[std::min(j + 1, samples - 1) - first] += static_cast<std::int32_t>(share);
+    }
+}
+
 }  // namespace
 
 FilterAxis MakeFilterAxis(const ScaleAxis& axis) {
@@ -98,15 +115,17 @@ FilterAxis MakeFilterAxis(const ScaleAxis& axis) {
             (2 * std::int64_t{i} + 1) * axis.extent65536 / (2 * std::int64_t{axis.target});
         const std::int64_t from = (centre - reach + kOne / 2) >> 16;
         const std::int64_t to = (centre + reach + kOne / 2) >> 16;
-        const int first = static_cast<int>(std::clamp<std::int64_t>(from, 0, axis.samples - 1));
+        int first = static_cast<int>(std::clamp<std::int64_t>(from, 0, axis.samples - 1));
         const int end = static_cast<int>(std::clamp<std::int64_t>(to, first + 1, axis.samples));
         values.clear();
         for (int j = first; j < end; ++j) {
             const std::int64_t distance = std::int64_t{j} * kOne + kOne / 2 - centre;
             values.push_back(Kernel((distance * inverse) >> 30));
         }
-        filter.taps.push_back({first, end - first, filter.weights.size()});
-        filter.mostTaps = std::max(filter.mostTaps, end - first);
+        if (axis.spread65536) SpreadWeights(axis.spread65536, axis.samples, first, values);
+        const int count = static_cast<int>(values.size());
+        filter.taps.push_back({first, count, filter.weights.size()});
+        filter.mostTaps = std::max(filter.mostTaps, count);
         AppendWeights(values, filter.shift, filter.weights);
         filter.weights.resize((filter.weights.size() + kTapGroup - 1) / kTapGroup * kTapGroup);
     }
