@@ -23,15 +23,19 @@ std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile) {
     return static_cast<std::int16_t>(option);
 }
 
+std::string BootLogoOptionText(std::int16_t option) {
+    std::string text = option < 0 ? "" : " ";
+    text += std::to_string(option);
+    return text;
+}
+
 void KeepBootLogoOption(const std::string& bootConfigurationFile) {
     SetAttributes(bootConfigurationFile, kReadOnlyFile);
 }
 
 void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option) {
     SetAttributes(bootConfigurationFile, kNormalFile);
-    std::string text = option < 0 ? "" : " ";
-    text += std::to_string(option);
-    WriteProfileText(bootConfigurationFile, kSection, kKey, text);
+    WriteProfileText(bootConfigurationFile, kSection, kKey, BootLogoOptionText(option));
 }
 
 }  // namespace vistrel

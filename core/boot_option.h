@@ -13,8 +13,10 @@ std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile);
 /// system attributes, which is meant.
 void KeepBootLogoOption(const std::string& bootConfigurationFile);
 
-/// Takes the file's attributes off and writes the option, with a blank before a value that is not
-/// negative.
+/// The option as it is written: in decimal, with a blank before a number that is not negative.
+std::string BootLogoOptionText(std::int16_t option);
+
+/// Takes the file's attributes off and writes the option.
 void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option);
 
 }  // namespace vistrel

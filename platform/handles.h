@@ -8,6 +8,7 @@ struct HICON__;
 struct HMENU__;
 struct HFONT__;
 struct HBITMAP__;
+struct HBRUSH__;
 struct HINSTANCE__;
 struct _IMAGELIST;
 
@@ -19,6 +20,7 @@ using IconHandle = HICON__*;
 using MenuHandle = HMENU__*;
 using FontHandle = HFONT__*;
 using BitmapHandle = HBITMAP__*;
+using BrushHandle = HBRUSH__*;
 using InstanceHandle = HINSTANCE__*;
 using ImageListHandle = _IMAGELIST*;
 

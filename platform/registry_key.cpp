@@ -24,6 +24,8 @@ HKEY RootOf(Hive hive) {
     return HKEY_LOCAL_MACHINE;
 }
 
+bool IsNt() { return (GetVersion() & 0x80000000u) == 0; }
+
 constexpr RegistryStatus kStruckStatus = static_cast<RegistryStatus>(kStruckError);
 
 }  // namespace
@@ -58,7 +60,12 @@ void RegistryKey::Close() {
 RegistryStatus RegistryKey::Set(const std::string& name, std::uint32_t type, const void* bytes,
                                 std::uint32_t size) {
     if (fault::Strikes()) return kStruckStatus;
-    return RegSetValueExA(key_, name.c_str(), 0, type, static_cast<const BYTE*>(bytes), size);
+    // Windows 95 finds a text's end by its NUL, whatever the size. NT takes the size, but counts a
+    // NUL that stands right behind the end: there something else follows.
+    std::vector<BYTE> followed(static_cast<const BYTE*>(bytes),
+                               static_cast<const BYTE*>(bytes) + size);
+    followed.push_back(IsNt() ? 1 : 0);
+    return RegSetValueExA(key_, name.c_str(), 0, type, followed.data(), size);
 }
 
 RegistryStatus RegistryKey::Measure(const std::string& name, std::uint32_t& type,

@@ -31,7 +31,7 @@ class RegistryKey {
     RegistryStatus Create(Hive hive, const std::string& path);
     void Close();
 
-    /// Writes `bytes` as they are.
+    /// Writes `bytes` as they are. Windows 95 ends a text at its first NUL and adds one of its own.
     RegistryStatus Set(const std::string& name, std::uint32_t type, const void* bytes,
                        std::uint32_t size);
     /// Type and size in bytes of a value.

@@ -1,0 +1,127 @@
+// The first run: keeping the screens that are installed as a set of their own.
+#include <windows.h>
+
+#include "core/settings.h"
+#include "platform/fault.h"
+#include "tests/core/machine.h"
+
+namespace vistrel::test {
+namespace {
+
+class FirstRunTest : public Machine {
+ protected:
+    FirstRunTest() { PutInstalled(); }
+
+    /// The startup screen lies in the root of drive C, which no value names yet.
+    void PutInstalled() {
+        Put("C:\\LOGO.SYS", "old startup");
+        Put(windows + "LOGOW.SYS", "old wait");
+        Put(windows + "LOGOS.SYS", "old shutdown");
+    }
+    std::vector<std::string> Kept(const std::string& folder) const {
+        const std::string set = folder + "Original Logos\\";
+        return {Contents(set + "LOGO.SYS").value_or("-"), Contents(set + "LOGOW.SYS").value_or("-"),
+                Contents(set + "LOGOS.SYS").value_or("-")};
+    }
+    static void ExpectFlagsOn(const Settings& settings) {
+        EXPECT_EQ(settings.deleteInTheRecycleBin, 1);
+        EXPECT_EQ(settings.confirmLogosetDelete, 1);
+        EXPECT_EQ(settings.confirmLogoTypeChange, 1);
+        EXPECT_EQ(settings.showSplashScreen, 1);
+    }
+
+    const std::vector<std::string> kept_ = {"old startup", "old wait", "old shutdown"};
+};
+
+TEST_F(FirstRunTest, OnACleanMachineTheInstalledScreensBecomeASetInTheProgramFolder) {
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.logoPath, program);
+    EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
+    EXPECT_EQ(Kept(program), kept_);
+    ExpectFlagsOn(settings);
+    EXPECT_EQ(Contents("C:\\LOGO.SYS"), "old startup");
+}
+
+TEST_F(FirstRunTest, TheSetIsMadeInTheStoredLogoFolder) {
+    Store("LogoPath", TextValue(logos));
+    Store("ShowSplashScreen", TextValue("0"));
+    Store("ConfirmLogosetDelete", TextValue("7"));
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
+    EXPECT_EQ(Kept(logos), kept_);
+    ExpectFlagsOn(settings);
+}
+
+TEST_F(FirstRunTest, AFolderOfThatNameIsLeftAloneAndNoSetIsKnown) {
+    MakeFolders(program + "original logos\\");
+    Store("ShowSplashScreen", TextValue("0"));
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.defaultLogoSet, "");
+    EXPECT_EQ(NamesIn(program + "original logos\\"), std::vector<std::string>{});
+    ExpectFlagsOn(settings);
+}
+
+TEST_F(FirstRunTest, AScreenThatIsMissingIsNotCopied) {
+    RemoveTree(windows + "LOGOW.SYS");
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
+    EXPECT_EQ(Kept(program), (std::vector<std::string>{"old startup", "-", "old shutdown"}));
+}
+
+TEST_F(FirstRunTest, AFileOfThatNameLeavesNothingToCopyToButTheSetIsTheInstalledOne) {
+    Put(program + "Original Logos", "a file");
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
+    EXPECT_EQ(Contents(program + "Original Logos"), "a file");
+}
+
+TEST_F(FirstRunTest, HiddenAndReadOnlyScreensAreKeptToo) {
+    GiveAttributes("C:\\LOGO.SYS", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_READONLY);
+    LoadSettings(locations);
+    EXPECT_EQ(Kept(program), kept_);
+}
+
+TEST_F(FirstRunTest, AKnownSetMakesNoFirstRun) {
+    Store("DefaultLogoSet", TextValue("Blue"));
+    Store("ShowSplashScreen", TextValue("0"));
+    const Settings settings = LoadSettings(locations);
+    EXPECT_EQ(settings.defaultLogoSet, "Blue");
+    EXPECT_EQ(settings.showSplashScreen, 0);
+    EXPECT_EQ(NamesIn(program), std::vector<std::string>{});
+}
+
+TEST_F(FirstRunTest, AStepThatFailsIsPassedOver) {
+    Settings settings;
+    // Reading the values: 14 keys that do not open. Then the question for the folder, making it and
+    // three copies.
+    const int reading = 14;
+    WithEachOperationFailing(
+        [&] {
+            RemoveTree(program);
+            MakeFolders(program);
+        },
+        [&] { settings = LoadSettings(locations); },
+        [&](int failed) {
+            std::vector<std::string> expected = kept_;
+            if (failed == reading + 2) expected = {"-", "-", "-"};
+            if (failed > reading + 2) expected[failed - reading - 3] = "-";
+            EXPECT_EQ(Kept(program), expected);
+            EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
+            EXPECT_EQ(settings.logoPath, program);
+            ExpectFlagsOn(settings);
+        });
+}
+
+TEST_F(FirstRunTest, WithEverythingFailingTheDefaultsAreLeft) {
+    Store("LogoPath", TextValue(logos));
+    fault::FailFromOperation(1);
+    const Settings settings = LoadSettings(locations);
+    fault::Reset();
+    EXPECT_EQ(settings.logoPath, program);
+    EXPECT_EQ(settings.bootRoot, "C:\\");
+    ExpectFlagsOn(settings);
+    EXPECT_EQ(NamesIn(program), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace vistrel::test

@@ -1,0 +1,344 @@
+// The preferences: each value's default, reading and writing.
+#include "core/settings.h"
+
+#include <windows.h>
+
+#include "core/library.h"
+#include "platform/fault.h"
+#include "tests/core/machine.h"
+
+namespace vistrel::test {
+namespace {
+
+/// A numeric value and what its texts load as.
+struct NumberCase {
+    const char* name;
+    std::int16_t Settings::*field;
+    int missing;
+    int ofZero;
+    int largest;  ///< the largest number that is kept
+};
+
+constexpr NumberCase kNumbers[] = {
+    {"View", &Settings::view, 0, 0, 1},
+    {"Synchronize logos", &Settings::synchronizeLogos, 0, 0, 32767},
+    {"DefaultAction", &Settings::defaultAction, 0, 0, 2},
+    {"DeleteInTheRecycleBin", &Settings::deleteInTheRecycleBin, 1, 1, 32767},
+    {"ConfirmLogosetDelete", &Settings::confirmLogosetDelete, 1, 1, 32767},
+    {"ConfirmLogoTypeChange", &Settings::confirmLogoTypeChange, 1, 1, 32767},
+    {"ShowSplashScreen", &Settings::showSplashScreen, 1, 0, 32767},
+    {"ActionOnDoubleClick", &Settings::actionOnDoubleClick, 0, 0, 32767},
+};
+
+/// A text value that is read as it stands.
+struct TextCase {
+    const char* name;
+    std::string Settings::*field;
+};
+
+constexpr TextCase kTexts[] = {
+    {"SearchLogoPath", &Settings::searchLogoPath},
+    {"DefaultLogoSet", &Settings::defaultLogoSet},
+    {"CustomProgName", &Settings::customProgName},
+    {"CustomProgPath", &Settings::customProgPath},
+};
+
+/// All value names in the order in which they are saved.
+const std::vector<std::string> kSaveOrder = {"SearchLogoPath",
+                                             "View",
+                                             "Synchronize logos",
+                                             "StartUpDrive",
+                                             "DefaultLogoSet",
+                                             "DefaultAction",
+                                             "CustomProgName",
+                                             "CustomProgPath",
+                                             "DeleteInTheRecycleBin",
+                                             "ConfirmLogosetDelete",
+                                             "ConfirmLogoTypeChange",
+                                             "ShowSplashScreen",
+                                             "LogoPath",
+                                             "ActionOnDoubleClick"};
+
+class SettingsTest : public Machine {
+ protected:
+    /// What one stored value loads as, all others missing.
+    Settings LoadWith(const char* name, const StoredValue& value) {
+        ForgetSettings();
+        Store("CustomProgName", TextValue("Painter"));
+        Store(name, value);
+        return ReadSettings(locations);
+    }
+    int NumberLoaded(const NumberCase& number, const std::string& text) {
+        return LoadWith(number.name, TextValue(text)).*number.field;
+    }
+};
+
+TEST_F(SettingsTest, WithoutAnyKeyEachValueTakesItsDefault) {
+    const Settings settings = ReadSettings(locations);
+    for (const NumberCase& number : kNumbers) {
+        EXPECT_EQ(settings.*number.field, number.missing) << number.name;
+    }
+    for (const TextCase& text : kTexts) EXPECT_EQ(settings.*text.field, "") << text.name;
+    EXPECT_EQ(settings.bootRoot, "C:\\");
+    EXPECT_EQ(settings.logoPath, program);
+}
+
+TEST_F(SettingsTest, NumbersLoadByTheirRule) {
+    for (const NumberCase& number : kNumbers) {
+        SCOPED_TRACE(number.name);
+        EXPECT_EQ(NumberLoaded(number, ""), number.missing);
+        EXPECT_EQ(NumberLoaded(number, "0"), number.ofZero);
+        EXPECT_EQ(NumberLoaded(number, "1"), 1);
+        EXPECT_EQ(NumberLoaded(number, std::to_string(number.largest)), number.largest);
+        if (number.largest < 32767) {
+            EXPECT_EQ(NumberLoaded(number, std::to_string(number.largest + 1)), 0);
+            EXPECT_EQ(NumberLoaded(number, "7"), 0);
+            EXPECT_EQ(NumberLoaded(number, "-1"), 0);
+        }
+    }
+}
+
+TEST_F(SettingsTest, ANumberIsWhatATextBeginsWith) {
+    for (const NumberCase& number : kNumbers) {
+        SCOPED_TRACE(number.name);
+        EXPECT_EQ(NumberLoaded(number, " 1 and more"), 1);
+        EXPECT_EQ(NumberLoaded(number, "1.9"), 1);
+        EXPECT_EQ(NumberLoaded(number, std::string("1\0007", 3)), 1);
+        EXPECT_EQ(NumberLoaded(number, "yes"), number.ofZero);
+        EXPECT_EQ(NumberLoaded(number, "-"), number.ofZero);
+        EXPECT_EQ(NumberLoaded(number, std::string(4000, ' ')), number.ofZero);
+    }
+}
+
+TEST_F(SettingsTest, ANumberThatDoesNotFitTakesTheDefault) {
+    for (const NumberCase& number : kNumbers) {
+        SCOPED_TRACE(number.name);
+        EXPECT_EQ(NumberLoaded(number, "32768"), number.missing);
+        EXPECT_EQ(NumberLoaded(number, "-32769"), number.missing);
+        EXPECT_EQ(NumberLoaded(number, std::string(4000, '9')), number.missing);
+    }
+}
+
+TEST_F(SettingsTest, ValuesOfOtherTypesAreTakenWhereTheyCanBe) {
+    for (const NumberCase& number : kNumbers) {
+        SCOPED_TRACE(number.name);
+        EXPECT_EQ(LoadWith(number.name, {REG_DWORD, std::string("\1\0\0\0", 4)}).*number.field, 1);
+        EXPECT_EQ(LoadWith(number.name, {REG_DWORD, "\xFF\xFF\xFF\xFF"}).*number.field,
+                  number.missing);
+        EXPECT_EQ(LoadWith(number.name, {REG_BINARY, "1"}).*number.field, number.missing);
+        EXPECT_EQ(LoadWith(number.name, {REG_EXPAND_SZ, "1"}).*number.field, number.missing);
+    }
+    for (const TextCase& text : kTexts) {
+        EXPECT_EQ(LoadWith(text.name, {REG_BINARY, "x"}).*text.field, "") << text.name;
+        EXPECT_EQ(LoadWith(text.name, {REG_DWORD, std::string("\7\0\0\0", 4)}).*text.field, "7")
+            << text.name;
+    }
+    EXPECT_EQ(LoadWith("LogoPath", {REG_BINARY, logos}).logoPath, program);
+    EXPECT_EQ(LoadWith("StartUpDrive", {REG_BINARY, "D"}).bootRoot, "C:\\");
+}
+
+TEST_F(SettingsTest, TextsAreCutAtTheFirstNul) {
+    for (const TextCase& text : kTexts) {
+        SCOPED_TRACE(text.name);
+        EXPECT_EQ(LoadWith(text.name, TextValueWithNul("Caf\xE9 \"one\"")).*text.field,
+                  "Caf\xE9 \"one\"");
+        EXPECT_EQ(LoadWith(text.name, TextValue(std::string("a\0b", 3))).*text.field, "a");
+        EXPECT_EQ(LoadWith(text.name, TextValue(std::string("\0b", 2))).*text.field, "");
+        const std::string longText(4000, 'x');
+        EXPECT_EQ(LoadWith(text.name, TextValue(longText)).*text.field, longText);
+    }
+}
+
+TEST_F(SettingsTest, TheBootRootIsTheStoredLetterOrThatOfTheWindowsDirectory) {
+    EXPECT_EQ(LoadWith("StartUpDrive", TextValue("D")).bootRoot, "D:\\");
+    EXPECT_EQ(LoadWith("StartUpDrive", TextValueWithNul("D")).bootRoot, "D:\\");
+    EXPECT_EQ(LoadWith("StartUpDrive", TextValue("")).bootRoot, "C:\\");
+    ForgetSettings();
+    EXPECT_EQ(ReadSettings({program, "F:\\WIN\\", ""}).bootRoot, "F:\\");
+}
+
+TEST_F(SettingsTest, TheLogoFolderGetsABackslashWhereItHasNone) {
+    EXPECT_EQ(LoadWith("LogoPath", TextValue(root + "logos")).logoPath, logos);
+    EXPECT_EQ(LoadWith("LogoPath", TextValueWithNul(logos)).logoPath, logos);
+    EXPECT_EQ(LoadWith("LogoPath", TextValue("C:\\")).logoPath, "C:\\");
+}
+
+TEST_F(SettingsTest, ALogoFolderThatIsNotThereBecomesTheProgramFolder) {
+    Put(root + "file", "");
+    for (const std::string& stored :
+         {std::string(), root + "gone", root + "file", std::string("Q:\\LOGOS\\"),
+          std::string("?*<>|"), std::string(4000, 'x'), std::string("\0x", 2)}) {
+        EXPECT_EQ(LoadWith("LogoPath", TextValue(stored)).logoPath, program) << stored;
+    }
+}
+
+TEST_F(SettingsTest, ACustomProgramWithoutANameHasNoPathEither) {
+    Store("CustomProgPath", TextValue("C:\\PAINTER.EXE"));
+    EXPECT_EQ(ReadSettings(locations).customProgPath, "");
+    Store("CustomProgName", TextValue(std::string("\0Painter", 8)));
+    EXPECT_EQ(ReadSettings(locations).customProgPath, "");
+    EXPECT_EQ(ReadSettings(locations).customProgName, "");
+    Store("CustomProgName", TextValue("Painter"));
+    EXPECT_EQ(ReadSettings(locations).customProgPath, "C:\\PAINTER.EXE");
+}
+
+TEST_F(SettingsTest, TheSplashScreenFlagIsReadOnItsOwn) {
+    EXPECT_EQ(ReadShowSplashScreen(), 1);
+    Store("ShowSplashScreen", TextValue(""));
+    EXPECT_EQ(ReadShowSplashScreen(), 1);
+    Store("ShowSplashScreen", TextValue("0"));
+    EXPECT_EQ(ReadShowSplashScreen(), 0);
+    Store("ShowSplashScreen", TextValueWithNul("1"));
+    EXPECT_EQ(ReadShowSplashScreen(), 1);
+}
+
+TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
+    const std::vector<std::string> order = {"ShowSplashScreen",
+                                            "Synchronize logos",
+                                            "DefaultLogoSet",
+                                            "StartUpDrive",
+                                            "SearchLogoPath",
+                                            "LogoPath",
+                                            "ActionOnDoubleClick",
+                                            "CustomProgName",
+                                            "CustomProgPath",
+                                            "DefaultAction",
+                                            "View",
+                                            "DeleteInTheRecycleBin",
+                                            "ConfirmLogosetDelete",
+                                            "ConfirmLogoTypeChange"};
+    const auto store = [&] {
+        ForgetSettings();
+        for (const NumberCase& number : kNumbers) Store(number.name, TextValue("2"));
+        Store("View", TextValue("1"));
+        for (const TextCase& text : kTexts) Store(text.name, TextValue("text"));
+        Store("StartUpDrive", TextValue("D"));
+        Store("LogoPath", TextValue(logos));
+    };
+    std::vector<std::string> seen;
+    Settings settings;
+    WithEachOperationFailing(
+        store, [&] { settings = ReadSettings(locations); },
+        [&](int) {
+            // The value whose reading failed is the first that has its default.
+            std::vector<std::string> defaults;
+            for (const NumberCase& number : kNumbers) {
+                if (settings.*number.field == number.missing && settings.*number.field != 2 &&
+                    !(std::string(number.name) == "View" && settings.view == 1))
+                    defaults.push_back(number.name);
+            }
+            for (const TextCase& text : kTexts) {
+                if ((settings.*text.field).empty()) defaults.push_back(text.name);
+            }
+            if (settings.bootRoot == "C:\\") defaults.push_back("StartUpDrive");
+            if (settings.logoPath == program) defaults.push_back("LogoPath");
+            // Without a name the custom program has no path.
+            if (defaults == std::vector<std::string>{"CustomProgName", "CustomProgPath"})
+                defaults.pop_back();
+            ASSERT_EQ(defaults.size(), 1u);
+            if (seen.empty() || seen.back() != defaults[0]) seen.push_back(defaults[0]);
+        });
+    EXPECT_EQ(seen, order);
+}
+
+Settings UnlikeTheDefaults() {
+    Settings settings;
+    settings.searchLogoPath = "C:\\PICS\\";
+    settings.view = 1;
+    settings.synchronizeLogos = 1;
+    settings.bootRoot = "D:\\";
+    settings.defaultLogoSet = "Caf\xE9.SLS";
+    settings.defaultAction = 2;
+    settings.customProgName = "Painter";
+    settings.customProgPath = "C:\\Tools\\PAINTER.EXE";
+    settings.deleteInTheRecycleBin = 0;
+    settings.confirmLogosetDelete = 1;
+    settings.confirmLogoTypeChange = 0;
+    settings.showSplashScreen = 0;
+    settings.logoPath = "C:\\machine\\logos\\";
+    settings.actionOnDoubleClick = -3;
+    return settings;
+}
+
+TEST_F(SettingsTest, AllFourteenValuesAreSavedAsTextsWithoutANul) {
+    SaveSettings(UnlikeTheDefaults());
+    const std::vector<std::string> texts = {"C:\\PICS\\",
+                                            "1",
+                                            "1",
+                                            "D",
+                                            "Caf\xE9.SLS",
+                                            "2",
+                                            "Painter",
+                                            "C:\\Tools\\PAINTER.EXE",
+                                            "0",
+                                            "1",
+                                            "0",
+                                            "0",
+                                            "C:\\machine\\logos\\",
+                                            "-3"};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(Stored(kSaveOrder[i]), SavedText(texts[i])) << kSaveOrder[i];
+    }
+}
+
+TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
+    const Settings saved = UnlikeTheDefaults();
+    SaveSettings(saved);
+    const Settings loaded = ReadSettings(locations);
+    EXPECT_EQ(loaded.searchLogoPath, saved.searchLogoPath);
+    EXPECT_EQ(loaded.view, saved.view);
+    EXPECT_EQ(loaded.synchronizeLogos, saved.synchronizeLogos);
+    EXPECT_EQ(loaded.bootRoot, saved.bootRoot);
+    EXPECT_EQ(loaded.defaultLogoSet, saved.defaultLogoSet);
+    EXPECT_EQ(loaded.defaultAction, saved.defaultAction);
+    EXPECT_EQ(loaded.customProgName, saved.customProgName);
+    EXPECT_EQ(loaded.customProgPath, saved.customProgPath);
+    EXPECT_EQ(loaded.deleteInTheRecycleBin, 1);  // off holds only until the next start
+    EXPECT_EQ(loaded.confirmLogosetDelete, 1);
+    EXPECT_EQ(loaded.confirmLogoTypeChange, 1);
+    EXPECT_EQ(loaded.showSplashScreen, 0);
+    EXPECT_EQ(loaded.logoPath, saved.logoPath);
+    EXPECT_EQ(loaded.actionOnDoubleClick, saved.actionOnDoubleClick);
+}
+
+TEST_F(SettingsTest, AnUnknownInstalledSetIsSavedAsTheEmptyText) {
+    Settings settings = UnlikeTheDefaults();
+    settings.defaultLogoSet = kUnknownSet;
+    settings.bootRoot = "";
+    SaveSettings(settings);
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(""));
+    EXPECT_EQ(Stored("StartUpDrive"), SavedText(""));
+}
+
+TEST_F(SettingsTest, SavingEndsAtTheFirstValueThatCannotBeWritten) {
+    int failing = 0;
+    WithEachOperationFailing(
+        [] {
+            ForgetSettings();
+            Store("other", TextValue("kept"));
+        },
+        [] { SaveSettings(UnlikeTheDefaults()); },
+        [&](int operation) {
+            ++failing;
+            // The first operation creates the key, which is there; then two for each value.
+            const std::size_t saved = operation == 1 ? 14 : (operation - 2) / 2;
+            for (std::size_t i = 0; i < kSaveOrder.size(); ++i) {
+                EXPECT_EQ(Stored(kSaveOrder[i]).has_value(), i < saved) << kSaveOrder[i];
+            }
+            EXPECT_EQ(Stored("other"), TextValue("kept"));
+        });
+    EXPECT_EQ(failing, 1 + 2 * 14);
+}
+
+TEST_F(SettingsTest, TheInstalledSetCanBeRecordedAlone) {
+    Store("View", {REG_BINARY, "garbage"});
+    EXPECT_TRUE(SaveDefaultLogoSet("Blue"));
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Blue"));
+    EXPECT_EQ(Stored("View"), (StoredValue{REG_BINARY, "garbage"}));
+    EXPECT_FALSE(Stored("LogoPath"));
+    fault::FailFromOperation(1);
+    EXPECT_FALSE(SaveDefaultLogoSet("Red"));
+}
+
+}  // namespace
+}  // namespace vistrel::test
