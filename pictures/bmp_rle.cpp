@@ -22,8 +22,8 @@ class RleDecoder {
         picture_.width = header.width;
         picture_.height = header.height;
         picture_.pixels.resize(std::size_t{3} * header.width * header.height);
-        for (std::size_t i = 0; i < picture_.pixels.size(); ++i) {
-            picture_.pixels[i] = header.palette[0][i % 3];
+        for (std::size_t i = 0; i < picture_.pixels.size(); i += 3) {
+            std::copy_n(header.palette[0].begin(), 3, &picture_.pixels[i]);
         }
     }
 

@@ -148,7 +148,9 @@ class GifFile {
         const Color color = frame_.transparent >= 0 ? kWhite : background_;
         RgbPicture screen{width_, height_, {}};
         screen.pixels.resize(std::size_t{3} * width_ * height_);
-        for (std::size_t i = 0; i < screen.pixels.size(); ++i) screen.pixels[i] = color[i % 3];
+        for (std::size_t i = 0; i < screen.pixels.size(); i += 3) {
+            std::copy_n(color.begin(), 3, &screen.pixels[i]);
+        }
         return screen;
     }
 
