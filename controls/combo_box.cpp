@@ -29,14 +29,25 @@ int ComboBox::FindItem(const std::string& text) const {
 
 int ComboBox::ListIndex() const { return static_cast<int>(Send(CB_GETCURSEL)); }
 
-void ComboBox::SetListIndex(int index) { Send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+void ComboBox::SetListIndex(int index) {
+    fillingField_ = true;
+    Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+    fillingField_ = false;
+}
+
+void ComboBox::SetText(const std::string& text) {
+    // The field tells of every change of its text, whoever made it.
+    fillingField_ = true;
+    Control::SetText(text);
+    fillingField_ = false;
+}
 
 void ComboBox::OnCommand(int code) {
     if (code == CBN_SELCHANGE) {
         // The field still shows the former text here; the handler is to see the chosen one.
         if (ListIndex() >= 0) SetText(Item(ListIndex()));
         if (Click) Click();
-    } else if (code == CBN_EDITCHANGE && Change) {
+    } else if (code == CBN_EDITCHANGE && !fillingField_ && Change) {
         Change();
     }
 }

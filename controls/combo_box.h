@@ -22,6 +22,8 @@ class ComboBox : public Control {
     int ListIndex() const;
     /// Chooses an entry, or none with -1. Click does not run.
     void SetListIndex(int index);
+    /// Fills the field. Change does not run.
+    void SetText(const std::string& text);
 
     /// The user chose an entry; ListIndex and Text are those of the choice already.
     std::function<void()> Click;
@@ -29,6 +31,9 @@ class ComboBox : public Control {
     std::function<void()> Change;
 
     void OnCommand(int code) override;
+
+ private:
+    bool fillingField_ = false;
 };
 
 }  // namespace vistrel

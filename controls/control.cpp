@@ -26,6 +26,12 @@ struct ControlProcedure {
     }
 };
 
+Control::~Control() {
+    // Where the window outlives this object, its messages are its own again.
+    if (handle_)
+        SetWindowLongPtrA(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(formerProcedure_));
+}
+
 bool Control::Attach(Window& parent, int id) {
     parent_ = &parent;
     id_ = id;
@@ -63,6 +69,13 @@ Rect Control::Bounds() const {
     RECT r{};
     GetWindowRect(handle_, &r);
     MapWindowPoints(nullptr, GetParent(handle_), reinterpret_cast<POINT*>(&r), 2);
+    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
+            static_cast<int>(r.bottom - r.top)};
+}
+
+Rect Control::ScreenBounds() const {
+    RECT r{};
+    GetWindowRect(handle_, &r);
     return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
             static_cast<int>(r.bottom - r.top)};
 }

@@ -20,7 +20,7 @@ inline constexpr int kRightButton = 2;
 class Control {
  public:
     Control() = default;
-    virtual ~Control() = default;
+    virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
@@ -44,6 +44,8 @@ class Control {
     /// Place within the parent's client area.
     Rect Bounds() const;
     void MoveTo(const Rect& place);
+    /// Place on the screen.
+    Rect ScreenBounds() const;
 
     /// The short text that appears when the pointer rests on the control.
     void SetTip(const std::string& tip);
@@ -72,6 +74,10 @@ class Control {
     virtual std::intptr_t OnNotify(void*) { return 0; }
     /// The colour of the control's text; negative for the system's.
     virtual long TextColor() const { return -1; }
+    /// What the control's background is painted with; null for the window's own.
+    virtual BrushHandle BackBrush() const { return nullptr; }
+    /// A WM_DRAWITEM with this DRAWITEMSTRUCT.
+    virtual void OnDrawItem(const void*) {}
     /// Sets a pointer picture of the control's own; false to leave it to the window.
     virtual bool SetPointer() { return false; }
 

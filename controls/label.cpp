@@ -8,6 +8,7 @@ namespace vistrel {
 
 Label::~Label() {
     if (font_) DeleteObject(font_);
+    if (background_) DeleteObject(background_);
 }
 
 void Label::SetForeColor(long color) {
@@ -43,6 +44,16 @@ void Label::FitToText() {
     Rect place = Bounds();
     place.width = static_cast<int>(size.cx);
     MoveTo(place);
+}
+
+void Label::SetBackColor(long color) {
+    if (background_) DeleteObject(background_);
+    background_ = CreateSolidBrush(static_cast<COLORREF>(color));
+    Repaint();
+}
+
+BrushHandle Label::BackBrush() const {
+    return seeThrough_ ? static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH)) : background_;
 }
 
 void Label::SetHandPointer(const char* cursorResource) { cursor_ = cursorResource; }

@@ -20,6 +20,10 @@ class Label : public Control {
     /// Colours are 24-bit numbers in blue-green-red order.
     void SetForeColor(long color);
     long ForeColor() const { return color_; }
+    void SetBackColor(long color);
+    /// Lets what lies behind the label show between its letters. The template gives the label the
+    /// style WS_EX_TRANSPARENT, so that it is painted last.
+    void SetSeeThrough() { seeThrough_ = true; }
     /// Gives the label a font of its own.
     void SetFont(const FontChange& change);
     /// Makes the label just as wide as its text of one line.
@@ -33,10 +37,13 @@ class Label : public Control {
     ~Label() override;
     void OnCommand(int code) override;
     long TextColor() const override { return color_; }
+    BrushHandle BackBrush() const override;
     bool SetPointer() override;
 
  private:
     long color_ = -1;
+    BrushHandle background_ = nullptr;
+    bool seeThrough_ = false;
     FontHandle font_ = nullptr;
     const char* cursor_ = nullptr;
 };

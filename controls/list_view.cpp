@@ -45,6 +45,13 @@ void ListView::AddColumn(const std::string& heading, int width) {
 
 void ListView::SetColumnWidth(int width) { Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width, 0)); }
 
+void ListView::FitColumn() {
+    RECT r{};
+    GetWindowRect(handle(), &r);
+    SetColumnWidth(static_cast<int>(r.right - r.left) - 2 * GetSystemMetrics(SM_CXEDGE) -
+                   GetSystemMetrics(SM_CXVSCROLL));
+}
+
 int ListView::Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
 
 int ListView::AddItem(const std::string& text, const std::string& iconKey) {
@@ -183,6 +190,9 @@ std::intptr_t ListView::OnNotify(void* header) {
         }
         case NM_DBLCLK:
             if (DblClick) DblClick();
+            return 0;
+        case LVN_BEGINDRAG:
+            if (BeginDrag) BeginDrag();
             return 0;
         case LVN_BEGINLABELEDITA:
             return BeforeLabelEdit && !BeforeLabelEdit() ? TRUE : FALSE;

@@ -25,6 +25,8 @@ class ListView : public Control {
     void LoadIcons(int bitmapResource, long transparent, const std::vector<std::string>& keys);
     void AddColumn(const std::string& heading, int width);
     void SetColumnWidth(int width);
+    /// Makes the column as wide as the list leaves beside a vertical scroll bar.
+    void FitColumn();
 
     int Count() const;
     /// Adds an item at the end; its number.
@@ -60,6 +62,8 @@ class ListView : public Control {
     /// The user selected an item, by mouse or keyboard.
     std::function<void(int index)> ItemClick;
     std::function<void()> DblClick;
+    /// The user begins to drag the selected item with the left button, which is still down.
+    std::function<void()> BeginDrag;
     /// Editing of an item's label begins; false forbids it.
     std::function<bool()> BeforeLabelEdit;
     /// Editing ended with a new text; false keeps the old one.

@@ -81,6 +81,10 @@ void PictureBox::Keep() {
 }
 
 void PictureBox::Paint(DeviceContext target) {
+    if (PaintInstead) {
+        PaintInstead(target);
+        return;
+    }
     const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
     if (!hasPicture_) {
         FillRect(target, &all, GetSysColorBrush(COLOR_APPWORKSPACE));

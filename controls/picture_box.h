@@ -1,6 +1,7 @@
 // A box that shows a picture. Its window text is its tag: the path of the file that it shows.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "controls/control.h"
@@ -25,6 +26,8 @@ class PictureBox : public Control {
     /// Makes what was drawn into the canvas the picture.
     void Keep();
     bool HasPicture() const { return hasPicture_; }
+    /// Paints the drawing area in place of the picture while it is set.
+    std::function<void(DeviceContext target)> PaintInstead;
 
     std::string Tag() const { return Text(); }
     void SetTag(const std::string& tag) { SetText(tag); }

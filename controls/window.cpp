@@ -121,7 +121,11 @@ void Window::ShowModal(WindowHandle owner) {
 
 bool Window::Unload() {
     if (!handle_) return true;
-    if (!Form_Unload()) return false;
+    if (unloading_) return false;  // asked again while Form_Unload still asks the user
+    unloading_ = true;
+    const bool agreed = Form_Unload();
+    unloading_ = false;
+    if (!agreed) return false;
     for (Timer* timer : timers_) timer->SetEnabled(false);
     // The owner must be able to take the focus before this window gives it up.
     if (disabledOwner_) EnableWindow(disabledOwner_, TRUE);
@@ -139,6 +143,10 @@ Control* Window::Find(int id) const {
     return found == controls_.end() ? nullptr : found->second;
 }
 
+Control* Window::ControlAt(Point screen) const {
+    return ControlOf(WindowFromPoint({screen.x, screen.y}));
+}
+
 Control* Window::ControlOf(WindowHandle child) const {
     while (child && child != handle_) {
         Control* control = Find(GetDlgCtrlID(child));
@@ -152,6 +160,12 @@ Size Window::ClientSize() const {
     RECT r{};
     GetClientRect(handle_, &r);
     return {static_cast<int>(r.right), static_cast<int>(r.bottom)};
+}
+
+Size Window::WholeSize() const {
+    RECT r{};
+    GetWindowRect(handle_, &r);
+    return {static_cast<int>(r.right - r.left), static_cast<int>(r.bottom - r.top)};
 }
 
 void Window::SetClientSize(Size size) {
@@ -282,7 +296,16 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             SetTextColor(reinterpret_cast<HDC>(wParam),
                          static_cast<COLORREF>(control->TextColor()));
             SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            result = reinterpret_cast<std::intptr_t>(GetSysColorBrush(COLOR_BTNFACE));
+            const BrushHandle own = control->BackBrush();
+            result = reinterpret_cast<std::intptr_t>(own ? own : GetSysColorBrush(COLOR_BTNFACE));
+            return true;
+        }
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+            Control* control = ControlOf(item.hwndItem);
+            if (!control) return false;
+            control->OnDrawItem(&item);
+            result = TRUE;
             return true;
         }
         case WM_SETCURSOR: {

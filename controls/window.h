@@ -38,9 +38,13 @@ class Window {
     bool IsOpen() const { return handle_ != nullptr; }
     /// The control with this number; null when the window has none.
     Control* Find(int id) const;
+    /// The control seen at a point of the screen; null when there is none of this window's.
+    Control* ControlAt(Point screen) const;
     const std::map<int, Control*>& controls() const { return controls_; }
 
     Size ClientSize() const;
+    /// Size with title bar and frame.
+    Size WholeSize() const;
     /// Makes the window as large as its client area must be for this.
     void SetClientSize(Size size);
     /// Puts the window into the middle of a part of the screen.
@@ -103,6 +107,7 @@ class Window {
     WindowHandle handle_ = nullptr;
     WindowHandle tips_ = nullptr;
     WindowHandle disabledOwner_ = nullptr;
+    bool unloading_ = false;
     std::map<int, Control*> controls_;
     std::vector<Timer*> timers_;
 };

@@ -70,6 +70,36 @@
 #define ID_Preview 1190
 
 // Logo browser: 1200 to 1399
+#define ID_Drive1 1200
+#define ID_CurPath 1201
+#define ID_Label1 1202
+#define ID_LogoList 1203
+#define ID_CurView 1204
+#define ID_ImageInfo 1205
+#define ID_ImgPreview 1206    // 1206 startup, 1207 wait, 1208 shutdown; so are all arrays of three
+#define ID_LblSlot 1209       // 1209 to 1211
+#define ID_AddButton 1212     // 1212 to 1214
+#define ID_DeleteButton 1215  // 1215 to 1217
+#define ID_LblNotAval 1218    // 1218 to 1220
+#define ID_Frame1 1221
+#define ID_OptCompSet 1222
+#define ID_OptDefShut 1223
+#define ID_OptOnlyStart 1224
+#define ID_Label3 1225
+#define ID_NameLogoSet 1226
+#define ID_ActButton 1227
+#define ID_CloseButton 1228
+#define ID_List1 1229
+#define ID_Dir1 1230
+
+#define ID_OkButton 1250  // 1250 create, 1251 update
+#define ID_EliminaSetBtn 1252
+#define ID_ClearAllButton 1253
+#define ID_BrowserRename 1260
+#define ID_BrowserDelete 1261
+#define ID_BrowserRefresh 1262
+#define ID_ItmSetLogo 1263  // 1263 to 1265
+
 // Preferences: 1400 to 1599
 #define ID_TabStrip1 1400
 #define ID_MyFrame 1401  // 1401 to 1404, in the order of the tabs

@@ -1,0 +1,24 @@
+// A plain list of texts.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "controls/control.h"
+
+namespace vistrel {
+
+class ListBox : public Control {
+ public:
+    void AddItem(const std::string& text);
+    int Count() const;
+    std::string Item(int index) const;
+    void Clear();
+
+    /// Another entry was chosen.
+    std::function<void()> Change;
+
+    void OnCommand(int code) override;
+};
+
+}  // namespace vistrel

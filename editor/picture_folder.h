@@ -1,0 +1,24 @@
+// What a folder holds that the Logo browser lists.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vistrel {
+
+/// True for a name that ends in ".SYS", ".BMP", ".GIF" or ".JPG", in any case.
+bool IsPictureName(const std::string& name);
+/// True for a name that ends in ".SYS".
+bool IsScreenName(const std::string& name);
+
+/// Names of one folder, each group sorted without regard to case.
+struct PictureFolder {
+    std::vector<std::string> folders;  ///< with "..", where the folder has it
+    std::vector<std::string> pictures;
+};
+
+/// Reads the folders and pictures of `folder`, which ends in a backslash, into `found`. Hidden and
+/// system files stay out. False when the folder cannot be read; `found` is then empty.
+bool ReadPictureFolder(const std::string& folder, PictureFolder& found);
+
+}  // namespace vistrel

@@ -1,0 +1,244 @@
+// The Logo browser's window: its controls and menus, and how a session begins and ends.
+#include "editor/select_picture_form.h"
+
+#include "controls/drag.h"
+#include "core/generali.h"
+#include "core/library.h"
+#include "editor/command_status.h"
+#include "help/context_numbers.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr long kIconTransparent = 0xFF00FF;
+constexpr long kBlack = 0;
+/// Place of the menu in its resource.
+constexpr int kActionMenu = 0;
+
+}  // namespace
+
+SelPictureForm::SelPictureForm(MainWindow& main)
+    : Window("SelPictureForm", IDD_SelPictureForm), main_(main) {
+    AddControls();
+    ConnectBrowser();
+    ConnectSlots();
+    AttachMenus();
+}
+
+SelPictureForm::~SelPictureForm() { FreeMenu(menus_); }
+
+void SelPictureForm::AddControls() {
+    Add(Drive1, ID_Drive1);
+    Add(CurPath, ID_CurPath);
+    Add(Label1, ID_Label1);
+    Add(LogoList, ID_LogoList);
+    Add(CurView, ID_CurView);
+    Add(ImageInfo, ID_ImageInfo);
+    Add(Dir1, ID_Dir1);
+    Add(Frame1, ID_Frame1);
+    Add(OptCompSet, ID_OptCompSet);
+    Add(OptDefShut, ID_OptDefShut);
+    Add(OptOnlyStart, ID_OptOnlyStart);
+    Add(Label3, ID_Label3);
+    Add(NameLogoSet, ID_NameLogoSet);
+    for (int i = 0; i < 3; ++i) {
+        Add(ImgPreview[i], ID_ImgPreview + i);
+        Add(LblSlot[i], ID_LblSlot + i);
+        Add(AddButton[i], ID_AddButton + i);
+        Add(DeleteButton[i], ID_DeleteButton + i);
+        Add(LblNotAval[i], ID_LblNotAval + i);
+    }
+    Add(ActButton, ID_ActButton);
+    Add(CloseButton, ID_CloseButton);
+    Add(List1, ID_List1);
+}
+
+void SelPictureForm::ConnectBrowser() {
+    Drive1.Change = [this] { Drive1_Change(); };
+    Dir1.Change = [this] { Dir1_Change(); };
+    LogoList.ItemClick = [this](int index) { LogoList_ItemClick(index); };
+    LogoList.DblClick = [this] { LogoList_DblClick(); };
+    LogoList.KeyPress = [this](char character) { LogoList_KeyPress(character); };
+    LogoList.MouseUp = [this](int button, Point) { LogoList_MouseUp(button); };
+    LogoList.ContextMenu = [this](Point screen, bool byKeyboard) {
+        if (byKeyboard) ShowManageMenu(screen);
+    };
+    LogoList.BeginDrag = [this] { LogoList_BeginDrag(); };
+    LogoList.BeforeLabelEdit = [this] { return LogoList_BeforeLabelEdit(); };
+    LogoList.AfterLabelEdit = [this](const std::string& name) {
+        return LogoList_AfterLabelEdit(name);
+    };
+    CurView.MouseDown = [this](int, Point at) { CurView_MouseDown(at); };
+    CurView.MouseMove = [this](int button, Point at) { CurView_MouseMove(button, at); };
+    CurView.MouseUp = [this](int button, Point) { Picture_MouseUp(CurView, button); };
+}
+
+void SelPictureForm::ConnectSlots() {
+    OptCompSet.Click = [this] { TypeChosen(SetType::Complete); };
+    OptDefShut.Click = [this] { TypeChosen(SetType::DefaultScreens); };
+    OptOnlyStart.Click = [this] { TypeChosen(SetType::OnlyStartup); };
+    NameLogoSet.Change = [this] { NameLogoSet_Change(); };
+    NameLogoSet.Click = [this] { NameLogoSet_Click(); };
+    for (int i = 0; i < 3; ++i) {
+        ImgPreview[i].MouseUp = [this, i](int button, Point) {
+            Picture_MouseUp(ImgPreview[i], button);
+        };
+        AddButton[i].Click = [this, i] { AddButton_Click(i); };
+        DeleteButton[i].Click = [this, i] { DeleteButton_Click(i); };
+    }
+    ActButton.Click = [this] { ActButton_Click(); };
+    CloseButton.Click = [this] { CloseButton_Click(); };
+}
+
+void SelPictureForm::AttachMenus() {
+    menus_ = LoadMenuResource(IDM_SelPictureForm);
+    for (int i = 0; i < 2; ++i) OkButton[i].Attach(menus_, ID_OkButton + i);
+    EliminaSetBtn.Attach(menus_, ID_EliminaSetBtn);
+    ClearAllButton.Attach(menus_, ID_ClearAllButton);
+    ItmRename.Attach(menus_, ID_BrowserRename);
+    ItmDelete.Attach(menus_, ID_BrowserDelete);
+    itmRefresh.Attach(menus_, ID_BrowserRefresh);
+    for (int i = 0; i < 3; ++i) ItmSetLogo[i].Attach(menus_, ID_ItmSetLogo + i);
+}
+
+void SelPictureForm::Form_Load() {
+    ShowDefaultPointer();
+    dragIcon_ = LoadDragIcon("drag");
+    ImgPreview[0].SetTip("LOGO.SYS: startup screen");
+    ImgPreview[1].SetTip("LOGOW.SYS: wait screen");
+    ImgPreview[2].SetTip("LOGOS.SYS: shutdown screen");
+    SetHelpNumbers();
+
+    for (int i = 0; i < 3; ++i)
+        LblSlot[i].SetText(std::string(kScreenFileNames[i]) + "\r\n" + kScreenTitles[i]);
+    LogoList.AddColumn("", 0);
+    LogoList.LoadIcons(IDB_Browser, kIconTransparent, {"closed", "sys", "im"});
+    Drive1.LoadIcons(IDB_Drives, kIconTransparent);
+    Drive1.Fill();
+    // Yellow cannot be read on grey.
+    ImageInfo.SetBackColor(kBlack);
+    ImageInfo.SetForeColor(kNoPictureColor);
+    OptCompSet.SetMark(true);
+    GrowToScreen();
+    LogoList.Focus();
+}
+
+void SelPictureForm::SetHelpNumbers() {
+    Drive1.SetHelpNumber(help_number::Drive1);
+    CurPath.SetHelpNumber(help_number::CurPath);
+    LogoList.SetHelpNumber(help_number::LogoList);
+    CurView.SetHelpNumber(help_number::CurView);
+    ImageInfo.SetHelpNumber(help_number::ImageInfo);
+    OptCompSet.SetHelpNumber(help_number::OptCompSet);
+    OptDefShut.SetHelpNumber(help_number::OptDefShut);
+    OptOnlyStart.SetHelpNumber(help_number::OptOnlyStart);
+    NameLogoSet.SetHelpNumber(help_number::NameLogoSet);
+    for (int i = 0; i < 3; ++i) {
+        ImgPreview[i].SetHelpNumber(help_number::ImgPreview[i]);
+        AddButton[i].SetHelpNumber(help_number::AddButton);
+        DeleteButton[i].SetHelpNumber(help_number::DeleteButton);
+    }
+    ActButton.SetHelpNumber(help_number::ActButton);
+    CloseButton.SetHelpNumber(help_number::CloseButton);
+}
+
+void SelPictureForm::Form_Activate() {
+    if (ActivateOnce) {
+        ActivateOnce = false;
+        return;
+    }
+    NameLogoSet.Clear();
+    for (const std::string& name : main_.SetNames()) NameLogoSet.AddItem(name);
+    NameLogoSet.SetListIndex(main_.SelectedSet());
+    if (IsSingleLogoSet(NameLogoSet.Text())) ChooseByCode(SetType::OnlyStartup);
+
+    const std::string& lastBrowsed = main_.Preferences().searchLogoPath;
+    const std::string folder =
+        AddBackslash(IsFolder(lastBrowsed) ? lastBrowsed : main_.Locations().programFolder);
+    if (Drive1.SetDrive(folder)) Drive1_Change();
+    BrowseTo(folder);
+}
+
+bool SelPictureForm::Form_Unload() {
+    main_.Preferences().searchLogoPath = CurrentFolder;
+    if ((OkButton[0].Enabled() || OkButton[1].Enabled()) &&
+        Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
+            kQuestionYesNoDefaultNo) != Answer::Yes)
+        return false;
+    // One that is gone already is passed over.
+    for (int i = 0; i < List1.Count(); ++i) Remove(List1.Item(i));
+    if (LibraryChanged) {
+        main_.LeggiDatiDisco();
+        main_.VisualizzaNumLogo();
+    }
+    return true;
+}
+
+void SelPictureForm::CheckBtnStatus() {
+    const CommandStatus status =
+        StatusOfCommands({SetChanged, NameChanged, !LoadedSet.empty(), !NameLogoSet.Text().empty()},
+                         {OkButton[0].Enabled(), OkButton[1].Enabled(), EliminaSetBtn.Enabled()});
+    OkButton[0].SetEnabled(status.create);
+    OkButton[1].SetEnabled(status.update);
+    EliminaSetBtn.SetEnabled(status.deleteSet);
+}
+
+void SelPictureForm::EnableImage() {
+    SlotsEnabled = true;
+    EnableControls(true, AddButton[0], AddButton[1], AddButton[2]);
+}
+
+void SelPictureForm::DisableImage() {
+    SlotsEnabled = false;
+    EnableControls(false, AddButton[0], AddButton[1], AddButton[2]);
+}
+
+void SelPictureForm::ActButton_Click() {
+    if (type_ == SetType::DefaultScreens) {
+        LibraryChanged = true;
+        if (SaveDefaultScreens())
+            FinishSaving();
+        else
+            ReportSaveError();
+        return;
+    }
+    const Rect button = ActButton.ScreenBounds();
+    PopUpMenu(SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
+}
+
+void SelPictureForm::CloseButton_Click() { Unload(); }
+
+void SelPictureForm::MenuCommand(int id) {
+    // Items of the main window's menu close what they opened before they return.
+    ActivateOnce = true;
+    const bool openWith = main_.OpenWithCommand(id, handle());
+    ActivateOnce = false;
+    if (openWith) return;
+    switch (id) {
+        case ID_OkButton:
+        case ID_OkButton + 1:
+            return OkButton_Click(id - ID_OkButton);
+        case ID_EliminaSetBtn:
+            return EliminaSetBtn_Click();
+        case ID_ClearAllButton:
+            return ClearAllButton_Click();
+        case ID_BrowserRename:
+            return ItmRename_Click();
+        case ID_BrowserDelete:
+            return ItmDelete_Click();
+        case ID_BrowserRefresh:
+            return AggiornaDir();
+        case ID_ItmSetLogo:
+        case ID_ItmSetLogo + 1:
+        case ID_ItmSetLogo + 2:
+            return AddButton_Click(id - ID_ItmSetLogo);
+        default:
+            return;
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,183 @@
+// The logo-set editor, "Logo browser": a browser of folders and pictures, three slots for the
+// screens of a set, and the commands that make a set of them.
+#pragma once
+
+#include <string>
+
+#include "controls/button.h"
+#include "controls/combo_box.h"
+#include "controls/drive_list.h"
+#include "controls/label.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/menu_item.h"
+#include "controls/picture_box.h"
+#include "controls/window.h"
+#include "main_window/main_window.h"
+
+namespace vistrel {
+
+/// Colours of ImageInfo, which are the verdict on the examined picture.
+inline constexpr long kReadyColor = 32768;    ///< a logo screen, used as it is
+inline constexpr long kConvertColor = 65535;  ///< converted when it is put into a slot
+inline constexpr long kNoPictureColor = 255;
+
+class SelPictureForm : public Window {
+ public:
+    explicit SelPictureForm(MainWindow& main);
+    ~SelPictureForm() override;
+
+    // The browser
+    DriveList Drive1;
+    Label CurPath;
+    Label Label1;
+    ListView LogoList;
+    PictureBox CurView;
+    Label ImageInfo;
+    ListBox Dir1;  ///< hidden; see Dir1_Change
+
+    // The set; arrays are in the order of LogoScreen
+    Frame Frame1;
+    OptionButton OptCompSet;
+    OptionButton OptDefShut;
+    OptionButton OptOnlyStart;
+    Label Label3;
+    ComboBox NameLogoSet;
+    PictureBox ImgPreview[3];  ///< the slots; a tag is the path of the file that fills the slot
+    Label LblSlot[3];
+    Button AddButton[3];
+    Button DeleteButton[3];
+    Label LblNotAval[3];  ///< shown over a slot that the type of set does not use
+    Button ActButton;
+    Button CloseButton;
+    ListBox List1;  ///< hidden: the temporary files of this session's conversions
+
+    // Menus mnuAction and MnuManage
+    MenuItem OkButton[2];  ///< create, update
+    MenuItem EliminaSetBtn;
+    MenuItem ClearAllButton;
+    MenuItem ItmRename;
+    MenuItem ItmDelete;
+    MenuItem itmRefresh;
+    MenuItem ItmSetLogo[3];
+
+    // What one session holds
+    bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
+    bool NameChanged = false;      ///< a name was typed since then
+    bool LibraryChanged = false;   ///< sets on disk changed: the main list is read anew at the end
+    bool OptionSetByCode = false;  ///< the next option click is the program's, not the user's
+    bool SlotsEnabled = false;     ///< the AddButtons are enabled
+    bool ActivateOnce = false;     ///< the next activation fills nothing
+    bool IsSysFile = false;        ///< the examined picture's name ends in ".SYS"
+    std::string LoadedSet;         ///< the set being edited; empty for a new one
+    std::string SelectedPicture;   ///< path of the picture examined last
+    std::string CurrentFolder;     ///< the folder being browsed, with a backslash
+    int LoadedIndex = -1;          ///< place of the loaded set in NameLogoSet
+
+    /// Lists a folder's sub-folders and pictures. False when it cannot be read.
+    bool FillList(const std::string& folder);
+    /// Lists the current folder anew ("aggiorna dir": refreshes the directory).
+    void AggiornaDir();
+    /// Examines a file by name and content and shows it.
+    void CheckImage(const std::string& path);
+    /// Decides which commands of the Action menu are available.
+    void CheckBtnStatus();
+    void EnableImage();
+    void DisableImage();
+
+ protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_Unload() override;
+    void Form_Resize(Size client) override;
+    Size SmallestSize() const override;
+    void MenuCommand(int id) override;
+    void MenuOpens(MenuHandle menu) override;
+
+ private:
+    enum class SetType { Complete, DefaultScreens, OnlyStartup };
+
+    void AddControls();
+    void ConnectBrowser();
+    void ConnectSlots();
+    void AttachMenus();
+    void SetHelpNumbers();
+
+    // Layout
+    void GrowToScreen();
+    void PlaceList(const Rect& column);
+    void PlacePreview(const Rect& column);
+    void PlaceTypeAndName(const Rect& column);
+    void PlaceSlots(const Rect& column, int slotWidth);
+    void PlaceSlot(int index, const Rect& slot);
+    void RedrawPictures();
+
+    // The browser
+    void Drive1_Change();
+    void Dir1_Change();
+    void LogoList_ItemClick(int index);
+    void LogoList_DblClick();
+    void LogoList_KeyPress(char character);
+    void LogoList_MouseUp(int button);
+    void LogoList_BeginDrag();
+    bool LogoList_BeforeLabelEdit();
+    bool LogoList_AfterLabelEdit(const std::string& newName);
+    void CurView_MouseDown(Point at);
+    void CurView_MouseMove(int button, Point at);
+    void Picture_MouseUp(const PictureBox& box, int button);
+    void ItmRename_Click();
+    void ItmDelete_Click();
+    void ShowManageMenu(Point screen);
+    void BrowseTo(const std::string& folder);
+    void GoUp();
+    std::string SelectedName() const;
+    void DragPicture(const Control& source);
+
+    // The slots and the set's type
+    void OptCompSet_Click();
+    void OptDefShut_Click();
+    void OptOnlyStart_Click();
+    void TypeChosen(SetType type);
+    void ChooseByCode(SetType type);
+    void ShowType(SetType type);
+    void ShowSlot(int index, bool used);
+    void OptionWasSet();
+    void AddButton_Click(int index);
+    std::string ConvertSelected();
+    void FillSlot(int index, const std::string& path);
+    void DeleteButton_Click(int index);
+    void ClearAllButton_Click();
+    void EmptySlot(int index);
+    void RepointSlots(const std::string& from, const std::string& to);
+
+    // Names, loading and saving
+    void NameLogoSet_Change();
+    void NameLogoSet_Click();
+    void ActButton_Click();
+    void CloseButton_Click();
+    void OkButton_Click(int index);
+    void EliminaSetBtn_Click();
+    bool UpdateSet(const std::string& name);
+    bool RenameLoadedSet(const std::string& name);
+    bool CreateSet(const std::string& name);
+    void AddName(const std::string& name);
+    bool SaveDefaultScreens();
+    void LoadSlots(const std::string& setFolder);
+    bool RemoveFilesOfEmptySlots(int first, int last, const std::string& folder);
+    bool CopySlots(int first, int last, const std::string& folder);
+    void FinishSaving();
+    void ReportSaveError();
+    const std::string& LogoFolder() const { return main_.Preferences().logoPath; }
+    std::string ReadTag(int index);
+
+    MainWindow& main_;
+    MenuHandle menus_ = nullptr;
+    IconHandle dragIcon_ = nullptr;
+    SetType type_ = SetType::Complete;
+    Size smallest_;         ///< of the whole window: what fits a screen of 640 x 480
+    Point pressedAt_;       ///< where the left button went down over CurView
+    std::string oldName_;   ///< of the item whose label is edited
+    std::string lastRead_;  ///< the last text that a save command read from a control
+};
+
+}  // namespace vistrel

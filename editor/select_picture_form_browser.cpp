@@ -1,0 +1,213 @@
+// The Logo browser's left side: drives, folders and pictures, and the preview of the selected one.
+#include "controls/drag.h"
+#include "controls/screen_metrics.h"
+#include "core/generali.h"
+#include "editor/file_handling.h"
+#include "editor/picture_folder.h"
+#include "editor/select_picture_form.h"
+#include "pictures/draw_preview.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+/// Place of the menu in its resource.
+constexpr int kManageMenu = 1;
+constexpr char kBackspace = 8;
+constexpr const char* kParentFolder = "..";
+/// "C:\".
+constexpr std::size_t kRootLength = 3;
+constexpr const char* kFixedFolder = "c:\\programmi\\vistrel95\\";
+
+const char* IconOfPicture(const std::string& name) { return IsScreenName(name) ? "sys" : "im"; }
+
+/// A number with the place of its sign: a blank before one that is not negative.
+std::string Signed(long long number) { return (number < 0 ? "" : " ") + std::to_string(number); }
+
+/// 2 raised to a picture's bits per pixel; a header may claim any number of those.
+long long ColorsOfDepth(int depth) { return depth >= 0 && depth <= 32 ? 1LL << depth : 0; }
+
+}  // namespace
+
+bool SelPictureForm::FillList(const std::string& folder) {
+    PictureFolder found;
+    const bool read = ReadPictureFolder(AddBackslash(folder), found);
+    LogoList.SuspendPainting();
+    LogoList.Clear();
+    for (const std::string& name : found.folders) LogoList.AddItem(name, "closed");
+    for (const std::string& name : found.pictures) LogoList.AddItem(name, IconOfPicture(name));
+    LogoList.ResumePainting();
+    return read;
+}
+
+void SelPictureForm::AggiornaDir() { FillList(CurrentFolder); }
+
+void SelPictureForm::BrowseTo(const std::string& folder) {
+    CurrentFolder = folder;
+    CurPath.SetText(CurrentFolder);
+    AggiornaDir();
+}
+
+void SelPictureForm::Drive1_Change() {
+    const std::string drive = Drive1.Drive().substr(0, 2);
+    const std::string root = AddBackslash(drive);
+    if (FillList(root)) {
+        CurrentFolder = root;
+        CurPath.SetText(CurrentFolder.substr(0, 2));
+        return;
+    }
+    Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.", kCriticalOk);
+    Drive1.SetDrive(CurrentFolder);
+    AggiornaDir();
+}
+
+// The folder is fixed: neither the drive list nor CurrentFolder count.
+void SelPictureForm::Dir1_Change() {
+    LogoList.Clear();
+    ForEachEntry(std::string(kFixedFolder) + "*.*", [&](const FolderEntry& entry) {
+        if (entry.name != "." && entry.name != kParentFolder)
+            LogoList.AddItem(entry.name, entry.IsFolder() ? "closed" : IconOfPicture(entry.name));
+        return true;
+    });
+}
+
+std::string SelPictureForm::SelectedName() const {
+    const int selected = LogoList.SelectedItem();
+    return selected < 0 ? std::string() : LogoList.ItemText(selected);
+}
+
+void SelPictureForm::LogoList_ItemClick(int index) {
+    const std::string name = LogoList.ItemText(index);
+    if (name != kParentFolder && !IsFolder(CurrentFolder + name)) CheckImage(CurrentFolder + name);
+}
+
+void SelPictureForm::LogoList_DblClick() {
+    const std::string name = SelectedName();
+    if (name.empty()) return;
+    if (name == kParentFolder)
+        GoUp();
+    else if (IsFolder(CurrentFolder + name))
+        BrowseTo(CurrentFolder + name + "\\");
+    else
+        Picture_MouseUp(CurView, kLeftButton);
+}
+
+void SelPictureForm::LogoList_KeyPress(char character) {
+    if (character == kBackspace && CurrentFolder.size() > kRootLength) GoUp();
+}
+
+void SelPictureForm::GoUp() {
+    const std::string inside = CurrentFolder.substr(0, CurrentFolder.size() - 1);
+    BrowseTo(inside.substr(0, inside.rfind('\\') + 1));
+}
+
+void SelPictureForm::CheckImage(const std::string& path) {
+    IsSysFile = false;
+    if (!IsPictureName(path)) {
+        ImageInfo.SetForeColor(kNoPictureColor);
+        ImageInfo.SetText("No logo selected");
+        // Buttons that an earlier picture enabled stay enabled; the slots look at the verdict.
+        if (!SlotsEnabled) DisableImage();
+        return;
+    }
+    IsSysFile = IsScreenName(path);
+
+    const BusyPointer busy;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::int16_t depth = 0;
+    DrawPreview(path, CurView, width, height, depth);
+    SelectedPicture = path;
+    CurView.SetTag(path);
+    const bool logoForm = width == 320 && height == 400 && depth == 8;
+    ImageInfo.SetForeColor(logoForm && IsSysFile ? kReadyColor : kConvertColor);
+    ImageInfo.SetText(Trim(Signed(width)) + " x " + Signed(height) + " x " +
+                      Signed(ColorsOfDepth(depth)));
+    EnableImage();
+}
+
+void SelPictureForm::LogoList_MouseUp(int button) {
+    if (button == kRightButton) ShowManageMenu(PointerPosition());
+}
+
+void SelPictureForm::ShowManageMenu(Point screen) {
+    PopUpMenu(SubMenu(menus_, kManageMenu), screen);
+}
+
+void SelPictureForm::MenuOpens(MenuHandle menu) {
+    if (menu != SubMenu(menus_, kManageMenu)) return;
+    const std::string name = SelectedName();
+    const bool changeable = !name.empty() && name != kParentFolder;
+    EnableControls(changeable, ItmRename, ItmDelete);
+    for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
+}
+
+void SelPictureForm::ItmRename_Click() { LogoList.StartLabelEdit(); }
+
+bool SelPictureForm::LogoList_BeforeLabelEdit() {
+    oldName_ = SelectedName();
+    return oldName_ != kParentFolder;
+}
+
+bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& newName) {
+    const std::string before = CurrentFolder + oldName_;
+    const std::string after = CurrentFolder + newName;
+    if (!Rename(before, after)) {
+        Ask(handle(),
+            "Cannot rename " + oldName_ + ". A file or folder named " + newName +
+                " already exists or the name is not valid.",
+            kExclamationOk);
+        return false;
+    }
+    RepointSlots(before, after);
+    AggiornaDir();
+    const int renamed = LogoList.FindItem(newName);
+    LogoList.Select(renamed);
+    if (renamed >= 0) LogoList.EnsureVisible(renamed);
+    if (SelectedPicture == before) CheckImage(after);
+    // The list shows the new name already.
+    return false;
+}
+
+void SelPictureForm::ItmDelete_Click() {
+    const std::string name = SelectedName();
+    if (name.empty() || name == kParentFolder) return;
+    DeleteToRecycleBin(handle(), {CurrentFolder + name});
+    AggiornaDir();
+}
+
+void SelPictureForm::CurView_MouseDown(Point at) { pressedAt_ = at; }
+
+void SelPictureForm::CurView_MouseMove(int button, Point at) {
+    if (button == kLeftButton && SlotsEnabled && IsDrag(pressedAt_, at)) DragPicture(CurView);
+}
+
+void SelPictureForm::LogoList_BeginDrag() {
+    if (SlotsEnabled && CurrentFolder + SelectedName() == SelectedPicture) DragPicture(LogoList);
+}
+
+void SelPictureForm::DragPicture(const Control& source) {
+    const auto dropped = DragUntilLetGo(source.handle(), dragIcon_);
+    if (!dropped) return;
+    const Control* target = ControlAt(*dropped);
+    for (int i = 0; i < 3; ++i)
+        if (target == &ImgPreview[i]) AddButton_Click(i);
+}
+
+void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button) {
+    if (!box.HasPicture()) return;
+    main_.SetCurrentPicture(box.Tag());
+    if (button == kLeftButton) {
+        // Windows that this opens close before it returns, and nothing is to be filled again then.
+        ActivateOnce = true;
+        main_.AzioneSuImmagine(main_.Preferences().defaultAction, handle());
+        ActivateOnce = false;
+    } else if (button == kRightButton) {
+        PopUpMenu(main_.OpenWithMenu(), PointerPosition(), main_.DefaultOpenWithItem());
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,130 @@
+// The slots of the Logo browser: the type of set that lays them out, filling and emptying them.
+#include "core/generali.h"
+#include "core/library.h"
+#include "editor/select_picture_form.h"
+#include "editor/slot_file.h"
+#include "pictures/convert.h"
+#include "pictures/draw_preview.h"
+#include "platform/pointer.h"
+
+namespace vistrel {
+
+void SelPictureForm::TypeChosen(SetType type) {
+    // A click on the type that is chosen already changes nothing.
+    if (type != type_) ShowType(type);
+}
+
+void SelPictureForm::ChooseByCode(SetType type) {
+    OptionSetByCode = true;
+    if (type == SetType::OnlyStartup)
+        OptOnlyStart.Choose(OptCompSet, OptDefShut);
+    else
+        OptCompSet.Choose(OptOnlyStart, OptDefShut);
+    ShowType(type);
+}
+
+void SelPictureForm::ShowType(SetType type) {
+    type_ = type;
+    if (type == SetType::Complete) OptCompSet_Click();
+    if (type == SetType::DefaultScreens) OptDefShut_Click();
+    if (type == SetType::OnlyStartup) OptOnlyStart_Click();
+}
+
+void SelPictureForm::ShowSlot(int index, bool used) {
+    ImgPreview[index].SetVisible(used);
+    AddButton[index].SetVisible(used);
+    DeleteButton[index].SetVisible(used);
+    LblNotAval[index].SetVisible(!used);
+}
+
+void SelPictureForm::OptCompSet_Click() {
+    for (int i = 0; i < 3; ++i) ShowSlot(i, true);
+    NameLogoSet.SetEnabled(true);
+    ActButton.SetText("Ac&tion...");
+    const std::string name = NameLogoSet.Text();
+    if (IsSingleLogoSet(name)) NameLogoSet.SetText(name.substr(0, name.size() - 4));
+    OptionWasSet();
+}
+
+void SelPictureForm::OptOnlyStart_Click() {
+    ShowSlot(0, true);
+    ShowSlot(1, false);
+    ShowSlot(2, false);
+    NameLogoSet.SetEnabled(true);
+    ActButton.SetText("Ac&tion...");
+    OptionWasSet();
+}
+
+void SelPictureForm::OptionWasSet() {
+    if (OptionSetByCode) {
+        OptionSetByCode = false;
+        return;
+    }
+    SetChanged = true;
+    CheckBtnStatus();
+}
+
+void SelPictureForm::OptDefShut_Click() {
+    ShowSlot(0, false);
+    NameLogoSet.SetEnabled(false);
+    ActButton.SetText("Save se&tting");
+    for (int i = 1; i < 3; ++i) {
+        ShowSlot(i, true);
+        const std::string path = LogoFolder() + kScreenFileNames[i];
+        DrawPreview(path, ImgPreview[i]);
+        ImgPreview[i].SetTag(path);
+    }
+}
+
+void SelPictureForm::AddButton_Click(int index) {
+    const long verdict = ImageInfo.ForeColor();
+    if (verdict == kNoPictureColor) return;
+    SetChanged = true;
+    CheckBtnStatus();
+    if (verdict == kReadyColor) {
+        FillSlot(index, SelectedPicture);
+        return;
+    }
+    const BusyPointer busy;
+    const std::string converted = ConvertSelected();
+    // Without a temporary file the slot keeps what it holds.
+    if (!converted.empty()) FillSlot(index, converted);
+}
+
+std::string SelPictureForm::ConvertSelected() {
+    const std::string converted = GetTempFile();
+    if (converted.empty()) return {};
+    List1.AddItem(converted);
+    // What cannot be read or written leaves the temporary file empty, and no set gets a copy of it.
+    ConvertToLogo(SelectedPicture, converted);
+    return converted;
+}
+
+void SelPictureForm::FillSlot(int index, const std::string& path) {
+    // A file that is no picture leaves the box empty.
+    DrawPreview(path, ImgPreview[index]);
+    ImgPreview[index].SetTag(path);
+    DeleteButton[index].SetEnabled(true);
+}
+
+void SelPictureForm::DeleteButton_Click(int index) {
+    if (ImgPreview[index].HasPicture()) SetChanged = true;
+    CheckBtnStatus();
+    EmptySlot(index);
+}
+
+// Changes neither SetChanged nor the commands: it also clears up after a set that is no more.
+void SelPictureForm::ClearAllButton_Click() {
+    for (int i = 0; i < 3; ++i) EmptySlot(i);
+}
+
+void SelPictureForm::EmptySlot(int index) {
+    ImgPreview[index].Clear();
+    ImgPreview[index].SetTag("");
+}
+
+void SelPictureForm::RepointSlots(const std::string& from, const std::string& to) {
+    for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
+}
+
+}  // namespace vistrel
