@@ -65,9 +65,10 @@ class SourceParser {
     // ------------------------------------------------------------ paragraphs
 
     bool StartsListOrHeading(std::string_view line) {
-        if (line.starts_with("= "))
+        if (line.starts_with("= ")) {
             StartParagraph(Paragraph::Style::Heading, line.substr(2));
-        else if (line.starts_with("- "))
+            EndParagraph();
+        } else if (line.starts_with("- "))
             StartParagraph(Paragraph::Style::Bullet, line.substr(2));
         else if (line.starts_with("> "))
             StartParagraph(Paragraph::Style::Indented, line.substr(2));

@@ -9,7 +9,7 @@
 //   @keyword WORDS       an entry of the keyword list (letters, digits, blanks)
 //   @browse GROUP        makes the topic the next one of a browse sequence
 //   // TEXT              a remark
-//   = TEXT               a heading
+//   = TEXT               a heading, one line
 //   - TEXT               a paragraph with a bullet
 //   1. TEXT              a numbered paragraph: 1, or the number before and one more
 //   > TEXT               an indented paragraph, as continues a list

@@ -1,0 +1,174 @@
+// The help that ships: whether a user finds everything, and the program every number.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "help/context_numbers.h"
+#include "tests/help/compile.h"
+
+namespace vistrel::help_test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<std::string> ReadFile(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+const ReadHelp& VistrelHelp() {
+    static const ReadHelp help = [] {
+        const fs::path folder = HELP_FOLDER;
+        std::vector<fs::path> paths;
+        for (const auto& entry : fs::directory_iterator(folder / "topics"))
+            paths.push_back(entry.path());
+        std::sort(paths.begin(), paths.end());
+        std::vector<help::SourceFile> sources;
+        for (const fs::path& path : paths) sources.push_back({path.filename(), *ReadFile(path)});
+        help::SourceErrors errors;
+        const auto load = [&](const std::string& name) {
+            return ReadFile(folder / "pictures" / name);
+        };
+        const std::string file = help::CompileHelp(sources, load, errors);
+        for (const help::SourceError& error : errors)
+            ADD_FAILURE() << error.place.file << ":" << error.place.line << ": " << error.message;
+        return errors.empty() ? ReadHelpFile(file) : ReadHelp();
+    }();
+    return help;
+}
+
+bool IsPopup(const ReadTopic& topic) { return topic.band.empty(); }
+
+// Every number that context_numbers.h gives to something: those behind a '='.
+std::set<std::uint32_t> NumbersOfTheProgram() {
+    std::istringstream header(*ReadFile(fs::path(HELP_FOLDER) / "context_numbers.h"));
+    std::set<std::uint32_t> numbers;
+    for (std::string line; std::getline(header, line);) {
+        const std::size_t equals = line.find('=');
+        if (equals == std::string::npos) continue;
+        std::string values = line.substr(equals + 1);
+        std::replace_if(
+            values.begin(), values.end(), [](char c) { return c < '0' || c > '9'; }, ' ');
+        std::istringstream stream(values);
+        for (std::uint32_t number; stream >> number;) numbers.insert(number);
+    }
+    return numbers;
+}
+
+TEST(VistrelHelp, StartsWithItsContents) {
+    const ReadHelp& help = VistrelHelp();
+    EXPECT_EQ(help.title, "Vistrel Help");
+    EXPECT_EQ(help.caption, "Vistrel Help");
+    ASSERT_FALSE(help.topics.empty());
+    EXPECT_EQ(help.TopicAt(help.contents), &help.topics[0]);
+}
+
+TEST(VistrelHelp, NumberThirtyIsTheTutorial) {
+    const ReadTopic* tutorial = VistrelHelp().TopicOfNumber(help_number::Tutorial);
+    ASSERT_NE(tutorial, nullptr);
+    EXPECT_EQ(help_number::Tutorial, 30u);
+    EXPECT_EQ(tutorial->title, "Tutorial: your first logo set");
+    EXPECT_FALSE(IsPopup(*tutorial));
+}
+
+TEST(VistrelHelp, EveryNumberOfTheProgramHasAPopupAndNoOtherIsThere) {
+    const ReadHelp& help = VistrelHelp();
+    std::set<std::uint32_t> numbers;
+    for (const auto& [number, offset] : help.numbers) {
+        numbers.insert(number);
+        EXPECT_EQ(IsPopup(*help.TopicAt(offset)), number != help_number::Tutorial) << number;
+    }
+    EXPECT_EQ(numbers, NumbersOfTheProgram());
+}
+
+struct ControlTitle {
+    unsigned long number;
+    const char* title;
+
+    friend void PrintTo(const ControlTitle& control, std::ostream* out) { *out << control.number; }
+};
+
+class VistrelHelpOfControl : public testing::TestWithParam<ControlTitle> {};
+
+TEST_P(VistrelHelpOfControl, IsAboutThatControl) {
+    const ReadTopic* topic = VistrelHelp().TopicOfNumber(GetParam().number);
+    ASSERT_NE(topic, nullptr);
+    EXPECT_EQ(topic->title, GetParam().title);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Preferences, VistrelHelpOfControl,
+    testing::Values(
+        ControlTitle{32, "Show startup logo"}, ControlTitle{33, "Show splash screen at startup"},
+        ControlTitle{34, "Synchronize logos"}, ControlTitle{35, "Put the startup logo in"},
+        ControlTitle{36, "Logo folder"}, ControlTitle{37, "Double click on logo set"},
+        ControlTitle{38, "Delete logosets in the Recycle Bin"},
+        ControlTitle{39, "Confirm logo sets deletion"},
+        ControlTitle{40, "Confirm logo type change"},
+        ControlTitle{41, "Show it in its actual size"}, ControlTitle{42, "Open Paint"},
+        ControlTitle{43, "Open program"}, ControlTitle{44, "Path of the program"},
+        ControlTitle{54, "Logo sequential change"}, ControlTitle{55, "Logo random change"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    OtherWindows, VistrelHelpOfControl,
+    testing::Values(ControlTitle{help_number::LogoList, "Folders and pictures"},
+                    ControlTitle{help_number::ImgPreview[2], "Slot of the shutdown screen"},
+                    ControlTitle{help_number::OptDefShut, "Default wait/shutdown screens"},
+                    ControlTitle{help_number::CloseButton, "Finish"},
+                    ControlTitle{help_number::MyList, "List of logo sets"},
+                    ControlTitle{help_number::Imag[0], "Startup screen"},
+                    ControlTitle{help_number::ActiveBar1, "Menus and toolbar"}));
+
+TEST(VistrelHelp, EveryTopicIsReachedFromTheContentsOrByANumber) {
+    const ReadHelp& help = VistrelHelp();
+    std::set<const ReadTopic*> reached;
+    std::vector<const ReadTopic*> toVisit = {&help.topics.at(0)};
+    for (const auto& [number, offset] : help.numbers) toVisit.push_back(help.TopicAt(offset));
+    while (!toVisit.empty()) {
+        const ReadTopic* topic = toVisit.back();
+        toVisit.pop_back();
+        if (!reached.insert(topic).second) continue;
+        for (const ReadParagraph& paragraph : topic->paragraphs)
+            for (const ReadLink& link : paragraph.links) toVisit.push_back(help.TopicOfLink(link));
+    }
+    for (const ReadTopic& topic : help.topics)
+        EXPECT_TRUE(reached.contains(&topic)) << topic.title << " is not reached";
+}
+
+TEST(VistrelHelp, BrowsingFromTheContentsPassesEveryTopicThatIsNoPopup) {
+    const ReadHelp& help = VistrelHelp();
+    std::size_t topics = 0, passed = 1;
+    for (const ReadTopic& topic : help.topics) topics += IsPopup(topic) ? 0 : 1;
+    const ReadTopic* topic = &help.topics.at(0);
+    while (topic->browseForward != kNowhere && passed <= topics) {
+        const ReadTopic* next = help.TopicAt(topic->browseForward);
+        EXPECT_EQ(next->browseBack, topic->offset);
+        topic = next;
+        ++passed;
+    }
+    EXPECT_EQ(passed, topics);
+}
+
+TEST(VistrelHelp, EveryTopicThatIsNoPopupHasAKeyword) {
+    const ReadHelp& help = VistrelHelp();
+    std::set<std::uint32_t> found;
+    for (const auto& [keyword, offset] : help.keywords) found.insert(offset);
+    for (const ReadTopic& topic : help.topics)
+        EXPECT_TRUE(IsPopup(topic) || found.contains(topic.offset)) << topic.title;
+}
+
+TEST(VistrelHelp, PopupsAreShortEnoughForAWindowWithoutScrollBar) {
+    for (const ReadTopic& topic : VistrelHelp().topics) {
+        if (!IsPopup(topic)) continue;
+        EXPECT_EQ(topic.paragraphs.size(), 1u) << topic.title;
+        EXPECT_LT(topic.paragraphs[0].text.size(), 320u) << topic.title;
+    }
+}
+
+}  // namespace
+}  // namespace vistrel::help_test
