@@ -40,9 +40,6 @@ void Field(Painting& painting, const std::function<double(double)>& ridge, const
         const double stripe = .5 + .5 * std::sin(across * 6.2832);
         return Mix(tint * 1.1, tint * .8, depth / 150) * (.95 + .08 * Smooth(stripe));
     });
-    painting.Fill(Common(Below(ridge, 0, kWidth, kHeight),
-                         Below([=](double x) { return ridge(x); }, 0, kWidth, kHeight)),
-                  tint, 0);
 }
 
 void Tree(Painting& painting, const Light& light, double x, double y, double size) {
@@ -91,7 +88,7 @@ void GreenHills(Painting& painting, Screen screen) {
         Letter(painting, WriteAround(320, 104, 48, "Just a moment", kTitle), Plain(light.letters),
                3, light.under);
     } else {
-        Letter(painting, WriteAround(216, 104, 48, "Good night", kTitle), Plain(light.letters), 3,
+        Letter(painting, WriteAround(216, 104, 48, "Sleep well", kTitle), Plain(light.letters), 3,
                light.under);
         Letter(painting, WriteAround(216, 152, 23, "You may switch off now", kText),
                Plain(light.letters), 2, light.under);

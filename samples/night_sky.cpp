@@ -51,20 +51,17 @@ void FullMoon(Painting& painting, double x, double y, double radius) {
     });
 }
 
-// A hut with a lit window.
+// A hut with a lit window, starlight on its roof.
 void Hut(Painting& painting, double x, double y) {
-    painting.Fill(Polygon({{x - 30, y},
-                           {x - 30, y - 24},
-                           {x - 36, y - 22},
-                           {x, y - 46},
-                           {x + 36, y - 22},
-                           {x + 30, y - 24},
-                           {x + 30, y}}),
-                  Hex(0x0C1220));
-    painting.Glow(x + 4, y - 14, 90, Hex(0x402808));
-    painting.Fill(Box(x - 3, y - 22, x + 11, y - 8), Hex(0xFFC860));
-    painting.Fill(Box(x + 3, y - 22, x + 5, y - 8), Hex(0x201004));
-    painting.Fill(Box(x - 3, y - 16, x + 11, y - 14), Hex(0x201004));
+    painting.Glow(x + 4, y - 14, 90, Hex(0x382408));
+    painting.Fill(
+        Polygon(
+            {{x - 30, y + 30}, {x - 30, y - 22}, {x, y - 42}, {x + 30, y - 22}, {x + 30, y + 30}}),
+        Hex(0x04060C));
+    painting.Fill(Stroke({{x - 37, y - 18}, {x, y - 44}, {x + 37, y - 18}}, 5), Hex(0x34466C));
+    painting.Fill(Box(x - 4, y - 20, x + 12, y - 4), Hex(0xFFC860));
+    painting.Fill(Box(x + 3, y - 20, x + 5, y - 4), Hex(0x201004));
+    painting.Fill(Box(x - 4, y - 13, x + 12, y - 11), Hex(0x201004));
 }
 
 }  // namespace
@@ -90,7 +87,7 @@ void NightSky(Painting& painting, Screen screen) {
     } else {
         Hut(painting, 452, 446);
         Letter(painting, WriteAround(300, 170, 58, "Good night", kThin), Plain(Hex(0xE8ECFF)), 3);
-        Letter(painting, WriteAround(300, 222, 24, "You may switch off now", kText),
+        Letter(painting, WriteAround(300, 230, 24, "You may switch off now", kText),
                Plain(Hex(0xA8B8E0)), 2);
     }
 }
