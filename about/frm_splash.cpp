@@ -7,6 +7,7 @@
 namespace vistrel {
 namespace {
 
+constexpr long kWhite = 0xFFFFFF;
 constexpr const char* kVersion = "4.00 - BETA 2\r\n5th May 1998";
 
 }  // namespace
@@ -18,6 +19,8 @@ frmSplash::frmSplash() : Window("frmSplash", IDD_Splash) {
 
 void frmSplash::Form_Load() {
     LblVersion.SetText(kVersion);
+    LblVersion.SetForeColor(kWhite);
+    LblVersion.SetSeeThrough();
     ShowPictureResource("SPLASH", SplashPicture);
     const Size size{SplashPicture.ScaleWidth(), SplashPicture.ScaleHeight()};
     const Rect area = WorkArea();

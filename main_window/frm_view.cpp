@@ -8,16 +8,36 @@
 
 namespace vistrel {
 
+namespace {
+
+/// About 15 steps a second, as the system moves the colours while it starts.
+constexpr unsigned kAnimationInterval = 66;
+
+}  // namespace
+
 FrmView::FrmView(std::string path, bool animate)
-    : Window("FrmView", IDD_FrmView), path_(std::move(path)), animate_(animate) {
+    : Window("FrmView", IDD_FrmView),
+      path_(std::move(path)),
+      animate_(animate),
+      AnimationTimer(kAnimationInterval) {
     Add(Preview, ID_Preview, "Click or press a key to close");
+    Add(AnimationTimer);
+    AnimationTimer.Tick = [this] { animation_->Step(); };
     Preview.MouseUp = [this](int, Point) { Preview_Click(); };
 }
 
 void FrmView::Form_Load() {
     ShowPictureInBox(path_, Preview);
+    if (animate_ && Preview.HasPicture()) ShowAnimation();
     SetClientSize({Preview.ScaleWidth(), Preview.ScaleHeight()});
     CentreIn(WorkArea());
+}
+
+void FrmView::ShowAnimation() {
+    animation_ = ScreenAnimation::Load(path_);
+    if (!animation_) return;
+    animation_->Attach(Preview);
+    AnimationTimer.SetEnabled(true);
 }
 
 void FrmView::Form_KeyPress(char) { Unload(); }

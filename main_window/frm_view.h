@@ -1,10 +1,13 @@
 // One picture at its actual size; a click or a key closes it.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "controls/picture_box.h"
+#include "controls/timer.h"
 #include "controls/window.h"
+#include "pictures/draw_animation.h"
 
 namespace vistrel {
 
@@ -21,9 +24,12 @@ class FrmView : public Window {
 
  private:
     void Preview_Click();
+    void ShowAnimation();
 
     std::string path_;
     bool animate_;
+    std::unique_ptr<ScreenAnimation> animation_;
+    Timer AnimationTimer;
 };
 
 }  // namespace vistrel

@@ -1,0 +1,127 @@
+#include "pictures/draw_animation.h"
+
+#include <windows.h>
+
+#include <utility>
+
+#include "controls/display_palette.h"
+#include "pictures/indexed_screen.h"
+#include "pictures/whole_file.h"
+
+namespace vistrel {
+
+struct ScreenAnimation::State {
+    IndexedScreen screen;
+    std::vector<std::uint8_t> rows;  ///< as Windows draws them: padded to multiples of four
+    HPALETTE palette = nullptr;      ///< the screen's own colours, on a display with a palette
+    PictureBox* box = nullptr;
+
+    ~State() {
+        if (palette) DeleteObject(palette);
+    }
+};
+
+namespace {
+
+std::vector<std::uint8_t> PaddedRows(const IndexedScreen& screen) {
+    const std::size_t stride = (static_cast<std::size_t>(screen.width) + 3) & ~std::size_t{3};
+    std::vector<std::uint8_t> rows(stride * screen.height);
+    for (int y = 0; y < screen.height; ++y)
+        std::copy_n(screen.indices.begin() + static_cast<std::ptrdiff_t>(y) * screen.width,
+                    screen.width, rows.begin() + static_cast<std::ptrdiff_t>(y * stride));
+    return rows;
+}
+
+/// All 256 colours; those that move are reserved, so that the system lets us change them.
+void FillEntries(const IndexedScreen& screen, PALETTEENTRY* entries) {
+    for (int i = 0; i < 256; ++i) {
+        const auto& color = screen.palette[i];
+        const BYTE flags = screen.IsAnimated() && i >= screen.firstAnimated ? PC_RESERVED : 0;
+        entries[i] = {color[0], color[1], color[2], flags};
+    }
+}
+
+HPALETTE OwnPalette(const IndexedScreen& screen) {
+    struct {
+        WORD version = 0x300;
+        WORD count = 256;
+        PALETTEENTRY entries[256];
+    } colors;
+    FillEntries(screen, colors.entries);
+    return CreatePalette(reinterpret_cast<const LOGPALETTE*>(&colors));
+}
+
+}  // namespace
+
+ScreenAnimation::ScreenAnimation(std::unique_ptr<State> state) : state_(std::move(state)) {}
+
+ScreenAnimation::~ScreenAnimation() {
+    if (state_->box) state_->box->PaintInstead = nullptr;
+}
+
+std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) {
+    const auto bytes = ReadWholeFile(path);
+    if (!bytes) return nullptr;
+    auto screen = ReadIndexedScreen(*bytes);
+    if (!screen || !screen->IsAnimated()) return nullptr;
+    auto state = std::make_unique<State>();
+    state->screen = std::move(*screen);
+    state->rows = PaddedRows(state->screen);
+    return std::unique_ptr<ScreenAnimation>(new ScreenAnimation(std::move(state)));
+}
+
+void ScreenAnimation::Attach(PictureBox& box) {
+    state_->box = &box;
+    box.PaintInstead = [this](DeviceContext target) { Paint(target); };
+    const HDC screen = GetDC(nullptr);
+    if (HasPalette(screen)) state_->palette = OwnPalette(state_->screen);
+    ReleaseDC(nullptr, screen);
+    box.Repaint();
+}
+
+void ScreenAnimation::Paint(DeviceContext target) {
+    struct {
+        BITMAPINFOHEADER header{};
+        union {
+            RGBQUAD colors[256];
+            WORD numbers[256];
+        };
+    } info;
+    info.header.biSize = sizeof info.header;
+    info.header.biWidth = state_->screen.width;
+    info.header.biHeight = -state_->screen.height;
+    info.header.biPlanes = 1;
+    info.header.biBitCount = 8;
+    HPALETTE former = nullptr;
+    if (state_->palette) {
+        former = SelectPalette(target, state_->palette, FALSE);
+        RealizePalette(target);
+        for (WORD i = 0; i < 256; ++i) info.numbers[i] = i;
+    } else {
+        for (int i = 0; i < 256; ++i) {
+            const auto& color = state_->screen.palette[i];
+            info.colors[i] = {color[2], color[1], color[0], 0};
+        }
+    }
+    SetDIBitsToDevice(target, 0, 0, static_cast<DWORD>(state_->screen.width),
+                      static_cast<DWORD>(state_->screen.height), 0, 0, 0,
+                      static_cast<UINT>(state_->screen.height), state_->rows.data(),
+                      reinterpret_cast<const BITMAPINFO*>(&info),
+                      state_->palette ? DIB_PAL_COLORS : DIB_RGB_COLORS);
+    if (former) SelectPalette(target, former, FALSE);
+}
+
+void ScreenAnimation::Step() {
+    RotateColors(state_->screen);
+    if (!state_->palette) {
+        InvalidateRect(state_->box->handle(), nullptr, FALSE);
+        return;
+    }
+    // The display's own table changes; what is on the screen moves without being painted.
+    PALETTEENTRY entries[256];
+    FillEntries(state_->screen, entries);
+    const auto first = static_cast<UINT>(state_->screen.firstAnimated);
+    AnimatePalette(state_->palette, first, 256 - first, entries + first);
+}
+
+}  // namespace vistrel

@@ -1,0 +1,33 @@
+// Shows a screen whose colours move, on displays with a palette and without.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "controls/picture_box.h"
+
+namespace vistrel {
+
+class ScreenAnimation {
+ public:
+    /// Empty when the file is no screen with animated colours.
+    static std::unique_ptr<ScreenAnimation> Load(const std::string& path);
+    ~ScreenAnimation();
+    ScreenAnimation(const ScreenAnimation&) = delete;
+    ScreenAnimation& operator=(const ScreenAnimation&) = delete;
+
+    /// Shows the screen in `box`, which has its size, from now on.
+    void Attach(PictureBox& box);
+    /// Moves the colours by one step. Only colours change: nothing is read or reduced again.
+    void Step();
+
+ private:
+    struct State;
+    explicit ScreenAnimation(std::unique_ptr<State> state);
+    void Paint(DeviceContext target);
+
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace vistrel
