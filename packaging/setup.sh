@@ -53,7 +53,7 @@ build() {
     mkdir -p build
     if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${*:+--target "$@"}; } \
         >"$log" 2>&1; then
-        grep -A 20 -E 'FAILED|error|Error' "$log" | head -n 60
+        grep -A 8 -E '^FAILED|CMake Error|^ninja: error' "$log" | head -n 60
         fail "cannot build $preset; all of the output is in $log"
     fi
 }

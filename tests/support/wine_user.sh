@@ -1,10 +1,18 @@
 # Sourced by the scripts that start Wine: who runs it, and in which surroundings.
 
-# Wine programs run as an ordinary user: to root no file is read-only and no folder is closed.
+screen_pid=
+
+# Wine programs run as an ordinary user: to root no file is read-only and no folder is closed. Only
+# the machine that ./run opens belongs to whoever calls it.
 as_user=()
-if [ "$(id -u)" = 0 ]; then
+if [ "$(id -u)" = 0 ] && [ -z "${VISTREL_AS_CALLER:-}" ]; then
     as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups)
 fi
+
+# Gives files and folders to that user.
+own() {
+    if [ ${#as_user[@]} -gt 0 ]; then chown -R 65534:65534 "$@"; fi
+}
 
 # Makes a private folder in which that user may work, and prints its path. DOS attributes are kept
 # in extended attributes, which not every file system for temporary files has.
@@ -14,7 +22,7 @@ make_private_folder() {
         folder=$(mktemp -d "$parent/vistrel.XXXXXXXX") || continue
         if /usr/bin/python3 -c 'import os, sys; os.setxattr(sys.argv[1], "user.test", b"1")' "$folder" \
             2>/dev/null; then
-            if [ "$(id -u)" = 0 ]; then chown 65534:65534 "$folder"; fi
+            own "$folder"
             echo "$folder"
             return 0
         fi
@@ -51,12 +59,14 @@ remove_private_folder() {
     rm -rf "$1"
 }
 
-# start_screen FOLDER: starts a virtual X screen on a free display. Sets DISPLAY and screen_pid.
+# start_screen FOLDER: starts a virtual X screen on a free display. Sets DISPLAY and screen_pid;
+# what it shows is in FOLDER/Xvfb_screen0.
 start_screen() {
     local attempt
     if [ "$(id -u)" = 0 ]; then mkdir -p -m 1777 /tmp/.X11-unix; fi
+    # A session of its own: an interrupt from the keyboard is not meant for the screen.
     : >"$1/display"
-    Xvfb -displayfd 3 -screen 0 1024x768x24 -fbdir "$1" -nolisten tcp -noreset \
+    setsid Xvfb -displayfd 3 -screen 0 1024x768x24 -fbdir "$1" -nolisten tcp -noreset \
         3>"$1/display" >"$1/screen.log" 2>&1 &
     screen_pid=$!
     for attempt in $(seq 300); do
@@ -70,4 +80,12 @@ start_screen() {
     done
     echo "the virtual screen did not start: $(tail -n 1 "$1/screen.log")" >&2
     return 1
+}
+
+# Ends the screen, if one was started.
+end_screen() {
+    [ -n "$screen_pid" ] || return 0
+    kill "$screen_pid" 2>/dev/null
+    wait "$screen_pid" 2>/dev/null
+    screen_pid=
 }
