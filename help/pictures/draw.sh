@@ -30,7 +30,7 @@ label() { # X TEXT
 draw screens.bmp 370x110 "
     push graphic-context $(monitor 4 '#00a0e0')
         stroke none fill #ffff80 circle 30,32 30,24
-        fill #008000 polygon 10,66 34,46 52,58 66,50 86,66
+        fill #00a000 polygon 10,66 34,46 52,58 66,50 86,66
         $(label 2 'Startup screen') pop graphic-context
     $(arrow 107)
     push graphic-context $(monitor 134 '#000080')
