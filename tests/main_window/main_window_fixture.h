@@ -1,0 +1,57 @@
+// The main window on a small machine, with a user in front of it.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "controls/message_loop.h"
+#include "main_window/principale.h"
+#include "resources/ids.h"
+#include "tests/core/machine.h"
+#include "tests/support/user.h"
+
+namespace vistrel::test {
+
+/// The bytes of a screen file of 320 x 400 pixels in one colour; from `firstAnimated` on, where that
+/// is not 0, its colours move.
+std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blue,
+                       int firstAnimated = 0);
+
+/// A colour that a picture box shows, in its middle.
+COLORREF MiddleOf(const PictureBox& box);
+
+inline constexpr COLORREF kRed = RGB(255, 0, 0);
+inline constexpr COLORREF kGreenScreen = RGB(0, 255, 0);
+inline constexpr COLORREF kBlueScreen = RGB(0, 0, 255);
+inline constexpr COLORREF kEmptyBox = RGB(128, 128, 128);
+
+/// A library with the sets "Blue", "Green.SLS" and "Red": each shows its colour as startup screen; the
+/// multi-logo sets have the other two too, the shared ones are white.
+class MainWindow98 : public Machine {
+ protected:
+    MainWindow98();
+
+    /// A set of three screens of one colour.
+    void PutSet(const std::string& name, unsigned char red, unsigned char green,
+                unsigned char blue);
+    void PutSingleSet(const std::string& name, unsigned char red, unsigned char green,
+                      unsigned char blue);
+
+    /// Opens the main window, lets `user` act in it on a thread of its own, and closes it. This
+    /// thread handles the messages meanwhile, as the program does.
+    void WithMainWindow(const std::function<void(Principale& main)>& user);
+
+    /// For the user's thread: selects a set by a click on it.
+    void ClickSet(Principale& main, const std::string& name);
+    POINT PointOfSet(Principale& main, const std::string& name);
+    /// Chooses a command as the toolbar, a menu or a key would send it, and waits until it is done.
+    void Command(Principale& main, int id);
+    /// The same for a command that opens something that waits for an answer: does not wait.
+    void StartCommand(Principale& main, int id);
+};
+
+}  // namespace vistrel::test

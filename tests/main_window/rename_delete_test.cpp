@@ -1,0 +1,226 @@
+// Renaming in place, changing the format by the name, deleting.
+#include "tests/main_window/main_window_fixture.h"
+
+namespace vistrel::test {
+namespace {
+
+class Renaming : public MainWindow98 {
+ protected:
+    /// Edits a set's label by F2, types a name and presses Enter.
+    void Rename(Principale& main, const std::string& name, const std::string& newName) {
+        ClickSet(main, name);
+        user::Press(VK_F2);
+        ASSERT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+        user::TakeShot("rename_in_place");
+        user::Type(newName);
+        user::Press(VK_RETURN);
+    }
+    static bool Shows(Principale& main, const std::string& name) {
+        return WaitUntil([&] {
+            return !main.MyList.EditingLabel() && main.MyList.FindItem(name) >= 0;
+        });
+    }
+};
+
+TEST_F(Renaming, RenamesTheFolderAndKeepsTheSetSelected) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "Scarlet");
+        EXPECT_TRUE(Shows(main, "Scarlet"));
+        EXPECT_TRUE(WaitUntil([&] { return main.Imag[0].Tag() == logos + "Scarlet\\LOGO.SYS"; }));
+        EXPECT_TRUE(Exists(logos + "Scarlet\\LOGO.SYS"));
+        EXPECT_FALSE(Exists(logos + "Red"));
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Scarlet")), "multilogo");
+    });
+}
+
+TEST_F(Renaming, KeepsTheInstalledSetInstalledUnderItsNewName) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Blue", "Azure");
+        EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Azure"; }));
+    });
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Azure"));
+}
+
+TEST_F(Renaming, AsksBeforeAMultiLogoSetBecomesASingleLogoSet) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "Red.SLS");
+        const auto box = user::AnswerBox(IDYES);
+        EXPECT_EQ(box.text,
+                  "Would you like to change your logoset format from Multi Logo to Single Logo?");
+        EXPECT_EQ(box.icon, unsigned{MB_ICONQUESTION});
+        EXPECT_EQ(box.default_button, IDYES);
+        EXPECT_TRUE(Shows(main, "Red.SLS"));
+        EXPECT_TRUE(WaitUntil([&] { return main.LogoType.Text() == "Single logo"; }));
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Red.SLS")), "singlelogo");
+        // The name alone is the format: nothing in the folder changes.
+        EXPECT_TRUE(Exists(logos + "Red.SLS\\LOGOW.SYS"));
+    });
+}
+
+TEST_F(Renaming, AsksBeforeASingleLogoSetBecomesAMultiLogoSetAndLeavesAllAtNo) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Green.SLS", "Green");
+        const auto box = user::AnswerBox(IDNO);
+        EXPECT_EQ(box.text,
+                  "Would you like to change your logoset format from Single Logo to Multi Logo?");
+        EXPECT_TRUE(Shows(main, "Green.SLS"));
+        EXPECT_TRUE(Exists(logos + "Green.SLS"));
+        EXPECT_FALSE(Exists(logos + "Green"));
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Green.SLS")), "singlelogo");
+    });
+}
+
+TEST_F(Renaming, ChangesTheFormatUnaskedWhereThePreferenceIsOff) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().confirmLogoTypeChange = 0;
+        Rename(main, "Red", "Red.sls");
+        EXPECT_TRUE(Shows(main, "Red.sls"));
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Red.sls")), "singlelogo");
+    });
+}
+
+TEST_F(Renaming, TakesAChangeOfCaseOfTheEndingForNoChangeOfFormat) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Green.SLS", "Green.sls");
+        EXPECT_TRUE(Shows(main, "Green.sls"));
+        EXPECT_TRUE(WaitUntil([&] { return main.Imag[0].Tag() == logos + "Green.sls\\LOGO.SYS"; }));
+    });
+}
+
+TEST_F(Renaming, TellsThatTheNameIsTakenOrIllegalAndKeepsTheOld) {
+    for (const char* name : {"Blue", "a/b", "a?b"}) {
+        WithMainWindow([&](Principale& main) {
+            Rename(main, "Red", name);
+            const auto box = user::AnswerBox(IDOK);
+            EXPECT_EQ(box.text,
+                      "Cannot rename folder. The folder already exists or has an invalid name");
+            EXPECT_EQ(box.icon, unsigned{MB_ICONEXCLAMATION});
+            EXPECT_TRUE(Shows(main, "Red"));
+        });
+        EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS")) << name;
+    }
+}
+
+TEST_F(Renaming, ShowsTheIconAskedForAfterAFailedChangeOfFormatUntilTheNextRefresh) {
+    PutSingleSet("Taken.SLS", 1, 2, 3);
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().confirmLogoTypeChange = 0;
+        Rename(main, "Red", "Taken.SLS");
+        user::AnswerBox(IDOK);
+        EXPECT_TRUE(Shows(main, "Red"));
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Red")), "singlelogo");
+        Command(main, ID_ToolRefresh);
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Red")), "multilogo");
+    });
+}
+
+TEST_F(Renaming, IsGivenUpByEsc) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        user::Press(VK_F2);
+        ASSERT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+        user::Type("Other");
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(Shows(main, "Red"));
+    });
+    EXPECT_TRUE(Exists(logos + "Red"));
+}
+
+TEST_F(Renaming, LeavesDeleteToTheTextWhileALabelIsEdited) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        user::Press(VK_F2);
+        ASSERT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+        user::Press(VK_DELETE);
+        user::Type("Rosso");
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(Shows(main, "Rosso"));
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+    });
+}
+
+class Deleting : public MainWindow98 {
+ protected:
+    /// Deletes the selected set for good, answering the question.
+    void DeleteSelected(Principale& main, int answer) {
+        main.Preferences().deleteInTheRecycleBin = 0;
+        const int before = main.MyList.Count();
+        StartCommand(main, ID_ToolDelete);
+        box_ = user::AnswerBox(answer);
+        if (answer == IDYES) WaitUntil([&] { return main.MyList.Count() == before - 1; });
+    }
+
+    user::Box box_;
+};
+
+TEST_F(Deleting, AsksAndDeletesTheFolderAndSelectsTheNextSet) {
+    WithMainWindow([&](Principale& main) {
+        main.SelItem("Blue");
+        DeleteSelected(main, IDYES);
+        EXPECT_EQ(box_.title, "Confirm deletions");
+        EXPECT_EQ(box_.text, "Are you sure you want to delete Blue logo set? This operation will "
+                             "delete all files contained in '" +
+                                 logos + "Blue' folder!");
+        EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 2 logo sets"; }));
+        EXPECT_EQ(main.MyList.SelectedItem(), 0);
+        EXPECT_EQ(main.Imag[0].Tag(), logos + "Green.SLS\\LOGO.SYS");
+        EXPECT_EQ(main.DefaultLogo.Text(), "<Don't know>");
+    });
+    EXPECT_FALSE(Exists(logos + "Blue"));
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(""));
+}
+
+TEST_F(Deleting, SelectsTheNewLastSetAfterTheLast) {
+    WithMainWindow([&](Principale& main) {
+        main.SelItem("Red");
+        DeleteSelected(main, IDYES);
+        EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 2 logo sets"; }));
+        EXPECT_EQ(main.MyList.SelectedItem(), 1);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+    });
+}
+
+TEST_F(Deleting, ClearsThePicturesWithTheOnlySet) {
+    RemoveTree(logos + "Green.SLS");
+    RemoveTree(logos + "Red");
+    WithMainWindow([&](Principale& main) {
+        DeleteSelected(main, IDYES);
+        EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 0 logo sets"; }));
+        for (const PictureBox& box : main.Imag) EXPECT_FALSE(box.HasPicture());
+    });
+}
+
+TEST_F(Deleting, ChangesNothingAtNo) {
+    WithMainWindow([&](Principale& main) {
+        DeleteSelected(main, IDNO);
+        EXPECT_EQ(main.MyList.Count(), 3);
+    });
+    EXPECT_TRUE(Exists(logos + "Blue\\LOGO.SYS"));
+}
+
+TEST_F(Deleting, DeletesUnaskedByTheDeleteKeyWhereThePreferenceIsOff) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().deleteInTheRecycleBin = 0;
+        main.Preferences().confirmLogosetDelete = 0;
+        ClickSet(main, "Red");
+        user::Press(VK_DELETE);
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
+    });
+    EXPECT_FALSE(Exists(logos + "Red"));
+}
+
+TEST_F(Deleting, MovesTheFilesToTheRecycleBin) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().deleteInTheRecycleBin = 1;
+        main.Preferences().confirmLogosetDelete = 0;
+        main.SelItem("Red");
+        StartCommand(main, ID_ToolDelete);
+        user::AnswerBox(IDYES);  // the shell's own question
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
+    });
+    EXPECT_FALSE(Exists(logos + "Red"));
+}
+
+}  // namespace
+}  // namespace vistrel::test
