@@ -27,7 +27,7 @@ void WritePalette(const std::vector<Rgb>& colors, std::uint8_t* palette) {
 std::vector<Rgb> ReduceColors(const std::uint8_t* rgb, int width, int height, int colors,
                               std::uint8_t* indices, Dither dither) {
     constexpr DistanceWeights kPlain{};
-    constexpr DistanceWeights kAsSeen{256, 433, 164, 512};
+    constexpr DistanceWeights kAsSeen{256, 496, 208, 960};
     const WorkingSpace space(dither == Dither::On ? kAsSeen : kPlain);
     const std::size_t pixels = std::size_t(width) * height;
     Palette palette;

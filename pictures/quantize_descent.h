@@ -16,7 +16,7 @@ namespace vistrel {
 struct DescentSettings {
     /// How much a pixel's own error counts beside the blurred one, in 1/256: 100 trusts the eye to
     /// blend pixels, 400 hardly.
-    int lambda = 102;
+    int lambda = 80;
     int rounds = 5;
 };
 

@@ -27,21 +27,27 @@ bool Gather(const std::uint8_t* rgb, std::size_t pixels, Histogram& histogram) {
     std::vector<std::uint16_t> table(kMask + 1, kFree);
     std::vector<Cell>& cells = histogram.cells;
     cells.clear();
+    std::uint32_t lastKey = UINT32_MAX;
+    std::uint16_t number = 0;
     for (std::size_t i = 0; i < pixels; ++i, rgb += 3) {
         const std::uint32_t key = KeyOf(rgb, histogram.bits);
-        std::uint32_t slot = Slot(key, kTableBits);
-        while (table[slot] != kFree && cells[table[slot]].key != key) slot = (slot + 1) & kMask;
-        if (table[slot] == kFree) {
-            if (cells.size() == kMostCells) return false;
-            table[slot] = static_cast<std::uint16_t>(cells.size());
-            cells.emplace_back().key = key;
+        if (key != lastKey) {
+            std::uint32_t slot = Slot(key, kTableBits);
+            while (table[slot] != kFree && cells[table[slot]].key != key) slot = (slot + 1) & kMask;
+            if (table[slot] == kFree) {
+                if (cells.size() == kMostCells) return false;
+                table[slot] = static_cast<std::uint16_t>(cells.size());
+                cells.emplace_back().key = key;
+            }
+            number = table[slot];
+            lastKey = key;
         }
-        Cell& cell = cells[table[slot]];
+        Cell& cell = cells[number];
         ++cell.count;
         cell.red += rgb[0];
         cell.green += rgb[1];
         cell.blue += rgb[2];
-        histogram.cellOf[i] = table[slot];
+        histogram.cellOf[i] = number;
     }
     return true;
 }
