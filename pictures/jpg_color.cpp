@@ -44,64 +44,79 @@ inline void PutInks(std::uint8_t* pixel, bool inverted, Rgb inks, int black) {
     Put(pixel, Through(inks.red, black), Through(inks.green, black), Through(inks.blue, black));
 }
 
+// The three colours of a pixel, or the inks in their place, from samples that count from the middle
+// of their range where they are differences of colour.
+template <JpgColor kColor>
+Rgb Mix(int a, int b, int c) {
+    if constexpr (kColor == JpgColor::Grey) return {a, a, a};
+    if constexpr (kColor == JpgColor::Ycc || kColor == JpgColor::Ycck) return YccToRgb(a, b, c);
+    return {a, b, c};
+}
+
+template <JpgColor kColor>
+void PutMixed(std::uint8_t* pixel, bool inverted, const Rgb& color, int black) {
+    if constexpr (kColor == JpgColor::Cmyk) {
+        PutInks(pixel, inverted, color, black);
+    } else if constexpr (kColor == JpgColor::Ycck) {
+        const Rgb inks{255 - Clamp(color.red), 255 - Clamp(color.green), 255 - Clamp(color.blue)};
+        PutInks(pixel, inverted, inks, black);
+    } else {
+        Put(pixel, color.red, color.green, color.blue);
+    }
+}
+
+template <JpgColor kColor>
+void Convert(bool inverted, const std::uint8_t* const* rows, int width, std::uint8_t* rgb) {
+    constexpr bool kIsInk = kColor == JpgColor::Cmyk || kColor == JpgColor::Ycck;
+    constexpr bool kIsYcc = kColor == JpgColor::Ycc || kColor == JpgColor::Ycck;
+    constexpr int kMiddle = kIsYcc ? 128 : 0;
+    // A grey picture has one row only; what is taken from its others is not used.
+    const std::uint8_t* b = kColor == JpgColor::Grey ? rows[0] : rows[1];
+    const std::uint8_t* c = kColor == JpgColor::Grey ? rows[0] : rows[2];
+    for (int x = 0; x < width; ++x, rgb += 3) {
+        const Rgb color = Mix<kColor>(rows[0][x], b[x] - kMiddle, c[x] - kMiddle);
+        PutMixed<kColor>(rgb, inverted, color, kIsInk ? rows[3][x] : 0);
+    }
+}
+
+int ToSample(int fine) { return (fine + (128 << kFineBits) + (1 << (kFineBits - 1))) >> kFineBits; }
+
+template <JpgColor kColor>
+void ConvertFine(const std::int16_t* const* rows, int width, std::uint8_t* rgb) {
+    const std::int16_t* b = kColor == JpgColor::Grey ? rows[0] : rows[1];
+    const std::int16_t* c = kColor == JpgColor::Grey ? rows[0] : rows[2];
+    for (int x = 0; x < width; ++x, rgb += 3) {
+        const Rgb fine = Mix<kColor>(rows[0][x], b[x], c[x]);
+        Put(rgb, ToSample(fine.red), ToSample(fine.green), ToSample(fine.blue));
+    }
+}
+
 }  // namespace
 
 void ConvertRow(const JpgColorKind& kind, const std::uint8_t* const* rows, int width,
                 std::uint8_t* rgb) {
-    constexpr int kMiddle = 128;
-    const std::uint8_t* a = rows[0];
-    const std::uint8_t* b = rows[1];
-    const std::uint8_t* c = rows[2];
-    const std::uint8_t* d = rows[3];
-    for (int x = 0; x < width; ++x, rgb += 3) {
-        switch (kind.color) {
-            case JpgColor::Grey:
-                Put(rgb, a[x], a[x], a[x]);
-                break;
-            case JpgColor::Rgb:
-                Put(rgb, a[x], b[x], c[x]);
-                break;
-            case JpgColor::Ycc: {
-                const Rgb color = YccToRgb(a[x], b[x] - kMiddle, c[x] - kMiddle);
-                Put(rgb, color.red, color.green, color.blue);
-                break;
-            }
-            case JpgColor::Cmyk:
-                PutInks(rgb, kind.inverted, {a[x], b[x], c[x]}, d[x]);
-                break;
-            case JpgColor::Ycck: {
-                const Rgb color = YccToRgb(a[x], b[x] - kMiddle, c[x] - kMiddle);
-                PutInks(rgb, kind.inverted,
-                        {255 - Clamp(color.red), 255 - Clamp(color.green), 255 - Clamp(color.blue)},
-                        d[x]);
-                break;
-            }
-        }
+    switch (kind.color) {
+        case JpgColor::Grey:
+            return Convert<JpgColor::Grey>(kind.inverted, rows, width, rgb);
+        case JpgColor::Ycc:
+            return Convert<JpgColor::Ycc>(kind.inverted, rows, width, rgb);
+        case JpgColor::Rgb:
+            return Convert<JpgColor::Rgb>(kind.inverted, rows, width, rgb);
+        case JpgColor::Cmyk:
+            return Convert<JpgColor::Cmyk>(kind.inverted, rows, width, rgb);
+        case JpgColor::Ycck:
+            return Convert<JpgColor::Ycck>(kind.inverted, rows, width, rgb);
     }
 }
 
-void ConvertFineRow(const JpgColorKind& kind, const std::int16_t* const* rows, int width,
-                    std::uint8_t* rgb) {
-    const bool isYcc = kind.color == JpgColor::Ycc || kind.color == JpgColor::Ycck;
-    const auto toSample = [](int fine) {
-        return Clamp((fine + (128 << kFineBits) + (1 << (kFineBits - 1))) >> kFineBits);
-    };
-    for (int x = 0; x < width; ++x, rgb += 3) {
-        Rgb color{rows[0][x], rows[0][x], rows[0][x]};
-        if (isYcc) {
-            color = YccToRgb(rows[0][x], rows[1][x], rows[2][x]);
-        } else if (kind.color != JpgColor::Grey) {
-            color = {rows[0][x], rows[1][x], rows[2][x]};
-        }
-        color = {toSample(color.red), toSample(color.green), toSample(color.blue)};
-        if (kind.color == JpgColor::Ycck) {
-            color = {255 - color.red, 255 - color.green, 255 - color.blue};
-        }
-        if (kind.color == JpgColor::Cmyk || kind.color == JpgColor::Ycck) {
-            PutInks(rgb, kind.inverted, color, toSample(rows[3][x]));
-        } else {
-            Put(rgb, color.red, color.green, color.blue);
-        }
+void ConvertFineRow(JpgColor color, const std::int16_t* const* rows, int width, std::uint8_t* rgb) {
+    switch (color) {
+        case JpgColor::Grey:
+            return ConvertFine<JpgColor::Grey>(rows, width, rgb);
+        case JpgColor::Ycc:
+            return ConvertFine<JpgColor::Ycc>(rows, width, rgb);
+        default:
+            return ConvertFine<JpgColor::Rgb>(rows, width, rgb);
     }
 }
 

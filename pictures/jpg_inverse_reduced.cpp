@@ -2,14 +2,10 @@
 #include "pictures/jpg_inverse_reduced.h"
 
 #include "pictures/jpg_color.h"
+#include "pictures/jpg_inverse_block.h"
 
 namespace vistrel {
 namespace {
-
-// Bits behind the point that the columns' results keep.
-constexpr int kColumnBits = 2;
-// The two ways of a block make eight times its samples.
-constexpr int kBlockBits = 3;
 
 constexpr int kLowest = -(128 << kFineBits);
 constexpr int kHighest = 127 << kFineBits;
@@ -64,7 +60,7 @@ struct RowJob {
 };
 
 std::int16_t ToFine(Wrapping sum) {
-    const std::int32_t fine = Descale(sum, kTermBits + kColumnBits + kBlockBits - kFineBits);
+    const std::int32_t fine = Descale(sum, kSumBits - kFineBits);
     return static_cast<std::int16_t>(std::clamp(fine, kLowest, kHighest));
 }
 
@@ -107,6 +103,14 @@ ReducedInverse::ReducedInverse(const KeptFrequencies& kept, const QuantTable& qu
 
 void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16_t* samples,
                                std::ptrdiff_t stride) {
+    if (across_ * down_ == kBlockSize) {
+        for (int i = 0; i < count; ++i, blocks += kBlockSize, samples += 8) {
+            InverseBlock(blocks, steps_.data(), [=](int row, const Wrapping* sums) {
+                for (int x = 0; x < 8; ++x) samples[row * stride + x] = ToFine(sums[x]);
+            });
+        }
+        return;
+    }
     for (int first = 0; first < count; first += kBlocksAtOnce) {
         const int some = std::min(kBlocksAtOnce, count - first);
         kColumns[static_cast<std::size_t>(down_ - 1)](

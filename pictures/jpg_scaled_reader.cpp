@@ -147,10 +147,10 @@ RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scaler
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(stored.width) *
                           static_cast<std::size_t>(stored.height) * 3);
-    const JpgColorKind kind{markers.Color(), markers.InksAreInverted()};
+    const JpgColor color = markers.Color();
     std::vector<std::uint8_t> row(static_cast<std::size_t>(stored.width) * 3);
     for (int y = 0; y < stored.height; ++y) {
-        ConvertFineRow(kind, scalers.Row(y).data(), stored.width, row.data());
+        ConvertFineRow(color, scalers.Row(y).data(), stored.width, row.data());
         place.PutRow(row.data(), y, picture.pixels.data());
     }
     return picture;
