@@ -22,9 +22,15 @@ ScreenNames NamesOf(LogoScreen screen, const std::string& windowsDirectory) {
     return {windowsDirectory + fileName, stem + ".NEW", stem + ".OLD"};
 }
 
+/// Deletes a file of ours, read-only or not.
+void Discard(const std::string& path) {
+    SetAttributes(path, kNormalFile);
+    Remove(path);
+}
+
 /// Puts the complete incoming file into the place of the installed one, if there is one.
 bool TakeThePlace(const ScreenNames& names) {
-    Remove(names.aside);
+    Discard(names.aside);
     const bool hadOld = Rename(names.installed, names.aside);
     if (Rename(names.incoming, names.installed)) return true;
     if (hadOld) Rename(names.aside, names.installed);
@@ -35,7 +41,6 @@ bool Replace(const std::string& from, const ScreenNames& names) {
     SetAttributes(names.incoming, kNormalFile);
     Error error;
     if (!CopyOver(from, names.incoming, &error)) {
-        Remove(names.incoming);
         if (error.IsFileNotFound()) Remove(names.installed);
         return false;
     }
@@ -49,8 +54,8 @@ bool MirrorScreen(const std::string& from, const ScreenNames& names) {
     Rename(names.aside, names.installed);
     SetAttributes(names.installed, kNormalFile);
     const bool mirrored = SameContents(from, names.installed) || Replace(from, names);
-    if (mirrored) Remove(names.aside);
-    Remove(names.incoming);
+    if (mirrored) Discard(names.aside);
+    Discard(names.incoming);
     return mirrored;
 }
 

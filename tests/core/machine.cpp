@@ -106,6 +106,7 @@ std::vector<std::string> NamesIn(const std::string& folder) {
 
 void RemoveTree(const std::string& path) {
     const std::string name = WithoutBackslash(path);
+    if (RemoveDirectoryA(name.c_str())) return;
     const DWORD attributes = GetFileAttributesA(name.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return;
     SetFileAttributesA(name.c_str(), FILE_ATTRIBUTE_NORMAL);

@@ -1,0 +1,105 @@
+// A machine at boot.
+#include "tests/companions/boot.h"
+
+#include <windows.h>
+
+#include "core/generali.h"
+
+namespace vistrel::test {
+
+namespace {
+
+/// Whether the process has a visible top window.
+bool ShowsAWindow(DWORD process) {
+    struct Search {
+        DWORD process;
+        bool found;
+    } search = {process, false};
+    EnumWindows(
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& search = *reinterpret_cast<Search*>(parameter);
+            DWORD owner = 0;
+            GetWindowThreadProcessId(window, &owner);
+            if (owner == search.process && IsWindowVisible(window)) search.found = true;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+}  // namespace
+
+Boot::Boot() {
+    CleanUp();
+    PutInstalled();
+    Store("LogoPath", TextValue(logos));
+}
+
+Boot::~Boot() { CleanUp(); }
+
+void Boot::CleanUp() {
+    for (const char* name :
+         {"LOGOW.SYS", "LOGOS.SYS", "~LOGOW.NEW", "~LOGOS.NEW", "~LOGOW.OLD", "~LOGOS.OLD"}) {
+        RemoveTree(windows + name);
+    }
+    RemoveTree("C:\\LOGO.SYS");
+    RemoveTree(bin + "Mirrorkin.ini");
+}
+
+Boot::Start Boot::Run(const std::string& commandLine) {
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    std::string line = bin + commandLine;
+    Start start;
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process))
+        return start;
+    for (const DWORD begun = GetTickCount(); !start.ended && GetTickCount() - begun < 60000;) {
+        start.ended = WaitForSingleObject(process.hProcess, 5) == WAIT_OBJECT_0;
+        if (ShowsAWindow(process.dwProcessId)) start.showedAWindow = true;
+    }
+    if (!start.ended) TerminateProcess(process.hProcess, 255);
+    GetExitCodeProcess(process.hProcess, &start.exitCode);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return start;
+}
+
+unsigned long Boot::RunUnseen(const std::string& commandLine) {
+    const Start start = Run(commandLine);
+    EXPECT_TRUE(start.ended) << commandLine;
+    EXPECT_FALSE(start.showedAWindow) << commandLine;
+    return start.exitCode;
+}
+
+std::vector<std::string> Boot::SetsInOrder() const {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA found;
+    HANDLE search = FindFirstFileA((logos + "*").c_str(), &found);
+    do {
+        const std::string name = found.cFileName;
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (isFolder && name != "." && name != "..") names.push_back(name);
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    return names;
+}
+
+void Boot::PutInstalled() {
+    Put("C:\\LOGO.SYS", old[0]);
+    Put(windows + "LOGOW.SYS", old[1]);
+    Put(windows + "LOGOS.SYS", old[2]);
+}
+
+std::vector<std::string> Boot::Installed() const {
+    return {Contents("C:\\LOGO.SYS").value_or("-"), Contents(windows + "LOGOW.SYS").value_or("-"),
+            Contents(windows + "LOGOS.SYS").value_or("-")};
+}
+
+std::string Boot::InstalledSet() const {
+    const auto stored = Stored("DefaultLogoSet");
+    return stored ? CutAtNul(stored->bytes) : "(none)";
+}
+
+}  // namespace vistrel::test
