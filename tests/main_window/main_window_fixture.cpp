@@ -44,14 +44,14 @@ MainWindow98::MainWindow98() {
 
 void MainWindow98::PutSet(const std::string& name, unsigned char red, unsigned char green,
                           unsigned char blue) {
-    MakeFolders(logos + name);
+    MakeFolders(logos + name + "\\");
     for (const char* screen : kScreenFileNames)
         Put(logos + name + "\\" + screen, ScreenFile(red, green, blue));
 }
 
 void MainWindow98::PutSingleSet(const std::string& name, unsigned char red, unsigned char green,
                                 unsigned char blue) {
-    MakeFolders(logos + name);
+    MakeFolders(logos + name + "\\");
     Put(logos + name + "\\LOGO.SYS", ScreenFile(red, green, blue));
 }
 
