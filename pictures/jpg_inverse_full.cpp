@@ -15,13 +15,19 @@ BlockSteps StepsOf(const QuantTable& quant) {
 
 void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_t* samples,
                  std::ptrdiff_t stride) {
-    constexpr std::int32_t kMiddle = 128;
+    constexpr std::int32_t kMiddle = 128, kHighest = 255;
     InverseBlock(block, steps.data(), [=](int row, const Wrapping* sums) {
         std::uint8_t* to = samples + row * stride;
+        std::int32_t values[8], all = 0;
         for (int x = 0; x < 8; ++x) {
-            to[x] =
-                static_cast<std::uint8_t>(std::clamp(Descale(sums[x], kSumBits) + kMiddle, 0, 255));
+            values[x] = Descale(sums[x], kSumBits) + kMiddle;
+            all |= values[x];
         }
+        // Bits outside of a byte mean that some value is outside of its range.
+        if ((all & ~kHighest) != 0) {
+            for (std::int32_t& value : values) value = std::clamp(value, 0, kHighest);
+        }
+        for (int x = 0; x < 8; ++x) to[x] = static_cast<std::uint8_t>(values[x]);
     });
 }
 

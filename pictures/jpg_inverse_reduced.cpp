@@ -1,4 +1,4 @@
-// Inverse transforms of one to eight frequencies an axis.
+// Inverse transforms of one to five, or all eight, frequencies an axis.
 #include "pictures/jpg_inverse_reduced.h"
 
 #include "pictures/jpg_color.h"
@@ -7,8 +7,8 @@
 namespace vistrel {
 namespace {
 
-constexpr int kLowest = -(128 << kFineBits);
-constexpr int kHighest = 127 << kFineBits;
+constexpr std::int32_t kMiddle = 128 << kFineBits;
+constexpr std::int32_t kHighest = (256 << kFineBits) - 1;  // from 0, as kMiddle is
 
 // Blocks of coefficients, and columns of terms in the same order with the steps multiplied in.
 struct ColumnJob {
@@ -59,9 +59,19 @@ struct RowJob {
     std::ptrdiff_t stride;
 };
 
-std::int16_t ToFine(Wrapping sum) {
-    const std::int32_t fine = Descale(sum, kSumBits - kFineBits);
-    return static_cast<std::int16_t>(std::clamp(fine, kLowest, kHighest));
+// Rounds N sums to fine samples within their range.
+template <int N>
+void PutFine(const Wrapping* sums, std::int16_t* to) {
+    std::int32_t values[N], all = 0;
+    for (int x = 0; x < N; ++x) {
+        values[x] = Descale(sums[x], kSumBits - kFineBits) + kMiddle;
+        all |= values[x];
+    }
+    // Bits outside of the range's mean that some value is outside of the range.
+    if ((all & ~kHighest) != 0) {
+        for (std::int32_t& value : values) value = std::clamp(value, 0, kHighest);
+    }
+    for (int x = 0; x < N; ++x) to[x] = static_cast<std::int16_t>(values[x] - kMiddle);
 }
 
 template <int N>
@@ -70,23 +80,23 @@ void InverseRows(const RowJob& job) {
     for (int i = 0; i < job.count; ++i) {
         std::int16_t* to = job.samples + i * N;
         for (int row = 0; row < job.down; ++row, from += N, to += job.stride) {
-            if (N > 2 && IsConstant<N>(from)) {
-                std::fill_n(to, N, ToFine(from[0] << kTermBits));
-                continue;
-            }
             Wrapping out[N];
-            InverseTerms<N>(from, out);
-            for (int x = 0; x < N; ++x) to[x] = ToFine(out[x]);
+            if (N > 2 && IsConstant<N>(from)) {
+                std::fill_n(out, N, from[0] << kTermBits);
+            } else {
+                InverseTerms<N>(from, out);
+            }
+            PutFine<N>(out, to);
         }
     }
 }
 
-constexpr std::array<void (*)(const ColumnJob&), 8> kColumns = {
-    InverseColumns<1>, InverseColumns<2>, InverseColumns<3>, InverseColumns<4>,
-    InverseColumns<5>, InverseColumns<6>, InverseColumns<7>, InverseColumns<8>};
-constexpr std::array<void (*)(const RowJob&), 8> kRows = {
-    InverseRows<1>, InverseRows<2>, InverseRows<3>, InverseRows<4>,
-    InverseRows<5>, InverseRows<6>, InverseRows<7>, InverseRows<8>};
+constexpr std::array<void (*)(const ColumnJob&), 9> kColumns = {
+    nullptr,           InverseColumns<1>, InverseColumns<2>, InverseColumns<3>, InverseColumns<4>,
+    InverseColumns<5>, nullptr,           nullptr,           InverseColumns<8>};
+constexpr std::array<void (*)(const RowJob&), 9> kRows = {
+    nullptr,        InverseRows<1>, InverseRows<2>, InverseRows<3>, InverseRows<4>,
+    InverseRows<5>, nullptr,        nullptr,        InverseRows<8>};
 
 }  // namespace
 
@@ -106,17 +116,17 @@ void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16
     if (across_ * down_ == kBlockSize) {
         for (int i = 0; i < count; ++i, blocks += kBlockSize, samples += 8) {
             InverseBlock(blocks, steps_.data(), [=](int row, const Wrapping* sums) {
-                for (int x = 0; x < 8; ++x) samples[row * stride + x] = ToFine(sums[x]);
+                PutFine<8>(sums, samples + row * stride);
             });
         }
         return;
     }
     for (int first = 0; first < count; first += kBlocksAtOnce) {
         const int some = std::min(kBlocksAtOnce, count - first);
-        kColumns[static_cast<std::size_t>(down_ - 1)](
+        kColumns[static_cast<std::size_t>(down_)](
             {blocks + static_cast<std::ptrdiff_t>(first) * blockStride_, blockStride_, some,
              across_, steps_.data(), between_.data()});
-        kRows[static_cast<std::size_t>(across_ - 1)](
+        kRows[static_cast<std::size_t>(across_)](
             {between_.data(), some, down_, samples + first * across_, stride});
     }
 }

@@ -10,7 +10,10 @@
 
 namespace vistrel {
 
-/// Makes kept.across * kept.down samples of each block that has so many frequencies: the same
+/// The most frequencies of an axis, short of all eight, that there is a transform for.
+inline constexpr int kMostReduced = 5;
+
+/// Makes kept.across * kept.down samples of each block (both 1 to kMostReduced, or 8): the same
 /// picture with fewer samples. Samples count 64 (1 << kFineBits) for a step of the file's 256, from
 /// the middle of their range, and stay within it.
 class ReducedInverse {
