@@ -1,0 +1,100 @@
+// Every build makes the same bytes of a picture: this program runs in each of them and compares the
+// digests of what it converts with those of digests.txt. Where they differ, it leaves what it found
+// in digests_found.txt: after a change of the conversion that is to be the new digests.txt.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+#include "pictures/bmp_writer.h"
+#include "pictures/convert.h"
+#include "pictures/quantize.h"
+#include "pictures/resize.h"
+#include "pictures/whole_file.h"
+#include "tests/pictures/bmp_file.h"
+#include "tests/pictures/gif_file.h"
+#include "tests/pictures/md5.h"
+
+namespace vistrel::test {
+namespace {
+
+/// The files lie beside this source, or beside the program where that runs on another system.
+std::string PathBeside(const char* name) {
+#ifdef _WIN32
+    return name;
+#else
+    const std::string source = __FILE__;
+    return source.substr(0, source.rfind('/') + 1) + name;
+#endif
+}
+
+/// What conversion makes of a file's bytes under a name of the given ending.
+std::string DigestOfConversion(const Bytes& source, const char* ending) {
+    const std::string from = std::string("same_bytes_source") + ending;
+    const std::string to = "same_bytes_target.sys";
+    EXPECT_TRUE(WriteWholeFile(from, source));
+    EXPECT_EQ(TryConvertToLogo(from, to), ConversionResult::Written);
+    const auto file = ReadWholeFile(to);
+    std::remove(from.c_str());
+    std::remove(to.c_str());
+    return file ? Md5(*file) : "";
+}
+
+std::string DigestOfPhoto(const char* name) {
+    const auto file = ReadWholeFile(PathBeside(name));
+    EXPECT_TRUE(file.has_value()) << PathBeside(name);
+    return file ? DigestOfConversion(*file, ".jpg") : "";
+}
+
+std::string DigestOfBitmap(int width, int height) {
+    const RgbPicture picture = MakePicture(width, height);
+    BmpFile file;
+    file.width = width;
+    file.height = height;
+    file.pixels = PackRgb24(picture);
+    return DigestOfConversion(file.Encode(), ".bmp");
+}
+
+std::string DigestOfReduction(int colors, Dither dither) {
+    const RgbPicture picture = MakePicture(123, 77);
+    Bytes result(123 * 77 + std::size_t(colors) * 4);
+    EXPECT_TRUE(QuantizeRgb(picture.pixels.data(), 123, 77, colors, result.data(),
+                            result.data() + 123 * 77, dither));
+    return Md5(result);
+}
+
+std::string DigestOfResize(int width, int height) {
+    return Md5(Resize(MakePicture(451, 333), width, height).pixels);
+}
+
+std::string Line(const char* what, const std::string& digest) {
+    return digest + "  " + what + "\n";
+}
+
+std::string AllDigests() {
+    return Line("bitmap larger than a screen", DigestOfBitmap(700, 900)) +
+           Line("bitmap of a screen's size", DigestOfBitmap(320, 400)) +
+           Line("bitmap smaller than a screen", DigestOfBitmap(61, 89)) +
+           Line("drawing, 256 colours",
+                DigestOfConversion(MakeGif(640, 480, 256).Encode(), ".gif")) +
+           Line("drawing, 4 colours", DigestOfConversion(MakeGif(333, 200, 4).Encode(), ".gif")) +
+           Line("photograph, baseline", DigestOfPhoto("baseline.jpg")) +
+           Line("photograph, progressive", DigestOfPhoto("progressive.jpg")) +
+           Line("reduction to 2 colours", DigestOfReduction(2, Dither::On)) +
+           Line("reduction to 31 colours", DigestOfReduction(31, Dither::On)) +
+           Line("reduction without dithering", DigestOfReduction(256, Dither::Off)) +
+           Line("resize for a preview", DigestOfResize(160, 120)) +
+           Line("resize to more pixels", DigestOfResize(640, 401));
+}
+
+TEST(Conversion, GivesTheRecordedBytesInThisBuild) {
+    const std::string found = AllDigests();
+    const auto file = ReadWholeFile(PathBeside("digests.txt"));
+    ASSERT_TRUE(file.has_value());
+    const std::string recorded(file->begin(), file->end());
+    EXPECT_EQ(found, recorded);
+    if (found != recorded) WriteWholeFile("digests_found.txt", Bytes(found.begin(), found.end()));
+}
+
+}  // namespace
+}  // namespace vistrel::test
