@@ -7,6 +7,13 @@ add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     add_compile_options(-march=pentium -mtune=generic)
+    # The same bytes wherever the tree lies.
+    add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+    # Debian's own run-time libraries need a Pentium Pro; packaging/build_p5_runtime makes others.
+    set(VISTREL_RUNTIME_DIR "" CACHE PATH "Folder of run-time libraries for a Pentium")
+    if(VISTREL_RUNTIME_DIR)
+        add_link_options(-B${VISTREL_RUNTIME_DIR}/ -L${VISTREL_RUNTIME_DIR})
+    endif()
     add_link_options(
         -s
         -Wl,--major-os-version=4,--minor-os-version=0

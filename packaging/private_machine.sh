@@ -25,9 +25,18 @@ make_machine() {
     printf '%s\r\n' REGEDIT4 '' '[HKEY_LOCAL_MACHINE\SOFTWARE\Tarnwick\Vistrel]' \
         '"LogoPath"="C:\\Logos\\"' '"SearchLogoPath"="C:\\Pictures\\"' >"$folder/settings.reg"
     in_wine "$folder" env -u DISPLAY wine regedit /S "$folder/settings.reg" &&
-        in_wine "$folder" env -u DISPLAY wine attrib +h +s +r 'C:\msdos.sys' &&
+        set_attributes "$folder" 'C:\msdos.sys' +h +s +r &&
         install_programs "$folder" "$2" &&
         in_wine "$folder" wineserver -w
+}
+
+# set_attributes FOLDER FILE ATTRIBUTE...: Wine's attrib takes one at a time.
+set_attributes() {
+    local folder=$1 file=$2 attribute
+    shift 2
+    for attribute; do
+        in_wine "$folder" env -u DISPLAY wine attrib "$attribute" "$file" || return 1
+    done
 }
 
 # install_programs FOLDER BUILD: puts the programs of BUILD, as they are now, on the machine.

@@ -6,6 +6,7 @@ wine_packages="wine wine64 fonts-wine fonts-liberation xvfb util-linux"
 test_packages="googletest libgtest-dev libgmock-dev libjpeg62-turbo-dev libgif-dev libbenchmark-dev"
 fuzz_packages="clang"
 installer_packages="nsis zip"
+runtime_packages="make dpkg-dev xz-utils"
 
 # One line a step.
 say() { echo "--- $*"; }
