@@ -1,15 +1,11 @@
 // Writes small sound pictures of every kind for the fuzzers to start from:
 // make_seeds FOLDER makes FOLDER/bmp, gif, jpg, jpg_scaled and convert.
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-// clang-format off
-#include <jpeglib.h>  // needs <cstdio> before it
-// clang-format on
 
 #include "tests/pictures/bmp_file.h"
 #include "tests/pictures/gif_file.h"
+#include "tests/pictures/jpg_maker.h"
 
 namespace {
 
@@ -104,58 +100,22 @@ void AddGifs(SeedFolder& seeds) {
     seeds.AddGif(file.Encode());
 }
 
-struct JpegOptions {
-    J_COLOR_SPACE space = JCS_YCbCr;
-    int across = 1;  // sampling of the first component
-    int down = 1;
-    bool progressive = false;
-    int restart = 0;  // interval
-};
-
-Bytes EncodeJpeg(const RgbPicture& picture, const JpegOptions& options) {
-    jpeg_compress_struct jpeg{};
-    jpeg_error_mgr errors{};
-    jpeg.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&jpeg);
-    unsigned char* memory = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&jpeg, &memory, &size);
-    jpeg.image_width = static_cast<JDIMENSION>(picture.width);
-    jpeg.image_height = static_cast<JDIMENSION>(picture.height);
-    const bool cmyk = options.space == JCS_CMYK || options.space == JCS_YCCK;
-    jpeg.input_components = cmyk ? 4 : 3;
-    jpeg.in_color_space = cmyk ? JCS_CMYK : JCS_RGB;
-    jpeg_set_defaults(&jpeg);
-    jpeg_set_colorspace(&jpeg, options.space);
-    jpeg.comp_info[0].h_samp_factor = options.across;
-    jpeg.comp_info[0].v_samp_factor = options.down;
-    jpeg.restart_interval = static_cast<unsigned>(options.restart);
-    if (options.progressive) jpeg_simple_progression(&jpeg);
-    jpeg_start_compress(&jpeg, TRUE);
-    for (int y = 0; y < picture.height; ++y) {
-        Bytes row;
-        for (int x = 0; x < picture.width; ++x) {
-            const std::uint8_t* rgb = &picture.pixels[3 * (y * picture.width + x)];
-            row.insert(row.end(), rgb, rgb + 3);
-            if (cmyk) row.push_back(40);
-        }
-        JSAMPROW rows[] = {row.data()};
-        jpeg_write_scanlines(&jpeg, rows, 1);
-    }
-    jpeg_finish_compress(&jpeg);
-    const Bytes file(memory, memory + size);
-    jpeg_destroy_compress(&jpeg);
-    std::free(memory);
-    return file;
-}
-
 void AddJpegs(SeedFolder& seeds) {
     const RgbPicture picture = MakePicture(37, 29);
-    for (const bool progressive : {false, true}) {
-        for (const J_COLOR_SPACE space : {JCS_YCbCr, JCS_GRAYSCALE, JCS_RGB, JCS_CMYK, JCS_YCCK}) {
-            for (const int sampling : {1, 2}) {
-                seeds.AddJpg(EncodeJpeg(picture, {space, sampling, sampling, progressive, 0}));
-                seeds.AddJpg(EncodeJpeg(picture, {space, sampling, 1, progressive, 2}));
+    for (const J_COLOR_SPACE color : {JCS_YCbCr, JCS_GRAYSCALE, JCS_RGB, JCS_CMYK, JCS_YCCK}) {
+        for (const int across : {1, 2}) {
+            for (const int down : {1, 2}) {
+                JpgOptions options;
+                options.color = color;
+                options.sampling = {{across, down}};
+                seeds.AddJpg(MakeJpg(picture, options));
+                options.restartUnits = 2;
+                options.ownTables = true;
+                seeds.AddJpg(MakeJpg(picture, options));
+                options.separateScans = true;
+                seeds.AddJpg(MakeJpg(picture, options));
+                options.progressive = true;
+                seeds.AddJpg(WithOrientation(MakeJpg(picture, options), 6, across == 1));
             }
         }
     }
