@@ -185,6 +185,10 @@ void Window::CentreIn(const Rect& area) {
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void Window::RepaintAll() {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
@@ -257,7 +261,7 @@ bool Window::OnHelp(std::intptr_t lParam) {
 
 bool Window::OnContextMenu(WindowHandle child, Point screen, bool byKeyboard) {
     Control* control = ControlOf(child);
-    if (!control) return false;
+    if (!control) return !byKeyboard && Form_ContextMenu(screen);
     if (byKeyboard) {
         RECT r{};
         GetWindowRect(control->handle(), &r);

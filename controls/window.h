@@ -49,6 +49,8 @@ class Window {
     void SetClientSize(Size size);
     /// Puts the window into the middle of a part of the screen.
     void CentreIn(const Rect& area);
+    /// Has the window painted anew with all its controls.
+    void RepaintAll();
     /// Paints the window and its controls now, not when messages have been handled.
     void PaintAtOnce();
     /// Shows a short text when the pointer rests on a child window; an empty text takes it away.
@@ -81,6 +83,8 @@ class Window {
     virtual void Form_KeyPress(char) {}
     /// A menu item, a tool or, without a control of that number, a dialog command (1 Enter, 2 Esc).
     virtual void MenuCommand(int) {}
+    /// The right button was pressed beside the controls. False leaves it to the system.
+    virtual bool Form_ContextMenu(Point) { return false; }
     /// A menu is about to open.
     virtual void MenuOpens(MenuHandle) {}
     /// A notification of a child window that is no Control, a toolbar for instance.

@@ -66,6 +66,7 @@ class Principale : public Window, public MainWindow {
     void Form_Resize(Size client) override;
     void Form_KeyUp(int key) override;
     void MenuCommand(int id) override;
+    bool Form_ContextMenu(Point screen) override;
     void MenuOpens(MenuHandle menu) override;
     std::intptr_t OnNotify(void* header) override;
     Size SmallestSize() const override;
@@ -83,6 +84,8 @@ class Principale : public Window, public MainWindow {
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
     void Imag_MouseUp(int index, int button);
     void MnuListLogo_Click();
+    void ShowDrives(MenuHandle menu);
+    void ItmDriveList_Click(int index);
     void Timer1_Timer();
 
     void ItmRename_Click();

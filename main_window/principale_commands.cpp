@@ -5,6 +5,7 @@
 #include "about/frm_about_reg.h"
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "core/fixed_drives.h"
 #include "core/generali.h"
 #include "core/install.h"
 #include "core/library.h"
@@ -26,6 +27,8 @@ namespace {
 constexpr long kGreen = 0x008000;
 constexpr long kBlue = 0xFF0000;
 constexpr unsigned long kTutorialTopic = 30;
+/// Where "StartUp logo in" stands in its menu.
+constexpr int kPlaceOfDrives = 9;
 
 }  // namespace
 
@@ -87,10 +90,32 @@ void Principale::MenuCommand(int id) {
     };
     for (const auto& item : items)
         if (item.id == id) (this->*item.run)();
+    if (id > ID_ItmDriveList && id <= ID_ItmDriveList + 26) ItmDriveList_Click(id - ID_ItmDriveList);
 }
 
 void Principale::MenuOpens(MenuHandle menu) {
     if (menu == ClassicMenu(kMenuListLogo)) MnuListLogo_Click();
+    if (menu == SubMenu(ClassicMenu(kMenuTools), kPlaceOfDrives)) ShowDrives(menu);
+}
+
+bool Principale::Form_ContextMenu(Point screen) {
+    PopUpMenu(ClassicMenu(kMenuTools), screen);
+    return true;
+}
+
+void Principale::ShowDrives(MenuHandle menu) {
+    EmptyMenu(menu);
+    // Items are numbered from 1.
+    int item = ID_ItmDriveList;
+    for (const std::string& letter : FixedDriveLetters()) {
+        AddMenuItem(menu, ++item, letter);
+        SetMenuMark(menu, item, letter == UpperCase(settings_.bootRoot.substr(0, 1)));
+    }
+}
+
+void Principale::ItmDriveList_Click(int index) {
+    const auto letters = FixedDriveLetters();
+    if (index <= static_cast<int>(letters.size())) settings_.bootRoot = letters[index - 1] + ":\\";
 }
 
 void Principale::MnuListLogo_Click() {

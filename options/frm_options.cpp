@@ -5,10 +5,10 @@
 #include "about/cm_dialog.h"
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "core/fixed_drives.h"
 #include "core/generali.h"
 #include "core/startup_action.h"
 #include "help/context_numbers.h"
-#include "platform/files.h"
 #include "resources/ids.h"
 
 namespace vistrel {
@@ -161,14 +161,10 @@ void FrmOptions::DriveHost_Click() { PopUpMenu(MnuDrive_, PointerPosition()); }
 
 void FrmOptions::GetDiskInfo() {
     EmptyMenu(MnuDrive_);
-    driveLetters_.clear();
-    for (const std::string& root : DriveRoots()) {
-        if (KindOfDrive(root) != DriveKind::Fixed) continue;
-        driveLetters_.push_back(UpperCase(root.substr(0, 1)));
-        // Items are numbered from 1.
-        AddMenuItem(MnuDrive_, ID_ItmDriveList + static_cast<int>(driveLetters_.size()),
-                    driveLetters_.back());
-    }
+    driveLetters_ = FixedDriveLetters();
+    // Items are numbered from 1.
+    int item = ID_ItmDriveList;
+    for (const std::string& letter : driveLetters_) AddMenuItem(MnuDrive_, ++item, letter);
 }
 
 void FrmOptions::ItmDriveList_Click(int index) { DriveHost.SetText(driveLetters_[index - 1]); }

@@ -1,0 +1,15 @@
+#include "core/fixed_drives.h"
+
+#include "core/generali.h"
+#include "platform/files.h"
+
+namespace vistrel {
+
+std::vector<std::string> FixedDriveLetters() {
+    std::vector<std::string> letters;
+    for (const std::string& root : DriveRoots())
+        if (KindOfDrive(root) == DriveKind::Fixed) letters.push_back(UpperCase(root.substr(0, 1)));
+    return letters;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,12 @@
+// The drives that can hold the startup screen.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace vistrel {
+
+/// The letters of the fixed disks, in capitals, in their order.
+std::vector<std::string> FixedDriveLetters();
+
+}  // namespace vistrel

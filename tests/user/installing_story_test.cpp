@@ -1,0 +1,122 @@
+// From a fresh machine to an installed logo set.
+#include "resources/ids.h"
+#include "tests/user/running_program.h"
+
+namespace vistrel::test {
+namespace {
+
+using Story = RunningProgram;
+
+constexpr const char* kValues[] = {
+    "SearchLogoPath",     "View",           "Synchronize logos", "StartUpDrive",
+    "DefaultLogoSet",     "DefaultAction",  "CustomProgName",    "CustomProgPath",
+    "DeleteInTheRecycleBin", "ConfirmLogosetDelete", "ConfirmLogoTypeChange",
+    "ShowSplashScreen",   "LogoPath",       "ActionOnDoubleClick"};
+
+TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart) {
+    HWND main = Start();
+    ASSERT_NE(main, nullptr);
+    EXPECT_EQ(user::TextOf(main), "Vistrel");
+    EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == "Sunny Day"; }));
+    EXPECT_EQ(LabelOf(main, ID_NumLogo), " 10 logo sets");
+
+    SelectSet(main, 1);
+    ASSERT_TRUE(WaitUntil([&] {
+        const std::string shown = LabelOf(main, ID_Imag);
+        return !shown.empty() && shown != logos + "Sunny Day\\LOGO.SYS";
+    }));
+    const std::string startup = LabelOf(main, ID_Imag);
+    const std::string wait = LabelOf(main, ID_Imag + 1);
+    const std::string shutdown = LabelOf(main, ID_Imag + 2);
+    const std::string set =
+        startup.substr(logos.size(), startup.size() - logos.size() - sizeof "\\LOGO.SYS" + 1);
+    user::TakeShot("story_selected");
+
+    PressToolbarButton(main, 2, 0);
+    EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == set; })) << set;
+    Close();
+
+    EXPECT_TRUE(Contents("C:\\LOGO.SYS") == Contents(startup));
+    EXPECT_TRUE(Contents("C:\\windows\\LOGOW.SYS") == Contents(wait));
+    EXPECT_TRUE(Contents("C:\\windows\\LOGOS.SYS") == Contents(shutdown));
+    EXPECT_EQ(Contents("C:\\LOGO.SYS").value_or("").size(), 129078u);
+    EXPECT_EQ(AttributesOf("C:\\msdos.sys"), DWORD{FILE_ATTRIBUTE_READONLY});
+    for (const char* name : kValues) {
+        const auto value = Stored(name);
+        ASSERT_TRUE(value.has_value()) << name;
+        EXPECT_EQ(value->type, DWORD{REG_SZ}) << name;
+        EXPECT_EQ(value, SavedText(value->bytes.c_str())) << name;
+    }
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(set));
+
+    main = Start();
+    ASSERT_NE(main, nullptr);
+    EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == set; }));
+    EXPECT_EQ(LabelOf(main, ID_Imag), startup);
+    Close();
+}
+
+TEST_F(Story, MakesTheSetOriginalLogosAtTheFirstStart) {
+    ForgetSettings();
+    RemoveTree("C:\\test\\Original Logos");
+    const HWND main = Start();
+    ASSERT_NE(main, nullptr);
+    EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == "Original Logos"; }));
+    Close();
+    EXPECT_EQ(Contents("C:\\test\\Original Logos\\LOGO.SYS"), "an old screen");
+    EXPECT_EQ(Contents("C:\\test\\Original Logos\\LOGOS.SYS"), "an old screen");
+    EXPECT_EQ(Stored("LogoPath"), SavedText("C:\\test\\"));
+}
+
+TEST_F(Story, ShowsTheSplashScreenUnlessItIsSwitchedOff) {
+    Store("ShowSplashScreen", TextValue("0"));
+    ASSERT_NE(Start(), nullptr);
+    EXPECT_EQ(user::FindTop("frmSplash", "", process), nullptr);
+    Close();
+    EXPECT_EQ(Stored("ShowSplashScreen"), SavedText("0"));
+}
+
+TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
+    STARTUPINFOA how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION started{};
+    char line[] = "C:\\test\\vistrel.exe";
+    ASSERT_TRUE(
+        CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &started));
+    // The main window exists, hidden, while the splash screen is shown.
+    HWND hidden = nullptr;
+    ASSERT_TRUE(WaitUntil([&] {
+        hidden = FindWindowA("Principale", nullptr);
+        return hidden != nullptr;
+    }));
+    PostMessageA(hidden, WM_CLOSE, 0, 0);
+    EXPECT_EQ(WaitForSingleObject(started.hProcess, 60000), WAIT_OBJECT_0);
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Sunny Day"));
+    EXPECT_EQ(Stored("LogoPath"), SavedText(logos));
+}
+
+TEST_F(Story, StandsGarbageInTheRegistry) {
+    const std::string number = std::string("\x01\x02\x03\x04", 4);
+    for (const char* name : kValues) Store(name, {REG_BINARY, "\xff\xfe garbage"});
+    Store("View", {REG_DWORD, number});
+    Store("DefaultLogoSet", TextValue(std::string(4000, 'x')));
+    Store("LogoPath", TextValue(logos));
+    Store("ActionOnDoubleClick", TextValue("12abc"));
+    ASSERT_NE(Start(), nullptr);
+    Close();
+    ASSERT_NE(Start(), nullptr);
+    Close();
+    EXPECT_EQ(Stored("LogoPath"), SavedText(logos));
+}
+
+TEST_F(Story, StandsALogoFolderOnADriveThatIsGone) {
+    Store("LogoPath", TextValue("Q:\\Logos\\"));
+    ASSERT_NE(Start(), nullptr);
+    Close();
+    EXPECT_EQ(Stored("LogoPath"), SavedText("C:\\test\\"));
+}
+
+}  // namespace
+}  // namespace vistrel::test

@@ -1,0 +1,40 @@
+// The real program on this prefix's own Windows, started and used from outside.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+// shellapi.h needs windows.h first.
+#include <shellapi.h>
+
+#include <string>
+
+#include "tests/core/machine.h"
+#include "tests/support/user.h"
+
+namespace vistrel::test {
+
+/// A fresh machine: three installed screens, a boot configuration file that is hidden, system and
+/// read-only, the sample sets in C:\Logos, and settings that name them.
+class RunningProgram : public testing::Test {
+ protected:
+    RunningProgram();
+    ~RunningProgram() override;
+
+    /// Starts the program and waits for its main window; null if none came.
+    HWND Start();
+    /// Closes the program as its close button does and waits until it has ended.
+    void Close();
+    /// Selects the set at this place of the list (0 is the first) by the keyboard.
+    void SelectSet(HWND main, int place);
+    std::string LabelOf(HWND main, int id) { return user::TextOf(user::Control(main, id)); }
+    /// Presses the button at this place of the toolbar; gaps between groups count 8 pixels.
+    void PressToolbarButton(HWND main, int place, int gaps);
+
+    const std::string logos = "C:\\Logos\\";
+    DWORD process = 0;
+
+ private:
+    HANDLE running_ = nullptr;
+};
+
+}  // namespace vistrel::test
