@@ -51,6 +51,7 @@ void SelPictureForm::AddControls() {
         Add(AddButton[i], ID_AddButton + i);
         Add(DeleteButton[i], ID_DeleteButton + i);
         Add(LblNotAval[i], ID_LblNotAval + i);
+        Add(SlotFrame[i], ID_SlotFrame + i);
     }
     Add(ActButton, ID_ActButton);
     Add(CloseButton, ID_CloseButton);
@@ -122,6 +123,7 @@ void SelPictureForm::Form_Load() {
     // Yellow cannot be read on grey.
     ImageInfo.SetBackColor(kBlack);
     ImageInfo.SetForeColor(kNoPictureColor);
+    ImageInfo.SetFont({.bold = true});
     OptCompSet.SetMark(true);
     GrowToScreen();
     LogoList.Focus();

@@ -48,6 +48,7 @@ class SelPictureForm : public Window {
     Button AddButton[3];
     Button DeleteButton[3];
     Label LblNotAval[3];  ///< shown over a slot that the type of set does not use
+    Label SlotFrame[3];   ///< with it
     Button ActButton;
     Button CloseButton;
     ListBox List1;  ///< hidden: the temporary files of this session's conversions
@@ -129,6 +130,7 @@ class SelPictureForm : public Window {
     void ItmDelete_Click();
     void ShowManageMenu(Point screen);
     void BrowseTo(const std::string& folder);
+    void ShowPath(const std::string& path);
     void GoUp();
     std::string SelectedName() const;
     void DragPicture(const Control& source);

@@ -47,8 +47,14 @@ void SelPictureForm::AggiornaDir() { FillList(CurrentFolder); }
 
 void SelPictureForm::BrowseTo(const std::string& folder) {
     CurrentFolder = folder;
-    CurPath.SetText(CurrentFolder);
+    ShowPath(CurrentFolder);
     AggiornaDir();
+}
+
+// The tip shows what may not fit the label.
+void SelPictureForm::ShowPath(const std::string& path) {
+    CurPath.SetText(path);
+    CurPath.SetTip(path);
 }
 
 void SelPictureForm::Drive1_Change() {
@@ -56,7 +62,7 @@ void SelPictureForm::Drive1_Change() {
     const std::string root = AddBackslash(drive);
     if (FillList(root)) {
         CurrentFolder = root;
-        CurPath.SetText(CurrentFolder.substr(0, 2));
+        ShowPath(CurrentFolder.substr(0, 2));
         return;
     }
     Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.", kCriticalOk);

@@ -32,7 +32,7 @@ void SelPictureForm::GrowToScreen() {
     const int width = area.width - (smallest_.width - least.width);
     const int height = area.height - (smallest_.height - least.height);
     SetClientSize({std::max(least.width, std::min(width, Scaled(780))),
-                   std::max(least.height, std::min(height, Scaled(540)))});
+                   std::max(least.height, std::min(height, Scaled(490)))});
     CentreIn(area);
 }
 
@@ -41,9 +41,9 @@ void SelPictureForm::Form_Resize(Size client) {
     const int height = client.height - 2 * gap;
     const int buttonColumn = LblSlot[0].Bounds().width;
     const int list = std::max(Scaled(140), client.width * 22 / 100);
-    // The preview is 1.6 times as wide as a slot.
+    // The preview is twice as wide as a slot.
     const int pictures = client.width - 4 * gap - list - buttonColumn - gap;
-    const int slot = pictures * 10 / 26;
+    const int slot = pictures / 3;
     const int preview = pictures - slot;
 
     PlaceList({gap, gap, list, height});
@@ -53,6 +53,8 @@ void SelPictureForm::Form_Resize(Size client) {
         {client.width - gap - slot - gap - buttonColumn, gap, slot + gap + buttonColumn, height},
         slot);
     RedrawPictures();
+    // Controls that were moved over each other have copied what stood there.
+    RepaintAll();
 }
 
 void SelPictureForm::PlaceList(const Rect& column) {
@@ -115,6 +117,7 @@ void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
     const int left = slot.right() + Gap();
     const int lower = slot.bottom() - button.height;
     ImgPreview[index].MoveTo(slot);
+    SlotFrame[index].MoveTo(slot);
     LblSlot[index].MoveTo({left, slot.top, caption.width, caption.height});
     AddButton[index].MoveTo({left, lower - Gap() / 2 - button.height, button.width, button.height});
     DeleteButton[index].MoveTo({left, lower, button.width, button.height});

@@ -35,6 +35,7 @@ void SelPictureForm::ShowSlot(int index, bool used) {
     AddButton[index].SetVisible(used);
     DeleteButton[index].SetVisible(used);
     LblNotAval[index].SetVisible(!used);
+    SlotFrame[index].SetVisible(!used);
 }
 
 void SelPictureForm::OptCompSet_Click() {
