@@ -10,6 +10,12 @@
 
 namespace vistrel {
 
+/// The positions first..last of the file's order as a set of bits.
+inline std::uint64_t PositionBand(int first, int last) {
+    const std::uint64_t upToLast = ~std::uint64_t{0} >> (kBlockSize - 1 - last);
+    return upToLast & ~std::uint64_t{0} << first;
+}
+
 /// The low frequencies of a block that somebody needs: `across` of the eight horizontal and `down`
 /// of the eight vertical ones. They are kept as a matrix of `down` rows.
 struct KeptFrequencies {
@@ -26,6 +32,13 @@ struct KeptFrequencies {
     bool IsKept(int position) const {
         const int place = kZigzag[static_cast<std::size_t>(position)];
         return place / 8 < down && place % 8 < across;
+    }
+
+    /// The positions needed as a set of bits.
+    std::uint64_t Positions() const {
+        std::uint64_t positions = 0;
+        for (int k = 0; k < kBlockSize; ++k) positions |= std::uint64_t{IsKept(k)} << k;
+        return positions;
     }
 
     /// The frequencies 0..across-1 and 0..down-1 (both 1 to 8).

@@ -1,9 +1,8 @@
 // Reads scan after scan, within bounds that a sound file never meets.
 #include "pictures/jpg_decoder.h"
 
-#include <memory>
-
 #include "pictures/jpg_progressive.h"
+#include "pictures/jpg_scan_choice.h"
 #include "pictures/jpg_sequential.h"
 
 namespace vistrel {
@@ -81,9 +80,12 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
         components.emplace_back(frame.components[i], kept[i]);
         visitsLeft += BlocksOf(frame.components[i]) * kMostVisits;
     }
+    const std::vector<bool> chosen = ChooseScans(file, kept);
     bool isEnough = false;
+    std::size_t number = 0;
     do {
         const JpgScan& scan = markers.scan();
+        if (number >= chosen.size() || !chosen[number++]) continue;
         for (const JpgScanPart& part : scan.parts) {
             visitsLeft -= BlocksOf(frame.components[static_cast<std::size_t>(part.component)]);
         }

@@ -6,12 +6,6 @@
 namespace vistrel {
 namespace {
 
-// The positions first..last as a set of bits.
-std::uint64_t Band(int first, int last) {
-    const std::uint64_t upToLast = ~std::uint64_t{0} >> (kBlockSize - 1 - last);
-    return upToLast & ~std::uint64_t{0} << first;
-}
-
 // Constant terms, first the upper bits of all.
 class DcFirstReader {
  public:
@@ -154,7 +148,7 @@ class AcRefinementReader : public AcReader {
  public:
     AcRefinementReader(const JpgScan& scan, const JpgTables& tables,
                        ProgressiveComponent& component)
-        : AcReader(scan, tables, component), kept_(Band(0, component.kept.last)) {}
+        : AcReader(scan, tables, component), kept_(component.kept.Positions()) {}
 
     BitReader ReadBlock(BitReader bits, std::size_t, int column, int row) {
         std::int16_t* block = component_.blocks.Block(column, row);
@@ -175,7 +169,7 @@ class AcRefinementReader : public AcReader {
             int at = k + run;
             if ((old >> k & ((std::uint64_t{2} << run) - 1)) != 0) {
                 at = PositionBehind(old, k, run);
-                if (at > k) bits = Correct(bits, old & Band(k, at - 1), block);
+                if (at > k) bits = Correct(bits, old & PositionBand(k, at - 1), block);
             }
             if (at <= last_ && value != 0) {
                 block[component_.kept.slot[static_cast<std::size_t>(at)]] =
@@ -186,7 +180,7 @@ class AcRefinementReader : public AcReader {
         }
         if (endedBlocks_ > 0) {
             --endedBlocks_;
-            if (k <= last_) bits = Correct(bits, old & Band(k, last_), block);
+            if (k <= last_) bits = Correct(bits, old & PositionBand(k, last_), block);
         }
         return bits;
     }
@@ -195,7 +189,7 @@ class AcRefinementReader : public AcReader {
     // The position of the zero coefficient that comes behind `run` others from `k` on, last_ + 1
     // when there are too few.
     int PositionBehind(std::uint64_t nonZero, int k, int run) const {
-        std::uint64_t zeros = ~nonZero & Band(k, last_);
+        std::uint64_t zeros = ~nonZero & PositionBand(k, last_);
         for (; run > 0 && zeros != 0; --run) zeros &= zeros - 1;
         return zeros == 0 ? last_ + 1 : std::countr_zero(zeros);
     }

@@ -1,5 +1,7 @@
 // Decodes JPEG files to a small size: of each block only the frequencies that the small picture can
 // show, each component scaled by itself from its own grid, and the colours made last.
+#include <algorithm>
+#include <memory>
 
 #include "pictures/exif_orientation.h"
 #include "pictures/jpg_color.h"
@@ -17,7 +19,7 @@ struct Size {
 };
 
 // How many of the eight frequencies of an axis give at least `percent` hundredths of the target's
-// samples. `samples` of the component are `part` of `whole` samples of the frame.
+// samples. A component has `part` samples where the frame has `whole`.
 int FrequenciesFor(int frameSamples, int part, int whole, int target, int percent) {
     const std::int64_t wanted = std::int64_t{8} * whole * target * percent;
     const std::int64_t each = std::int64_t{100} * part * frameSamples;
