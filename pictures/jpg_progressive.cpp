@@ -157,14 +157,21 @@ class AcRefinementReader : public AcReader {
         int k = first_;
         while (endedBlocks_ == 0 && k <= last_) {
             bits.Refill();
-            const int symbol = table_.Symbol(bits);
-            const int run = symbol >> 4;
-            int value = 0;
-            if ((symbol & 15) != 0) {
-                value = bits.Take(1) ? unit_ : -unit_;
-            } else if (run != 15) {
-                endedBlocks_ = ReadEndedBlocks(bits, run);
-                break;
+            int run, value = 0;
+            const QuickEntry entry = table_.Quick(bits.Peek(HuffmanTable::kQuickBits));
+            if (entry.value == 1 || entry.value == -1) {
+                bits.Skip(entry.bits);
+                run = entry.advance - 1;
+                value = entry.value * unit_;
+            } else {
+                const int symbol = table_.Symbol(bits);
+                run = symbol >> 4;
+                if ((symbol & 15) != 0) {
+                    value = bits.Take(1) ? unit_ : -unit_;
+                } else if (run != 15) {
+                    endedBlocks_ = ReadEndedBlocks(bits, run);
+                    break;
+                }
             }
             int at = k + run;
             if ((old >> k & ((std::uint64_t{2} << run) - 1)) != 0) {
