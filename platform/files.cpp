@@ -67,8 +67,11 @@ bool IsFolder(const std::string& path) {
 
 bool SetAttributes(const std::string& path, std::uint32_t attributes, Error* error) {
     if (fault::Strikes()) return Failed(error, kStruckError);
-    return Report(SetFileAttributesA(path.c_str(), attributes ? attributes : FILE_ATTRIBUTE_NORMAL),
-                  error);
+    // Read-only comes last: Wine changes no other attribute of a file that is read-only already.
+    const std::uint32_t others = attributes & ~kReadOnlyFile;
+    const BOOL set = SetFileAttributesA(path.c_str(), others ? others : FILE_ATTRIBUTE_NORMAL);
+    if (!set || others == attributes) return Report(set, error);
+    return Report(SetFileAttributesA(path.c_str(), attributes), error);
 }
 
 bool CopyOver(const std::string& from, const std::string& to, Error* error) {

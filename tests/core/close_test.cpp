@@ -10,14 +10,12 @@ namespace vistrel::test {
 namespace {
 
 constexpr const char* kBootFile = "C:\\msdos.sys";
-constexpr unsigned long kUsual =
-    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_READONLY;
-
 class CloseTest : public Machine {
  protected:
     CloseTest() {
         Put(kBootFile, "[Options]\r\nLogo=1\r\n");
-        GiveAttributes(kBootFile, kUsual);
+        GiveAttributes(kBootFile,
+                       FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_READONLY);
         state_.settings = ReadSettings(locations);
         state_.settings.logoPath = logos;
         state_.settings.defaultLogoSet = "Blue";

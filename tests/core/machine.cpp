@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/fault.h"
+#include "tests/support/poll.h"
 
 namespace vistrel::test {
 
@@ -80,6 +81,9 @@ unsigned long AttributesOf(const std::string& path) {
 }
 
 void GiveAttributes(const std::string& path, unsigned long attributes) {
+    // Wine changes no other attribute of a file that is read-only already.
+    const DWORD others = attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY);
+    ASSERT_TRUE(SetFileAttributesA(path.c_str(), others ? others : FILE_ATTRIBUTE_NORMAL)) << path;
     ASSERT_TRUE(SetFileAttributesA(path.c_str(), attributes)) << path;
 }
 
@@ -115,7 +119,8 @@ void RemoveTree(const std::string& path) {
         return;
     }
     for (const std::string& entry : NamesIn(name + "\\")) RemoveTree(name + "\\" + entry);
-    ASSERT_TRUE(RemoveDirectoryA(name.c_str())) << name;
+    // A program that is just ending may still have it as its current folder.
+    ASSERT_TRUE(WaitUntil([&] { return RemoveDirectoryA(name.c_str()) != 0; })) << name;
 }
 
 StoredValue TextValue(const std::string& text) { return {REG_SZ, text}; }
@@ -196,6 +201,8 @@ Machine::Machine() {
 
 Machine::~Machine() {
     fault::Reset();
+    // The open-file dialog makes the folder that it shows the current one.
+    SetCurrentDirectoryA("C:\\test");
     RemoveTree(root);
     RemoveTree("C:\\msdos.sys");
     for (const char* name : kNames) RemoveTree(std::string("C:\\") + name);
