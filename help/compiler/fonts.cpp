@@ -14,7 +14,7 @@ constexpr unsigned kFaceWidth = 32;
 constexpr unsigned kSwissFamily = 3;
 constexpr unsigned kBold = 1, kItalic = 2;
 
-// Sizes are in half points. Title and headings are bold throughout.
+// Sizes are in half points. Titles, headings and terms are bold throughout.
 struct Font {
     unsigned attributes;
     unsigned halfPoints;
@@ -36,6 +36,7 @@ constexpr std::array<Font, 8> kFonts = {{
 unsigned FontOf(Paragraph::Style style, bool bold, bool italic) {
     if (style == Paragraph::Style::Title) return italic ? 5 : 4;
     if (style == Paragraph::Style::Heading) return italic ? 7 : 6;
+    if (style == Paragraph::Style::Term) bold = true;
     return (bold ? kBold : 0) | (italic ? kItalic : 0);
 }
 

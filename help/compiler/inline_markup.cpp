@@ -72,13 +72,19 @@ class InlineParser {
         else if (name == "picture" && hasContent)
             Add(Piece::Kind::Picture, TakeUpTo("}"));
         else if (name == "br" && !hasContent)
-            return Add(Piece::Kind::LineBreak, "");
+            return AddLineBreak();
         else
             return RefuseMark(name, hasContent);
         if (AtEnd())
             errors_.push_back({opened, "'{" + name + "' is not closed"});
         else
             Take();
+    }
+
+    // The source usually goes on in a new line, too: its blank would indent the text.
+    void AddLineBreak() {
+        Add(Piece::Kind::LineBreak, "");
+        while (!AtEnd() && (Look() == ' ' || Look() == '\n')) Take();
     }
 
     void RefuseMark(const std::string& name, bool hasContent) {

@@ -26,6 +26,8 @@ Layout LayoutOf(Paragraph::Style style) {
             return {12, 8, 0, 0};
         case Paragraph::Style::Body:
             return {0, 12, 0, 0};
+        case Paragraph::Style::Term:
+            return {0, 2, 0, 0};
         case Paragraph::Style::Bullet:
             return {0, 8, 30, -20};
         case Paragraph::Style::Numbered:

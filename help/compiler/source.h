@@ -39,7 +39,7 @@ struct Piece {
 };
 
 struct Paragraph {
-    enum class Style { Title, Heading, Body, Bullet, Numbered, Indented };
+    enum class Style { Title, Heading, Body, Term, Bullet, Numbered, Indented };
     Style style = Style::Body;
     int number = 0;  ///< of a numbered paragraph, from 1
     std::vector<Piece> pieces;

@@ -70,6 +70,8 @@ class SourceParser {
             EndParagraph();
         } else if (line.starts_with("- "))
             StartParagraph(Paragraph::Style::Bullet, line.substr(2));
+        else if (line.starts_with("* "))
+            StartParagraph(Paragraph::Style::Term, line.substr(2));
         else if (line.starts_with("> "))
             StartParagraph(Paragraph::Style::Indented, line.substr(2));
         else

@@ -12,7 +12,8 @@
 //   = TEXT               a heading, one line
 //   - TEXT               a paragraph with a bullet
 //   1. TEXT              a numbered paragraph: 1, or the number before and one more
-//   > TEXT               an indented paragraph, as continues a list
+//   * TEXT               a term, in bold, which the next paragraph explains
+//   > TEXT               an indented paragraph: explains a term or continues a list
 //   TEXT                 an ordinary paragraph
 //
 // A paragraph goes on in the lines that follow, to the next empty line or the next mark.

@@ -49,6 +49,17 @@ TEST(HelpMarkup, HeadingIsOneLineBoldAndLargerThanText) {
     EXPECT_GT(font.halfPoints, help.fonts.at(0).halfPoints);
 }
 
+TEST(HelpMarkup, TermIsBoldAndCloseToItsExplanation) {
+    const ReadHelp help = CompileAndRead(kStart + "* Term\n> What it\nmeans.\n");
+    const auto& paragraphs = help.topics[0].paragraphs;
+    ASSERT_EQ(paragraphs.size(), 2u);
+    EXPECT_EQ(paragraphs[0].text, "Term");
+    EXPECT_EQ(help.fonts.at(paragraphs[0].fonts.at(0)).attributes, 1u);
+    EXPECT_EQ(paragraphs[1].text, "What it means.");
+    EXPECT_GT(paragraphs[1].leftIndent, 0);
+    EXPECT_LT(paragraphs[0].spaceBelow, paragraphs[1].spaceBelow);
+}
+
 TEST(HelpMarkup, BulletsHang) {
     const auto paragraphs = Paragraphs("- one\n- two\n  goes on\n");
     ASSERT_EQ(paragraphs.size(), 2u);
@@ -83,7 +94,7 @@ TEST(HelpMarkup, BoldAndItalicChangeTheFont) {
 }
 
 TEST(HelpMarkup, LineBreakStaysInItsParagraph) {
-    EXPECT_EQ(Paragraphs("one{br}\ntwo").at(0).text, "one\n two");
+    EXPECT_EQ(Paragraphs("one{br}\ntwo").at(0).text, "one\ntwo");
 }
 
 TEST(HelpMarkup, LinksLeadToTheirTopics) {
