@@ -47,13 +47,12 @@ BitReader ScanBytes::More(BitReader bits) {
     return bits;
 }
 
-// Copies the runs between escapes; behind the last byte before a marker the rest becomes zeros.
+// Copies the runs between escapes; behind the last byte before a marker come zeros for one block.
 void ScanBytes::Fill() {
     std::ptrdiff_t at = std::max<std::ptrdiff_t>(dataEnd_, 0);
-    const std::ptrdiff_t size = static_cast<std::ptrdiff_t>(buffer_.size());
-    while (!atMarker_ && at < size) {
+    while (!atMarker_ && at < kWindow) {
         const std::size_t most =
-            std::min(static_cast<std::size_t>(size - at), file_.size() - filePosition_);
+            std::min(static_cast<std::size_t>(kWindow - at), file_.size() - filePosition_);
         const std::uint8_t* from = file_.data() + filePosition_;
         const void* escape = most ? std::memchr(from, kEscape, most) : nullptr;
         const std::size_t run =
@@ -62,28 +61,34 @@ void ScanBytes::Fill() {
         if (run) std::memcpy(buffer_.data() + at, from, run);
         at += static_cast<std::ptrdiff_t>(run);
         filePosition_ += run;
-        if (!escape) {
-            atMarker_ = filePosition_ == file_.size();
-            if (atMarker_ || at == size) break;
-            continue;
-        }
-        std::size_t next = filePosition_ + 1;
-        while (next < file_.size() && file_[next] == kEscape) ++next;
-        if (next < file_.size() && file_[next] == 0) {
-            buffer_[static_cast<std::size_t>(at++)] = kEscape;
-            filePosition_ = next + 1;
+        if (escape) {
+            TakeEscape(at);
         } else {
-            atMarker_ = true;
+            atMarker_ = filePosition_ == file_.size();
         }
     }
-    if (atMarker_) {
-        // A reader that has overrun stays overrun: its end lies before the buffer.
-        if (dataEnd_ >= 0) dataEnd_ = at;
-        std::memset(buffer_.data() + at, 0, static_cast<std::size_t>(size - at));
-    } else {
+    if (!atMarker_) {
         dataEnd_ = at;
+        refillFrom_ = buffer_.data() + kWindow - kBlockBytes;
+        return;
     }
-    refillFrom_ = buffer_.data() + size - kBlockBytes;
+    // A reader that has overrun stays overrun: its end lies before the buffer.
+    if (dataEnd_ >= 0) dataEnd_ = at;
+    std::memset(buffer_.data() + at, 0, kBlockBytes);
+    refillFrom_ = buffer_.data() + at;
+}
+
+// An escape is followed by a zero where it stands for itself, perhaps after more of its kind;
+// anything else is a marker.
+void ScanBytes::TakeEscape(std::ptrdiff_t& at) {
+    std::size_t next = filePosition_ + 1;
+    while (next < file_.size() && file_[next] == kEscape) ++next;
+    if (next == file_.size() || file_[next] != 0) {
+        atMarker_ = true;
+        return;
+    }
+    buffer_[static_cast<std::size_t>(at++)] = kEscape;
+    filePosition_ = next + 1;
 }
 
 std::size_t ScanBytes::FindEnd() {

@@ -97,6 +97,7 @@ class ScanBytes {
 
  private:
     void Fill();
+    void TakeEscape(std::ptrdiff_t& at);
 
     static constexpr int kWindow = 8192;
 

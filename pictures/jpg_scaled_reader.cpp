@@ -132,10 +132,11 @@ class ComponentScalers : public BlockRowTaker {
     std::vector<Channel> channels_;
 };
 
-// True when nothing is gained by scaling components one by one: a picture that becomes larger needs
-// all frequencies, and inks make colours by multiplying, which has to come before scaling.
+// True when nothing is gained by scaling components one by one: a picture that does not become
+// smaller needs all frequencies, and inks make colours by multiplying, which has to come before
+// scaling.
 bool IsBetterReadWhole(const JpgFrame& frame, Size target) {
-    return frame.width < target.width || frame.height < target.height ||
+    return frame.width <= target.width || frame.height <= target.height ||
            frame.components.size() == 4;
 }
 

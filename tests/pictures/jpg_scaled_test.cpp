@@ -98,15 +98,23 @@ TEST(JpgScaledTest, EveryColor) {
     }
 }
 
-TEST(JpgScaledTest, LargerThanThePictureIsTheWholeOneScaled) {
-    const Bytes file = MakeJpg(MakeScene(100, 80), {});
-    const std::optional<ScaledPicture> scaled = ReadJpgScaled(file, 320, 400);
-    ASSERT_TRUE(scaled.has_value());
-    EXPECT_TRUE(scaled->picture.pixels == Resize(*ReadJpg(file), 320, 400).pixels);
+TEST(JpgScaledTest, NoSmallerThanThePictureIsTheWholeOneScaled) {
+    JpgOptions options;
+    options.sampling = {{2, 2}};
+    const Bytes file = MakeJpg(MakeScene(100, 80), options);
+    const std::optional<RgbPicture> whole = ReadJpg(file);
+    ASSERT_TRUE(whole.has_value());
+    for (const auto& [width, height] : {std::pair{320, 400}, {100, 80}, {100, 40}, {50, 90}}) {
+        const std::optional<ScaledPicture> scaled = ReadJpgScaled(file, width, height);
+        ASSERT_TRUE(scaled.has_value());
+        EXPECT_TRUE(scaled->picture.pixels == Resize(*whole, width, height).pixels);
+    }
 }
 
-TEST(JpgScaledTest, SameSizeIsNearTheWholeOne) {
-    EXPECT_GE(Nearness(MakeJpg(MakeScene(160, 120), {}), 160, 120), 47);
+TEST(JpgScaledTest, LittleSmallerIsNearTheWholeOne) {
+    JpgOptions options;
+    options.sampling = {{2, 2}};
+    EXPECT_GE(Nearness(MakeJpg(MakeScene(160, 120), options), 159, 119), 47);
 }
 
 TEST(JpgScaledTest, TurnedUpright) {
