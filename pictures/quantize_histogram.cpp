@@ -54,7 +54,7 @@ bool Gather(const std::uint8_t* rgb, std::size_t pixels, Histogram& histogram) {
 
 }  // namespace
 
-Histogram MakeHistogram(const std::uint8_t* rgb, std::size_t pixels, const WorkingSpace& space) {
+Histogram MakeHistogram(const std::uint8_t* rgb, std::size_t pixels) {
     Histogram histogram;
     histogram.cellOf.resize(pixels);
     histogram.bits = 6;
@@ -63,13 +63,16 @@ Histogram MakeHistogram(const std::uint8_t* rgb, std::size_t pixels, const Worki
         ++histogram.bits;
         Gather(rgb, pixels, histogram);
     }
+    return histogram;
+}
+
+void SetMeans(Histogram& histogram, const WorkingSpace& space) {
     for (Cell& cell : histogram.cells) {
         const std::uint32_t half = cell.count / 2;
         cell.mean = space.FromRgb(static_cast<int>((cell.red + half) / cell.count),
                                   static_cast<int>((cell.green + half) / cell.count),
                                   static_cast<int>((cell.blue + half) / cell.count));
     }
-    return histogram;
 }
 
 std::vector<Rgb> FewColors(const std::uint8_t* rgb, std::size_t pixels, std::size_t most,

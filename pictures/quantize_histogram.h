@@ -16,7 +16,7 @@ struct Cell {
     std::uint32_t red = 0;  ///< sum over the pixels; green and blue likewise
     std::uint32_t green = 0;
     std::uint32_t blue = 0;
-    Point mean;
+    Point mean;  ///< see SetMeans
     std::uint16_t color = 0;  ///< the palette entry that stands for the cell
 };
 
@@ -27,9 +27,11 @@ struct Histogram {
 };
 
 /// Gathers `pixels` pixels (red, green, blue). The cells are as fine as keeps their number
-/// manageable: 6 bits a channel for most pictures, 8 where there are few colours. `mean` is given
-/// in `space`.
-Histogram MakeHistogram(const std::uint8_t* rgb, std::size_t pixels, const WorkingSpace& space);
+/// manageable: 6 bits a channel for most pictures, 8 where there are few colours.
+Histogram MakeHistogram(const std::uint8_t* rgb, std::size_t pixels);
+
+/// Gives every cell its mean in `space`.
+void SetMeans(Histogram& histogram, const WorkingSpace& space);
 
 /// The distinct colours in the order of their first pixels, or nothing when there are more than
 /// `most` (up to 256). `indices` then holds each pixel's number.
