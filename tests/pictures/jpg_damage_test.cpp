@@ -100,7 +100,7 @@ TEST(JpgDamageTest, FlippedBitsAnywhere) {
         options.sampling = {{2, kind % 3 + 1}};
         options.restartUnits = kind >= 2 ? 4 : 0;
         const Bytes file = MakeJpg(MakePicture(70, 50), options);
-        for (int i = 0; i < 700; ++i) {
+        for (int i = 0; i < 400; ++i) {
             Bytes damaged = file;
             for (std::uint32_t flips = 1 + numbers.Next(4); flips > 0; --flips) {
                 damaged[numbers.Next(static_cast<std::uint32_t>(file.size()))] ^=
@@ -166,17 +166,19 @@ TEST(JpgDamageTest, ScansWithoutEndAreCutShort) {
     options.progressive = true;
     Bytes file = MakeJpg(MakePicture(600, 600), options);
     const RgbPicture judged = DecodeByLibrary(file);
-    // A refinement of all coefficients that needs three bytes of data for the whole picture: each
-    // of its 5,625 blocks is in one run of blocks without anything new.
-    const Bytes table = {0xFF, 0xC4, 0, 20, 0x10, 1, 0, 0, 0, 0, 0,
-                         0,    0,    0, 0,  0,    0, 0, 0, 0, 0, 0xC0};
+    // A refinement of all coefficients in two bytes for the whole picture: each of its 5,625 blocks
+    // is in one run of blocks without anything new. The bits that should correct the others are
+    // missing, which changes nothing.
+    Bytes table = {0xFF, 0xC4, 0, 20, 0x10, 1};  // one code, of one bit
+    table.resize(4 + 17);
+    table.push_back(0xC0);
     const Bytes scan = {0xFF, 0xDA, 0, 8, 1, 1, 0, 1, 63, 0x10, 0x7F, 0xF8};
-    Bytes bomb(table);
+    Bytes bomb = table;
     for (int i = 0; i < 20000; ++i) bomb.insert(bomb.end(), scan.begin(), scan.end());
     file = WithInserted(file, file.size() - 2, bomb);
     const std::optional<RgbPicture> picture = ReadJpg(file);
     ASSERT_TRUE(picture.has_value());
-    EXPECT_EQ(picture->width, 600);
+    EXPECT_TRUE(picture->pixels == judged.pixels);
 }
 
 }  // namespace
