@@ -1,1 +1,2 @@
 include(companions.cmake)
+include(main_window.cmake)

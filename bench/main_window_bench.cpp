@@ -1,0 +1,186 @@
+// Times the main window against the bare system calls that it cannot do without, side by side.
+#include <windows.h>
+// commctrl.h and ole2.h need windows.h first.
+#include <commctrl.h>
+#include <ole2.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/locations.h"
+#include "main_window/principale.h"
+#include "pictures/bmp_writer.h"
+
+namespace {
+
+constexpr int kSets = 5000;
+const std::string kLogos = "C:\\logos\\";
+
+double Now() {
+    LARGE_INTEGER frequency;
+    LARGE_INTEGER count;
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&count);
+    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+double TimeOf(const std::function<void()>& work) {
+    const double begun = Now();
+    work();
+    return Now() - begun;
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// Runs both in turn, after one turn that does not count, and prints medians and their ratio.
+void Compare(const char* what, int rounds, const std::function<void()>& ours,
+             const std::function<void()>& bare) {
+    std::vector<double> our;
+    std::vector<double> bares;
+    std::vector<double> ratios;
+    for (int round = 0; round <= rounds; ++round) {
+        const double a = TimeOf(ours);
+        const double b = TimeOf(bare);
+        if (round == 0) continue;
+        our.push_back(a);
+        bares.push_back(b);
+        ratios.push_back(a / b);
+    }
+    std::printf("%-34s ours %8.2f ms   bare %8.2f ms   ratio %.2f\n", what, Median(our),
+                Median(bares), Median(ratios));
+    std::fflush(stdout);
+}
+
+void WriteScreen(const std::string& path) {
+    std::vector<std::uint8_t> indices(320 * 400);
+    for (std::size_t i = 0; i < indices.size(); ++i) indices[i] = static_cast<std::uint8_t>(i * 7);
+    std::vector<std::uint8_t> palette(1024);
+    for (std::size_t i = 0; i < palette.size(); ++i) palette[i] = static_cast<std::uint8_t>(i / 4);
+    vistrel::WriteWholeFile(path,
+                            vistrel::ColormappedBmp(indices.data(), 320, 400, 256, palette.data()));
+}
+
+void PrepareMachine() {
+    CreateDirectoryA("C:\\logos", nullptr);
+    for (int i = 0; i < kSets; ++i)
+        CreateDirectoryA((kLogos + "Set " + std::to_string(i)).c_str(), nullptr);
+    for (const char* set : {"Set 1", "Set 2"})
+        for (const char* screen : {"\\LOGO.SYS", "\\LOGOW.SYS", "\\LOGOS.SYS"})
+            WriteScreen(kLogos + set + screen);
+    HKEY key = nullptr;
+    RegCreateKeyA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Tarnwick\\Vistrel", &key);
+    const auto store = [&](const char* name, const std::string& text) {
+        RegSetValueExA(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                       static_cast<DWORD>(text.size() + 1));
+    };
+    store("LogoPath", kLogos);
+    store("DefaultLogoSet", "none");
+    store("ShowSplashScreen", "0");
+    RegCloseKey(key);
+}
+
+/// Enumerates the folder and adds the same items to a plain list view with painting off.
+void FillBareList(HWND list) {
+    SendMessageA(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageA(list, LVM_DELETEALLITEMS, 0, 0);
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA((kLogos + "*.*").c_str(), &found);
+    do {
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || found.cFileName[0] == '.')
+            continue;
+        LVITEMA item{};
+        item.mask = LVIF_TEXT | LVIF_IMAGE;
+        item.iItem = INT_MAX;
+        item.pszText = found.cFileName;
+        SendMessageA(list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    SendMessageA(list, WM_SETREDRAW, TRUE, 0);
+}
+
+/// Loads a set's three files as bitmaps and stretches them into the boxes.
+void BlitBare(vistrel::Principale& main, const std::string& set) {
+    const char* names[] = {"\\LOGO.SYS", "\\LOGOW.SYS", "\\LOGOS.SYS"};
+    for (int i = 0; i < 3; ++i) {
+        const HWND box = main.Imag[i].handle();
+        const HANDLE bitmap = LoadImageA(nullptr, (kLogos + set + names[i]).c_str(), IMAGE_BITMAP,
+                                         0, 0, LR_LOADFROMFILE);
+        const HDC target = GetDC(box);
+        const HDC memory = CreateCompatibleDC(target);
+        const HGDIOBJ former = SelectObject(memory, bitmap);
+        SetStretchBltMode(target, HALFTONE);
+        StretchBlt(target, 0, 0, main.Imag[i].ScaleWidth(), main.Imag[i].ScaleHeight(), memory, 0,
+                   0, 320, 400, SRCCOPY);
+        SelectObject(memory, former);
+        DeleteDC(memory);
+        ReleaseDC(box, target);
+        DeleteObject(bitmap);
+    }
+    GdiFlush();
+}
+
+/// Milliseconds from the start of a program until a window of this class is shown.
+double StartTime(const std::string& program, const char* windowClass) {
+    std::string line = program;
+    STARTUPINFOA how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION started{};
+    const double begun = Now();
+    CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                   &started);
+    HWND window = nullptr;
+    while (!(window = FindWindowA(windowClass, nullptr)) || !IsWindowVisible(window)) Sleep(1);
+    const double shown = Now() - begun;
+    PostMessageA(window, WM_CLOSE, 0, 0);
+    WaitForSingleObject(started.hProcess, 20000);
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    return shown;
+}
+
+void CompareStarts() {
+    // Ten sets, as a user may have.
+    for (int i = 10; i < kSets; ++i)
+        RemoveDirectoryA((kLogos + "Set " + std::to_string(i)).c_str());
+    std::vector<double> ours;
+    std::vector<double> bare;
+    for (int round = 0; round < 8; ++round) {
+        ours.push_back(StartTime("vistrel.exe", "Principale"));
+        bare.push_back(StartTime("bare_list.exe", "BareList"));
+    }
+    std::printf("start to visible window, 10 sets    ours %8.2f ms   bare %8.2f ms   more %.0f ms\n",
+                Median(ours), Median(bare), Median(ours) - Median(bare));
+}
+
+}  // namespace
+
+int main() {
+    OleInitialize(nullptr);
+    PrepareMachine();
+    {
+        vistrel::Principale window(vistrel::FindSystemLocations());
+        window.Create(nullptr);
+        window.Show();
+        const HWND plain =
+            CreateWindowA(WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 300, 300,
+                          window.handle(), nullptr, GetModuleHandleA(nullptr), nullptr);
+        Compare("LeggiDatiDisco, 5,000 sets", 7, [&] { window.LeggiDatiDisco(); },
+                [&] { FillBareList(plain); });
+        DestroyWindow(plain);
+        bool other = false;
+        const auto next = [&] { return std::string((other = !other) ? "Set 1" : "Set 2"); };
+        Compare("selecting a set", 60, [&] { window.SelItem(next()); },
+                [&] { BlitBare(window, next()); });
+        window.Unload();
+    }
+    CompareStarts();
+    OleUninitialize();
+    std::printf("Test program ended with status 0\n");
+    return 0;
+}
