@@ -12,7 +12,7 @@ class Importing : public MainWindow98 {
     /// A folder outside the library with one screen that says its name.
     std::string Outside(const std::string& name) {
         const std::string folder = root + "outside\\" + name;
-        MakeFolders(folder);
+        MakeFolders(folder + "\\");
         Put(folder + "\\LOGO.SYS", "screen of " + name);
         return folder;
     }
@@ -117,7 +117,7 @@ TEST_F(Importing, RefusesADropThatIsNoFileList) {
 
 TEST_F(Importing, TakesReadOnlyFilesAndSubFoldersAlong) {
     const std::string folder = Outside("Deep");
-    MakeFolders(folder + "\\more");
+    MakeFolders(folder + "\\more\\");
     Put(folder + "\\more\\note.txt", "note");
     GiveAttributes(folder + "\\LOGO.SYS", FILE_ATTRIBUTE_READONLY);
     Drop({folder}, NoQuestion, [](Principale& main) { EXPECT_EQ(main.MyList.Count(), 4); });
@@ -141,7 +141,7 @@ TEST_F(Importing, StandsASetOfTheLibraryDroppedOnIt) {
 TEST_F(Importing, TakesAFolderWithAPathOf250Characters) {
     std::string deep = root + "outside\\";
     deep += std::string(250 - deep.size() - 9, 'd');
-    MakeFolders(deep);
+    MakeFolders(deep + "\\");
     const std::string folder = deep + "\\LongPath";
     CreateDirectoryA(folder.c_str(), nullptr);
     ASSERT_EQ(folder.size(), 250u);

@@ -124,7 +124,7 @@ TEST_F(LibraryView, StandsScreensThatAreBroken) {
 
 TEST_F(LibraryView, StandsAFolderWhereAScreenShouldBe) {
     DeleteFileA((logos + "Red\\LOGO.SYS").c_str());
-    MakeFolders(logos + "Red\\LOGO.SYS");
+    MakeFolders(logos + "Red\\LOGO.SYS\\");
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
         EXPECT_FALSE(main.Imag[0].HasPicture());

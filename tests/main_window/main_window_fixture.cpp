@@ -26,6 +26,7 @@ std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blu
 }
 
 COLORREF MiddleOf(const PictureBox& box) {
+    RedrawWindow(box.handle(), nullptr, nullptr, RDW_UPDATENOW);
     const HDC dc = GetDC(box.handle());
     const COLORREF color = GetPixel(dc, box.ScaleWidth() / 2, box.ScaleHeight() / 2);
     ReleaseDC(box.handle(), dc);

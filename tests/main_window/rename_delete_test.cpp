@@ -216,6 +216,8 @@ TEST_F(Deleting, MovesTheFilesToTheRecycleBin) {
         main.Preferences().confirmLogosetDelete = 0;
         main.SelItem("Red");
         StartCommand(main, ID_ToolDelete);
+        WaitUntil([] { return user::FindTop("#32770") != nullptr; });
+        user::TakeShot("recycle_question");
         user::AnswerBox(IDYES);  // the shell's own question
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
     });

@@ -304,7 +304,7 @@ TEST_F(Preferences, StandAMissingStartupFolder) {
 }
 
 TEST_F(Preferences, TakeAPickedProgramAndItsNameWithoutTheEnding) {
-    MakeFolders(root + "Tools");
+    MakeFolders(root + "Tools\\");
     Put(root + "Tools\\PAINTER.EXE", "a program");
     WithDialog([&](FrmOptions& options) {
         ClickTab(options, 3);

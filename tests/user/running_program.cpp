@@ -7,7 +7,7 @@ namespace vistrel::test {
 RunningProgram::RunningProgram() {
     ForgetSettings();
     RemoveTree("C:\\Logos");
-    MakeFolders("C:\\Logos");
+    MakeFolders("C:\\Logos\\");
     // The samples lie beside the program.
     SHFILEOPSTRUCTA copy{};
     copy.wFunc = FO_COPY;
