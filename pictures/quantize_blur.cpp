@@ -1,5 +1,5 @@
 // Blurring in 16-bit integers. Where the compiler has SSE2, two pixels at a time with the same
-// result.
+// result. Errors are within -16,383..16,383, see WorkingSpace: sums of two fit into 16 bits.
 #include "pictures/quantize_blur.h"
 
 #include <algorithm>
@@ -34,14 +34,6 @@ __m128i WeighFour(__m128i a, __m128i b, __m128i ab, __m128i c, __m128i d, __m128
 #else
 std::int16_t Narrow(std::int32_t value) {
     return static_cast<std::int16_t>(std::clamp(value, -32768, 32767));
-}
-
-/// Calls `channel` for the members x, y and z of a result in turn.
-template <class Channel>
-void ForEachChannel(Point& result, Channel channel) {
-    result.x = channel(&Point::x);
-    result.y = channel(&Point::y);
-    result.z = channel(&Point::z);
 }
 #endif
 
@@ -116,18 +108,20 @@ void ErrorField::BlurAlong(int y) {
     const __m128i outer = Pair(kGauss[2], kGauss[1]);
     const __m128i inner = Pair(kGauss[0], 0);
     for (int x = 0; x < width_; x += 2) {
-        Store(result + x, WeighFour<8>(_mm_adds_epi16(Load(e + x - 2), Load(e + x + 2)),
-                                       _mm_adds_epi16(Load(e + x - 1), Load(e + x + 1)), outer,
+        Store(result + x, WeighFour<8>(_mm_add_epi16(Load(e + x - 2), Load(e + x + 2)),
+                                       _mm_add_epi16(Load(e + x - 1), Load(e + x + 1)), outer,
                                        Load(e + x), _mm_setzero_si128(), inner));
     }
 #else
+    const auto blur = [](int outer, int inner, int centre) {
+        const int sum = kGauss[2] * outer + kGauss[1] * inner + kGauss[0] * centre;
+        return static_cast<std::int16_t>((sum + 128) >> 8);
+    };
     for (int x = 0; x < width_; ++x) {
-        ForEachChannel(result[x], [&](std::int16_t Point::*at) {
-            const std::int32_t sum = kGauss[2] * Narrow(e[x - 2].*at + e[x + 2].*at) +
-                                     kGauss[1] * Narrow(e[x - 1].*at + e[x + 1].*at) +
-                                     kGauss[0] * (e[x].*at);
-            return Narrow((sum + 128) >> 8);
-        });
+        const Point* const at = e + x;
+        result[x] = {blur(at[-2].x + at[2].x, at[-1].x + at[1].x, at->x),
+                     blur(at[-2].y + at[2].y, at[-1].y + at[1].y, at->y),
+                     blur(at[-2].z + at[2].z, at[-1].z + at[1].z, at->z), 0};
     }
 #endif
 }
@@ -144,18 +138,19 @@ void ErrorField::BlurDown(int y) {
     const __m128i outer = Pair(down_[0], down_[1]);
     const __m128i inner = Pair(down_[2], down_[3]);
     for (int x = 0; x < width_; x += 2) {
-        Store(result + x, WeighFour<kDownBits>(_mm_adds_epi16(Load(a + x), Load(f + x)),
-                                               _mm_adds_epi16(Load(b + x), Load(d + x)), outer,
+        Store(result + x, WeighFour<kDownBits>(_mm_add_epi16(Load(a + x), Load(f + x)),
+                                               _mm_add_epi16(Load(b + x), Load(d + x)), outer,
                                                Load(c + x), Load(e + x), inner));
     }
 #else
+    const auto blur = [&](int outer, int inner, int centre, int error) {
+        const int sum = down_[0] * outer + down_[1] * inner + down_[2] * centre + down_[3] * error;
+        return Narrow((sum + (1 << (kDownBits - 1))) >> kDownBits);
+    };
     for (int x = 0; x < width_; ++x) {
-        ForEachChannel(result[x], [&](std::int16_t Point::*at) {
-            const std::int32_t sum = down_[0] * Narrow(a[x].*at + f[x].*at) +
-                                     down_[1] * Narrow(b[x].*at + d[x].*at) +
-                                     down_[2] * (c[x].*at) + down_[3] * (e[x].*at);
-            return Narrow((sum + (1 << (kDownBits - 1))) >> kDownBits);
-        });
+        result[x] = {blur(a[x].x + f[x].x, b[x].x + d[x].x, c[x].x, e[x].x),
+                     blur(a[x].y + f[x].y, b[x].y + d[x].y, c[x].y, e[x].y),
+                     blur(a[x].z + f[x].z, b[x].z + d[x].z, c[x].z, e[x].z), 0};
     }
 #endif
 }

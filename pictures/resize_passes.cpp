@@ -31,7 +31,12 @@ void WeighColumns(const Sample* const* rows, const std::int16_t* weights, int co
             const Sample* const two = rows[k + 1] + start;
             const std::int32_t weightOne = weights[k];
             const std::int32_t weightTwo = weights[k + 1];
-            for (int x = 0; x < length; ++x) strip[x] += weightOne * one[x] + weightTwo * two[x];
+            int x = 0;
+            for (; x + 1 < length; x += 2) {
+                strip[x] += weightOne * one[x] + weightTwo * two[x];
+                strip[x + 1] += weightOne * one[x + 1] + weightTwo * two[x + 1];
+            }
+            if (x < length) strip[x] += weightOne * one[x] + weightTwo * two[x];
         }
         if (k < count) {
             const Sample* const last = rows[k] + start;
@@ -93,8 +98,12 @@ int WeighColumnsBy8(const Sample* const*, const std::int16_t*, int, int, int, st
 }
 
 std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weights, int count) {
+    static_assert(kTapGroup % 4 == 0);
     std::int32_t sum = 0;
-    for (int k = 0; k < count; ++k) sum += samples[k] * weights[k];
+    for (int k = 0; k < count; k += 4) {
+        sum += samples[k] * weights[k] + samples[k + 1] * weights[k + 1] +
+               samples[k + 2] * weights[k + 2] + samples[k + 3] * weights[k + 3];
+    }
     return sum;
 }
 #endif
