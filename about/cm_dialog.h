@@ -10,7 +10,8 @@ namespace vistrel {
 /// The name, without its folder, of the file that ShowOpenDialog gave last.
 extern std::string FileTitle;
 
-/// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, all parted by
+/// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, all parted
+/// by
 /// "|". The full path, with the NUL that the dialog wrote after it; empty when the user cancels.
 std::string ShowOpenDialog(WindowHandle owner, const std::string& filter, const std::string& title,
                            const std::string& initialFolder);

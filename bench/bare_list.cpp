@@ -21,8 +21,8 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
     RegisterClassA(&c);
     const HWND window = CreateWindowA("BareList", "", WS_OVERLAPPEDWINDOW, 0, 0, 620, 420, nullptr,
                                       nullptr, instance, nullptr);
-    CreateWindowA(WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 600, 380, window, nullptr,
-                  instance, nullptr);
+    CreateWindowA(WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 600, 380, window,
+                  nullptr, instance, nullptr);
     ShowWindow(window, SW_SHOW);
     UpdateWindow(window);
     MSG message;

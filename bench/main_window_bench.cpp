@@ -154,8 +154,9 @@ void CompareStarts() {
         ours.push_back(StartTime("vistrel.exe", "Principale"));
         bare.push_back(StartTime("bare_list.exe", "BareList"));
     }
-    std::printf("start to visible window, 10 sets    ours %8.2f ms   bare %8.2f ms   more %.0f ms\n",
-                Median(ours), Median(bare), Median(ours) - Median(bare));
+    std::printf(
+        "start to visible window, 10 sets    ours %8.2f ms   bare %8.2f ms   more %.0f ms\n",
+        Median(ours), Median(bare), Median(ours) - Median(bare));
 }
 
 }  // namespace
@@ -170,13 +171,15 @@ int main() {
         const HWND plain =
             CreateWindowA(WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 300, 300,
                           window.handle(), nullptr, GetModuleHandleA(nullptr), nullptr);
-        Compare("LeggiDatiDisco, 5,000 sets", 7, [&] { window.LeggiDatiDisco(); },
-                [&] { FillBareList(plain); });
+        Compare(
+            "LeggiDatiDisco, 5,000 sets", 7, [&] { window.LeggiDatiDisco(); },
+            [&] { FillBareList(plain); });
         DestroyWindow(plain);
         bool other = false;
         const auto next = [&] { return std::string((other = !other) ? "Set 1" : "Set 2"); };
-        Compare("selecting a set", 60, [&] { window.SelItem(next()); },
-                [&] { BlitBare(window, next()); });
+        Compare(
+            "selecting a set", 60, [&] { window.SelItem(next()); },
+            [&] { BlitBare(window, next()); });
         window.Unload();
     }
     CompareStarts();

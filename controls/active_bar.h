@@ -18,12 +18,12 @@ class Window;
 
 struct Tool {
     const char* name;
-    int id;               ///< number of its WM_COMMAND; 0 for one that only opens a band
+    int id;  ///< number of its WM_COMMAND; 0 for one that only opens a band
     const char* caption;
-    const char* tip;      ///< empty for none
+    const char* tip;  ///< empty for none
     const char* category;
-    int image;            ///< number of its picture in the bar's strip; -1 for none
-    const char* opens;    ///< name of the band that it drops down; empty for none
+    int image;          ///< number of its picture in the bar's strip; -1 for none
+    const char* opens;  ///< name of the band that it drops down; empty for none
 };
 
 enum class BandKind { MenuBar, DropDown, ButtonBar };
@@ -41,8 +41,9 @@ class ActiveBar {
     ActiveBar(const ActiveBar&) = delete;
     ActiveBar& operator=(const ActiveBar&) = delete;
 
-    /// Puts the menu bar on `window` and makes its bar of buttons, a child with number `barId` whose
-    /// 16 x 16 pictures come from a bitmap resource with the transparent colour `transparent`.
+    /// Puts the menu bar on `window` and makes its bar of buttons, a child with number `barId`
+    /// whose 16 x 16 pictures come from a bitmap resource with the transparent colour
+    /// `transparent`.
     void Attach(Window& window, int barId, int bitmapResource, long transparent);
 
     bool Enabled(const std::string& tool) const { return StateOf(tool).enabled; }

@@ -10,9 +10,7 @@ void Button::OnCommand(int code) {
 
 int CheckBox::Value() const { return Send(BM_GETCHECK) == BST_CHECKED ? 1 : 0; }
 
-void CheckBox::SetValue(int value) {
-    Send(BM_SETCHECK, value != 0 ? BST_CHECKED : BST_UNCHECKED);
-}
+void CheckBox::SetValue(int value) { Send(BM_SETCHECK, value != 0 ? BST_CHECKED : BST_UNCHECKED); }
 
 bool OptionButton::Value() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 

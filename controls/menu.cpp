@@ -6,9 +6,7 @@
 
 namespace vistrel {
 
-MenuHandle LoadMenuResource(int id) {
-    return LoadMenuA(ProgramInstance(), MAKEINTRESOURCEA(id));
-}
+MenuHandle LoadMenuResource(int id) { return LoadMenuA(ProgramInstance(), MAKEINTRESOURCEA(id)); }
 
 void FreeMenu(MenuHandle menu) { DestroyMenu(menu); }
 
@@ -38,8 +36,8 @@ void SetMenuEnabled(MenuHandle menu, int id, bool enabled) {
 }
 
 bool IsMenuEnabled(MenuHandle menu, int id) {
-    return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) &
-            (MF_GRAYED | MF_DISABLED)) == 0;
+    return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) ==
+           0;
 }
 
 void SetMenuCaption(MenuHandle menu, int id, const std::string& caption) {
@@ -57,8 +55,8 @@ void SetMenuCaption(MenuHandle menu, int id, const std::string& caption) {
 
 std::string MenuCaption(MenuHandle menu, int id) {
     std::string text(256, '\0');
-    text.resize(static_cast<std::size_t>(GetMenuStringA(menu, static_cast<UINT>(id), text.data(),
-                                                        256, MF_BYCOMMAND)));
+    text.resize(static_cast<std::size_t>(
+        GetMenuStringA(menu, static_cast<UINT>(id), text.data(), 256, MF_BYCOMMAND)));
     return text;
 }
 

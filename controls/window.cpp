@@ -85,9 +85,8 @@ bool Window::Create(WindowHandle owner) {
     InitCommonControls();
     RegisterPictureBoxClass();
     RegisterFormClass(className_);
-    const HWND handle =
-        CreateDialogParamA(ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
-                           &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
+    const HWND handle = CreateDialogParamA(ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
+                                           &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
     if (!handle) return false;
     handle_ = handle;
     tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP,
@@ -180,7 +179,8 @@ void Window::SetClientSize(Size size) {
 void Window::CentreIn(const Rect& area) {
     RECT r{};
     GetWindowRect(handle_, &r);
-    SetWindowPos(handle_, nullptr, area.left + (area.width - static_cast<int>(r.right - r.left)) / 2,
+    SetWindowPos(handle_, nullptr,
+                 area.left + (area.width - static_cast<int>(r.right - r.left)) / 2,
                  area.top + (area.height - static_cast<int>(r.bottom - r.top)) / 2, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

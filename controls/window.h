@@ -28,8 +28,8 @@ class Window {
     /// system refuses.
     bool Create(WindowHandle owner);
     void Show();
-    /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns when
-    /// it has been closed.
+    /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns
+    /// when it has been closed.
     void ShowModal(WindowHandle owner);
     /// Closes the window unless Form_Unload refuses. False when it did.
     bool Unload();

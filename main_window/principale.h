@@ -1,5 +1,5 @@
-// The main window ("principale": main): the list of logo sets, the three screens of the selected one
-// and the commands on them.
+// The main window ("principale": main): the list of logo sets, the three screens of the selected
+// one and the commands on them.
 #pragma once
 
 #include <array>

@@ -90,7 +90,8 @@ void Principale::MenuCommand(int id) {
     };
     for (const auto& item : items)
         if (item.id == id) (this->*item.run)();
-    if (id > ID_ItmDriveList && id <= ID_ItmDriveList + 26) ItmDriveList_Click(id - ID_ItmDriveList);
+    if (id > ID_ItmDriveList && id <= ID_ItmDriveList + 26)
+        ItmDriveList_Click(id - ID_ItmDriveList);
 }
 
 void Principale::MenuOpens(MenuHandle menu) {
@@ -246,8 +247,7 @@ void Principale::ShowInstalledScreens() {
     // Run again while they are shown already, there is nothing new to save.
     if (!savedView_) {
         const int selected = MyList.SelectedItem();
-        savedView_ = {DefaultLogo.Text(),
-                      selected < 0 ? std::string() : MyList.ItemText(selected)};
+        savedView_ = {DefaultLogo.Text(), selected < 0 ? std::string() : MyList.ItemText(selected)};
     }
     MyList.Select(-1);
     ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
@@ -292,9 +292,7 @@ void Principale::ShowPreferences(WindowHandle owner) {
     options.ShowModal(owner);
 }
 
-void Principale::ItmContents_Click() {
-    ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0);
-}
+void Principale::ItmContents_Click() { ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0); }
 
 void Principale::ShowTutorial() {
     ShowHelp(handle(), HelpFile(), HelpCommand::Context, kTutorialTopic);

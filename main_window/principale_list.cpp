@@ -65,10 +65,7 @@ void Principale::VisualizzaNumLogo() {
 
 void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
     for (int i = 0; i < 3; ++i) {
-        if (FileExists(paths[i]))
-            DrawPreview(paths[i], Imag[i]);
-        else
-            Imag[i].Clear();
+        DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
         Imag[i].SetTag(paths[i]);
     }
 }

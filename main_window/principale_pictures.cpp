@@ -72,8 +72,7 @@ void Principale::OpenCustomProgram(WindowHandle owner) {
             "Cannot find the file " + program +
                 " or it is not an executable file. Check it out and retry.",
             kExclamationOk);
-    } else if (Ask(owner,
-                   "You haven't specified a custom program. Would you like to do it now?",
+    } else if (Ask(owner, "You haven't specified a custom program. Would you like to do it now?",
                    kQuestionYesNo) == Answer::Yes) {
         ShowPreferences(owner);
     }

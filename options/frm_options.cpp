@@ -179,9 +179,8 @@ void FrmOptions::CustomProgram_Change() {
 }
 
 void FrmOptions::BtnBrowse_Click() {
-    const std::string program =
-        CutAtNul(ShowOpenDialog(handle(), "Applications (*.exe)|*.exe",
-                                "Where is your favourite graphic program?", ""));
+    const std::string program = CutAtNul(ShowOpenDialog(
+        handle(), "Applications (*.exe)|*.exe", "Where is your favourite graphic program?", ""));
     if (program.empty()) return;
     CustProg.SetText(program);
     const std::size_t ending = 4;  // ".exe"

@@ -19,6 +19,18 @@ void DrawOver(PictureBox& box, const std::uint8_t* rgb, int width, int height) {
     box.Keep();
 }
 
+/// Draws a picture scaled straight to the box: nobody here needs all of it. Its own size; empty
+/// when it cannot be read.
+std::optional<Size> DrawScaled(const std::string& path, PictureBox& target) {
+    const auto scaled = ReadPictureScaled(path, target.ScaleWidth(), target.ScaleHeight());
+    if (!scaled) {
+        target.Clear();
+        return std::nullopt;
+    }
+    DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width, scaled->picture.height);
+    return Size{scaled->fileWidth, scaled->fileHeight};
+}
+
 }  // namespace
 
 void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
@@ -36,32 +48,21 @@ void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t
 
 void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
                  std::int32_t& height, std::int16_t& depth) {
+    const auto size = DrawScaled(path, target);
     const PictureFormat format = FormatOfName(path);
-    // The picture is scaled straight to the box: nobody here needs all of it.
-    const auto scaled = ReadPictureScaled(path, target.ScaleWidth(), target.ScaleHeight());
     if (format == PictureFormat::Bmp) {
         // The header tells the size even where the pixels cannot be read.
         ReadBitmapHeader(path, width, height, depth);
-    } else {
-        depth = format == PictureFormat::Gif ? kGifDepth : kJpgDepth;
-        if (scaled) {
-            width = scaled->fileWidth;
-            height = scaled->fileHeight;
-        }
+        return;
     }
-    if (scaled)
-        DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width,
-                 scaled->picture.height);
-    else
-        target.Clear();
+    depth = format == PictureFormat::Gif ? kGifDepth : kJpgDepth;
+    if (size) {
+        width = size->width;
+        height = size->height;
+    }
 }
 
-void DrawPreview(const std::string& path, PictureBox& target) {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    std::int16_t depth = 0;
-    DrawPreview(path, target, width, height, depth);
-}
+void DrawPreview(const std::string& path, PictureBox& target) { DrawScaled(path, target); }
 
 void ShowPictureInBox(const std::string& path, PictureBox& box) {
     box.Clear();

@@ -30,8 +30,9 @@ void Register(const std::string& protocol) {
 std::string Opened() {
     char text[512] = "";
     DWORD read = 0;
-    const HANDLE file = CreateFileA("C:\\opened.txt", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE file =
+        CreateFileA("C:\\opened.txt", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                    OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return {};
     ReadFile(file, text, sizeof text - 1, &read, nullptr);
     CloseHandle(file);
@@ -59,9 +60,9 @@ TEST(AboutBox, TellsTitleVersionAndAddresses) {
         EXPECT_EQ(about.Label5.Text(), "Look for logos and updates at my homepage:");
         EXPECT_TRUE(about.Image1.HasPicture());
         LOGFONTA font{};
-        GetObjectA(reinterpret_cast<HFONT>(
-                       SendMessageA(about.LblTitProgram.handle(), WM_GETFONT, 0, 0)),
-                   sizeof font, &font);
+        GetObjectA(
+            reinterpret_cast<HFONT>(SendMessageA(about.LblTitProgram.handle(), WM_GETFONT, 0, 0)),
+            sizeof font, &font);
         EXPECT_STREQ(font.lfFaceName, "Arial");
         user::TakeShot("about_box");
     });
@@ -82,8 +83,7 @@ TEST(AboutBox, OpensTheMailProgramWithTheSubject) {
     DeleteFileA("C:\\opened.txt");
     WithAboutBox([](FrmAboutReg& about) {
         user::Click(about.LblInternet[0].handle());
-        const std::string wanted =
-            "mailto:" + about.LblInternet[0].Text() + "?subject=Vistrel 98";
+        const std::string wanted = "mailto:" + about.LblInternet[0].Text() + "?subject=Vistrel 98";
         EXPECT_TRUE(WaitUntil([&] {
             const std::string opened = Opened();
             // The blank may arrive written as %20.

@@ -104,7 +104,8 @@ FileDragSource::~FileDragSource() { DestroyWindow(window_); }
 
 void FileDragSource::Begin() {
     Source source;
-    Data data(asFiles_ ? CF_HDROP : CF_TEXT, asFiles_ ? FileList(paths_) : std::string("text\0", 5));
+    Data data(asFiles_ ? CF_HDROP : CF_TEXT,
+              asFiles_ ? FileList(paths_) : std::string("text\0", 5));
     DWORD effect = DROPEFFECT_NONE;
     const HRESULT ended = DoDragDrop(&data, &source, DROPEFFECT_COPY, &effect);
     effect_ = ended == DRAGDROP_S_DROP ? effect : DWORD{DROPEFFECT_NONE};

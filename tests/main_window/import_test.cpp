@@ -26,8 +26,7 @@ class Importing : public MainWindow98 {
         {
             FileDragSource source({4, 4}, paths, asFiles);
             WithMainWindow([&](Principale& main) {
-                user::Drag(user::CentreOf(source.window()),
-                           user::CentreOf(main.MyList.handle()));
+                user::Drag(user::CentreOf(source.window()), user::CentreOf(main.MyList.handle()));
                 answer(main);
                 EXPECT_TRUE(WaitUntil([&] { return source.effect() != ~DWORD{0}; }, 60000));
                 effect_ = source.effect();
@@ -43,8 +42,8 @@ class Importing : public MainWindow98 {
 
 TEST_F(Importing, AddsThreeFoldersInTheirOrderAndSelectsTheThird) {
     Drop({Outside("Zoo"), Outside("Alpha"), Outside("Mid")}, NoQuestion, [&](Principale& main) {
-        EXPECT_EQ(main.SetNames(), (std::vector<std::string>{"Blue", "Green.SLS", "Red", "Zoo",
-                                                             "Alpha", "Mid"}));
+        EXPECT_EQ(main.SetNames(),
+                  (std::vector<std::string>{"Blue", "Green.SLS", "Red", "Zoo", "Alpha", "Mid"}));
         EXPECT_EQ(main.MyList.SelectedItem(), 5);
         EXPECT_EQ(main.Imag[0].Tag(), logos + "Mid\\LOGO.SYS");
         // The count catches up at the next refresh.
@@ -57,11 +56,12 @@ TEST_F(Importing, AddsThreeFoldersInTheirOrderAndSelectsTheThird) {
 
 TEST_F(Importing, AsksBeforeItOverwritesAndLeavesAllAtNo) {
     user::Box box;
-    Drop({Outside("Red")}, [&](Principale&) { box = user::AnswerBox(IDNO); },
-         [&](Principale& main) {
-             EXPECT_EQ(main.MyList.Count(), 3);
-             EXPECT_EQ(main.MyList.SelectedItem(), 0);
-         });
+    Drop(
+        {Outside("Red")}, [&](Principale&) { box = user::AnswerBox(IDNO); },
+        [&](Principale& main) {
+            EXPECT_EQ(main.MyList.Count(), 3);
+            EXPECT_EQ(main.MyList.SelectedItem(), 0);
+        });
     EXPECT_EQ(box.text,
               "The selected folder 'Red' already exist in your logo folder. Would you like to "
               "overwrite the existing files?");
@@ -71,26 +71,28 @@ TEST_F(Importing, AsksBeforeItOverwritesAndLeavesAllAtNo) {
 }
 
 TEST_F(Importing, CopiesOverAnExistingSetAtYesWithoutASecondItem) {
-    Drop({Outside("Red")},
-         [&](Principale&) {
-             WaitUntil([] { return user::FindTop("#32770") != nullptr; });
-             user::TakeShot("overwrite_question");
-             user::AnswerBox(IDYES);
-         },
-         [&](Principale& main) {
-             EXPECT_EQ(main.MyList.Count(), 3);
-             EXPECT_EQ(main.MyList.SelectedItem(), 2);
-         });
+    Drop(
+        {Outside("Red")},
+        [&](Principale&) {
+            WaitUntil([] { return user::FindTop("#32770") != nullptr; });
+            user::TakeShot("overwrite_question");
+            user::AnswerBox(IDYES);
+        },
+        [&](Principale& main) {
+            EXPECT_EQ(main.MyList.Count(), 3);
+            EXPECT_EQ(main.MyList.SelectedItem(), 2);
+        });
     EXPECT_EQ(Contents(logos + "Red\\LOGO.SYS"), "screen of Red");
     EXPECT_TRUE(Contents(logos + "Red\\LOGOW.SYS") == ScreenFile(255, 0, 0));
 }
 
 TEST_F(Importing, GoesOnAfterADeclinedFolder) {
-    Drop({Outside("Red"), Outside("New")}, [&](Principale&) { user::AnswerBox(IDNO); },
-         [&](Principale& main) {
-             EXPECT_EQ(main.MyList.Count(), 4);
-             EXPECT_EQ(main.MyList.SelectedItem(), 3);
-         });
+    Drop(
+        {Outside("Red"), Outside("New")}, [&](Principale&) { user::AnswerBox(IDNO); },
+        [&](Principale& main) {
+            EXPECT_EQ(main.MyList.Count(), 4);
+            EXPECT_EQ(main.MyList.SelectedItem(), 3);
+        });
     EXPECT_TRUE(Contents(logos + "Red\\LOGO.SYS") == ScreenFile(255, 0, 0));
 }
 
@@ -111,7 +113,8 @@ TEST_F(Importing, PassesOverFilesAndSelectsNothingAfterALastOne) {
 }
 
 TEST_F(Importing, RefusesADropThatIsNoFileList) {
-    Drop({}, NoQuestion, [&](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); }, false);
+    Drop(
+        {}, NoQuestion, [&](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); }, false);
     EXPECT_EQ(effect_, DWORD{DROPEFFECT_NONE});
 }
 
@@ -133,8 +136,9 @@ TEST_F(Importing, TakesThreeHundredFolders) {
 }
 
 TEST_F(Importing, StandsASetOfTheLibraryDroppedOnIt) {
-    Drop({logos + "Red"}, [](Principale&) { user::AnswerBox(IDYES); },
-         [](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); });
+    Drop(
+        {logos + "Red"}, [](Principale&) { user::AnswerBox(IDYES); },
+        [](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); });
     EXPECT_TRUE(Contents(logos + "Red\\LOGO.SYS") == ScreenFile(255, 0, 0));
 }
 
@@ -145,9 +149,8 @@ TEST_F(Importing, TakesAFolderWithAPathOf250Characters) {
     const std::string folder = deep + "\\LongPath";
     CreateDirectoryA(folder.c_str(), nullptr);
     ASSERT_EQ(folder.size(), 250u);
-    Drop({folder}, NoQuestion, [](Principale& main) {
-        EXPECT_GE(main.MyList.FindItem("LongPath"), 0);
-    });
+    Drop({folder}, NoQuestion,
+         [](Principale& main) { EXPECT_GE(main.MyList.FindItem("LongPath"), 0); });
     EXPECT_TRUE(Exists(logos + "LongPath"));
 }
 

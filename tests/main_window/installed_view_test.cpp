@@ -17,8 +17,7 @@ TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
         EXPECT_TRUE(user::ChooseFromMenuBar(main.handle(), ID_ToolShowCurrent));
-        EXPECT_TRUE(
-            WaitUntil([&] { return main.DefaultLogo.Text() == "Current logo setting"; }));
+        EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Current logo setting"; }));
         EXPECT_TRUE(main.ActiveBar1.Checked("ToolShowCurrent"));
         EXPECT_EQ(main.DefaultLogo.ForeColor(), 0x008000);
         EXPECT_EQ(main.DefaultLogo.tip(), "Showing current logo setting");

@@ -107,10 +107,7 @@ TEST_F(LibraryView, StandsScreensThatAreBroken) {
     const struct {
         std::string contents;
         bool shown;
-    } screens[] = {{"", false},
-                   {good.substr(0, 53), false},
-                   {huge, false},
-                   {topDown, true}};
+    } screens[] = {{"", false}, {good.substr(0, 53), false}, {huge, false}, {topDown, true}};
     for (const auto& screen : screens) {
         Put(logos + "Red\\LOGO.SYS", screen.contents);
         WithMainWindow([&](Principale& main) {
@@ -148,8 +145,7 @@ TEST_F(LibraryView, FollowsTheSelectionOfTheKeyboard) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Blue");
         user::Press(VK_DOWN);
-        EXPECT_TRUE(
-            WaitUntil([&] { return main.Imag[0].Tag() == logos + "Green.SLS\\LOGO.SYS"; }));
+        EXPECT_TRUE(WaitUntil([&] { return main.Imag[0].Tag() == logos + "Green.SLS\\LOGO.SYS"; }));
     });
 }
 

@@ -16,8 +16,8 @@
 
 namespace vistrel::test {
 
-/// The bytes of a screen file of 320 x 400 pixels in one colour; from `firstAnimated` on, where that
-/// is not 0, its colours move.
+/// The bytes of a screen file of 320 x 400 pixels in one colour; from `firstAnimated` on, where
+/// that is not 0, its colours move.
 std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blue,
                        int firstAnimated = 0);
 
@@ -29,8 +29,8 @@ inline constexpr COLORREF kGreenScreen = RGB(0, 255, 0);
 inline constexpr COLORREF kBlueScreen = RGB(0, 0, 255);
 inline constexpr COLORREF kEmptyBox = RGB(128, 128, 128);
 
-/// A library with the sets "Blue", "Green.SLS" and "Red": each shows its colour as startup screen; the
-/// multi-logo sets have the other two too, the shared ones are white.
+/// A library with the sets "Blue", "Green.SLS" and "Red": each shows its colour as startup screen;
+/// the multi-logo sets have the other two too, the shared ones are white.
 class MainWindow98 : public Machine {
  protected:
     MainWindow98();

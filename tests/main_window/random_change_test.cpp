@@ -37,8 +37,7 @@ TEST_F(RandomChange, NeverInstallsTheSelectedSet) {
             const int before = main.MyList.SelectedItem();
             Command(main, ID_ToolRandom);
             EXPECT_NE(main.MyList.SelectedItem(), before);
-            EXPECT_EQ(main.DefaultLogo.Text(),
-                      main.MyList.ItemText(main.MyList.SelectedItem()));
+            EXPECT_EQ(main.DefaultLogo.Text(), main.MyList.ItemText(main.MyList.SelectedItem()));
         }
     });
 }

@@ -16,9 +16,8 @@ class Renaming : public MainWindow98 {
         user::Press(VK_RETURN);
     }
     static bool Shows(Principale& main, const std::string& name) {
-        return WaitUntil([&] {
-            return !main.MyList.EditingLabel() && main.MyList.FindItem(name) >= 0;
-        });
+        return WaitUntil(
+            [&] { return !main.MyList.EditingLabel() && main.MyList.FindItem(name) >= 0; });
     }
 };
 
@@ -159,9 +158,10 @@ TEST_F(Deleting, AsksAndDeletesTheFolderAndSelectsTheNextSet) {
         main.SelItem("Blue");
         DeleteSelected(main, IDYES);
         EXPECT_EQ(box_.title, "Confirm deletions");
-        EXPECT_EQ(box_.text, "Are you sure you want to delete Blue logo set? This operation will "
-                             "delete all files contained in '" +
-                                 logos + "Blue' folder!");
+        EXPECT_EQ(box_.text,
+                  "Are you sure you want to delete Blue logo set? This operation will "
+                  "delete all files contained in '" +
+                      logos + "Blue' folder!");
         EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 2 logo sets"; }));
         EXPECT_EQ(main.MyList.SelectedItem(), 0);
         EXPECT_EQ(main.Imag[0].Tag(), logos + "Green.SLS\\LOGO.SYS");

@@ -195,7 +195,8 @@ TEST_F(Preferences, ChoosesTheCustomProgramAsSoonAsOneTypes) {
         EXPECT_FALSE(options.OptOpen[0].Value());
         user::Press(VK_TAB);
         user::Type("C:\\My Tools\\brush.exe");
-        EXPECT_TRUE(WaitUntil([&] { return options.CustProg.Text() == "C:\\My Tools\\brush.exe"; }));
+        EXPECT_TRUE(
+            WaitUntil([&] { return options.CustProg.Text() == "C:\\My Tools\\brush.exe"; }));
         PressOk(options);
     });
     EXPECT_EQ(main.settings.customProgName, "Brush \"and\" more");

@@ -7,11 +7,20 @@ namespace {
 
 using Story = RunningProgram;
 
-constexpr const char* kValues[] = {
-    "SearchLogoPath",     "View",           "Synchronize logos", "StartUpDrive",
-    "DefaultLogoSet",     "DefaultAction",  "CustomProgName",    "CustomProgPath",
-    "DeleteInTheRecycleBin", "ConfirmLogosetDelete", "ConfirmLogoTypeChange",
-    "ShowSplashScreen",   "LogoPath",       "ActionOnDoubleClick"};
+constexpr const char* kValues[] = {"SearchLogoPath",
+                                   "View",
+                                   "Synchronize logos",
+                                   "StartUpDrive",
+                                   "DefaultLogoSet",
+                                   "DefaultAction",
+                                   "CustomProgName",
+                                   "CustomProgPath",
+                                   "DeleteInTheRecycleBin",
+                                   "ConfirmLogosetDelete",
+                                   "ConfirmLogoTypeChange",
+                                   "ShowSplashScreen",
+                                   "LogoPath",
+                                   "ActionOnDoubleClick"};
 
 TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart) {
     HWND main = Start();
@@ -81,8 +90,8 @@ TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
     how.cb = sizeof how;
     PROCESS_INFORMATION started{};
     char line[] = "C:\\test\\vistrel.exe";
-    ASSERT_TRUE(
-        CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &started));
+    ASSERT_TRUE(CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                               &started));
     // The main window exists, hidden, while the splash screen is shown.
     HWND hidden = nullptr;
     ASSERT_TRUE(WaitUntil([&] {

@@ -15,13 +15,14 @@ RunningProgram::RunningProgram() {
     copy.pTo = "C:\\Logos\0";
     copy.fFlags = FOF_NOCONFIRMATION | FOF_SILENT;
     SHFileOperationA(&copy);
-    for (const char* screen : {"C:\\LOGO.SYS", "C:\\windows\\LOGOW.SYS", "C:\\windows\\LOGOS.SYS"}) {
+    for (const char* screen :
+         {"C:\\LOGO.SYS", "C:\\windows\\LOGOW.SYS", "C:\\windows\\LOGOS.SYS"}) {
         Put(screen, "an old screen");
         GiveAttributes(screen, FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
     }
     Put("C:\\msdos.sys", "[Paths]\r\nWinDir=C:\\WINDOWS\r\n[Options]\r\nLogo=1\r\n");
-    GiveAttributes("C:\\msdos.sys", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
-                                        FILE_ATTRIBUTE_SYSTEM);
+    GiveAttributes("C:\\msdos.sys",
+                   FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
     Store("LogoPath", TextValue(logos));
     Store("DefaultLogoSet", TextValue("Sunny Day"));
 }
@@ -37,7 +38,8 @@ HWND RunningProgram::Start() {
     how.cb = sizeof how;
     PROCESS_INFORMATION started{};
     char line[] = "C:\\test\\vistrel.exe";
-    if (!CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &started))
+    if (!CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                        &started))
         return nullptr;
     CloseHandle(started.hThread);
     running_ = started.hProcess;
