@@ -47,11 +47,11 @@ int LambdaFor(std::int64_t squaredError) {
     };
     // Levels of error: 2, 3, 4, 5, 6 and 7.
     constexpr std::array<Step, 6> kSteps = {
-        {{4, 112}, {9, 104}, {16, 92}, {25, 80}, {36, 70}, {49, 60}}};
+        {{4, 118}, {9, 110}, {16, 96}, {25, 84}, {36, 73}, {49, 62}}};
     for (const Step& step : kSteps) {
         if (squaredError < step.squaredError) return step.lambda;
     }
-    return 48;
+    return 50;
 }
 
 constexpr DistanceWeights kPlain{};

@@ -11,7 +11,8 @@ enum class Dither { On, Off };
 /// Reduces width * height pixels (`rgb`, red, green, blue) to at most `colors` (2 to 256) colours.
 /// Writes one index a pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`
 /// (unused entries black). A picture with no more than `colors` distinct colours keeps them
-/// exactly. The result is the same on every machine. False when an argument is out of range.
+/// exactly. The result is the same on every machine. False when an argument is out of range or the
+/// picture has more than 16,777,216 pixels.
 bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std::uint8_t* indices,
                  std::uint8_t* palette, Dither dither = Dither::On);
 

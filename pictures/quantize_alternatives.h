@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <vector>
 
@@ -56,14 +57,16 @@ inline int Alternatives::Better(int own, const Point& field) const {
     const __m128i low = weigh(0);
     const __m128i high = weigh(1);
     // Most pixels are content: no sum is negative.
-    const int signs = _mm_movemask_ps(_mm_castsi128_ps(_mm_or_si128(low, high)));
-    if (signs == 0) return own;
+    unsigned better =
+        _mm_movemask_ps(_mm_castsi128_ps(low)) | _mm_movemask_ps(_mm_castsi128_ps(high)) << 4;
+    if (better == 0) return own;
     alignas(16) std::array<std::int32_t, Neighbors::kMost> change;
     _mm_store_si128(reinterpret_cast<__m128i*>(&change[0]), low);
     _mm_store_si128(reinterpret_cast<__m128i*>(&change[4]), high);
     int best = own;
     std::int32_t least = 0;
-    for (int k = 0; k < Neighbors::kMost; ++k) {
+    for (; better != 0; better &= better - 1) {
+        const int k = std::countr_zero(better);
         if (change[k] < least) {
             least = change[k];
             best = changes.color[k];

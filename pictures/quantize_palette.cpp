@@ -28,20 +28,21 @@ void Insert(Neighbors& list, std::int32_t squared, std::uint8_t color) {
 }  // namespace
 
 NeighborTable::NeighborTable(const Palette& palette) : table_(palette.size) {
-    // In the order of x, the search goes outwards from an entry and ends where x alone is too far.
+    // In the order of y, which green makes the widest of the three, the search goes outwards from
+    // an entry and ends where y alone is too far.
     std::array<std::uint8_t, kMostColors> order;
     for (int i = 0; i < palette.size; ++i) order[i] = static_cast<std::uint8_t>(i);
     std::sort(order.begin(), order.begin() + palette.size, [&](std::uint8_t a, std::uint8_t b) {
-        const std::int16_t x = palette.colors[a].x;
-        const std::int16_t y = palette.colors[b].x;
-        return x != y ? x < y : a < b;
+        const std::int16_t first = palette.colors[a].y;
+        const std::int16_t second = palette.colors[b].y;
+        return first != second ? first < second : a < b;
     });
     for (int place = 0; place < palette.size; ++place) {
         const Point& from = palette.colors[order[place]];
         Neighbors& list = table_[order[place]];
         const auto visit = [&](int at) {
             const Point& to = palette.colors[order[at]];
-            const std::int32_t distance = to.x - from.x;
+            const std::int32_t distance = to.y - from.y;
             if (list.count == Neighbors::kMost &&
                 distance * distance >= list.squared[Neighbors::kMost - 1]) {
                 return false;
