@@ -26,7 +26,7 @@ void Handle(MSG& message) {
     if (window) {
         // WM_CHAR exists only after translation, which the dialog manager does itself.
         if (window->TranslateKey(&message)) return;
-        if (IsDialogMessageA(window->handle(), &message)) return;
+        if (window->HasDialogKeys() && IsDialogMessageA(window->handle(), &message)) return;
     }
     TranslateMessage(&message);
     DispatchMessageA(&message);

@@ -61,6 +61,8 @@ class Window {
 
     /// Sees each of the window's messages before the dialog manager; see message_loop.h.
     bool TranslateKey(const void* message);
+    /// False for a window in which Tab, Enter and Esc are keys like any other.
+    virtual bool HasDialogKeys() const { return true; }
 
     /// The file whose topics the help numbers of controls name.
     static void SetHelpFile(const std::string& path);

@@ -16,6 +16,8 @@ class FrmView : public Window {
     /// `animate`: a screen with animated palette entries moves as it does while the system starts.
     FrmView(std::string path, bool animate);
 
+    bool HasDialogKeys() const override { return false; }
+
     PictureBox Preview;
 
  protected:

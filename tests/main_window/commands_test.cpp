@@ -113,14 +113,18 @@ TEST_F(Commands, AClickOnAPictureShowsItInActualSizeUntilAKeyOrClick) {
         EXPECT_EQ(r.right, 320);
         EXPECT_EQ(r.bottom, 400);
         user::TakeShot("actual_size");
-        user::Press(VK_SPACE);
-        EXPECT_TRUE(user::WaitUntilGone(view));
-
-        ASSERT_TRUE(user::Click(main.Imag[1].handle()));
-        view = user::WaitForTop("FrmView");
-        ASSERT_NE(view, nullptr);
         user::Click(view);
         EXPECT_TRUE(user::WaitUntilGone(view));
+
+        for (const WORD key : {WORD{VK_SPACE}, WORD{VK_RETURN}, WORD{VK_ESCAPE}, WORD{'Q'}}) {
+            ASSERT_TRUE(user::Click(main.Imag[1].handle()));
+            view = user::WaitForTop("FrmView");
+            ASSERT_NE(view, nullptr);
+            user::Press(VK_SHIFT);  // makes no character
+            EXPECT_TRUE(IsWindow(view));
+            user::Press(key);
+            EXPECT_TRUE(user::WaitUntilGone(view)) << key;
+        }
         EXPECT_TRUE(IsWindowEnabled(main.handle()));
     });
 }

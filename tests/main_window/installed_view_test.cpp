@@ -105,6 +105,7 @@ class Animation : public MainWindow98 {
     Animation() { Put(logos + "Blue\\LOGO.SYS", ScreenFile(255, 0, 0, 236)); }
 
     static COLORREF MiddleOf(HWND window) {
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW);
         const HDC dc = GetDC(window);
         const COLORREF color = GetPixel(dc, 160, 200);
         ReleaseDC(window, dc);

@@ -216,9 +216,11 @@ TEST_F(Deleting, MovesTheFilesToTheRecycleBin) {
         main.Preferences().confirmLogosetDelete = 0;
         main.SelItem("Red");
         StartCommand(main, ID_ToolDelete);
-        WaitUntil([] { return user::FindTop("#32770") != nullptr; });
-        user::TakeShot("recycle_question");
-        user::AnswerBox(IDYES);  // the shell's own question
+        // The shell's own question, with Yes as its default.
+        const HWND question = user::WaitForTop("#32770");
+        ASSERT_NE(question, nullptr);
+        user::Activate(question);
+        user::Press(VK_RETURN);
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
     });
     EXPECT_FALSE(Exists(logos + "Red"));
