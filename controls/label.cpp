@@ -42,7 +42,8 @@ void Label::FitToText() {
     SelectObject(dc, former);
     ReleaseDC(handle(), dc);
     Rect place = Bounds();
-    place.width = static_cast<int>(size.cx);
+    // Room for the last letter's slant and for rounding.
+    place.width = static_cast<int>(size.cx) + 4;
     MoveTo(place);
 }
 
