@@ -178,7 +178,7 @@ int main() {
         bool other = false;
         const auto next = [&] { return std::string((other = !other) ? "Set 1" : "Set 2"); };
         Compare(
-            "selecting a set", 60, [&] { window.SelItem(next()); },
+            "selecting a set among 5,000", 60, [&] { window.SelItem(next()); },
             [&] { BlitBare(window, next()); });
         window.Unload();
     }

@@ -124,7 +124,10 @@ void ListView::Select(int index) {
     LVITEMA item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     selectingByCode_ = true;
-    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), &item);
+    // Only the selected item is touched: going through all of a long list would take its time.
+    const int former = SelectedItem();
+    if (former >= 0 && former != index)
+        SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(former), &item);
     item.state = item.stateMask;
     if (index >= 0) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
     selectingByCode_ = false;

@@ -9,6 +9,7 @@
 #include "pictures/jpg_reader.h"
 #include "pictures/quantize.h"
 #include "pictures/resize.h"
+#include "pictures/screen_preview.h"
 #include "pictures/whole_file.h"
 
 namespace vistrel {
@@ -60,6 +61,19 @@ std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int widt
     if (!IsPlausibleSize(width, height)) return std::nullopt;
     const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
     return file ? DecodeScaled(FormatOfName(path), *file, width, height) : std::nullopt;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+std::optional<ScaledPicture> ReadPicturePreview(const std::string& path, int width,
+                                                int height) try {
+    if (!IsPlausibleSize(width, height)) return std::nullopt;
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    if (!file) return std::nullopt;
+    const PictureFormat format = FormatOfName(path);
+    if (format == PictureFormat::Bmp)
+        if (auto preview = PreviewOfScreen(*file, width, height)) return preview;
+    return DecodeScaled(format, *file, width, height);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }

@@ -22,7 +22,7 @@ void DrawOver(PictureBox& box, const std::uint8_t* rgb, int width, int height) {
 /// Draws a picture scaled straight to the box: nobody here needs all of it. Its own size; empty
 /// when it cannot be read.
 std::optional<Size> DrawScaled(const std::string& path, PictureBox& target) {
-    const auto scaled = ReadPictureScaled(path, target.ScaleWidth(), target.ScaleHeight());
+    const auto scaled = ReadPicturePreview(path, target.ScaleWidth(), target.ScaleHeight());
     if (!scaled) {
         target.Clear();
         return std::nullopt;

@@ -1,0 +1,14 @@
+// A small picture of a screen file, made for lists and previews: fast, since it is drawn at each
+// selection.
+#pragma once
+
+#include "pictures/rgb_picture.h"
+
+namespace vistrel {
+
+/// Shrinks an uncompressed 8-bit bitmap to `width` x `height` pixels by averaging the area that each
+/// of them covers. Empty when the file is of another kind, or smaller than that on either axis:
+/// other readers and a better filter serve these.
+std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int height);
+
+}  // namespace vistrel
