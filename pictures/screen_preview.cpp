@@ -10,26 +10,30 @@ namespace {
 /// Weights of a target sample add up to this, so that two averages fit into one 32-bit number.
 constexpr std::uint32_t kOne = 256;
 
-/// The source samples that one target sample covers.
-struct Span {
-    int first = 0;
-    std::vector<std::uint32_t> weights;
+/// The source samples that each target sample covers.
+struct Spans {
+    std::vector<int> first;
+    std::vector<int> count;
+    std::vector<std::uint32_t> weights;  ///< those of all target samples, one after the other
 };
 
-std::vector<Span> SpansOf(int samples, int target) {
-    std::vector<Span> spans(static_cast<std::size_t>(target));
+Spans SpansOf(int samples, int target) {
+    Spans spans;
     for (int i = 0; i < target; ++i) {
         // In units of 1/target source samples, each target sample covers `samples` of them.
         const std::int64_t from = static_cast<std::int64_t>(i) * samples;
         const std::int64_t to = from + samples;
-        Span& span = spans[static_cast<std::size_t>(i)];
-        span.first = static_cast<int>(from / target);
+        const auto first = static_cast<int>(from / target);
+        const auto end = static_cast<int>((to + target - 1) / target);
+        spans.first.push_back(first);
+        spans.count.push_back(end - first);
         std::uint32_t given = 0;
-        for (std::int64_t s = span.first; s * target < to; ++s) {
+        for (int s = first; s < end; ++s) {
             // Differences of rounded running sums leave no remainder.
-            const std::int64_t covered = std::min((s + 1) * target, to) - from;
+            const std::int64_t covered =
+                std::min((static_cast<std::int64_t>(s) + 1) * target, to) - from;
             const auto sum = static_cast<std::uint32_t>((covered * kOne + samples / 2) / samples);
-            span.weights.push_back(sum - given);
+            spans.weights.push_back(sum - given);
             given = sum;
         }
     }
@@ -62,8 +66,8 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
         green[i] = color[1];
     }
 
-    const auto across = SpansOf(header->width, width);
-    const auto down = SpansOf(header->height, height);
+    const Spans across = SpansOf(header->width, width);
+    const Spans down = SpansOf(header->height, height);
     const auto columns = static_cast<std::size_t>(width);
     Row row{std::vector<std::uint32_t>(columns), std::vector<std::uint32_t>(columns)};
     int rowHeld = -1;
@@ -73,14 +77,16 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
         const std::uint8_t* pixels =
             file.data() + header->pixelOffset +
             stride * static_cast<std::size_t>(header->topDown ? y : header->height - 1 - y);
+        const std::uint32_t* weight = across.weights.data();
         for (std::size_t x = 0; x < columns; ++x) {
             std::uint32_t sumRedBlue = 0;
             std::uint32_t sumGreen = 0;
-            const std::uint8_t* pixel = pixels + across[x].first;
-            for (const std::uint32_t weight : across[x].weights) {
-                sumRedBlue += redBlue[*pixel] * weight;
-                sumGreen += green[*pixel] * weight;
+            const std::uint8_t* pixel = pixels + across.first[x];
+            for (int left = across.count[x]; left > 0; --left) {
+                sumRedBlue += redBlue[*pixel] * *weight;
+                sumGreen += green[*pixel] * *weight;
                 ++pixel;
+                ++weight;
             }
             row.redBlue[x] = sumRedBlue;
             row.green[x] = sumGreen;
@@ -91,12 +97,13 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
     scaled.picture.pixels.resize(columns * static_cast<std::size_t>(height) * 3);
     std::uint8_t* out = scaled.picture.pixels.data();
     std::vector<std::uint32_t> sums(columns * 3);
-    for (const Span& span : down) {
+    const std::uint32_t* downWeight = down.weights.data();
+    for (std::size_t target = 0; target < down.first.size(); ++target) {
         // Half a unit, so that the last step rounds.
         std::fill(sums.begin(), sums.end(), kOne * kOne / 2);
-        int y = span.first;
-        for (const std::uint32_t weight : span.weights) {
-            average(y++);
+        for (int i = 0; i < down.count[target]; ++i) {
+            average(down.first[target] + i);
+            const std::uint32_t weight = *downWeight++;
             for (std::size_t x = 0; x < columns; ++x) {
                 sums[x * 3] += (row.redBlue[x] >> 16) * weight;
                 sums[x * 3 + 1] += row.green[x] * weight;
