@@ -45,7 +45,7 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     SortIgnoringCase(found.folders);
     SortIgnoringCase(found.pictures);
     // The root of an empty disk holds no entry at all.
-    return read || error.IsFileNotFound();
+    return read || (error.IsFileNotFound() && IsFolder(folder));
 }
 
 }  // namespace vistrel

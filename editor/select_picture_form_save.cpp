@@ -67,6 +67,8 @@ void SelPictureForm::OkButton_Click(int index) {
 bool SelPictureForm::UpdateSet(const std::string& name) {
     if (!RenameLoadedSet(name)) return false;
     const std::string folder = AddBackslash(LogoFolder() + name);
+    // Unchanged slots have nothing to copy that would tell of a folder that has gone.
+    if (!IsFolder(folder)) return false;
     if (!RemoveFilesOfEmptySlots(kStartup, kStartup, folder) ||
         !CopySlots(kStartup, kStartup, folder))
         return false;

@@ -1,0 +1,202 @@
+#include "tests/editor/editor_fixture.h"
+
+#include <commctrl.h>
+#include <ole2.h>
+
+#include "samples/gif_writer.h"
+#include "samples/jpg_writer.h"
+
+namespace vistrel::test {
+namespace {
+
+std::string TextOf(const std::vector<std::uint8_t>& bytes) {
+    return std::string(bytes.begin(), bytes.end());
+}
+
+void Append(std::string& file, long number, int bytes) {
+    for (int i = 0; i < bytes; ++i) file += static_cast<char>(number >> (8 * i) & 0xFF);
+}
+
+}  // namespace
+
+RgbPicture TestPicture(int width, int height) {
+    RgbPicture picture{width, height, std::vector<std::uint8_t>(std::size_t(width) * height * 3)};
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            std::uint8_t* pixel = &picture.pixels[(std::size_t(y) * width + x) * 3];
+            // Four bands: red, green, blue and grey, brighter to the right.
+            const auto light = static_cast<std::uint8_t>(55 + 200 * x / width);
+            const int band = 4 * y / height;
+            for (int i = 0; i < 3; ++i) pixel[i] = band == i || band == 3 ? light : 20;
+        }
+    }
+    return picture;
+}
+
+std::string JpgOf(const RgbPicture& picture) { return TextOf(samples::JpgFile(picture)); }
+
+std::string GifOf(const RgbPicture& picture) { return TextOf(samples::GifFile(picture)); }
+
+std::string BmpOf(const RgbPicture& picture) {
+    const int stride = (picture.width * 3 + 3) / 4 * 4;
+    std::string file = "BM";
+    Append(file, 54 + stride * picture.height, 4);
+    Append(file, 0, 4);
+    Append(file, 54, 4);
+    Append(file, 40, 4);
+    Append(file, picture.width, 4);
+    Append(file, picture.height, 4);
+    Append(file, 1, 2);
+    Append(file, 24, 2);
+    file.append(24, '\0');
+    for (int y = picture.height - 1; y >= 0; --y) {
+        const std::size_t row = file.size();
+        for (int x = 0; x < picture.width; ++x)
+            for (int i = 2; i >= 0; --i)
+                file +=
+                    static_cast<char>(picture.pixels[(std::size_t(y) * picture.width + x) * 3 + i]);
+        file.resize(row + stride, '\0');
+    }
+    return file;
+}
+
+LogoBrowser::LogoBrowser() {
+    MakeFolders(pictures);
+    Store("SearchLogoPath", TextValue(pictures));
+    // Questions are asked by those tests that are about them.
+    Store("ConfirmLogosetDelete", TextValue("2"));
+}
+
+void LogoBrowser::WithEditor(const Acting& user) {
+    OleInitialize(nullptr);
+    {
+        Principale main(locations);
+        ASSERT_TRUE(main.Create(nullptr));
+        main.Preferences().bootRoot = boot;
+        main.Show();
+        SelPictureForm editor(main);
+        user::Meanwhile acting([&] {
+            WaitUntil([&] { return editor.IsOpen() && IsWindowVisible(editor.handle()); });
+            const HWND window = editor.handle();
+            user::Activate(window);
+            Settle(editor);
+            user(main, editor);
+            PostMessageA(window, WM_CLOSE, 0, 0);
+            WaitUntil([&] { return !IsWindow(window) || user::FindTop("#32770") != nullptr; });
+            if (IsWindow(window)) user::AnswerBox(IDYES);
+            if (user::WaitUntilGone(window)) return;
+            ADD_FAILURE() << "the editor did not close";
+            PostThreadMessageA(GetWindowThreadProcessId(window, nullptr), WM_QUIT, 1, 0);
+        });
+        editor.ShowModal(main.handle());
+        acting.Finish();
+        main.Unload();
+    }
+    OleUninitialize();
+}
+
+void LogoBrowser::Settle(SelPictureForm& editor) { SendMessageA(editor.handle(), WM_NULL, 0, 0); }
+
+POINT LogoBrowser::PointOfItem(SelPictureForm& editor, const std::string& name) {
+    const int index = editor.LogoList.FindItem(name);
+    editor.LogoList.EnsureVisible(index);
+    RECT r{};
+    r.left = LVIR_LABEL;
+    SendMessageA(editor.LogoList.handle(), LVM_GETITEMRECT, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&r));
+    POINT at{r.left + 8, (r.top + r.bottom) / 2};
+    ClientToScreen(editor.LogoList.handle(), &at);
+    return at;
+}
+
+void LogoBrowser::Await(const std::function<bool()>& condition, const char* what) {
+    EXPECT_TRUE(WaitUntil(condition)) << what;
+}
+
+void LogoBrowser::Pick(SelPictureForm& editor, const std::string& name) {
+    LVITEMA item{};
+    item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
+    const int index = editor.LogoList.FindItem(name);
+    EXPECT_GE(index, 0) << name;
+    SendMessageA(editor.LogoList.handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&item));
+}
+
+void LogoBrowser::Open(SelPictureForm& editor, const std::string& name) {
+    user::DoubleClickAt(PointOfItem(editor, name));
+}
+
+void LogoBrowser::ChooseSet(SelPictureForm& editor, const std::string& name) {
+    SendMessageA(editor.NameLogoSet.handle(), CB_SETCURSEL,
+                 static_cast<WPARAM>(editor.NameLogoSet.FindItem(name)), 0);
+    SendMessageA(editor.handle(), WM_COMMAND, MAKEWPARAM(ID_NameLogoSet, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(editor.NameLogoSet.handle()));
+}
+
+void LogoBrowser::TypeName(SelPictureForm& editor, const std::string& name) {
+    RECT r{};
+    GetWindowRect(editor.NameLogoSet.handle(), &r);
+    user::ClickAt({r.left + 20, (r.top + r.bottom) / 2});
+    WaitUntil([&] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        GetGUIThreadInfo(0, &info);
+        return IsChild(editor.NameLogoSet.handle(), info.hwndFocus);
+    });
+    user::Press(VK_END);
+    user::Press(VK_HOME, {VK_SHIFT});
+    if (name.empty())
+        user::Press(VK_DELETE);
+    else
+        user::Type(name);
+    WaitUntil([&] { return editor.NameLogoSet.Text() == name; });
+    Settle(editor);
+}
+
+void LogoBrowser::Press(Control& button) { SendMessageA(button.handle(), BM_CLICK, 0, 0); }
+
+user::Box LogoBrowser::PressAndAnswer(Control& button, int answer) {
+    PostMessageA(button.handle(), BM_CLICK, 0, 0);
+    const user::Box box = user::AnswerBox(answer);
+    SendMessageA(button.handle(), WM_NULL, 0, 0);
+    return box;
+}
+
+void LogoBrowser::Run(SelPictureForm& editor, int command) {
+    SendMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+}
+
+user::Box LogoBrowser::RunAndAnswer(SelPictureForm& editor, int command, int answer) {
+    PostMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    const user::Box box = user::AnswerBox(answer);
+    Settle(editor);
+    return box;
+}
+
+void LogoBrowser::Fill(SelPictureForm& editor, const std::string& name, int slot) {
+    Pick(editor, name);
+    Press(editor.AddButton[slot]);
+}
+
+void LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
+    PostMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    const HWND question = user::WaitForTop("#32770");
+    EXPECT_NE(question, nullptr);
+    user::Activate(question);
+    EXPECT_TRUE(user::Click(GetDlgItem(question, answer)));
+    EXPECT_TRUE(user::WaitUntilGone(question));
+    Settle(editor);
+}
+
+void LogoBrowser::DismissMenu() {
+    user::Press(VK_ESCAPE);
+    Await([] { return user::FindTop("#32768") == nullptr; }, "menu gone");
+}
+
+std::vector<std::string> LogoBrowser::Listed(SelPictureForm& editor) {
+    std::vector<std::string> names;
+    for (int i = 0; i < editor.LogoList.Count(); ++i) names.push_back(editor.LogoList.ItemText(i));
+    return names;
+}
+
+}  // namespace vistrel::test

@@ -1,0 +1,69 @@
+// The Logo browser over the main window on a small machine, with a user in front of it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "editor/select_picture_form.h"
+#include "pictures/rgb_picture.h"
+#include "tests/main_window/main_window_fixture.h"
+
+namespace vistrel::test {
+
+/// A picture in bands of different colours.
+RgbPicture TestPicture(int width, int height);
+std::string JpgOf(const RgbPicture& picture);
+std::string GifOf(const RgbPicture& picture);
+/// A bitmap of 24 bits a pixel.
+std::string BmpOf(const RgbPicture& picture);
+
+/// MainWindow98's library, and a folder of pictures that the browser shows first.
+class LogoBrowser : public MainWindow98 {
+ protected:
+    LogoBrowser();
+
+    using Acting = std::function<void(Principale& main, SelPictureForm& editor)>;
+
+    /// Opens the editor over the main window and lets `user` act in it on a thread of its own; then
+    /// closes it, discarding changes.
+    void WithEditor(const Acting& user);
+
+    // For the user's thread.
+
+    /// Waits until the editor's thread has handled what was sent to it.
+    static void Settle(SelPictureForm& editor);
+    /// Waits until `condition` comes true, which the test expects.
+    static void Await(const std::function<bool()>& condition, const char* what);
+
+    /// Where an item of the browser stands on the screen.
+    static POINT PointOfItem(SelPictureForm& editor, const std::string& name);
+    /// Selects an item as the keyboard does.
+    static void Pick(SelPictureForm& editor, const std::string& name);
+    /// Opens an item by a double click.
+    static void Open(SelPictureForm& editor, const std::string& name);
+    static std::vector<std::string> Listed(SelPictureForm& editor);
+
+    /// Chooses a set in the name's list, as the keyboard does.
+    static void ChooseSet(SelPictureForm& editor, const std::string& name);
+    /// Types a name over the one that stands there.
+    static void TypeName(SelPictureForm& editor, const std::string& name);
+    /// Presses a button or chooses an option and waits until that is done.
+    static void Press(Control& button);
+    /// The same for one that asks something: answers it, and returns what was asked.
+    static user::Box PressAndAnswer(Control& button, int answer);
+    /// Runs a menu command and waits until it is done.
+    static void Run(SelPictureForm& editor, int command);
+    static user::Box RunAndAnswer(SelPictureForm& editor, int command, int answer);
+
+    static void DismissMenu();
+    /// Runs a command that deletes into the recycle bin and answers the shell's own question.
+    static void RunAndAnswerShell(SelPictureForm& editor, int command, int answer);
+
+    /// Puts a picture of the browser into a slot.
+    static void Fill(SelPictureForm& editor, const std::string& name, int slot);
+
+    const std::string pictures = root + "pictures\\";
+};
+
+}  // namespace vistrel::test
