@@ -4,7 +4,7 @@
 build_packages="cmake ninja-build g++ g++-mingw-w64-i686-win32 g++-mingw-w64-x86-64-win32 python3"
 wine_packages="wine wine64 fonts-wine fonts-liberation xvfb util-linux"
 test_packages="googletest libgtest-dev libgmock-dev libjpeg62-turbo-dev libgif-dev libbenchmark-dev"
-fuzz_packages="clang"
+fuzz_packages="clang libclang-rt-14-dev"
 installer_packages="nsis zip"
 runtime_packages="make dpkg-dev xz-utils"
 
