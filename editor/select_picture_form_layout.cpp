@@ -122,7 +122,9 @@ void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
     AddButton[index].MoveTo({left, lower - Gap() / 2 - button.height, button.width, button.height});
     DeleteButton[index].MoveTo({left, lower, button.width, button.height});
     const int text = caption.height;  // two lines, as the caption has
-    LblNotAval[index].MoveTo({slot.left, slot.top + (slot.height - text) / 2, slot.width, text});
+    // Within the frame, which its background must not cover.
+    LblNotAval[index].MoveTo(
+        {slot.left + 2, slot.top + (slot.height - text) / 2, slot.width - 4, text});
 }
 
 void SelPictureForm::RedrawPictures() {

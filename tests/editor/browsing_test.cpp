@@ -104,13 +104,12 @@ TEST_F(Browsing, RefusesADriveThatCannotBeReadAndGoesBack) {
     Put(pictures + "a.sys", ScreenFile(1, 2, 3));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         // A drive that has gone since the list was filled.
-        SendMessageA(editor.Drive1.handle(), CB_ADDSTRING, 0,
-                     reinterpret_cast<LPARAM>("R: [GONE]"));
-        EXPECT_TRUE(user::Click(editor.Drive1.handle()));
-        Await([&] { return SendMessageA(editor.Drive1.handle(), CB_GETDROPPEDSTATE, 0, 0) != 0; },
-              "list open");
-        user::Press('R');
-        user::Press(VK_RETURN);
+        const HWND list = editor.Drive1.handle();
+        const auto gone =
+            SendMessageA(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("R: [GONE]"));
+        SendMessageA(list, CB_SETCURSEL, static_cast<WPARAM>(gone), 0);
+        PostMessageA(editor.handle(), WM_COMMAND, MAKEWPARAM(ID_Drive1, CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(list));
         const user::Box box = user::AnswerBox(IDOK);
         Settle(editor);
         EXPECT_EQ(box.text, "Drive R: isn't accessible! Check it and retry.");
