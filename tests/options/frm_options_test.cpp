@@ -251,15 +251,17 @@ TEST_F(Preferences, OfferFixedDrivesOnlyAndEachOnce) {
                 if (GetDriveTypeA((std::string(1, letter) + ":\\").c_str()) == DRIVE_FIXED)
                     fixed += letter;
             EXPECT_EQ(letters, fixed);
+            // A is a floppy disk drive here, E a CD-ROM drive and N a network drive.
+            EXPECT_EQ(letters.substr(0, 2), "CD");
+            EXPECT_EQ(letters.find_first_of("AEN"), std::string::npos);
             user::Press(VK_ESCAPE);
         }
         user::Click(options.DriveHost.handle());
         EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmDriveList + 2));
-        EXPECT_TRUE(WaitUntil([&] { return options.DriveHost.Text() != "C"; }));
+        EXPECT_TRUE(WaitUntil([&] { return options.DriveHost.Text() == "D"; }));
         PressOk(options);
     });
-    EXPECT_EQ(main.settings.bootRoot.substr(1), ":\\");
-    EXPECT_NE(main.settings.bootRoot[0], 'C');
+    EXPECT_EQ(main.settings.bootRoot, "D:\\");
 }
 
 TEST_F(Preferences, PutTheChosenStartUpActionInPlaceOfTheOther) {
@@ -344,6 +346,30 @@ TEST_F(Preferences, KeepTheBoxesWhenTheSystemsDialogsAreCancelled) {
         EXPECT_TRUE(user::WaitUntilGone(dialog));
         EXPECT_EQ(options.CustProg.Text(), "C:\\p.exe");
     });
+}
+
+TEST_F(Preferences, AskWhatAControlIsByTheRightButton) {
+    WithDialog([&](FrmOptions& options) {
+        ASSERT_TRUE(user::RightClick(options.ChkSyncronize.handle()));
+        const HMENU menu = user::WaitForPopUp();
+        ASSERT_NE(menu, nullptr);
+        char text[32] = "";
+        GetMenuStringA(menu, 0, text, sizeof text, MF_BYPOSITION);
+        EXPECT_STREQ(text, "&What's this?");
+        user::Press(VK_ESCAPE);
+        EXPECT_NE(GetWindowLongA(options.handle(), GWL_EXSTYLE) & WS_EX_CONTEXTHELP, 0);
+    });
+}
+
+TEST_F(Preferences, TakeALogoFolderThatIsMissingOrEmptyAsItStands) {
+    for (const char* folder : {"C:\\nothing here", ""}) {
+        WithDialog([&](FrmOptions& options) {
+            options.TxtLogoPath.SetText(folder);
+            PressOk(options);
+        });
+        EXPECT_EQ(main.settings.logoPath, std::string(folder) + "\\");
+    }
+    EXPECT_EQ(main.scans, 2);
 }
 
 TEST_F(Preferences, GiveEachControlItsHelpNumber) {
