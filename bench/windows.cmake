@@ -1,2 +1,3 @@
 include(companions.cmake)
 include(main_window.cmake)
+include(editor.cmake)

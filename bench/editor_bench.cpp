@@ -1,0 +1,104 @@
+// Times the listing of a folder of pictures in the Logo browser against a bare enumeration that
+// fills the same kind of list, side by side.
+#include <windows.h>
+// commctrl.h and ole2.h need windows.h first.
+#include <commctrl.h>
+#include <ole2.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "core/locations.h"
+#include "editor/select_picture_form.h"
+#include "main_window/principale.h"
+
+namespace {
+
+constexpr int kPictures = 3000;
+constexpr int kRounds = 15;
+const std::string kFolder = "C:\\pictures\\";
+
+double Now() {
+    LARGE_INTEGER frequency;
+    LARGE_INTEGER count;
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&count);
+    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void MakePictures() {
+    CreateDirectoryA("C:\\pictures", nullptr);
+    for (int i = 0; i < kPictures; ++i) {
+        const std::string path =
+            kFolder + "Picture " + std::to_string(i * 7919 % kPictures) + ".jpg";
+        CloseHandle(
+            CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    }
+}
+
+/// Adds every name of the folder to a plain list view with painting off.
+void FillBareList(HWND list) {
+    SendMessageA(list, WM_SETREDRAW, FALSE, 0);
+    SendMessageA(list, LVM_DELETEALLITEMS, 0, 0);
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA((kFolder + "*.*").c_str(), &found);
+    do {
+        LVITEMA item{};
+        item.mask = LVIF_TEXT | LVIF_IMAGE;
+        item.iItem = INT_MAX;
+        item.pszText = found.cFileName;
+        SendMessageA(list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    SendMessageA(list, WM_SETREDRAW, TRUE, 0);
+}
+
+}  // namespace
+
+int main() {
+    OleInitialize(nullptr);
+    MakePictures();
+    {
+        vistrel::Principale window(vistrel::FindSystemLocations());
+        window.Create(nullptr);
+        vistrel::SelPictureForm editor(window);
+        editor.Create(window.handle());
+        editor.Show();
+        const HWND plain = CreateWindowA(
+            WC_LISTVIEWA, "", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER, 0, 0, 170,
+            400, editor.handle(), nullptr, GetModuleHandleA(nullptr), nullptr);
+        LVCOLUMNA column{};
+        column.mask = LVCF_WIDTH;
+        column.cx = 150;
+        SendMessageA(plain, LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
+
+        std::vector<double> ours;
+        std::vector<double> bare;
+        std::vector<double> ratios;
+        for (int round = 0; round <= kRounds; ++round) {
+            const double begun = Now();
+            editor.FillList(kFolder);
+            const double between = Now();
+            FillBareList(plain);
+            const double end = Now();
+            if (round == 0) continue;  // the first turn warms up
+            ours.push_back(between - begun);
+            bare.push_back(end - between);
+            ratios.push_back(ours.back() / bare.back());
+        }
+        std::printf("FillList, 3,000 pictures   ours %8.2f ms   bare %8.2f ms   ratio %.2f\n",
+                    Median(ours), Median(bare), Median(ratios));
+        editor.Unload();
+        window.Unload();
+    }
+    OleUninitialize();
+    std::printf("Test program ended with status 0\n");
+    return 0;
+}
