@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "main_window/main_window.h"
+#include "core/main_window.h"
 #include "platform/handles.h"
 
 namespace vistrel {

@@ -13,7 +13,7 @@
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
-#include "main_window/main_window.h"
+#include "core/main_window.h"
 
 namespace vistrel {
 

@@ -7,7 +7,7 @@
 #include "controls/tab_strip.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
-#include "main_window/main_window.h"
+#include "core/main_window.h"
 
 namespace vistrel {
 
