@@ -46,8 +46,8 @@ TEST_F(Commands, ShowTheListAsListOrReportAndRememberIt) {
         EXPECT_EQ(main.MyList.Mode(), ListViewMode::List);
         EXPECT_TRUE(user::ChooseFromMenuBar(main.handle(), ID_ToolReportView));
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
-        EXPECT_TRUE(main.ActiveBar1.Checked("ToolReportView"));
-        EXPECT_FALSE(main.ActiveBar1.Checked("ToolListView"));
+        EXPECT_TRUE(WaitUntil([&] { return main.ActiveBar1.Checked("ToolReportView"); }));
+        EXPECT_TRUE(WaitUntil([&] { return !main.ActiveBar1.Checked("ToolListView"); }));
         user::TakeShot("report_view");
     });
     EXPECT_EQ(Stored("View"), SavedText("1"));
