@@ -1,0 +1,56 @@
+// Looks through every window there is for controls that nobody holds.
+#include <ole2.h>
+
+#include <algorithm>
+
+#include "about/frm_about_reg.h"
+#include "about/frm_splash.h"
+#include "editor/select_picture_form.h"
+#include "main_window/frm_view.h"
+#include "options/frm_options.h"
+#include "tests/main_window/main_window_fixture.h"
+
+namespace vistrel::test {
+namespace {
+
+class EveryWindow : public MainWindow98 {
+ protected:
+    /// Each member stands for a real window, and each child window for a member; `others` are the
+    /// numbers of child windows that the window makes itself.
+    static void Check(Window& window, const std::vector<int>& others = {}) {
+        ASSERT_TRUE(window.IsOpen());
+        for (const auto& [id, control] : window.controls())
+            EXPECT_NE(control->handle(), nullptr) << user::ClassOf(window.handle()) << " " << id;
+        for (HWND child = GetWindow(window.handle(), GW_CHILD); child;
+             child = GetWindow(child, GW_HWNDNEXT)) {
+            const int id = GetDlgCtrlID(child);
+            if (std::find(others.begin(), others.end(), id) == others.end()) {
+                EXPECT_NE(window.Find(id), nullptr) << user::ClassOf(window.handle()) << " " << id;
+            }
+        }
+    }
+};
+
+TEST_F(EveryWindow, HoldsEachOfItsControls) {
+    WithMainWindow([&](Principale& main) { Check(main, {ID_ActiveBar1}); });
+
+    OleInitialize(nullptr);
+    {
+        Principale main(locations);
+        ASSERT_TRUE(main.Create(nullptr));
+        FrmOptions options(main);
+        SelPictureForm editor(main);
+        FrmView view(logos + "Blue\\LOGO.SYS", false);
+        FrmAboutReg about;
+        frmSplash splash;
+        for (Window* window :
+             std::initializer_list<Window*>{&options, &editor, &view, &about, &splash}) {
+            ASSERT_TRUE(window->Create(nullptr));
+            Check(*window);
+        }
+    }
+    OleUninitialize();
+}
+
+}  // namespace
+}  // namespace vistrel::test
