@@ -114,6 +114,33 @@ TEST_F(Renaming, ShowsTheIconAskedForAfterAFailedChangeOfFormatUntilTheNextRefre
     });
 }
 
+TEST_F(Renaming, TakesTheSameNameInOtherCaseWithoutAMessage) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "RED");
+        EXPECT_TRUE(Shows(main, "RED"));
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_EQ(main.MyList.Count(), 3);
+    });
+    EXPECT_TRUE(Exists(logos + "RED\\LOGO.SYS"));
+}
+
+// Whether the system lets a folder be renamed while a file in it is open differs.
+TEST_F(Renaming, ShowsWhatTheFolderIsCalledWhileAFileInItIsHeldOpen) {
+    const HANDLE file = CreateFileA((logos + "Red\\LOGO.SYS").c_str(), GENERIC_READ, 0, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "Scarlet");
+        EXPECT_TRUE(WaitUntil(
+            [&] { return user::FindTop("#32770") || main.MyList.FindItem("Scarlet") >= 0; }));
+        if (user::FindTop("#32770")) user::AnswerBox(IDOK);
+        WaitUntil([&] { return !main.MyList.EditingLabel(); });
+        EXPECT_EQ(main.MyList.FindItem("Scarlet") >= 0, Exists(logos + "Scarlet"));
+        EXPECT_EQ(main.MyList.FindItem("Red") >= 0, Exists(logos + "Red"));
+    });
+    CloseHandle(file);
+}
+
 TEST_F(Renaming, IsGivenUpByEsc) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
@@ -208,6 +235,21 @@ TEST_F(Deleting, DeletesUnaskedByTheDeleteKeyWhereThePreferenceIsOff) {
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
     });
     EXPECT_FALSE(Exists(logos + "Red"));
+}
+
+TEST_F(Deleting, ForgetsASetHeldOpenUntilTheNextRefresh) {
+    const HANDLE file = CreateFileA((logos + "Red\\LOGOW.SYS").c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    WithMainWindow([&](Principale& main) {
+        main.SelItem("Red");
+        DeleteSelected(main, IDYES);
+        EXPECT_EQ(main.MyList.Count(), 2);
+        Command(main, ID_ToolRefresh);
+        EXPECT_EQ(main.MyList.Count(), 3);
+    });
+    CloseHandle(file);
+    EXPECT_EQ(NamesIn(logos + "Red\\"), std::vector<std::string>{"LOGOW.SYS"});
 }
 
 TEST_F(Deleting, MovesTheFilesToTheRecycleBin) {
