@@ -18,11 +18,13 @@ TEST_F(Commands, ThatNeedASetAreEnabledWithASelectionOnly) {
         for (const char* tool : kSetTools) EXPECT_FALSE(main.ActiveBar1.Enabled(tool)) << tool;
         ClickSet(main, "Red");
         EXPECT_TRUE(WaitUntil([&] { return main.ActiveBar1.Enabled("ToolRename"); }));
+        Settle(main);
         for (const char* tool : kSetTools) EXPECT_TRUE(main.ActiveBar1.Enabled(tool)) << tool;
         POINT below = PointOfSet(main, "Red");
         below.y += 60;
         user::ClickAt(below);
         EXPECT_TRUE(WaitUntil([&] { return !main.ActiveBar1.Enabled("ToolDelete"); }));
+        Settle(main);
         for (const char* tool : kSetTools) EXPECT_FALSE(main.ActiveBar1.Enabled(tool)) << tool;
     });
 }

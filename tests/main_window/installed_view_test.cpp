@@ -18,6 +18,7 @@ TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
         ClickSet(main, "Red");
         EXPECT_TRUE(user::ChooseFromMenuBar(main.handle(), ID_ToolShowCurrent));
         EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Current logo setting"; }));
+        Settle(main);
         EXPECT_TRUE(main.ActiveBar1.Checked("ToolShowCurrent"));
         EXPECT_EQ(main.DefaultLogo.ForeColor(), 0x008000);
         EXPECT_EQ(main.DefaultLogo.tip(), "Showing current logo setting");
@@ -32,6 +33,7 @@ TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
 
         StartCommand(main, ID_ToolShowCurrent);
         EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Blue"; }));
+        Settle(main);
         EXPECT_FALSE(main.ActiveBar1.Checked("ToolShowCurrent"));
         EXPECT_EQ(main.DefaultLogo.ForeColor(), 0xFF0000);
         EXPECT_EQ(main.DefaultLogo.tip(), "Default logo set");

@@ -136,6 +136,7 @@ TEST_F(LibraryView, RefreshesAtF5) {
         user::Press(VK_F5);
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 4; }));
         EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 4 logo sets"; }));
+        Settle(main);
         // The installed set is selected anew.
         EXPECT_EQ(main.MyList.SelectedItem(), 0);
     });

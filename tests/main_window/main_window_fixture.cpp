@@ -91,6 +91,7 @@ void MainWindow98::ClickSet(Principale& main, const std::string& name) {
         return selected >= 0 && main.MyList.ItemText(selected) == name &&
                main.Imag[0].Tag() == logos + name + "\\LOGO.SYS";
     });
+    Settle(main);
 }
 
 void MainWindow98::Command(Principale& main, int id) {

@@ -45,6 +45,9 @@ class MainWindow98 : public Machine {
     /// thread handles the messages meanwhile, as the program does.
     void WithMainWindow(const std::function<void(Principale& main)>& user);
 
+    /// For the user's thread: waits until the window has done what it was doing. What a handler
+    /// does last is seen for sure only then.
+    static void Settle(Principale& main) { SendMessageA(main.handle(), WM_NULL, 0, 0); }
     /// For the user's thread: selects a set by a click on it.
     void ClickSet(Principale& main, const std::string& name);
     POINT PointOfSet(Principale& main, const std::string& name);

@@ -16,8 +16,10 @@ class Renaming : public MainWindow98 {
         user::Press(VK_RETURN);
     }
     static bool Shows(Principale& main, const std::string& name) {
-        return WaitUntil(
+        const bool shown = WaitUntil(
             [&] { return !main.MyList.EditingLabel() && main.MyList.FindItem(name) >= 0; });
+        Settle(main);
+        return shown;
     }
 };
 
@@ -135,6 +137,7 @@ TEST_F(Renaming, ShowsWhatTheFolderIsCalledWhileAFileInItIsHeldOpen) {
             [&] { return user::FindTop("#32770") || main.MyList.FindItem("Scarlet") >= 0; }));
         if (user::FindTop("#32770")) user::AnswerBox(IDOK);
         WaitUntil([&] { return !main.MyList.EditingLabel(); });
+        Settle(main);
         EXPECT_EQ(main.MyList.FindItem("Scarlet") >= 0, Exists(logos + "Scarlet"));
         EXPECT_EQ(main.MyList.FindItem("Red") >= 0, Exists(logos + "Red"));
     });
@@ -175,6 +178,7 @@ class Deleting : public MainWindow98 {
         StartCommand(main, ID_ToolDelete);
         box_ = user::AnswerBox(answer);
         if (answer == IDYES) WaitUntil([&] { return main.MyList.Count() == before - 1; });
+        Settle(main);
     }
 
     user::Box box_;

@@ -321,7 +321,7 @@ TEST_F(Preferences, TakeAPickedProgramAndItsNameWithoutTheEnding) {
         EXPECT_TRUE(user::WaitUntilGone(dialog));
         EXPECT_TRUE(
             WaitUntil([&] { return options.CustProg.Text() == root + "Tools\\PAINTER.EXE"; }));
-        EXPECT_EQ(options.CustomName.Text(), "PAINTER");
+        EXPECT_TRUE(WaitUntil([&] { return options.CustomName.Text() == "PAINTER"; }));
         EXPECT_TRUE(options.OptOpen[2].Value());
     });
 }
