@@ -67,7 +67,9 @@ Window::Window(const char* className, int templateId)
     : className_(className), templateId_(templateId) {}
 
 Window::~Window() {
-    if (handle_) DestroyWindow(handle_);
+    if (!handle_) return;
+    LeaveLoop(*this);
+    DestroyWindow(handle_);
 }
 
 void Window::SetHelpFile(const std::string& path) { helpFile() = path; }
