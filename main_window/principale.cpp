@@ -9,6 +9,7 @@
 #include "core/close.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "help/context_numbers.h"
 #include "main_window/tool_table.h"
 #include "resources/ids.h"
 
@@ -70,6 +71,11 @@ void Principale::Form_Load() {
     MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
     DefaultLogo.SetFont({.bold = true});
     DefaultLogo.SetForeColor(kBlue);
+    // The list and the pictures have menus of their own at the right button, and F1 means the
+    // help's contents here: only what cannot have the focus answers what it is.
+    DefaultLogo.SetHelpNumber(help_number::DefaultLogo);
+    LogoType.SetHelpNumber(help_number::LogoType);
+    NumLogo.SetHelpNumber(help_number::NumLogo);
 
     locations_.startupFolder = GetStartupFolder();
     for (int i = 0; i < 3; ++i)

@@ -62,6 +62,33 @@ TEST_F(Commands, ShowTheListAsListOrReportAndRememberIt) {
     EXPECT_EQ(Stored("View"), SavedText("0"));
 }
 
+TEST_F(Commands, TellWhatALabelIsByTheRightButton) {
+    WithMainWindow([&](Principale& main) {
+        for (const Label* label : {&main.DefaultLogo, &main.LogoType, &main.NumLogo}) {
+            ASSERT_TRUE(user::RightClick(label->handle()));
+            const HMENU menu = user::WaitForPopUp();
+            ASSERT_NE(menu, nullptr);
+            char text[32] = "";
+            GetMenuStringA(menu, 0, text, sizeof text, MF_BYPOSITION);
+            EXPECT_STREQ(text, "&What's this?");
+            user::Press(VK_ESCAPE);
+            EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
+        }
+    });
+}
+
+TEST_F(Commands, OfferTheOptionsBesideTheControls) {
+    WithMainWindow([&](Principale& main) {
+        RECT r{};
+        GetClientRect(main.handle(), &r);
+        POINT corner{r.right - 4, r.bottom - 4};
+        ClientToScreen(main.handle(), &corner);
+        user::RightClickAt(corner);
+        EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmViewType + 1));
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
+    });
+}
+
 TEST_F(Commands, LeaveTheMainWindowByExit) {
     WithMainWindow([&](Principale& main) {
         StartCommand(main, ID_MnuExit);
