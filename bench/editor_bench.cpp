@@ -5,11 +5,10 @@
 #include <commctrl.h>
 #include <ole2.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <string>
-#include <vector>
 
+#include "bench/side_by_side.h"
 #include "core/locations.h"
 #include "editor/select_picture_form.h"
 #include "main_window/principale.h"
@@ -19,19 +18,6 @@ namespace {
 constexpr int kPictures = 3000;
 constexpr int kRounds = 15;
 const std::string kFolder = "C:\\pictures\\";
-
-double Now() {
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 void MakePictures() {
     CreateDirectoryA("C:\\pictures", nullptr);
@@ -79,22 +65,9 @@ int main() {
         column.cx = 150;
         SendMessageA(plain, LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
 
-        std::vector<double> ours;
-        std::vector<double> bare;
-        std::vector<double> ratios;
-        for (int round = 0; round <= kRounds; ++round) {
-            const double begun = Now();
-            editor.FillList(kFolder);
-            const double between = Now();
-            FillBareList(plain);
-            const double end = Now();
-            if (round == 0) continue;  // the first turn warms up
-            ours.push_back(between - begun);
-            bare.push_back(end - between);
-            ratios.push_back(ours.back() / bare.back());
-        }
-        std::printf("FillList, 3,000 pictures   ours %8.2f ms   bare %8.2f ms   ratio %.2f\n",
-                    Median(ours), Median(bare), Median(ratios));
+        vistrel::bench::Compare(
+            "FillList, 3,000 pictures", kRounds, [&] { editor.FillList(kFolder); },
+            [&] { FillBareList(plain); });
         editor.Unload();
         window.Unload();
     }

@@ -4,58 +4,23 @@
 #include <commctrl.h>
 #include <ole2.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "bench/side_by_side.h"
 #include "core/locations.h"
 #include "main_window/principale.h"
 #include "pictures/bmp_writer.h"
 
 namespace {
 
+using vistrel::bench::Compare;
+using vistrel::bench::Median;
+using vistrel::bench::Now;
+
 constexpr int kSets = 5000;
 const std::string kLogos = "C:\\logos\\";
-
-double Now() {
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-double TimeOf(const std::function<void()>& work) {
-    const double begun = Now();
-    work();
-    return Now() - begun;
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-/// Runs both in turn, after one turn that does not count, and prints medians and their ratio.
-void Compare(const char* what, int rounds, const std::function<void()>& ours,
-             const std::function<void()>& bare) {
-    std::vector<double> our;
-    std::vector<double> bares;
-    std::vector<double> ratios;
-    for (int round = 0; round <= rounds; ++round) {
-        const double a = TimeOf(ours);
-        const double b = TimeOf(bare);
-        if (round == 0) continue;
-        our.push_back(a);
-        bares.push_back(b);
-        ratios.push_back(a / b);
-    }
-    std::printf("%-34s ours %8.2f ms   bare %8.2f ms   ratio %.2f\n", what, Median(our),
-                Median(bares), Median(ratios));
-    std::fflush(stdout);
-}
 
 void WriteScreen(const std::string& path) {
     std::vector<std::uint8_t> indices(320 * 400);
