@@ -7,8 +7,8 @@ add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     add_compile_options(-march=pentium -mtune=generic)
-    # g++ 12 gives this warning for sound code of its own std::string.
-    add_compile_options(-Wno-restrict)
+    # g++ 12 gives these warnings for sound code of its own std::string and std::vector.
+    add_compile_options(-Wno-restrict -Wno-stringop-overflow)
     # The same bytes wherever the tree lies.
     add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
     # Debian's own run-time libraries need a Pentium Pro; packaging/build_p5_runtime makes others.

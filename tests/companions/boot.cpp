@@ -9,21 +9,23 @@ namespace vistrel::test {
 
 namespace {
 
+struct WindowSearch {
+    DWORD process;
+    bool found;
+};
+
+BOOL CALLBACK LookAtWindow(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner == search.process && IsWindowVisible(window)) search.found = true;
+    return TRUE;
+}
+
 /// Whether the process has a visible top window.
 bool ShowsAWindow(DWORD process) {
-    struct Search {
-        DWORD process;
-        bool found;
-    } search = {process, false};
-    EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& search = *reinterpret_cast<Search*>(parameter);
-            DWORD owner = 0;
-            GetWindowThreadProcessId(window, &owner);
-            if (owner == search.process && IsWindowVisible(window)) search.found = true;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    WindowSearch search = {process, false};
+    EnumWindows(LookAtWindow, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
