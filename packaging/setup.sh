@@ -7,6 +7,7 @@ test_packages="googletest libgtest-dev libgmock-dev libjpeg62-turbo-dev libgif-d
 fuzz_packages="clang libclang-rt-14-dev"
 installer_packages="nsis zip"
 runtime_packages="make dpkg-dev xz-utils"
+debian32_packages="debootstrap util-linux"
 
 # One line a step.
 say() { echo "--- $*"; }
@@ -46,15 +47,23 @@ need_packages() {
         fail "cannot install$missing: $(grep '^E:' build/apt.log | tail -n 1)"
 }
 
-# build PRESET [TARGET...]: configures and builds; shows the compiler's words only when it fails.
+# quietly NAME COMMAND...: runs a step of building; its words are in build/NAME.log and are shown only
+# when it fails.
+quietly() {
+    local name=$1 log=build/$1.log
+    shift
+    mkdir -p build
+    if ! "$@" >"$log" 2>&1 </dev/null; then
+        grep -A 8 -E '^FAILED|CMake Error|^ninja: error' "$log" | head -n 60
+        fail "cannot build $name; all of the output is in $log"
+    fi
+}
+
+# build PRESET [TARGET...]: configures and builds.
 build() {
-    local preset=$1 log=build/$1.log
+    local preset=$1
     shift
     say "Building $preset${*:+: $*}"
-    mkdir -p build
-    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${*:+--target "$@"}; } \
-        >"$log" 2>&1; then
-        grep -A 8 -E '^FAILED|CMake Error|^ninja: error' "$log" | head -n 60
-        fail "cannot build $preset; all of the output is in $log"
-    fi
+    quietly "$preset" cmake --preset "$preset"
+    quietly "$preset" cmake --build --preset "$preset" ${*:+--target "$@"}
 }

@@ -1,5 +1,6 @@
 ; The installer. It is an ANSI program that itself starts on Windows 95.
-; usage: makensis -DFILES=folder -DVERSION=x.y -DSIZE=kilobytes -DOUTPUT=file vistrel.nsi
+; usage: makensis -DFILES=folder -DICON=file -DVERSION=text -DVERSION_NUMBERS=a.b.c.d
+;        -DSIZE=kilobytes -DOUTPUT=file vistrel.nsi
 Unicode false
 !define SETTINGS_KEY "SOFTWARE\Tarnwick\Vistrel"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Vistrel"
@@ -8,6 +9,8 @@ Unicode false
 SetCompressor /SOLID lzma
 Name "Vistrel"
 OutFile "${OUTPUT}"
+Icon "${ICON}"
+UninstallIcon "${ICON}"
 InstallDir "$PROGRAMFILES\Vistrel"
 ; A second installation goes where the first one went.
 InstallDirRegKey HKLM "${UNINSTALL_KEY}" "InstallLocation"
@@ -16,6 +19,15 @@ BrandingText "Vistrel ${VERSION}"
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
 
+VIProductVersion "${VERSION_NUMBERS}"
+VIAddVersionKey "CompanyName" "The Vistrel team"
+VIAddVersionKey "FileDescription" "Installs Vistrel"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "LegalCopyright" "The Vistrel team"
+VIAddVersionKey "ProductName" "Vistrel"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+
+Page components
 Page directory
 Page instfiles
 UninstPage uninstConfirm
@@ -40,7 +52,8 @@ Function un.onInit
     !insertmacro StopWhileRunning
 FunctionEnd
 
-Section
+Section "Vistrel"
+    SectionIn RO
     SetOutPath "$INSTDIR"
     File "${FILES}\vistrel.exe"
     File "${FILES}\vistrl.hlp"
@@ -52,17 +65,19 @@ Section
     CreateShortCut "$INSTDIR\Rotaline.lnk" "$INSTDIR\Rotaline.exe"
     CreateShortCut "$INSTDIR\Shufflet.lnk" "$INSTDIR\Shufflet.exe"
 
-    CreateDirectory "$SMPROGRAMS\Vistrel"
-    CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel.lnk" "$INSTDIR\vistrel.exe"
-    CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel Help.lnk" "$INSTDIR\vistrl.hlp"
-    CreateShortCut "$SMPROGRAMS\Vistrel\Read me.lnk" "$INSTDIR\readme.txt"
-
     WriteUninstaller "$INSTDIR\uninst.exe"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayName" "Vistrel ${VERSION}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninst.exe"'
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" "EstimatedSize" ${SIZE}
+SectionEnd
+
+Section "Start menu entries"
+    CreateDirectory "$SMPROGRAMS\Vistrel"
+    CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel.lnk" "$INSTDIR\vistrel.exe"
+    CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel Help.lnk" "$INSTDIR\vistrl.hlp"
+    CreateShortCut "$SMPROGRAMS\Vistrel\Read me.lnk" "$INSTDIR\readme.txt"
 SectionEnd
 
 Section Uninstall
@@ -73,8 +88,9 @@ Section Uninstall
 
     Delete "$INSTDIR\vistrel.exe"
     Delete "$INSTDIR\vistrl.hlp"
-    ; The help viewer keeps the contents of what it showed.
+    ; The help viewer keeps lists of what it showed.
     Delete "$INSTDIR\vistrl.gid"
+    Delete "$INSTDIR\vistrl.fts"
     Delete "$INSTDIR\Rotaline.exe"
     Delete "$INSTDIR\Shufflet.exe"
     Delete "$INSTDIR\Mirrorkin.exe"
