@@ -6,7 +6,8 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
 target_include_directories(windows_test SYSTEM
@@ -16,9 +17,14 @@ target_link_libraries(windows_test PUBLIC gdi32)
 
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
 set(RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/run_in_wine)
+set(MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/make_prefix)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    list(PREPEND RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/debian32)
+    list(PREPEND MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/debian32)
+endif()
 add_custom_command(
     OUTPUT ${WINE_TEMPLATE}/system.reg
-    COMMAND ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${WINE_TEMPLATE}
+    COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
     COMMAND ${CMAKE_COMMAND} -E touch ${WINE_TEMPLATE}/system.reg
     DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
             ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh

@@ -1,14 +1,16 @@
 // Pictures of the screen, taken by tests.
 #include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
 
 #include "tests/support/user.h"
 
 namespace vistrel::user {
 
-void TakeShot(const std::string& name) {
-    char folder[MAX_PATH] = "";
-    if (GetEnvironmentVariableA("VISTREL_SHOTS_TO", folder, sizeof folder) == 0) return;
+namespace {
 
+BITMAPINFOHEADER ScreenHeader() {
     BITMAPINFOHEADER header = {};
     header.biSize = sizeof header;
     header.biWidth = GetSystemMetrics(SM_CXSCREEN);
@@ -16,14 +18,43 @@ void TakeShot(const std::string& name) {
     header.biPlanes = 1;
     header.biBitCount = 24;
     header.biSizeImage = (header.biWidth * 3 + 3) / 4 * 4 * header.biHeight;
+    return header;
+}
+
+std::vector<char> ScreenPixels(const BITMAPINFOHEADER& header) {
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
     void* bits = nullptr;
-    HBITMAP bitmap = CreateDIBSection(screen, reinterpret_cast<BITMAPINFO*>(&header),
+    HBITMAP bitmap = CreateDIBSection(screen, reinterpret_cast<const BITMAPINFO*>(&header),
                                       DIB_RGB_COLORS, &bits, nullptr, 0);
     HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, header.biWidth, header.biHeight, screen, 0, 0, SRCCOPY);
     GdiFlush();
+    std::vector<char> pixels(header.biSizeImage);
+    std::memcpy(pixels.data(), bits, pixels.size());
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+}  // namespace
+
+void TakeShot(const std::string& name) {
+    char folder[MAX_PATH] = "";
+    if (GetEnvironmentVariableA("VISTREL_SHOTS_TO", folder, sizeof folder) == 0) return;
+
+    // Windows that have just opened are painted a moment later.
+    const BITMAPINFOHEADER header = ScreenHeader();
+    std::vector<char> pixels;
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        WaitUntil([] { return false; }, 100);
+        std::vector<char> now = ScreenPixels(header);
+        const bool still = now == pixels;
+        pixels = std::move(now);
+        if (still) break;
+    }
 
     BITMAPFILEHEADER file_header = {};
     file_header.bfType = 0x4D42;
@@ -32,13 +63,9 @@ void TakeShot(const std::string& name) {
     if (std::FILE* file = std::fopen((std::string(folder) + "\\" + name + ".bmp").c_str(), "wb")) {
         std::fwrite(&file_header, sizeof file_header, 1, file);
         std::fwrite(&header, sizeof header, 1, file);
-        std::fwrite(bits, 1, header.biSizeImage, file);
+        std::fwrite(pixels.data(), 1, pixels.size(), file);
         std::fclose(file);
     }
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
 }
 
 }  // namespace vistrel::user

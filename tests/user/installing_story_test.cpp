@@ -65,14 +65,14 @@ TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart
 
 TEST_F(Story, MakesTheSetOriginalLogosAtTheFirstStart) {
     ForgetSettings();
-    RemoveTree("C:\\test\\Original Logos");
+    RemoveTree(kProgramFolder + "Original Logos");
     const HWND main = Start();
     ASSERT_NE(main, nullptr);
     EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == "Original Logos"; }));
     Close();
-    EXPECT_EQ(Contents("C:\\test\\Original Logos\\LOGO.SYS"), "an old screen");
-    EXPECT_EQ(Contents("C:\\test\\Original Logos\\LOGOS.SYS"), "an old screen");
-    EXPECT_EQ(Stored("LogoPath"), SavedText("C:\\test\\"));
+    EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGO.SYS"), "an old screen");
+    EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGOS.SYS"), "an old screen");
+    EXPECT_EQ(Stored("LogoPath"), SavedText(kProgramFolder));
 }
 
 TEST_F(Story, ShowsTheSplashScreenUnlessItIsSwitchedOff) {
@@ -87,9 +87,9 @@ TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
     STARTUPINFOA how{};
     how.cb = sizeof how;
     PROCESS_INFORMATION started{};
-    char line[] = "C:\\test\\vistrel.exe";
-    ASSERT_TRUE(CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
-                               &started));
+    std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
+    ASSERT_TRUE(CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                               &how, &started));
     // The main window exists, hidden, while the splash screen is shown.
     HWND hidden = nullptr;
     ASSERT_TRUE(WaitUntil([&] {
@@ -122,7 +122,7 @@ TEST_F(Story, StandsALogoFolderOnADriveThatIsGone) {
     Store("LogoPath", TextValue("Q:\\Logos\\"));
     ASSERT_NE(Start(), nullptr);
     Close();
-    EXPECT_EQ(Stored("LogoPath"), SavedText("C:\\test\\"));
+    EXPECT_EQ(Stored("LogoPath"), SavedText(kProgramFolder));
 }
 
 }  // namespace

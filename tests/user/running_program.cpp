@@ -37,8 +37,8 @@ HWND RunningProgram::Start() {
     STARTUPINFOA how{};
     how.cb = sizeof how;
     PROCESS_INFORMATION started{};
-    char line[] = "C:\\test\\vistrel.exe";
-    if (!CreateProcessA(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+    std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
                         &started))
         return nullptr;
     CloseHandle(started.hThread);

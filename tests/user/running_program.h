@@ -10,6 +10,7 @@
 
 #include "tests/core/machine.h"
 #include "tests/support/user.h"
+#include "tests/user/installed_program.h"
 
 namespace vistrel::test {
 

@@ -1,0 +1,255 @@
+// The installer and the uninstaller, without windows and with them.
+#include <gtest/gtest.h>
+#include <windows.h>
+// The shell's headers need windows.h first.
+#include <shlobj.h>
+
+#include "tests/core/machine.h"
+#include "tests/support/user.h"
+#include "tests/user/installed_program.h"
+
+namespace vistrel::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+constexpr const char* kUninstallKey =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vistrel";
+const Names kFiles = {"Mirrorkin.exe", "Rotaline.exe", "Rotaline.lnk",
+                      "Shufflet.exe",  "Shufflet.lnk", "readme.txt",
+                      "uninst.exe",    "vistrel.exe",  "vistrl.hlp"};
+
+std::string ShellFolder(int which) {
+    char path[MAX_PATH] = "";
+    SHGetSpecialFolderPathA(nullptr, path, which, TRUE);
+    return std::string(path) + "\\";
+}
+
+/// What a shell link starts; empty when it is none.
+std::string TargetOf(const std::string& link) {
+    CoInitialize(nullptr);
+    IShellLinkA* shellLink = nullptr;
+    IPersistFile* file = nullptr;
+    char target[MAX_PATH] = "";
+    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
+                     reinterpret_cast<void**>(&shellLink));
+    shellLink->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
+    WCHAR wide[MAX_PATH];
+    MultiByteToWideChar(CP_ACP, 0, link.c_str(), -1, wide, MAX_PATH);
+    if (SUCCEEDED(file->Load(wide, STGM_READ)))
+        shellLink->GetPath(target, sizeof target, nullptr, 0);
+    file->Release();
+    shellLink->Release();
+    CoUninitialize();
+    return target;
+}
+
+std::string TextIn(const std::string& key, const std::string& name) {
+    const auto value = StoredIn(key, name);
+    return value ? std::string(value->bytes.c_str()) : "(none)";
+}
+
+/// A machine without the program.
+class Installer : public testing::Test {
+ protected:
+    Installer() {
+        if (Exists(kProgramFolder + "uninst.exe")) UninstallSilently();
+        RemoveTree(kProgramFolder);
+        ForgetSettings();
+    }
+
+    const std::string menu = ShellFolder(CSIDL_PROGRAMS) + "Vistrel\\";
+    const std::string startup = ShellFolder(CSIDL_STARTUP);
+};
+
+TEST_F(Installer, PutsTheProgramsTheHelpAndTheLinksIntoProgramFiles) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    EXPECT_EQ(NamesIn(kProgramFolder), kFiles);
+    EXPECT_EQ(TargetOf(kProgramFolder + "Rotaline.lnk"), kProgramFolder + "Rotaline.exe");
+    EXPECT_EQ(TargetOf(kProgramFolder + "Shufflet.lnk"), kProgramFolder + "Shufflet.exe");
+}
+
+TEST_F(Installer, MakesStartMenuEntriesAndAnEntryAmongTheInstalledPrograms) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    EXPECT_EQ(NamesIn(menu), (Names{"Read me.lnk", "Vistrel Help.lnk", "Vistrel.lnk"}));
+    EXPECT_EQ(TargetOf(menu + "Vistrel.lnk"), kProgramFolder + "vistrel.exe");
+    EXPECT_EQ(TargetOf(menu + "Vistrel Help.lnk"), kProgramFolder + "vistrl.hlp");
+    EXPECT_EQ(TargetOf(menu + "Read me.lnk"), kProgramFolder + "readme.txt");
+    EXPECT_EQ(TextIn(kUninstallKey, "DisplayName"), "Vistrel 4.00 Beta 2");
+    EXPECT_EQ(TextIn(kUninstallKey, "UninstallString"), "\"" + kProgramFolder + "uninst.exe\"");
+}
+
+TEST_F(Installer, PutsEverythingIntoTheFolderThatTheUserChooses) {
+    const std::string chosen = "C:\\My Tools\\Logo changer\\";
+    ASSERT_EQ(InstallSilently("/D=C:\\My Tools\\Logo changer"), 0u);
+    EXPECT_EQ(NamesIn(chosen), kFiles);
+    EXPECT_FALSE(Exists(kProgramFolder));
+    EXPECT_EQ(TargetOf(chosen + "Rotaline.lnk"), chosen + "Rotaline.exe");
+    EXPECT_EQ(TargetOf(menu + "Vistrel.lnk"), chosen + "vistrel.exe");
+
+    // A newer version goes to the same place.
+    Put(chosen + "vistrel.exe", "an older program");
+    ASSERT_EQ(InstallSilently(), 0u);
+    EXPECT_FALSE(Exists(kProgramFolder));
+    EXPECT_NE(Contents(chosen + "vistrel.exe"), "an older program");
+
+    EXPECT_TRUE(UninstallSilently(chosen));
+    EXPECT_FALSE(Exists(chosen));
+    RemoveTree("C:\\My Tools\\");
+}
+
+TEST_F(Installer, LeavesNothingBehindWhenUninstalled) {
+    const Snapshot before = TakeSnapshot();
+    ASSERT_EQ(InstallSilently(), 0u);
+    // What use leaves: settings, the help viewer's lists, Mirrorkin's notes.
+    Store("DefaultLogoSet", TextValue("Sunny Day"));
+    for (const char* name : {"vistrl.gid", "vistrl.fts", "Mirrorkin.ini"}) {
+        Put(kProgramFolder + name, "notes");
+        GiveAttributes(kProgramFolder + name, FILE_ATTRIBUTE_HIDDEN);
+    }
+    EXPECT_FALSE(Differences(before, TakeSnapshot(), NotOurs()).empty());
+    EXPECT_TRUE(UninstallSilently());
+    EXPECT_EQ(Differences(before, TakeSnapshot(), NotOurs()), Names{});
+}
+
+TEST_F(Installer, EndsTheChangingOfScreensAtEveryStartWhenUninstalled) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    StoreIn(kRunKey, "Mirrorkin", TextValue(kProgramFolder + "Mirrorkin.exe"));
+    StoreIn(kRunKey, "SystemTray", TextValue("SysTray.Exe"));
+    CopyFileA((kProgramFolder + "Rotaline.lnk").c_str(), (startup + "Rotaline.lnk").c_str(), FALSE);
+    CopyFileA((kProgramFolder + "Shufflet.lnk").c_str(), (startup + "Shufflet.lnk").c_str(), FALSE);
+    Put(startup + "Clock.lnk", "somebody else's");
+    EXPECT_TRUE(UninstallSilently());
+    EXPECT_FALSE(StoredIn(kRunKey, "Mirrorkin").has_value());
+    EXPECT_EQ(TextIn(kRunKey, "SystemTray"), "SysTray.Exe");
+    EXPECT_EQ(NamesIn(startup), Names{"Clock.lnk"});
+    ForgetValue(kRunKey, "SystemTray");
+    RemoveTree(startup + "Clock.lnk");
+}
+
+TEST_F(Installer, KeepsTheUsersOwnSetsAndScreensWhenUninstalled) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put("C:\\LOGO.SYS", "the installed screen");
+    Put("C:\\msdos.sys", "[Options]\r\nLogo=1\r\n");
+    MakeFolders(kProgramFolder + "Original Logos\\");
+    Put(kProgramFolder + "Original Logos\\LOGO.SYS", "the old screen");
+    MakeFolders("C:\\Logos\\Mine\\");
+    Put("C:\\Logos\\Mine\\LOGO.SYS", "my screen");
+    EXPECT_TRUE(UninstallSilently());
+    EXPECT_EQ(NamesIn(kProgramFolder), Names{"Original Logos"});
+    EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGO.SYS"), "the old screen");
+    EXPECT_EQ(Contents("C:\\Logos\\Mine\\LOGO.SYS"), "my screen");
+    EXPECT_EQ(Contents("C:\\LOGO.SYS"), "the installed screen");
+    EXPECT_EQ(Contents("C:\\msdos.sys"), "[Options]\r\nLogo=1\r\n");
+    for (const char* path : {"C:\\Logos\\", "C:\\LOGO.SYS", "C:\\msdos.sys"}) RemoveTree(path);
+}
+
+TEST_F(Installer, KeepsSettingsAndSetsWhenInstalledAgain) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Store("LogoPath", TextValue("C:\\Logos\\"));
+    Store("View", TextValue("2"));
+    MakeFolders(kProgramFolder + "Original Logos\\");
+    Put(kProgramFolder + "Original Logos\\LOGO.SYS", "the old screen");
+    Put(kProgramFolder + "vistrel.exe", "an older program");
+    ASSERT_EQ(InstallSilently(), 0u);
+    EXPECT_EQ(Stored("LogoPath"), TextValue("C:\\Logos\\"));
+    EXPECT_EQ(Stored("View"), TextValue("2"));
+    EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGO.SYS"), "the old screen");
+    EXPECT_NE(Contents(kProgramFolder + "vistrel.exe"), "an older program");
+}
+
+/// The program, open.
+class InstallerBesideTheProgram : public Installer {
+ protected:
+    ~InstallerBesideTheProgram() override {
+        TerminateProcess(process_.hProcess, 1);
+        WaitForSingleObject(process_.hProcess, 20000);
+        CloseHandle(process_.hThread);
+        CloseHandle(process_.hProcess);
+    }
+
+    HWND OpenProgram() {
+        STARTUPINFOA how{};
+        how.cb = sizeof how;
+        std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
+        CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                       &process_);
+        return user::WaitForTop("Principale", "", process_.dwProcessId, 60000);
+    }
+
+ private:
+    PROCESS_INFORMATION process_{};
+};
+
+TEST_F(InstallerBesideTheProgram, NeitherReplacesNorRemovesARunningProgram) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put(kProgramFolder + "readme.txt", "an older text");
+    Store("LogoPath", TextValue("C:\\test\\"));
+    ASSERT_NE(OpenProgram(), nullptr);
+    EXPECT_NE(InstallSilently(), 0u);
+    EXPECT_EQ(Contents(kProgramFolder + "readme.txt"), "an older text");
+    EXPECT_FALSE(UninstallSilently());
+    EXPECT_EQ(Names(NamesIn(kProgramFolder)), kFiles);
+}
+
+/// The installer's windows, used by mouse and keyboard.
+class InstallersWindows : public Installer {
+ protected:
+    HWND Open(const std::string& program, const std::string& title) {
+        STARTUPINFOA how{};
+        how.cb = sizeof how;
+        PROCESS_INFORMATION started{};
+        std::string line = "\"" + program + "\"";
+        CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                       &started);
+        CloseHandle(started.hThread);
+        CloseHandle(started.hProcess);
+        const HWND window = user::WaitForTop("#32770", title);
+        if (window) user::Activate(window);
+        return window;
+    }
+
+    /// Presses the button that leads on, once it says so.
+    static bool GoOn(HWND window, const std::string& label) {
+        const HWND button = GetDlgItem(window, IDOK);
+        return WaitUntil(
+                   [&] { return user::TextOf(button) == label && IsWindowEnabled(button); }) &&
+               user::Click(button);
+    }
+};
+
+TEST_F(InstallersWindows, OfferAFolderAndStartMenuEntriesAndTakeTheProgramAwayAgain) {
+    HWND window = Open("C:\\test\\vistrel-setup.exe", "Vistrel Setup: Installation Options");
+    ASSERT_NE(window, nullptr);
+    user::TakeShot("setup_options");
+    EXPECT_TRUE(GoOn(window, "&Next >"));
+
+    // The folder's box has the focus, its text selected.
+    window = user::WaitForTop("#32770", "Vistrel Setup: Installation Folder");
+    ASSERT_NE(window, nullptr);
+    user::TakeShot("setup_folder");
+    user::Type("C:\\Vistrel");
+    EXPECT_TRUE(GoOn(window, "&Install"));
+
+    window = user::WaitForTop("#32770", "Vistrel Setup: Completed");
+    ASSERT_NE(window, nullptr);
+    user::TakeShot("setup_completed");
+    EXPECT_EQ(NamesIn("C:\\Vistrel\\"), kFiles);
+    EXPECT_TRUE(Exists(menu + "Vistrel.lnk"));
+    EXPECT_TRUE(GoOn(window, "&Close"));
+    EXPECT_TRUE(user::WaitUntilGone(window));
+
+    window = Open("C:\\Vistrel\\uninst.exe", "Vistrel Uninstall: Confirmation");
+    ASSERT_NE(window, nullptr);
+    user::TakeShot("uninstall_confirm");
+    EXPECT_TRUE(GoOn(window, "&Uninstall"));
+    window = user::WaitForTop("#32770", "Vistrel Uninstall: Completed");
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(GoOn(window, "&Close"));
+    EXPECT_TRUE(user::WaitUntilGone(window));
+    EXPECT_FALSE(Exists("C:\\Vistrel\\"));
+    EXPECT_FALSE(Exists(menu));
+}
+
+}  // namespace
+}  // namespace vistrel::test

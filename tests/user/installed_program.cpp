@@ -1,0 +1,74 @@
+#include "tests/user/installed_program.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+// tlhelp32.h needs windows.h first.
+#include <tlhelp32.h>
+
+#include "tests/core/machine.h"
+#include "tests/support/poll.h"
+
+namespace vistrel::test {
+
+namespace {
+
+/// Whether a program runs whose name begins like this.
+bool IsRunning(const std::string& beginning) {
+    HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    PROCESSENTRY32 process{};
+    process.dwSize = sizeof process;
+    bool found = false;
+    for (BOOL more = Process32First(processes, &process); more && !found;
+         more = Process32Next(processes, &process))
+        found = std::string(process.szExeFile).starts_with(beginning);
+    CloseHandle(processes);
+    return found;
+}
+
+}  // namespace
+
+std::optional<unsigned long> RunToEnd(const std::string& commandLine) {
+    STARTUPINFOA how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION started{};
+    std::string line = commandLine;
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
+                        &started))
+        return std::nullopt;
+    DWORD status = 0;
+    const bool ended = WaitForSingleObject(started.hProcess, 60000) == WAIT_OBJECT_0 &&
+                       GetExitCodeProcess(started.hProcess, &status);
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    if (!ended) return std::nullopt;
+    return status;
+}
+
+bool HasInstaller() { return Exists("C:\\test\\vistrel-setup.exe"); }
+
+std::optional<unsigned long> InstallSilently(const std::string& arguments) {
+    return RunToEnd("C:\\test\\vistrel-setup.exe /S " + arguments);
+}
+
+bool UninstallSilently(const std::string& folder) {
+    if (RunToEnd("\"" + folder + "uninst.exe\" /S") != 0u) return false;
+    // It goes on as a copy of itself, Un.exe.
+    return WaitUntil([] { return !IsRunning("Un"); }) && !Exists(folder + "uninst.exe");
+}
+
+std::vector<std::string> NotOurs() {
+    char temporary[MAX_PATH] = "";
+    GetTempPathA(sizeof temporary, temporary);
+    return {
+        "C:\\test\\",
+        // The uninstaller's own copy goes at the next start.
+        temporary,
+        "HKLM\\System\\CurrentControlSet\\Control\\Session Manager\\:PendingFileRenameOperations",
+        // Wine's notes of the display and the mouse.
+        "HKLM\\System\\CurrentControlSet\\Control\\Class\\",
+        "HKLM\\System\\CurrentControlSet\\Control\\Video\\",
+        "HKCU\\Software\\Wine\\Temporary System Parameters\\",
+    };
+}
+
+}  // namespace vistrel::test

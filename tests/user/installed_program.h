@@ -1,0 +1,29 @@
+// The program where a user has it, put there as a user does.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "tests/support/snapshot.h"
+
+namespace vistrel::test {
+
+inline const std::string kProgramFolder = "C:\\Program Files\\Vistrel\\";
+
+/// Runs a program to its end. Its exit status; nothing when it did not start or end.
+std::optional<unsigned long> RunToEnd(const std::string& commandLine);
+
+/// Whether the installer lies beside the tests. It is a 32-bit program, which Wine for 64 bits
+/// cannot run.
+bool HasInstaller();
+/// Runs the installer without windows. Its exit status.
+std::optional<unsigned long> InstallSilently(const std::string& arguments = "");
+/// Runs the uninstaller of a folder without windows and waits until the program is gone. True when
+/// it is.
+bool UninstallSilently(const std::string& folder = kProgramFolder);
+
+/// Beginnings of what an uninstaller does not put back: what the tests own and what the system
+/// notes down itself.
+std::vector<std::string> NotOurs();
+
+}  // namespace vistrel::test

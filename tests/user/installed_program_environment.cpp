@@ -1,0 +1,43 @@
+// Puts the program on the machine before the first story and takes it away after the last.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "tests/core/machine.h"
+#include "tests/user/installed_program.h"
+
+namespace vistrel::test {
+namespace {
+
+class ProgramOnTheMachine : public testing::Environment {
+ public:
+    void SetUp() override {
+        if (HasInstaller()) {
+            before_ = TakeSnapshot();
+            ASSERT_EQ(InstallSilently(), 0u);
+        } else {
+            MakeFolders(kProgramFolder);
+            CopyFileA("C:\\test\\vistrel.exe", (kProgramFolder + "vistrel.exe").c_str(), FALSE);
+        }
+    }
+
+    void TearDown() override {
+        if (!HasInstaller()) return;
+        EXPECT_TRUE(UninstallSilently());
+        // The sets, the screens and the boot configuration file are the user's own.
+        EXPECT_EQ(NamesIn(kProgramFolder), std::vector<std::string>{"Original Logos"});
+        RemoveTree(kProgramFolder);
+        std::vector<std::string> ignored = NotOurs();
+        ignored.insert(ignored.end(),
+                       {"C:\\Logos\\", "C:\\LOGO.SYS", "C:\\msdos.sys", "C:\\windows\\LOGO"});
+        EXPECT_EQ(Differences(before_, TakeSnapshot(), ignored), std::vector<std::string>{});
+    }
+
+ private:
+    Snapshot before_;
+};
+
+const testing::Environment* const environment =
+    testing::AddGlobalTestEnvironment(new ProgramOnTheMachine);
+
+}  // namespace
+}  // namespace vistrel::test
