@@ -34,19 +34,34 @@ add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
 
 # add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
-#                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>])
+#                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>]
+#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>])
 # The target and the program are called <name>; the program's folder is its current one, C:\test.
 # Building the target makes everything that `ctest -R <name>` needs.
+# With PROGRAM <target> instead of SOURCES and LIBRARIES that test's program runs once more, on
+# another machine.
 function(add_windows_test)
-    cmake_parse_arguments(ARG "" "NAME;TIMEOUT" "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS"
+        "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
     endif()
-    add_executable(${ARG_NAME} ${ARG_SOURCES})
-    target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} windows_test)
-    add_dependencies(${ARG_NAME} wine_template ${ARG_DEPENDS})
+    if(NOT ARG_PROGRAM)
+        set(ARG_PROGRAM ${ARG_NAME})
+        add_executable(${ARG_NAME} ${ARG_SOURCES})
+        target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} windows_test)
+        add_dependencies(${ARG_NAME} wine_template ${ARG_DEPENDS})
+    endif()
+    set(machine)
+    if(ARG_REGISTRY)
+        list(APPEND machine --registry ${ARG_REGISTRY})
+    endif()
+    if(ARG_BITS)
+        list(APPEND machine --bits ${ARG_BITS})
+    endif()
     add_test(NAME ${ARG_NAME}
-        COMMAND ${RUN_IN_WINE} ${WINE_TEMPLATE} ${ARG_TIMEOUT} $<TARGET_FILE:${ARG_NAME}> ${ARG_FILES})
+        COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
+            $<TARGET_FILE:${ARG_PROGRAM}> ${ARG_FILES})
     math(EXPR limit "${ARG_TIMEOUT} + 60")
     set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit})
 endfunction()

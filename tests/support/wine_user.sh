@@ -59,14 +59,14 @@ remove_private_folder() {
     rm -rf "$1"
 }
 
-# start_screen FOLDER: starts a virtual X screen on a free display. Sets DISPLAY and screen_pid;
-# what it shows is in FOLDER/Xvfb_screen0.
+# start_screen FOLDER [BITS]: starts a virtual X screen on a free display, of 24 bits a pixel or of
+# BITS. Sets DISPLAY and screen_pid; what it shows is in FOLDER/Xvfb_screen0.
 start_screen() {
     local attempt
     if [ "$(id -u)" = 0 ]; then mkdir -p -m 1777 /tmp/.X11-unix; fi
     # A session of its own: an interrupt from the keyboard is not meant for the screen.
     : >"$1/display"
-    setsid Xvfb -displayfd 3 -screen 0 1024x768x24 -fbdir "$1" -nolisten tcp -noreset \
+    setsid Xvfb -displayfd 3 -screen 0 "1024x768x${2:-24}" -fbdir "$1" -nolisten tcp -noreset \
         3>"$1/display" >"$1/screen.log" 2>&1 &
     screen_pid=$!
     for attempt in $(seq 300); do
