@@ -25,25 +25,6 @@ std::string ShellFolder(int which) {
     return std::string(path) + "\\";
 }
 
-/// What a shell link starts; empty when it is none.
-std::string TargetOf(const std::string& link) {
-    CoInitialize(nullptr);
-    IShellLinkA* shellLink = nullptr;
-    IPersistFile* file = nullptr;
-    char target[MAX_PATH] = "";
-    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
-                     reinterpret_cast<void**>(&shellLink));
-    shellLink->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
-    WCHAR wide[MAX_PATH];
-    MultiByteToWideChar(CP_ACP, 0, link.c_str(), -1, wide, MAX_PATH);
-    if (SUCCEEDED(file->Load(wide, STGM_READ)))
-        shellLink->GetPath(target, sizeof target, nullptr, 0);
-    file->Release();
-    shellLink->Release();
-    CoUninitialize();
-    return target;
-}
-
 std::string TextIn(const std::string& key, const std::string& name) {
     const auto value = StoredIn(key, name);
     return value ? std::string(value->bytes.c_str()) : "(none)";

@@ -10,25 +10,15 @@ namespace vistrel::user {
 
 namespace {
 
-BITMAPINFOHEADER ScreenHeader() {
-    BITMAPINFOHEADER header = {};
-    header.biSize = sizeof header;
-    header.biWidth = GetSystemMetrics(SM_CXSCREEN);
-    header.biHeight = GetSystemMetrics(SM_CYSCREEN);
-    header.biPlanes = 1;
-    header.biBitCount = 24;
-    header.biSizeImage = (header.biWidth * 3 + 3) / 4 * 4 * header.biHeight;
-    return header;
-}
-
-std::vector<char> ScreenPixels(const BITMAPINFOHEADER& header) {
+/// The pixels of a part of the screen, as a bitmap file holds them.
+std::vector<char> ScreenPixels(const RECT& part, const BITMAPINFOHEADER& header) {
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
     void* bits = nullptr;
     HBITMAP bitmap = CreateDIBSection(screen, reinterpret_cast<const BITMAPINFO*>(&header),
                                       DIB_RGB_COLORS, &bits, nullptr, 0);
     HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, header.biWidth, header.biHeight, screen, 0, 0, SRCCOPY);
+    BitBlt(memory, 0, 0, header.biWidth, header.biHeight, screen, part.left, part.top, SRCCOPY);
     GdiFlush();
     std::vector<char> pixels(header.biSizeImage);
     std::memcpy(pixels.data(), bits, pixels.size());
@@ -41,16 +31,25 @@ std::vector<char> ScreenPixels(const BITMAPINFOHEADER& header) {
 
 }  // namespace
 
-void TakeShot(const std::string& name) {
+void TakeShot(const std::string& name, HWND window) {
     char folder[MAX_PATH] = "";
     if (GetEnvironmentVariableA("VISTREL_SHOTS_TO", folder, sizeof folder) == 0) return;
 
+    RECT part = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    if (window) GetWindowRect(window, &part);
+    BITMAPINFOHEADER header = {};
+    header.biSize = sizeof header;
+    header.biWidth = part.right - part.left;
+    header.biHeight = part.bottom - part.top;
+    header.biPlanes = 1;
+    header.biBitCount = 24;
+    header.biSizeImage = (header.biWidth * 3 + 3) / 4 * 4 * header.biHeight;
+
     // Windows that have just opened are painted a moment later.
-    const BITMAPINFOHEADER header = ScreenHeader();
     std::vector<char> pixels;
     for (int attempt = 0; attempt < 20; ++attempt) {
         WaitUntil([] { return false; }, 100);
-        std::vector<char> now = ScreenPixels(header);
+        std::vector<char> now = ScreenPixels(part, header);
         const bool still = now == pixels;
         pixels = std::move(now);
         if (still) break;

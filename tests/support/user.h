@@ -104,8 +104,8 @@ Box WaitForBox(DWORD process = 0, DWORD milliseconds = 20000);
 /// Waits for a message box, presses this button and waits until the box is closed.
 Box AnswerBox(int button, DWORD process = 0);
 
-/// Keeps what the screen shows as NAME.png in the folder that the environment variable
-/// VISTREL_SHOTS names; does nothing without it.
-void TakeShot(const std::string& name);
+/// Keeps what the screen shows, or the part of it that a window takes, as NAME.png in the folder
+/// that the environment variable VISTREL_SHOTS names; does nothing without it.
+void TakeShot(const std::string& name, HWND window = nullptr);
 
 }  // namespace vistrel::user

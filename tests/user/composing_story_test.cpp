@@ -101,7 +101,7 @@ TEST_F(Composing, BuildsSetsByDraggingPicturesAndUpdatesConvertsAndDeletesThem) 
     EXPECT_TRUE(WaitUntil([&] { return IsScreenOf(logos + "Trip\\LOGOS.SYS", "Balloons.bmp"); }));
     EXPECT_TRUE(IsScreenOf(logos + "Trip\\LOGO.SYS", "Lighthouse.jpg"));
     EXPECT_TRUE(IsScreenOf(logos + "Trip\\LOGOW.SYS", "Stained Glass.gif"));
-    user::TakeShot("story_composed");
+    user::TakeShot("story_composed", editor_);
 
     // The same under another name, with another wait screen.
     TypeName("Keep");

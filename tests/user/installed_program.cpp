@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 #include <windows.h>
-// tlhelp32.h needs windows.h first.
+// These need windows.h first.
+#include <shlobj.h>
 #include <tlhelp32.h>
 
 #include "tests/core/machine.h"
@@ -54,6 +55,24 @@ bool UninstallSilently(const std::string& folder) {
     if (RunToEnd("\"" + folder + "uninst.exe\" /S") != 0u) return false;
     // It goes on as a copy of itself, Un.exe.
     return WaitUntil([] { return !IsRunning("Un"); }) && !Exists(folder + "uninst.exe");
+}
+
+std::string TargetOf(const std::string& link) {
+    CoInitialize(nullptr);
+    IShellLinkA* shellLink = nullptr;
+    IPersistFile* file = nullptr;
+    char target[MAX_PATH] = "";
+    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
+                     reinterpret_cast<void**>(&shellLink));
+    shellLink->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
+    WCHAR wide[MAX_PATH];
+    MultiByteToWideChar(CP_ACP, 0, link.c_str(), -1, wide, MAX_PATH);
+    if (SUCCEEDED(file->Load(wide, STGM_READ)))
+        shellLink->GetPath(target, sizeof target, nullptr, 0);
+    file->Release();
+    shellLink->Release();
+    CoUninitialize();
+    return target;
 }
 
 std::vector<std::string> NotOurs() {

@@ -22,6 +22,9 @@ std::optional<unsigned long> InstallSilently(const std::string& arguments = "");
 /// it is.
 bool UninstallSilently(const std::string& folder = kProgramFolder);
 
+/// What a shell link starts; empty when it is none.
+std::string TargetOf(const std::string& link);
+
 /// Beginnings of what an uninstaller does not put back: what the tests own and what the system
 /// notes down itself.
 std::vector<std::string> NotOurs();

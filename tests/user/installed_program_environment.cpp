@@ -16,7 +16,10 @@ class ProgramOnTheMachine : public testing::Environment {
             ASSERT_EQ(InstallSilently(), 0u);
         } else {
             MakeFolders(kProgramFolder);
-            CopyFileA("C:\\test\\vistrel.exe", (kProgramFolder + "vistrel.exe").c_str(), FALSE);
+            for (const char* name : {"vistrel.exe", "Rotaline.exe"})
+                CopyFileA((std::string("C:\\test\\") + name).c_str(),
+                          (kProgramFolder + name).c_str(), FALSE);
+            ASSERT_EQ(RunToEnd("C:\\test\\make_links.exe \"" + kProgramFolder + "\""), 0u);
         }
     }
 

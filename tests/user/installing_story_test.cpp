@@ -37,7 +37,7 @@ TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart
         WaitUntil([&] { return LabelOf(main, ID_Imag + 2) == logos + set + "\\LOGOS.SYS"; }));
     const std::string wait = LabelOf(main, ID_Imag + 1);
     const std::string shutdown = LabelOf(main, ID_Imag + 2);
-    user::TakeShot("story_selected");
+    user::TakeShot("story_selected", main);
 
     PressToolbarButton(main, 2, 0);
     EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == set; })) << set;
@@ -73,6 +73,37 @@ TEST_F(Story, MakesTheSetOriginalLogosAtTheFirstStart) {
     EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGO.SYS"), "an old screen");
     EXPECT_EQ(Contents(kProgramFolder + "Original Logos\\LOGOS.SYS"), "an old screen");
     EXPECT_EQ(Stored("LogoPath"), SavedText(kProgramFolder));
+}
+
+TEST_F(Story, ChangesTheScreensAtEveryStartOfWindowsOnceToldTo) {
+    HWND main = Start();
+    ASSERT_NE(main, nullptr);
+    EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == "Sunny Day"; }));
+    user::Press('O', {VK_MENU});
+    ASSERT_NE(user::WaitForTop("#32768", "", process), nullptr);
+    user::Press('P');
+    const HWND preferences = user::WaitForTop("FrmOptions", "", process);
+    ASSERT_NE(preferences, nullptr);
+    RECT tabs{};
+    GetWindowRect(user::Control(preferences, ID_TabStrip1), &tabs);
+    user::ClickAt({tabs.left + 20, tabs.top + 10});
+    for (int page = 1; page < 4; ++page) user::Press(VK_RIGHT);
+    const HWND rotaline = user::Control(preferences, ID_StartUpAction);
+    EXPECT_TRUE(WaitUntil([&] { return IsWindowVisible(rotaline); }));
+    EXPECT_TRUE(user::Click(rotaline));
+    user::TakeShot("story_preferences", preferences);
+    EXPECT_TRUE(user::Click(user::Control(preferences, ID_BtnOK)));
+    EXPECT_TRUE(user::WaitUntilGone(preferences));
+    Close();
+
+    // Windows starts what lies in this folder.
+    char startup[MAX_PATH] = "";
+    SHGetSpecialFolderPathA(nullptr, startup, CSIDL_STARTUP, FALSE);
+    const std::string target = TargetOf(std::string(startup) + "\\Rotaline.lnk");
+    EXPECT_EQ(target, kProgramFolder + "Rotaline.exe");
+    EXPECT_EQ(RunToEnd("\"" + target + "\""), 0u);
+    EXPECT_TRUE(Contents("C:\\LOGO.SYS") == Contents(logos + "Sunrise.sls\\LOGO.SYS"));
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Sunrise.SLS"));
 }
 
 TEST_F(Story, ShowsTheSplashScreenUnlessItIsSwitchedOff) {

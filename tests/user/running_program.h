@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 #include <windows.h>
-// shellapi.h needs windows.h first.
+// The shell's headers need windows.h first.
 #include <shellapi.h>
+#include <shlobj.h>
 
 #include <string>
 
