@@ -56,7 +56,8 @@ TEST_F(Installer, MakesStartMenuEntriesAndAnEntryAmongTheInstalledPrograms) {
     EXPECT_EQ(TargetOf(menu + "Vistrel.lnk"), kProgramFolder + "vistrel.exe");
     EXPECT_EQ(TargetOf(menu + "Vistrel Help.lnk"), kProgramFolder + "vistrl.hlp");
     EXPECT_EQ(TargetOf(menu + "Read me.lnk"), kProgramFolder + "readme.txt");
-    EXPECT_EQ(TextIn(kUninstallKey, "DisplayName"), "Vistrel 4.00 Beta 2");
+    EXPECT_EQ(TextIn(kUninstallKey, "DisplayName"),
+              "Vistrel " + TextIn(kUninstallKey, "DisplayVersion"));
     EXPECT_EQ(TextIn(kUninstallKey, "UninstallString"), "\"" + kProgramFolder + "uninst.exe\"");
 }
 

@@ -19,7 +19,7 @@ class ProgramOnTheMachine : public testing::Environment {
             for (const char* name : {"vistrel.exe", "Rotaline.exe"})
                 CopyFileA((std::string("C:\\test\\") + name).c_str(),
                           (kProgramFolder + name).c_str(), FALSE);
-            ASSERT_EQ(RunToEnd("C:\\test\\make_links.exe \"" + kProgramFolder + "\""), 0u);
+            ASSERT_EQ(RunToEnd("C:\\test\\make_links.exe \"C:\\Program Files\\Vistrel\""), 0u);
         }
     }
 
