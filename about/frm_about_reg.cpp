@@ -5,7 +5,7 @@
 #include "about/about.h"
 #include "about/contacts.h"
 #include "controls/drawing.h"
-#include "controls/picture_resource.h"
+#include "pictures/draw_resource.h"
 #include "platform/message_box.h"
 #include "resources/ids.h"
 

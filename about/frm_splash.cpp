@@ -1,6 +1,6 @@
 #include "about/frm_splash.h"
 
-#include "controls/picture_resource.h"
+#include "pictures/draw_resource.h"
 #include "controls/screen_metrics.h"
 #include "resources/ids.h"
 

@@ -14,13 +14,27 @@ using PaletteHandle = HPALETTE__*;
 
 /// True when this device context's device shows colours through a palette.
 bool HasPalette(DeviceContext device);
+/// The same of the screen.
+bool DisplayHasPalette();
 
-/// The one palette that all pictures share on such a display, so that none takes another's colours:
-/// 6 levels each of red, green and blue, entry number 36 * red + 6 * green + blue.
+/// The one palette that all pictures share on such a display, so that none takes another's colours.
 PaletteHandle DisplayPalette();
+
+/// Number of entries of that palette.
+inline constexpr int kDisplayColors = 240;
 
 /// Dithers 24-bit pixels (red, green, blue, rows from the top, no padding) to numbers of
 /// DisplayPalette's entries; rows from the top, padded to multiples of four.
 std::vector<std::uint8_t> DitherToDisplayPalette(const std::uint8_t* rgb, int width, int height);
+
+/// A bitmap whose pixels are numbers of DisplayPalette's entries. It keeps its colours whatever
+/// becomes of the display's: one of the display's own kind would hold places of the display's table,
+/// in which other programs put other colours.
+BitmapHandle DisplayPaletteBitmap(int width, int height);
+
+/// Paints such a bitmap on the display, stretched to width x height. `active`: its colours are
+/// brought into the display's table; else those that are there stand for them.
+void PaintThroughPalette(DeviceContext target, BitmapHandle bitmap, int width, int height,
+                         bool active);
 
 }  // namespace vistrel

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "controls/display_palette.h"
+#include "controls/window.h"
 #include "platform/instance.h"
 
 namespace vistrel {
@@ -40,12 +41,10 @@ void PictureBox::SetScaleSize(Size size) {
 
 void PictureBox::ReleaseCanvas() {
     if (!canvas_) return;
-    if (formerPalette_) SelectPalette(canvas_, static_cast<HPALETTE>(formerPalette_), FALSE);
     SelectObject(canvas_, formerBitmap_);
     DeleteObject(bitmap_);
     DeleteDC(canvas_);
     canvas_ = nullptr;
-    formerPalette_ = nullptr;
 }
 
 void PictureBox::Clear() {
@@ -61,12 +60,9 @@ DeviceContext PictureBox::Canvas() {
     ReleaseCanvas();
     const HDC screen = GetDC(handle());
     canvas_ = CreateCompatibleDC(screen);
-    bitmap_ = CreateCompatibleBitmap(screen, size.width, size.height);
+    bitmap_ = HasPalette(screen) ? DisplayPaletteBitmap(size.width, size.height)
+                                 : CreateCompatibleBitmap(screen, size.width, size.height);
     formerBitmap_ = SelectObject(canvas_, bitmap_);
-    if (HasPalette(screen)) {
-        formerPalette_ = SelectPalette(canvas_, DisplayPalette(), FALSE);
-        RealizePalette(canvas_);
-    }
     ReleaseDC(handle(), screen);
     canvasSize_ = size;
     const RECT all{0, 0, size.width, size.height};
@@ -80,6 +76,8 @@ void PictureBox::Keep() {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
+bool PictureBox::InActiveWindow() const { return GetActiveWindow() == parent()->handle(); }
+
 void PictureBox::Paint(DeviceContext target) {
     if (PaintInstead) {
         PaintInstead(target);
@@ -90,10 +88,9 @@ void PictureBox::Paint(DeviceContext target) {
         FillRect(target, &all, GetSysColorBrush(COLOR_APPWORKSPACE));
         return;
     }
-    HPALETTE former = nullptr;
     if (HasPalette(target)) {
-        former = SelectPalette(target, DisplayPalette(), FALSE);
-        RealizePalette(target);
+        PaintThroughPalette(target, bitmap_, ScaleWidth(), ScaleHeight(), InActiveWindow());
+        return;
     }
     if (canvasSize_.width == all.right && canvasSize_.height == all.bottom)
         BitBlt(target, 0, 0, all.right, all.bottom, canvas_, 0, 0, SRCCOPY);
@@ -101,7 +98,6 @@ void PictureBox::Paint(DeviceContext target) {
         // The box was resized and its owner has not drawn the picture anew yet.
         StretchBlt(target, 0, 0, all.right, all.bottom, canvas_, 0, 0, canvasSize_.width,
                    canvasSize_.height, SRCCOPY);
-    if (former) SelectPalette(target, former, FALSE);
 }
 
 bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,

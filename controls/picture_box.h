@@ -26,6 +26,10 @@ class PictureBox : public Control {
     /// Makes what was drawn into the canvas the picture.
     void Keep();
     bool HasPicture() const { return hasPicture_; }
+    /// True while the user works in the box's window. On a display with a palette its pictures then
+    /// bring in their own colours; those of the program's other windows take what is there. Else
+    /// two windows of different colours would make each other paint anew for ever.
+    bool InActiveWindow() const;
     /// Paints the drawing area in place of the picture while it is set.
     std::function<void(DeviceContext target)> PaintInstead;
 
@@ -44,7 +48,6 @@ class PictureBox : public Control {
     DeviceContext canvas_ = nullptr;
     BitmapHandle bitmap_ = nullptr;
     void* formerBitmap_ = nullptr;
-    void* formerPalette_ = nullptr;
     Size canvasSize_;
 };
 

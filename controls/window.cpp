@@ -4,6 +4,7 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
+#include "controls/display_palette.h"
 #include "controls/message_loop.h"
 #include "controls/picture_box.h"
 #include "controls/timer.h"
@@ -191,6 +192,11 @@ void Window::RepaintAll() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
+// Picture boxes hold the colours; each realises its own when it paints.
+void Window::RepaintPictures() {
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
 void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
@@ -358,11 +364,17 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
                 reinterpret_cast<HWND>(wParam),
                 {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))},
                 lParam == -1);
-        case WM_PALETTECHANGED:
+        case WM_PALETTECHANGED: {
+            // What its own picture boxes changed, they have just painted with.
+            const auto changer = reinterpret_cast<HWND>(wParam);
+            if (changer != handle_ && !IsChild(handle_, changer)) RepaintPictures();
+            return true;
+        }
         case WM_QUERYNEWPALETTE:
-            // Picture boxes hold the colours; each realises its own when it paints.
-            if (reinterpret_cast<HWND>(wParam) != handle_)
-                RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+            // The window becomes the active one. Behind others its pictures were matched to colours
+            // of theirs; now they bring in their own.
+            UnrealizeObject(DisplayPalette());
+            RepaintPictures();
             result = TRUE;
             return true;
         case WM_CLOSE:

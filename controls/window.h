@@ -106,6 +106,7 @@ class Window {
     bool OnHelp(std::intptr_t lParam);
     bool OnContextMenu(WindowHandle child, Point screen, bool byKeyboard);
     void ShowTopic(const Control& control);
+    void RepaintPictures();
     Control* ControlOf(WindowHandle child) const;
 
     const char* className_;

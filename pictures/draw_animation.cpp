@@ -32,11 +32,14 @@ std::vector<std::uint8_t> PaddedRows(const IndexedScreen& screen) {
     return rows;
 }
 
-/// All 256 colours; those that move are reserved, so that the system lets us change them.
+/// All 256 colours, from the first that moves to the last one before it: the system has room for
+/// 236 beside its own and takes them in order, and those that move must not be left out. They are
+/// reserved, so that the system lets us change them.
 void FillEntries(const IndexedScreen& screen, PALETTEENTRY* entries) {
     for (int i = 0; i < 256; ++i) {
-        const auto& color = screen.palette[i];
-        const BYTE flags = screen.IsAnimated() && i >= screen.firstAnimated ? PC_RESERVED : 0;
+        const int from = (screen.firstAnimated + i) % 256;
+        const auto& color = screen.palette[from];
+        const BYTE flags = from >= screen.firstAnimated ? PC_RESERVED : 0;
         entries[i] = {color[0], color[1], color[2], flags};
     }
 }
@@ -73,9 +76,7 @@ std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) 
 void ScreenAnimation::Attach(PictureBox& box) {
     state_->box = &box;
     box.PaintInstead = [this](DeviceContext target) { Paint(target); };
-    const HDC screen = GetDC(nullptr);
-    if (HasPalette(screen)) state_->palette = OwnPalette(state_->screen);
-    ReleaseDC(nullptr, screen);
+    if (DisplayHasPalette()) state_->palette = OwnPalette(state_->screen);
     box.Repaint();
 }
 
@@ -94,9 +95,10 @@ void ScreenAnimation::Paint(DeviceContext target) {
     info.header.biBitCount = 8;
     HPALETTE former = nullptr;
     if (state_->palette) {
-        former = SelectPalette(target, state_->palette, FALSE);
+        former = SelectPalette(target, state_->palette, !state_->box->InActiveWindow());
         RealizePalette(target);
-        for (WORD i = 0; i < 256; ++i) info.numbers[i] = i;
+        for (int i = 0; i < 256; ++i)
+            info.numbers[i] = static_cast<WORD>((i - state_->screen.firstAnimated + 256) % 256);
     } else {
         for (int i = 0; i < 256; ++i) {
             const auto& color = state_->screen.palette[i];
@@ -120,8 +122,8 @@ void ScreenAnimation::Step() {
     // The display's own table changes; what is on the screen moves without being painted.
     PALETTEENTRY entries[256];
     FillEntries(state_->screen, entries);
-    const auto first = static_cast<UINT>(state_->screen.firstAnimated);
-    AnimatePalette(state_->palette, first, 256 - first, entries + first);
+    AnimatePalette(state_->palette, 0, static_cast<UINT>(256 - state_->screen.firstAnimated),
+                   entries);
 }
 
 }  // namespace vistrel

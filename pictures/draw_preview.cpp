@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "controls/display_palette.h"
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
 #include "pictures/little_endian.h"
@@ -29,6 +30,22 @@ std::optional<Size> DrawScaled(const std::string& path, PictureBox& target) {
     }
     DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width, scaled->picture.height);
     return Size{scaled->fileWidth, scaled->fileHeight};
+}
+
+bool ShowByLoader(const std::string& path, PictureBox& box) {
+    StandardPicture standard;
+    if (!LoadStandardPicture(path, standard)) return false;
+    box.SetScaleSize({standard.width, standard.height});
+    DrawOver(box, standard.pixels.data(), standard.width, standard.height);
+    return true;
+}
+
+bool ShowByReaders(const std::string& path, PictureBox& box) {
+    const auto picture = ReadPicture(path);
+    if (!picture) return false;
+    box.SetScaleSize({picture->width, picture->height});
+    DrawOver(box, picture->pixels.data(), picture->width, picture->height);
+    return true;
 }
 
 }  // namespace
@@ -66,17 +83,12 @@ void DrawPreview(const std::string& path, PictureBox& target) { DrawScaled(path,
 
 void ShowPictureInBox(const std::string& path, PictureBox& box) {
     box.Clear();
-    StandardPicture standard;
-    if (LoadStandardPicture(path, standard)) {
-        box.SetScaleSize({standard.width, standard.height});
-        DrawOver(box, standard.pixels.data(), standard.width, standard.height);
-        return;
-    }
-    // What the system's loader does not know, our own readers may.
-    if (const auto picture = ReadPicture(path)) {
-        box.SetScaleSize({picture->width, picture->height});
-        DrawOver(box, picture->pixels.data(), picture->width, picture->height);
-    }
+    // Where the display has a palette, the system's loader brings a picture down to colours that
+    // are there already, undithered: it is left what our own readers do not know.
+    if (DisplayHasPalette())
+        ShowByReaders(path, box) || ShowByLoader(path, box);
+    else
+        ShowByLoader(path, box) || ShowByReaders(path, box);
 }
 
 }  // namespace vistrel

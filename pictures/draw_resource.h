@@ -1,4 +1,4 @@
-// Pictures from the program's resources.
+// Draws pictures from the program's resources.
 #pragma once
 
 #include "controls/picture_box.h"
