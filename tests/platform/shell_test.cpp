@@ -139,18 +139,17 @@ std::string SelectedInBrowser(HWND dialog) {
     return item.pszText;
 }
 
-/// Gives a folder times as of one that was filled an hour ago: looking into a folder that has
-/// changed since the last look changes its time of last access, by which, among others, Wine's
-/// browser knows a folder again.
+/// Gives a folder a time of last access that looking into it does not change, for it lies ahead.
+/// Wine's browser knows a folder again by that time, among others.
 void KeepAccessTime(const std::string& folder) {
     FILETIME now;
     GetSystemTimeAsFileTime(&now);
     const ULONGLONG hour = 3600ull * 10'000'000;
-    const ULONGLONG before = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) - hour;
-    const FILETIME written = {static_cast<DWORD>(before), static_cast<DWORD>(before >> 32)};
+    const ULONGLONG later = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) + hour;
+    const FILETIME accessed = {static_cast<DWORD>(later), static_cast<DWORD>(later >> 32)};
     HANDLE open = CreateFileA(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    EXPECT_TRUE(SetFileTime(open, nullptr, &now, &written));
+    EXPECT_TRUE(SetFileTime(open, nullptr, &accessed, nullptr));
     CloseHandle(open);
 }
 
