@@ -5,7 +5,7 @@ build_packages="cmake ninja-build g++ g++-mingw-w64-i686-win32 g++-mingw-w64-x86
 wine_packages="wine wine64 fonts-wine fonts-liberation xvfb util-linux"
 test_packages="googletest libgtest-dev libgmock-dev libjpeg62-turbo-dev libgif-dev libbenchmark-dev"
 fuzz_packages="clang libclang-rt-14-dev"
-installer_packages="nsis zip"
+installer_packages="nsis zip git"
 runtime_packages="make dpkg-dev xz-utils"
 debian32_packages="debootstrap util-linux"
 
