@@ -4,6 +4,8 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "controls/display_palette.h"
 #include "controls/message_loop.h"
 #include "controls/picture_box.h"
@@ -186,6 +188,13 @@ void Window::CentreIn(const Rect& area) {
                  area.left + (area.width - static_cast<int>(r.right - r.left)) / 2,
                  area.top + (area.height - static_cast<int>(r.bottom - r.top)) / 2, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Window::FitInto(const Rect& area) {
+    const Size whole = WholeSize();
+    SetWindowPos(handle_, nullptr, 0, 0, std::min(whole.width, area.width),
+                 std::min(whole.height, area.height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    CentreIn(area);
 }
 
 void Window::RepaintAll() {

@@ -49,6 +49,8 @@ class Window {
     void SetClientSize(Size size);
     /// Puts the window into the middle of a part of the screen.
     void CentreIn(const Rect& area);
+    /// The same, and makes the window no larger than that part.
+    void FitInto(const Rect& area);
     /// Has the window painted anew with all its controls.
     void RepaintAll();
     /// Paints the window and its controls now, not when messages have been handled.

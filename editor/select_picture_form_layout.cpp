@@ -17,6 +17,9 @@ int Gap() { return Scaled(8); }
 /// The height of a picture of this width on the 4:3 screen that shows it.
 int ScreenHeight(int width) { return width * 3 / 4; }
 
+/// The width in dialog units that the texts of all columns need beside each other.
+constexpr Rect kNarrowest{0, 0, 384, 0};
+
 /// The dropped list of a combo box counts as its height.
 constexpr int kDroppedLines = 10;
 
@@ -26,11 +29,15 @@ Size SelPictureForm::SmallestSize() const { return smallest_; }
 
 void SelPictureForm::GrowToScreen() {
     smallest_ = WholeSize();
-    const Size least = ClientSize();
+    Size least = ClientSize();
     const Rect area = WorkArea();
+    const Size frame{smallest_.width - least.width, smallest_.height - least.height};
     // What the screen leaves beside the frame.
-    const int width = area.width - (smallest_.width - least.width);
-    const int height = area.height - (smallest_.height - least.height);
+    const int width = area.width - frame.width;
+    const int height = area.height - frame.height;
+    // With large fonts the template is wider than a screen of 800 x 600.
+    least.width = std::min(least.width, std::max(width, FromDialogUnits(kNarrowest).width));
+    smallest_.width = least.width + frame.width;
     SetClientSize({std::max(least.width, std::min(width, Scaled(780))),
                    std::max(least.height, std::min(height, Scaled(490)))});
     CentreIn(area);

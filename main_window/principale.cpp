@@ -87,6 +87,8 @@ void Principale::Form_Load() {
     settings_ = LoadSettings(locations_);
     ItmViewType_Click(settings_.view);
     ShowCustomProgramName();
+    // With large fonts the window would be wider than a screen of 800 x 600.
+    FitInto(WorkArea());
     // The boxes have their real sizes before anything is drawn into them.
     Form_Resize(ClientSize());
     LeggiDatiDisco();
@@ -153,6 +155,8 @@ void Principale::Form_Resize(Size client) {
         LblScreen[i].MoveTo({x, smallTop + smallWidth * 3 / 4 + 2, smallWidth, twoLines});
     }
     RedrawScreens();
+    // Controls that were moved over each other have copied what stood there.
+    RepaintAll();
 }
 
 std::intptr_t Principale::OnNotify(void* header) { return ActiveBar1.OnNotify(header); }
