@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "core/generali.h"
+#include "tests/support/started_program.h"
 
 namespace vistrel::test {
 
@@ -49,22 +50,17 @@ void Boot::CleanUp() {
 }
 
 Boot::Start Boot::Run(const std::string& commandLine) {
-    STARTUPINFOA startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    std::string line = bin + commandLine;
+    const StartedProgram program(bin + commandLine);
     Start start;
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
-        return start;
-    for (const DWORD begun = GetTickCount(); !start.ended && GetTickCount() - begun < 60000;) {
-        start.ended = WaitForSingleObject(process.hProcess, 5) == WAIT_OBJECT_0;
-        if (ShowsAWindow(process.dwProcessId)) start.showedAWindow = true;
+    if (!program) return start;
+    std::optional<DWORD> status;
+    for (const DWORD begun = GetTickCount(); !status && GetTickCount() - begun < 60000;) {
+        status = program.WaitForEnd(5);
+        if (ShowsAWindow(program.id())) start.showedAWindow = true;
     }
-    if (!start.ended) TerminateProcess(process.hProcess, 255);
-    GetExitCodeProcess(process.hProcess, &start.exitCode);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    if (!status) program.Terminate();
+    start.ended = status.has_value();
+    start.exitCode = status.value_or(255);
     return start;
 }
 

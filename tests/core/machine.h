@@ -33,6 +33,22 @@ std::vector<std::string> NamesIn(const std::string& folder);
 
 inline constexpr const char* kRunKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
+/// The names of all settings in the order in which they are saved.
+inline const std::vector<std::string> kSettingNames = {"SearchLogoPath",
+                                                       "View",
+                                                       "Synchronize logos",
+                                                       "StartUpDrive",
+                                                       "DefaultLogoSet",
+                                                       "DefaultAction",
+                                                       "CustomProgName",
+                                                       "CustomProgPath",
+                                                       "DeleteInTheRecycleBin",
+                                                       "ConfirmLogosetDelete",
+                                                       "ConfirmLogoTypeChange",
+                                                       "ShowSplashScreen",
+                                                       "LogoPath",
+                                                       "ActionOnDoubleClick"};
+
 struct StoredValue {
     unsigned long type = 0;
     std::string bytes;

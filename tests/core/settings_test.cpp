@@ -43,22 +43,6 @@ constexpr TextCase kTexts[] = {
     {"CustomProgPath", &Settings::customProgPath},
 };
 
-/// All value names in the order in which they are saved.
-const std::vector<std::string> kSaveOrder = {"SearchLogoPath",
-                                             "View",
-                                             "Synchronize logos",
-                                             "StartUpDrive",
-                                             "DefaultLogoSet",
-                                             "DefaultAction",
-                                             "CustomProgName",
-                                             "CustomProgPath",
-                                             "DeleteInTheRecycleBin",
-                                             "ConfirmLogosetDelete",
-                                             "ConfirmLogoTypeChange",
-                                             "ShowSplashScreen",
-                                             "LogoPath",
-                                             "ActionOnDoubleClick"};
-
 class SettingsTest : public Machine {
  protected:
     /// What one stored value loads as, all others missing.
@@ -277,7 +261,7 @@ TEST_F(SettingsTest, AllFourteenValuesAreSavedAsTextsWithoutANul) {
                                             "C:\\machine\\logos\\",
                                             "-3"};
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        EXPECT_EQ(Stored(kSaveOrder[i]), SavedText(texts[i])) << kSaveOrder[i];
+        EXPECT_EQ(Stored(kSettingNames[i]), SavedText(texts[i])) << kSettingNames[i];
     }
 }
 
@@ -322,8 +306,8 @@ TEST_F(SettingsTest, SavingEndsAtTheFirstValueThatCannotBeWritten) {
             ++failing;
             // The first operation creates the key, which is there; then two for each value.
             const std::size_t saved = operation == 1 ? 14 : (operation - 2) / 2;
-            for (std::size_t i = 0; i < kSaveOrder.size(); ++i) {
-                EXPECT_EQ(Stored(kSaveOrder[i]).has_value(), i < saved) << kSaveOrder[i];
+            for (std::size_t i = 0; i < kSettingNames.size(); ++i) {
+                EXPECT_EQ(Stored(kSettingNames[i]).has_value(), i < saved) << kSettingNames[i];
             }
             EXPECT_EQ(Stored("other"), TextValue("kept"));
         });

@@ -5,6 +5,7 @@
 #include <shlobj.h>
 
 #include "tests/core/machine.h"
+#include "tests/support/started_program.h"
 #include "tests/support/user.h"
 #include "tests/user/installed_program.h"
 
@@ -143,24 +144,15 @@ TEST_F(Installer, KeepsSettingsAndSetsWhenInstalledAgain) {
 /// The program, open.
 class InstallerBesideTheProgram : public Installer {
  protected:
-    ~InstallerBesideTheProgram() override {
-        TerminateProcess(process_.hProcess, 1);
-        WaitForSingleObject(process_.hProcess, 20000);
-        CloseHandle(process_.hThread);
-        CloseHandle(process_.hProcess);
-    }
+    ~InstallerBesideTheProgram() override { program_.Terminate(); }
 
     HWND OpenProgram() {
-        STARTUPINFOA how{};
-        how.cb = sizeof how;
-        std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
-        CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
-                       &process_);
-        return user::WaitForTop("Principale", "", process_.dwProcessId, 60000);
+        program_ = StartedProgram(kOpenProgram);
+        return user::WaitForTop("Principale", "", program_.id(), 60000);
     }
 
  private:
-    PROCESS_INFORMATION process_{};
+    StartedProgram program_;
 };
 
 TEST_F(InstallerBesideTheProgram, NeitherReplacesNorRemovesARunningProgram) {
@@ -178,14 +170,7 @@ TEST_F(InstallerBesideTheProgram, NeitherReplacesNorRemovesARunningProgram) {
 class InstallersWindows : public Installer {
  protected:
     HWND Open(const std::string& program, const std::string& title) {
-        STARTUPINFOA how{};
-        how.cb = sizeof how;
-        PROCESS_INFORMATION started{};
-        std::string line = "\"" + program + "\"";
-        CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
-                       &started);
-        CloseHandle(started.hThread);
-        CloseHandle(started.hProcess);
+        StartedProgram("\"" + program + "\"");
         const HWND window = user::WaitForTop("#32770", title);
         if (window) user::Activate(window);
         return window;

@@ -7,7 +7,8 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
     ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/started_program.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
 target_include_directories(windows_test SYSTEM

@@ -8,6 +8,7 @@
 
 #include "tests/core/machine.h"
 #include "tests/support/poll.h"
+#include "tests/support/started_program.h"
 
 namespace vistrel::test {
 
@@ -28,31 +29,14 @@ bool IsRunning(const std::string& beginning) {
 
 }  // namespace
 
-std::optional<unsigned long> RunToEnd(const std::string& commandLine) {
-    STARTUPINFOA how{};
-    how.cb = sizeof how;
-    PROCESS_INFORMATION started{};
-    std::string line = commandLine;
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
-                        &started))
-        return std::nullopt;
-    DWORD status = 0;
-    const bool ended = WaitForSingleObject(started.hProcess, 60000) == WAIT_OBJECT_0 &&
-                       GetExitCodeProcess(started.hProcess, &status);
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
-    if (!ended) return std::nullopt;
-    return status;
-}
-
 bool HasInstaller() { return Exists("C:\\test\\vistrel-setup.exe"); }
 
 std::optional<unsigned long> InstallSilently(const std::string& arguments) {
-    return RunToEnd("C:\\test\\vistrel-setup.exe /S " + arguments);
+    return StartedProgram("C:\\test\\vistrel-setup.exe /S " + arguments).WaitForEnd();
 }
 
 bool UninstallSilently(const std::string& folder) {
-    if (RunToEnd("\"" + folder + "uninst.exe\" /S") != 0u) return false;
+    if (StartedProgram("\"" + folder + "uninst.exe\" /S").WaitForEnd() != 0u) return false;
     // It goes on as a copy of itself, Un.exe.
     return WaitUntil([] { return !IsRunning("Un"); }) && !Exists(folder + "uninst.exe");
 }

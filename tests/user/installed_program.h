@@ -9,9 +9,8 @@
 namespace vistrel::test {
 
 inline const std::string kProgramFolder = "C:\\Program Files\\Vistrel\\";
-
-/// Runs a program to its end. Its exit status; nothing when it did not start or end.
-std::optional<unsigned long> RunToEnd(const std::string& commandLine);
+/// The command line that opens the program.
+inline const std::string kOpenProgram = "\"" + kProgramFolder + "vistrel.exe\"";
 
 /// Whether the installer lies beside the tests. It is a 32-bit program, which Wine for 64 bits
 /// cannot run.

@@ -7,21 +7,6 @@ namespace {
 
 using Story = RunningProgram;
 
-constexpr const char* kValues[] = {"SearchLogoPath",
-                                   "View",
-                                   "Synchronize logos",
-                                   "StartUpDrive",
-                                   "DefaultLogoSet",
-                                   "DefaultAction",
-                                   "CustomProgName",
-                                   "CustomProgPath",
-                                   "DeleteInTheRecycleBin",
-                                   "ConfirmLogosetDelete",
-                                   "ConfirmLogoTypeChange",
-                                   "ShowSplashScreen",
-                                   "LogoPath",
-                                   "ActionOnDoubleClick"};
-
 TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart) {
     HWND main = Start();
     ASSERT_NE(main, nullptr);
@@ -48,7 +33,7 @@ TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart
     EXPECT_TRUE(Contents("C:\\windows\\LOGOS.SYS") == Contents(shutdown));
     EXPECT_EQ(Contents("C:\\LOGO.SYS").value_or("").size(), 129078u);
     EXPECT_EQ(AttributesOf("C:\\msdos.sys"), DWORD{FILE_ATTRIBUTE_READONLY});
-    for (const char* name : kValues) {
+    for (const std::string& name : kSettingNames) {
         const auto value = Stored(name);
         ASSERT_TRUE(value.has_value()) << name;
         EXPECT_EQ(value->type, DWORD{REG_SZ}) << name;
@@ -101,7 +86,7 @@ TEST_F(Story, ChangesTheScreensAtEveryStartOfWindowsOnceToldTo) {
     SHGetSpecialFolderPathA(nullptr, startup, CSIDL_STARTUP, FALSE);
     const std::string target = TargetOf(std::string(startup) + "\\Rotaline.lnk");
     EXPECT_EQ(target, kProgramFolder + "Rotaline.exe");
-    EXPECT_EQ(RunToEnd("\"" + target + "\""), 0u);
+    EXPECT_EQ(StartedProgram("\"" + target + "\"").WaitForEnd(), 0u);
     EXPECT_TRUE(Contents("C:\\LOGO.SYS") == Contents(logos + "Sunrise.sls\\LOGO.SYS"));
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Sunrise.SLS"));
 }
@@ -115,12 +100,8 @@ TEST_F(Story, ShowsTheSplashScreenUnlessItIsSwitchedOff) {
 }
 
 TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
-    STARTUPINFOA how{};
-    how.cb = sizeof how;
-    PROCESS_INFORMATION started{};
-    std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
-    ASSERT_TRUE(CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &how, &started));
+    const StartedProgram program(kOpenProgram);
+    ASSERT_TRUE(program);
     // The main window exists, hidden, while the splash screen is shown.
     HWND hidden = nullptr;
     ASSERT_TRUE(WaitUntil([&] {
@@ -128,16 +109,14 @@ TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
         return hidden != nullptr;
     }));
     PostMessageA(hidden, WM_CLOSE, 0, 0);
-    EXPECT_EQ(WaitForSingleObject(started.hProcess, 60000), WAIT_OBJECT_0);
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
+    EXPECT_EQ(program.WaitForEnd(), 0u);
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Sunny Day"));
     EXPECT_EQ(Stored("LogoPath"), SavedText(logos));
 }
 
 TEST_F(Story, StandsGarbageInTheRegistry) {
     const std::string number = std::string("\x01\x02\x03\x04", 4);
-    for (const char* name : kValues) Store(name, {REG_BINARY, "\xff\xfe garbage"});
+    for (const std::string& name : kSettingNames) Store(name, {REG_BINARY, "\xff\xfe garbage"});
     Store("View", {REG_DWORD, number});
     Store("DefaultLogoSet", TextValue(std::string(4000, 'x')));
     Store("LogoPath", TextValue(logos));

@@ -27,23 +27,12 @@ RunningProgram::RunningProgram() {
     Store("DefaultLogoSet", TextValue("Sunny Day"));
 }
 
-RunningProgram::~RunningProgram() {
-    if (!running_) return;
-    TerminateProcess(running_, 1);
-    CloseHandle(running_);
-}
+RunningProgram::~RunningProgram() { running_.Terminate(); }
 
 HWND RunningProgram::Start() {
-    STARTUPINFOA how{};
-    how.cb = sizeof how;
-    PROCESS_INFORMATION started{};
-    std::string line = "\"" + kProgramFolder + "vistrel.exe\"";
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how,
-                        &started))
-        return nullptr;
-    CloseHandle(started.hThread);
-    running_ = started.hProcess;
-    process = started.dwProcessId;
+    running_ = StartedProgram(kOpenProgram);
+    if (!running_) return nullptr;
+    process = running_.id();
     const HWND main = user::WaitForTop("Principale", "", process, 60000);
     if (main) user::Activate(main);
     return main;
@@ -52,12 +41,8 @@ HWND RunningProgram::Start() {
 void RunningProgram::Close() {
     const HWND main = user::FindTop("Principale", "", process);
     PostMessageA(main, WM_SYSCOMMAND, SC_CLOSE, 0);
-    EXPECT_EQ(WaitForSingleObject(running_, 60000), WAIT_OBJECT_0);
-    DWORD status = 1;
-    GetExitCodeProcess(running_, &status);
-    EXPECT_EQ(status, 0u);
-    CloseHandle(running_);
-    running_ = nullptr;
+    EXPECT_EQ(running_.WaitForEnd(), 0u);
+    running_ = StartedProgram();
 }
 
 void RunningProgram::SelectSet(HWND main, int place) {

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "tests/core/machine.h"
+#include "tests/support/started_program.h"
 #include "tests/support/user.h"
 #include "tests/user/installed_program.h"
 
@@ -36,7 +37,7 @@ class RunningProgram : public testing::Test {
     DWORD process = 0;
 
  private:
-    HANDLE running_ = nullptr;
+    StartedProgram running_;
 };
 
 }  // namespace vistrel::test

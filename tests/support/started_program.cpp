@@ -1,0 +1,35 @@
+#include "tests/support/started_program.h"
+
+namespace vistrel::test {
+
+StartedProgram::StartedProgram(std::string commandLine) {
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process))
+        return;
+    CloseHandle(process.hThread);
+    handle_ = process.hProcess;
+    id_ = process.dwProcessId;
+}
+
+StartedProgram::~StartedProgram() {
+    if (handle_) CloseHandle(handle_);
+}
+
+std::optional<DWORD> StartedProgram::WaitForEnd(DWORD milliseconds) const {
+    DWORD status = 0;
+    if (!handle_ || WaitForSingleObject(handle_, milliseconds) != WAIT_OBJECT_0 ||
+        !GetExitCodeProcess(handle_, &status))
+        return std::nullopt;
+    return status;
+}
+
+void StartedProgram::Terminate() const {
+    if (!handle_) return;
+    TerminateProcess(handle_, 1);
+    WaitForSingleObject(handle_, 20000);
+}
+
+}  // namespace vistrel::test
