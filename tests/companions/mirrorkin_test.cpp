@@ -4,7 +4,6 @@
 #include "companions/mirror_screens.h"
 #include "platform/fault.h"
 #include "tests/companions/boot.h"
-#include "tests/support/started_program.h"
 #include "tests/support/user.h"
 
 namespace vistrel::test {
@@ -30,7 +29,14 @@ bool WasWritten(const std::string& path) {
 
 /// Runs a command of the system below Wine; nothing tells when it has ended.
 void RunBelow(const std::string& command) {
-    ASSERT_TRUE(StartedProgram("Z:\\bin\\sh -c \"" + command + "\""));
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    std::string line = "Z:\\bin\\sh -c \"" + command + "\"";
+    ASSERT_TRUE(CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                               &startup, &process));
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
 }
 
 /// Takes the right to make and remove files in the Windows directory away for as long as it lives.
