@@ -53,8 +53,11 @@ class ClosedWindowsDirectory {
     bool IsClosed() const { return closed_; }
 
  private:
+    /// Each probe has a name of its own: one that the directory has been closed over stays.
     static bool CanWrite() {
-        HANDLE file = CreateFileA("C:\\windows\\probe", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+        static int probes = 0;
+        const std::string probe = "C:\\windows\\probe" + std::to_string(++probes);
+        HANDLE file = CreateFileA(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                   FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         if (file == INVALID_HANDLE_VALUE) return false;
         CloseHandle(file);
