@@ -10,7 +10,7 @@ namespace {
 // The system keeps 20 of the 256 colours and leaves 236. Of these 240, the 8 that have only the
 // channels' ends are among the system's, so that all find room. The eye tells green best and blue
 // worst; errors against the undithered picture, blurred, are a quarter smaller in brightness than
-// with 6 levels of each and no larger in colour.
+// with 6 levels of each and hardly larger in colour.
 constexpr int kChannels = 3;
 constexpr int kLevels[kChannels] = {6, 8, 5};
 static_assert(kLevels[0] * kLevels[1] * kLevels[2] == kDisplayColors);

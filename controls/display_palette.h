@@ -28,8 +28,8 @@ inline constexpr int kDisplayColors = 240;
 std::vector<std::uint8_t> DitherToDisplayPalette(const std::uint8_t* rgb, int width, int height);
 
 /// A bitmap whose pixels are numbers of DisplayPalette's entries. It keeps its colours whatever
-/// becomes of the display's: one of the display's own kind would hold places of the display's table,
-/// in which other programs put other colours.
+/// becomes of the display's: one of the display's own kind would hold places of the display's
+/// table, in which other programs put other colours.
 BitmapHandle DisplayPaletteBitmap(int width, int height);
 
 /// Paints such a bitmap on the display, stretched to width x height. `active`: its colours are
