@@ -108,6 +108,8 @@ class Animation : public MainWindow98 {
 
     static COLORREF MiddleOf(HWND window) {
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW);
+        // What the window's own thread has begun to paint is to be finished.
+        SendMessageA(window, WM_NULL, 0, 0);
         const HDC dc = GetDC(window);
         const COLORREF color = GetPixel(dc, 160, 200);
         ReleaseDC(window, dc);

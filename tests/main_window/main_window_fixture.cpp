@@ -27,6 +27,8 @@ std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blu
 
 COLORREF MiddleOf(const PictureBox& box) {
     RedrawWindow(box.handle(), nullptr, nullptr, RDW_UPDATENOW);
+    // Nothing was left to paint where the window's own thread had begun: let it finish.
+    SendMessageA(box.handle(), WM_NULL, 0, 0);
     const HDC dc = GetDC(box.handle());
     const COLORREF color = GetPixel(dc, box.ScaleWidth() / 2, box.ScaleHeight() / 2);
     ReleaseDC(box.handle(), dc);
