@@ -1,5 +1,5 @@
-// Scaling in two passes: rows into a target row first, then that row along itself. No more is kept
-// of the picture between the passes than one row.
+// Scaling in two passes: rows into a target row first, then a few of those along themselves. No
+// more is kept of the picture between the passes than these.
 #include "pictures/resize.h"
 
 #include <algorithm>
@@ -57,17 +57,22 @@ RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, in
     const std::size_t apart = std::size_t(sourceWidth) + kTapGroup;
     std::vector<const std::uint8_t*> rows(down.mostTaps);
     std::vector<std::int16_t> mixed(rowBytes);
-    std::vector<std::int16_t> channels(3 * apart);
-    std::vector<std::int16_t> scaled(std::size_t(width) * 3);
-    std::uint8_t* target = result.pixels.data();
-    for (const FilterTaps& taps : down.taps) {
-        for (int k = 0; k < taps.count; ++k) rows[k] = rgb + rowBytes * (taps.first + k);
-        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, static_cast<int>(rowBytes),
-                  down.shift - kFractionBits, mixed.data());
-        SplitChannels(mixed.data(), sourceWidth, apart, channels.data());
-        for (int c = 0; c < 3; ++c) WeighAlong(across, &channels[c * apart], 3, &scaled[c]);
-        RoundToBytes(scaled.data(), scaled.size(), target);
-        target += scaled.size();
+    std::vector<std::int16_t> channels(kRowsAtOnce * 3 * apart);
+    const std::size_t scaledRow = std::size_t(width) * 3;
+    std::vector<std::int16_t> scaled(kRowsAtOnce * scaledRow);
+    for (int y = 0; y < height; y += kRowsAtOnce) {
+        const int count = std::min(kRowsAtOnce, height - y);
+        for (int i = 0; i < count; ++i) {
+            const FilterTaps& taps = down.taps[y + i];
+            for (int k = 0; k < taps.count; ++k) rows[k] = rgb + rowBytes * (taps.first + k);
+            WeighRows(rows.data(), down.WeightsOf(taps), taps.count, static_cast<int>(rowBytes),
+                      down.shift - kFractionBits, mixed.data());
+            SplitChannels(mixed.data(), sourceWidth, apart, &channels[i * 3 * apart]);
+        }
+        for (int c = 0; c < 3; ++c) {
+            WeighAlong(across, {&channels[c * apart], 3 * apart}, {&scaled[c], scaledRow}, 3);
+        }
+        RoundToBytes(scaled.data(), scaledRow * count, &result.pixels[scaledRow * y]);
     }
     return result;
 }
@@ -79,8 +84,11 @@ struct PlaneScaler::State {
           samples(acrossAxis.samples),
           kept(std::size_t(down.mostTaps) * samples),
           rows(down.mostTaps),
-          mixed(std::size_t(samples) + kTapGroup),
-          plane(std::size_t(acrossAxis.target) * downAxis.target) {}
+          mixedRow(std::size_t(samples) + kTapGroup),
+          mixed(kRowsAtOnce * mixedRow),
+          plane(std::size_t(acrossAxis.target) * RoundedUp(downAxis.target)) {}
+
+    static int RoundedUp(int rows) { return (rows + kRowsAtOnce - 1) / kRowsAtOnce * kRowsAtOnce; }
 
     std::int16_t* KeptRow(int y) { return &kept[std::size_t(y % down.mostTaps) * samples]; }
 
@@ -92,9 +100,16 @@ struct PlaneScaler::State {
     void MakeNextTargetRow() {
         const FilterTaps& taps = down.taps[nextTarget];
         for (int k = 0; k < taps.count; ++k) rows[k] = KeptRow(taps.first + k);
-        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, samples, down.shift, mixed.data());
-        WeighAlong(across, mixed.data(), 1, &plane[nextTarget * across.taps.size()]);
+        const std::size_t inGroup = nextTarget % kRowsAtOnce;
+        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, samples, down.shift,
+                  &mixed[inGroup * mixedRow]);
         ++nextTarget;
+        const bool isLast = nextTarget == down.taps.size();
+        if (inGroup < kRowsAtOnce - 1 && !isLast) return;
+        const std::size_t width = across.taps.size();
+        WeighAlong(across, {mixed.data(), mixedRow},
+                   {&plane[(nextTarget - 1 - inGroup) * width], width}, 1);
+        if (isLast) plane.resize(nextTarget * width);
     }
 
     const FilterAxis across;
@@ -102,8 +117,9 @@ struct PlaneScaler::State {
     const int samples;
     std::vector<std::int16_t> kept;  ///< the last source rows, each at its number modulo mostTaps
     std::vector<const std::int16_t*> rows;
-    std::vector<std::int16_t> mixed;
-    std::vector<std::int16_t> plane;
+    const std::size_t mixedRow;       ///< length of a row of `mixed`
+    std::vector<std::int16_t> mixed;  ///< the target rows that wait for being weighed along
+    std::vector<std::int16_t> plane;  ///< whole groups of target rows until complete
     int added = 0;
     std::size_t nextTarget = 0;
 };

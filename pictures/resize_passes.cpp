@@ -3,6 +3,7 @@
 #include "pictures/resize_passes.h"
 
 #include <algorithm>
+#include <cstring>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -56,6 +57,13 @@ __m128i Load8(const std::uint8_t* at) {
                              _mm_setzero_si128());
 }
 
+/// Two neighbouring weights, four times.
+__m128i LoadPair(const std::int16_t* weights) {
+    std::int32_t pair;
+    std::memcpy(&pair, weights, sizeof pair);
+    return _mm_set1_epi32(pair);
+}
+
 /// Eight columns at a time; returns how many columns are done.
 template <class Sample>
 int WeighColumnsBy8(const Sample* const* rows, const std::int16_t* weights, int count, int length,
@@ -67,11 +75,10 @@ int WeighColumnsBy8(const Sample* const* rows, const std::int16_t* weights, int 
         __m128i low = half;
         __m128i high = half;
         for (int k = 0; k < count; k += 2) {
-            const bool pair = k + 1 < count;
+            // Behind an odd last weight stands a zero: any row will do.
             const __m128i one = Load8(rows[k] + x);
-            const __m128i two = pair ? Load8(rows[k + 1] + x) : _mm_setzero_si128();
-            const int second = pair ? weights[k + 1] : 0;
-            const __m128i weight = _mm_set1_epi32((weights[k] & 0xFFFF) | (second << 16));
+            const __m128i two = Load8(rows[std::min(k + 1, count - 1)] + x);
+            const __m128i weight = LoadPair(weights + k);
             low = _mm_add_epi32(low, _mm_madd_epi16(_mm_unpacklo_epi16(one, two), weight));
             high = _mm_add_epi32(high, _mm_madd_epi16(_mm_unpackhi_epi16(one, two), weight));
         }
@@ -82,14 +89,11 @@ int WeighColumnsBy8(const Sample* const* rows, const std::int16_t* weights, int 
     return x;
 }
 
-std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weights, int count) {
-    __m128i sum = _mm_setzero_si128();
-    for (int k = 0; k < count; k += kTapGroup) {
-        sum = _mm_add_epi32(sum, _mm_madd_epi16(Load8(samples + k), Load8(weights + k)));
-    }
-    sum = _mm_add_epi32(sum, _mm_shuffle_epi32(sum, _MM_SHUFFLE(1, 0, 3, 2)));
-    sum = _mm_add_epi32(sum, _mm_shuffle_epi32(sum, _MM_SHUFFLE(2, 3, 0, 1)));
-    return _mm_cvtsi128_si32(sum);
+/// The totals of four vectors, as one.
+__m128i TotalsOf(__m128i a, __m128i b, __m128i c, __m128i d) {
+    const __m128i ab = _mm_add_epi32(_mm_unpacklo_epi32(a, b), _mm_unpackhi_epi32(a, b));
+    const __m128i cd = _mm_add_epi32(_mm_unpacklo_epi32(c, d), _mm_unpackhi_epi32(c, d));
+    return _mm_add_epi32(_mm_unpacklo_epi64(ab, cd), _mm_unpackhi_epi64(ab, cd));
 }
 #else
 template <class Sample>
@@ -98,13 +102,23 @@ int WeighColumnsBy8(const Sample* const*, const std::int16_t*, int, int, int, st
 }
 
 std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weights, int count) {
-    static_assert(kTapGroup % 4 == 0);
+    static_assert(kTapGroup % 2 == 0);
     std::int32_t sum = 0;
-    for (int k = 0; k < count; k += 4) {
-        sum += samples[k] * weights[k] + samples[k + 1] * weights[k + 1] +
-               samples[k + 2] * weights[k + 2] + samples[k + 3] * weights[k + 3];
+    for (int k = 0; k < count; k += 2) {
+        sum += samples[k] * weights[k] + samples[k + 1] * weights[k + 1];
     }
     return sum;
+}
+
+void WeighRowAlong(const FilterAxis& filter, const std::int16_t* row, int stride,
+                   std::int16_t* result) {
+    const std::int32_t half = 1 << (filter.shift - 1);
+    for (const FilterTaps& taps : filter.taps) {
+        const std::int32_t sum =
+            WeightedSum(row + taps.first, filter.WeightsOf(taps), taps.count) + half;
+        *result = Narrow(sum >> filter.shift);
+        result += stride;
+    }
 }
 #endif
 
@@ -122,15 +136,40 @@ void WeighRows(const std::int16_t* const* rows, const std::int16_t* weights, int
     WeighColumns(rows, weights, count, done, length, shift, sums);
 }
 
-void WeighAlong(const FilterAxis& filter, const std::int16_t* row, int stride,
-                std::int16_t* result) {
-    const std::int32_t half = 1 << (filter.shift - 1);
+#ifdef __SSE2__
+void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
+                RowGroup<std::int16_t> results, int stride) {
+    static_assert(kRowsAtOnce == 4);
+    const __m128i half = _mm_set1_epi32(1 << (filter.shift - 1));
+    const __m128i places = _mm_cvtsi32_si128(filter.shift);
+    std::ptrdiff_t at = 0;
     for (const FilterTaps& taps : filter.taps) {
-        const std::int32_t sum =
-            WeightedSum(row + taps.first, filter.WeightsOf(taps), taps.count) + half;
-        *result = Narrow(sum >> filter.shift);
-        result += stride;
+        const std::int16_t* const weights = filter.WeightsOf(taps);
+        __m128i a = _mm_setzero_si128(), b = a, c = a, d = a;
+        for (int k = 0; k < taps.count; k += kTapGroup) {
+            const __m128i weight = Load8(weights + k);
+            const int from = taps.first + k;
+            a = _mm_add_epi32(a, _mm_madd_epi16(Load8(rows.Row(0) + from), weight));
+            b = _mm_add_epi32(b, _mm_madd_epi16(Load8(rows.Row(1) + from), weight));
+            c = _mm_add_epi32(c, _mm_madd_epi16(Load8(rows.Row(2) + from), weight));
+            d = _mm_add_epi32(d, _mm_madd_epi16(Load8(rows.Row(3) + from), weight));
+        }
+        const __m128i sums = _mm_sra_epi32(_mm_add_epi32(TotalsOf(a, b, c, d), half), places);
+        const __m128i narrow = _mm_packs_epi32(sums, sums);
+        results.Row(0)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 0));
+        results.Row(1)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 1));
+        results.Row(2)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 2));
+        results.Row(3)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 3));
+        at += stride;
     }
 }
+#else
+void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
+                RowGroup<std::int16_t> results, int stride) {
+    for (int i = 0; i < kRowsAtOnce; ++i) {
+        WeighRowAlong(filter, rows.Row(i), stride, results.Row(i));
+    }
+}
+#endif
 
 }  // namespace vistrel
