@@ -8,13 +8,6 @@
 
 namespace vistrel {
 
-/// Bits behind the point that the results of columns keep for the rows.
-inline constexpr int kColumnBits = 2;
-/// The two ways of a block together make eight times its samples.
-inline constexpr int kBlockBits = 3;
-/// Bits that the sums of rows have more than samples.
-inline constexpr int kSumBits = kTermBits + kColumnBits + kBlockBits;
-
 namespace inverse_block {
 
 /// The transform of a block that is zero but for the first kTerms of both ways.

@@ -9,14 +9,16 @@ namespace vistrel {
 
 BlockSteps StepsOf(const QuantTable& quant) {
     BlockSteps steps;
-    for (std::size_t k = 0; k < quant.size(); ++k) steps[kZigzag[k]] = quant[k];
+    for (std::size_t k = 0; k < quant.size(); ++k) steps.numbers[kZigzag[k]] = quant[k];
+    steps.forVectors = VectorSteps(steps.numbers);
     return steps;
 }
 
 void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_t* samples,
                  std::ptrdiff_t stride) {
+    if (InverseFullByVectors(steps.forVectors, block, samples, stride)) return;
     constexpr std::int32_t kMiddle = 128, kHighest = 255;
-    InverseBlock(block, steps.data(), [=](int row, const Wrapping* sums) {
+    InverseBlock(block, steps.numbers.data(), [=](int row, const Wrapping* sums) {
         std::uint8_t* to = samples + row * stride;
         std::int32_t values[8], all = 0;
         for (int x = 0; x < 8; ++x) {

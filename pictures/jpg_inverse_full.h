@@ -2,11 +2,15 @@
 #pragma once
 
 #include "pictures/jpg_frame.h"
+#include "pictures/jpg_inverse_vectors.h"
 
 namespace vistrel {
 
 /// Quantisation steps in the order of a block's rows.
-using BlockSteps = std::array<std::int32_t, kBlockSize>;
+struct BlockSteps {
+    std::array<std::int32_t, kBlockSize> numbers = {};
+    VectorSteps forVectors;
+};
 
 /// `quant` (in the file's order) in the order of a block's rows.
 BlockSteps StepsOf(const QuantTable& quant);

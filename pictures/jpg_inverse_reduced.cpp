@@ -101,19 +101,31 @@ constexpr std::array<void (*)(const RowJob&), 9> kRows = {
 }  // namespace
 
 ReducedInverse::ReducedInverse(const KeptFrequencies& kept, const QuantTable& quant)
-    : across_(kept.across),
-      down_(kept.down),
-      blockStride_(kept.stride),
+    : shape_{kept.across, kept.down, kept.stride},
       steps_(static_cast<std::size_t>(kept.stride)),
-      between_(static_cast<std::size_t>(kBlocksAtOnce * across_ * down_)) {
+      between_(static_cast<std::size_t>(kBlocksAtOnce * kept.across * kept.down)) {
     for (std::size_t k = 0; k < quant.size(); ++k) {
         if (kept.IsKept(static_cast<int>(k))) steps_[kept.slot[k]] = quant[k];
     }
+    vectorSteps_ = VectorSteps(steps_);
 }
 
 void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16_t* samples,
                                std::ptrdiff_t stride) {
-    if (across_ * down_ == kBlockSize) {
+    const auto blockAt = [&](int i) { return blocks + std::ptrdiff_t{i} * shape_.stride; };
+    for (int i = 0; i < count;) {
+        i += InverseByVectors(vectorSteps_, shape_, blockAt(i), count - i,
+                              samples + i * shape_.across, stride);
+        const int some = std::min(kBlocksAtOnce, count - i);
+        TransformBySingles(blockAt(i), some, samples + i * shape_.across, stride);
+        i += some;
+    }
+}
+
+// Does the same, for kBlocksAtOnce blocks at most, by arithmetic on single numbers.
+void ReducedInverse::TransformBySingles(const std::int16_t* blocks, int count,
+                                        std::int16_t* samples, std::ptrdiff_t stride) {
+    if (shape_.across * shape_.down == kBlockSize) {
         for (int i = 0; i < count; ++i, blocks += kBlockSize, samples += 8) {
             InverseBlock(blocks, steps_.data(), [=](int row, const Wrapping* sums) {
                 PutFine<8>(sums, samples + row * stride);
@@ -121,14 +133,10 @@ void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16
         }
         return;
     }
-    for (int first = 0; first < count; first += kBlocksAtOnce) {
-        const int some = std::min(kBlocksAtOnce, count - first);
-        kColumns[static_cast<std::size_t>(down_)](
-            {blocks + static_cast<std::ptrdiff_t>(first) * blockStride_, blockStride_, some,
-             across_, steps_.data(), between_.data()});
-        kRows[static_cast<std::size_t>(across_)](
-            {between_.data(), some, down_, samples + first * across_, stride});
-    }
+    kColumns[static_cast<std::size_t>(shape_.down)](
+        {blocks, shape_.stride, count, shape_.across, steps_.data(), between_.data()});
+    kRows[static_cast<std::size_t>(shape_.across)](
+        {between_.data(), count, shape_.down, samples, stride});
 }
 
 }  // namespace vistrel

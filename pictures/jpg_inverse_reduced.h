@@ -7,6 +7,7 @@
 #include "pictures/jpg_coefficients.h"
 #include "pictures/jpg_frame.h"
 #include "pictures/jpg_inverse_terms.h"
+#include "pictures/jpg_inverse_vectors.h"
 
 namespace vistrel {
 
@@ -27,13 +28,15 @@ class ReducedInverse {
                    std::ptrdiff_t stride);
 
  private:
+    void TransformBySingles(const std::int16_t* blocks, int count, std::int16_t* samples,
+                            std::ptrdiff_t stride);
+
     // The columns' results of a few blocks, not so many that they leave the processor's cache.
     static constexpr int kBlocksAtOnce = 16;
 
-    int across_;
-    int down_;
-    int blockStride_;
+    BlockShape shape_;
     std::vector<std::int32_t> steps_;
+    VectorSteps vectorSteps_;
     std::vector<Wrapping> between_;
 };
 

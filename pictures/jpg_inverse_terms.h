@@ -15,6 +15,12 @@ using Wrapping = std::uint32_t;
 
 /// Results of InverseTerms carry this many bits behind the point.
 inline constexpr int kTermBits = 13;
+/// Bits behind the point that the results of columns keep for the rows.
+inline constexpr int kColumnBits = 2;
+/// The two ways of a block together make eight times its samples.
+inline constexpr int kBlockBits = 3;
+/// Bits that the sums of rows have more than samples.
+inline constexpr int kSumBits = kTermBits + kColumnBits + kBlockBits;
 
 /// `sum` without its lowest `bits` bits, rounded.
 inline std::int32_t Descale(Wrapping sum, int bits) {
@@ -58,7 +64,7 @@ inline constexpr auto kWeights = Weights<N>();
 
 // The sum of the even (kOdd 0) or odd terms at sample n.
 template <int N, int kOdd, int n>
-inline Wrapping HalfSum(const Wrapping* in) {
+constexpr Wrapping HalfSum(const Wrapping* in) {
     return [in]<int... I>(std::integer_sequence<int, I...>) {
         return (Wrapping{0} + ... + (kWeights<N>[2 * I + kOdd][n] * in[2 * I + kOdd]));
     }
@@ -66,7 +72,7 @@ inline Wrapping HalfSum(const Wrapping* in) {
 }
 
 template <int N, int n>
-inline void SamplePair(const Wrapping* in, Wrapping* out) {
+constexpr void SamplePair(const Wrapping* in, Wrapping* out) {
     const Wrapping even = HalfSum<N, 0, n>(in);
     const Wrapping odd = HalfSum<N, 1, n>(in);
     out[n] = even + odd;
@@ -80,7 +86,7 @@ inline void SamplePair(const Wrapping* in, Wrapping* out) {
 /// eight times the samples of an 8 x 8 transform (T.81, A.3.3), whatever N is, so that the low
 /// frequencies of a block give the same picture with fewer samples.
 template <int N>
-inline void InverseTerms(const Wrapping* in, Wrapping* out) {
+constexpr void InverseTerms(const Wrapping* in, Wrapping* out) {
     [=]<int... I>(std::integer_sequence<int, I...>) {
         (inverse_terms::SamplePair<N, I>(in, out), ...);
     }
@@ -91,7 +97,7 @@ inline void InverseTerms(const Wrapping* in, Wrapping* out) {
 /// G. Moschytz, "Practical fast 1-D DCT algorithms with 11 multiplications" (1989). Its roundings
 /// are those of most decoders, so that they give the same samples.
 template <>
-inline void InverseTerms<8>(const Wrapping* in, Wrapping* out) {
+constexpr void InverseTerms<8>(const Wrapping* in, Wrapping* out) {
     using inverse_terms::Fixed;
     const Wrapping turned = (in[2] + in[6]) * Fixed(0.541196100);
     const Wrapping inner = turned - in[6] * Fixed(1.847759065);
