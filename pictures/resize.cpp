@@ -55,7 +55,7 @@ RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, in
     const FilterAxis across = MakeFilterAxis(WholeAxis(sourceWidth, width));
     const FilterAxis down = MakeFilterAxis(WholeAxis(sourceHeight, height));
     const std::size_t apart = std::size_t(sourceWidth) + kTapGroup;
-    std::vector<const std::uint8_t*> rows(down.mostTaps);
+    std::vector<const std::uint8_t*> rows(down.mostTaps + 1, rgb);
     std::vector<std::int16_t> mixed(rowBytes);
     std::vector<std::int16_t> channels(kRowsAtOnce * 3 * apart);
     const std::size_t scaledRow = std::size_t(width) * 3;
@@ -83,7 +83,7 @@ struct PlaneScaler::State {
           down(MakeFilterAxis(downAxis)),
           samples(acrossAxis.samples),
           kept(std::size_t(down.mostTaps) * samples),
-          rows(down.mostTaps),
+          rows(down.mostTaps + 1, kept.data()),
           mixedRow(std::size_t(samples) + kTapGroup),
           mixed(kRowsAtOnce * mixedRow),
           plane(std::size_t(acrossAxis.target) * RoundedUp(downAxis.target)) {}

@@ -64,27 +64,46 @@ __m128i LoadPair(const std::int16_t* weights) {
     return _mm_set1_epi32(pair);
 }
 
-/// Eight columns at a time; returns how many columns are done.
+/// Weighted sums of eight columns.
+template <class Sample>
+struct SumsOf8 {
+    __m128i low, high;
+
+    void Add(const Sample* one, const Sample* two, __m128i weights) {
+        const __m128i first = Load8(one), second = Load8(two);
+        low = _mm_add_epi32(low, _mm_madd_epi16(_mm_unpacklo_epi16(first, second), weights));
+        high = _mm_add_epi32(high, _mm_madd_epi16(_mm_unpackhi_epi16(first, second), weights));
+    }
+
+    void Store(__m128i places, std::int16_t* sums) const {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(sums),
+                         _mm_packs_epi32(_mm_sra_epi32(low, places), _mm_sra_epi32(high, places)));
+    }
+};
+
+/// Sixteen and then eight columns at a time; returns how many columns are done.
 template <class Sample>
 int WeighColumnsBy8(const Sample* const* rows, const std::int16_t* weights, int count, int length,
                     int shift, std::int16_t* sums) {
     const __m128i half = _mm_set1_epi32(1 << (shift - 1));
     const __m128i places = _mm_cvtsi32_si128(shift);
     int x = 0;
-    for (; x + 8 <= length; x += 8) {
-        __m128i low = half;
-        __m128i high = half;
+    for (; x + 16 <= length; x += 16) {
+        SumsOf8<Sample> left{half, half}, right{half, half};
         for (int k = 0; k < count; k += 2) {
-            // Behind an odd last weight stands a zero: any row will do.
-            const __m128i one = Load8(rows[k] + x);
-            const __m128i two = Load8(rows[std::min(k + 1, count - 1)] + x);
             const __m128i weight = LoadPair(weights + k);
-            low = _mm_add_epi32(low, _mm_madd_epi16(_mm_unpacklo_epi16(one, two), weight));
-            high = _mm_add_epi32(high, _mm_madd_epi16(_mm_unpackhi_epi16(one, two), weight));
+            left.Add(rows[k] + x, rows[k + 1] + x, weight);
+            right.Add(rows[k] + x + 8, rows[k + 1] + x + 8, weight);
         }
-        const __m128i result =
-            _mm_packs_epi32(_mm_sra_epi32(low, places), _mm_sra_epi32(high, places));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(sums + x), result);
+        left.Store(places, sums + x);
+        right.Store(places, sums + x + 8);
+    }
+    for (; x + 8 <= length; x += 8) {
+        SumsOf8<Sample> eight{half, half};
+        for (int k = 0; k < count; k += 2) {
+            eight.Add(rows[k] + x, rows[k + 1] + x, LoadPair(weights + k));
+        }
+        eight.Store(places, sums + x);
     }
     return x;
 }
@@ -142,25 +161,28 @@ void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
     static_assert(kRowsAtOnce == 4);
     const __m128i half = _mm_set1_epi32(1 << (filter.shift - 1));
     const __m128i places = _mm_cvtsi32_si128(filter.shift);
-    std::ptrdiff_t at = 0;
+    const std::size_t apart = rows.apart;
+    std::int16_t* to = results.first;
     for (const FilterTaps& taps : filter.taps) {
-        const std::int16_t* const weights = filter.WeightsOf(taps);
+        const std::int16_t* weights = filter.WeightsOf(taps);
+        const std::int16_t* from = rows.first + taps.first;
         __m128i a = _mm_setzero_si128(), b = a, c = a, d = a;
-        for (int k = 0; k < taps.count; k += kTapGroup) {
-            const __m128i weight = Load8(weights + k);
-            const int from = taps.first + k;
-            a = _mm_add_epi32(a, _mm_madd_epi16(Load8(rows.Row(0) + from), weight));
-            b = _mm_add_epi32(b, _mm_madd_epi16(Load8(rows.Row(1) + from), weight));
-            c = _mm_add_epi32(c, _mm_madd_epi16(Load8(rows.Row(2) + from), weight));
-            d = _mm_add_epi32(d, _mm_madd_epi16(Load8(rows.Row(3) + from), weight));
+        for (int left = taps.count; left > 0; left -= kTapGroup) {
+            const __m128i weight = Load8(weights);
+            a = _mm_add_epi32(a, _mm_madd_epi16(Load8(from), weight));
+            b = _mm_add_epi32(b, _mm_madd_epi16(Load8(from + apart), weight));
+            c = _mm_add_epi32(c, _mm_madd_epi16(Load8(from + 2 * apart), weight));
+            d = _mm_add_epi32(d, _mm_madd_epi16(Load8(from + 3 * apart), weight));
+            weights += kTapGroup;
+            from += kTapGroup;
         }
         const __m128i sums = _mm_sra_epi32(_mm_add_epi32(TotalsOf(a, b, c, d), half), places);
         const __m128i narrow = _mm_packs_epi32(sums, sums);
-        results.Row(0)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 0));
-        results.Row(1)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 1));
-        results.Row(2)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 2));
-        results.Row(3)[at] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 3));
-        at += stride;
+        to[0] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 0));
+        to[results.apart] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 1));
+        to[2 * results.apart] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 2));
+        to[3 * results.apart] = static_cast<std::int16_t>(_mm_extract_epi16(narrow, 3));
+        to += stride;
     }
 }
 #else

@@ -9,7 +9,8 @@
 namespace vistrel {
 
 /// Adds up `count` rows of `length` samples, each times its weight, and writes the sums shifted
-/// right by `shift`, rounded. The results must fit into 16 bits.
+/// right by `shift`, rounded. The results must fit into 16 bits. Behind an odd number of rows and
+/// weights stand a further row, which one does not matter, and a weight of 0.
 void WeighRows(const std::uint8_t* const* rows, const std::int16_t* weights, int count, int length,
                int shift, std::int16_t* sums);
 void WeighRows(const std::int16_t* const* rows, const std::int16_t* weights, int count, int length,
