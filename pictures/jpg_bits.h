@@ -47,6 +47,11 @@ struct BitReader {
         count += more * 8;
     }
 
+    /// Makes at least `bits` bits good (1 to 25).
+    void Ensure(int bits) {
+        if (count < bits) Refill();
+    }
+
     /// The next `bits` bits (1 to 16), which stay.
     unsigned Peek(int bits) const { return static_cast<unsigned>(word >> (kWordBits - bits)); }
 

@@ -9,9 +9,6 @@ namespace {
 
 constexpr int kRunOfSixteen = 0xF0;
 
-// Bits that one entry for skipping may pass: a 32-bit reader is sure of no more.
-constexpr int kMostSkipped = 24;
-
 }  // namespace
 
 bool HuffmanTable::Build(const HuffmanCode& code, bool isDc) {
@@ -99,7 +96,7 @@ unsigned HuffmanTable::LongSymbol(unsigned window) const {
                           offset_[static_cast<std::size_t>(length)];
         return static_cast<unsigned>(length) << 8 | symbols_[static_cast<std::size_t>(index & 255)];
     }
-    return (kLongestCode + 1) << 8;
+    return kMostSymbolBits << 8;
 }
 
 }  // namespace vistrel

@@ -31,6 +31,10 @@ class HuffmanTable {
  public:
     static constexpr int kQuickBits = 10;
     static constexpr int kSkipBits = 12;
+    /// Bits that Symbol may pass: where there is no code, one more than the longest has.
+    static constexpr int kMostSymbolBits = 17;
+    /// Bits that one entry for skipping may pass: a 32-bit reader is sure of no more.
+    static constexpr int kMostSkipped = 24;
 
     /// Builds the table. False when no such code exists: too many symbols or codes of a length.
     /// For a DC table no symbol may exceed 15.
@@ -47,7 +51,7 @@ class HuffmanTable {
     /// Makes the table for skipping, if it is not there yet.
     void PrepareSkipping();
 
-    /// Reads one symbol. At least 16 bits must be good. Bits that are no code give 0.
+    /// Reads one symbol. At least kMostSymbolBits bits must be good. Bits that are no code give 0.
     int Symbol(BitReader& bits) const {
         unsigned found = short_[bits.Peek(kQuickBits)];
         if (found == 0) found = LongSymbol(bits.Peek(kLongestCode));
@@ -56,7 +60,7 @@ class HuffmanTable {
     }
 
  private:
-    static constexpr int kLongestCode = 16;
+    static constexpr int kLongestCode = kMostSymbolBits - 1;
 
     unsigned LongSymbol(unsigned window) const;
     void FillQuick(bool isDc);

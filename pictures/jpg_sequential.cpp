@@ -21,7 +21,7 @@ struct Part {
 
 // The difference of a block's constant term from the one before it.
 int ReadDifference(BitReader& bits, const HuffmanTable& table) {
-    bits.Refill();
+    bits.Ensure(HuffmanTable::kMostSymbolBits);
     const QuickEntry entry = table.Quick(bits.Peek(HuffmanTable::kQuickBits));
     if (entry.bits) {
         bits.Skip(entry.bits);
@@ -29,7 +29,7 @@ int ReadDifference(BitReader& bits, const HuffmanTable& table) {
     }
     const int size = table.Symbol(bits);
     if (size == 0) return 0;
-    bits.Refill();
+    bits.Ensure(16);
     return ExtendSign(bits.Take(size), size);
 }
 
@@ -39,7 +39,7 @@ int ReadNeeded(BitReader& bits, const HuffmanTable& table, const KeptFrequencies
                std::int16_t* block) {
     int k = 1;
     while (k <= kept.last) {
-        bits.Refill();
+        bits.Ensure(HuffmanTable::kMostSymbolBits);
         const QuickEntry entry = table.Quick(bits.Peek(HuffmanTable::kQuickBits));
         if (entry.bits) {
             bits.Skip(entry.bits);
@@ -52,7 +52,7 @@ int ReadNeeded(BitReader& bits, const HuffmanTable& table, const KeptFrequencies
         if (size == 0 && run != 15) return kBlockEnd;
         k += run + 1;
         if (size == 0) continue;
-        bits.Refill();
+        bits.Ensure(16);
         block[kept.slot[static_cast<std::size_t>(k - 1)]] =
             static_cast<std::int16_t>(ExtendSign(bits.Take(size), size));
     }
@@ -62,7 +62,7 @@ int ReadNeeded(BitReader& bits, const HuffmanTable& table, const KeptFrequencies
 // Passes over the coefficients from position `k` on.
 void SkipNeedless(BitReader& bits, const HuffmanTable& table, int k) {
     while (k < kBlockSize) {
-        bits.Refill();
+        bits.Ensure(HuffmanTable::kMostSkipped);
         const SkipEntry entry = table.Skipping(bits.Peek(HuffmanTable::kSkipBits));
         const int reached = k + entry.advance;
         // A full block has no code for its end: what seems to lie beyond belongs to the next one.
@@ -77,7 +77,7 @@ void SkipNeedless(BitReader& bits, const HuffmanTable& table, int k) {
         const int run = symbol >> 4, size = symbol & 15;
         if (size == 0 && run != 15) return;
         k += run + 1;
-        bits.Refill();
+        bits.Ensure(16);
         bits.Skip(size);
     }
 }
