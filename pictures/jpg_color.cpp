@@ -11,11 +11,12 @@
 namespace vistrel {
 namespace {
 
-// The weights of JFIF times 65,536.
-constexpr int kRedOfCr = 91881;    // 1.402
-constexpr int kGreenOfCb = 22554;  // 0.34414
-constexpr int kGreenOfCr = 46802;  // 0.71414
-constexpr int kBlueOfCb = 116130;  // 1.772
+// The weights of JFIF, less the nearest whole numbers, times 65,536: so no product of theirs with a
+// number of 16 bits overflows.
+constexpr int kRedOfCr = 91881 - 65536;        // 1.402
+constexpr int kGreenOfCb = -22554;             // -0.34414
+constexpr int kGreenOfCr = 65536 - 46802;      // -0.71414
+constexpr int kBlueOfCb = 116130 - 2 * 65536;  // 1.772
 constexpr int kShift = 16;
 constexpr int kHalf = 1 << (kShift - 1);
 
@@ -25,9 +26,9 @@ struct Rgb {
 
 // `cb` and `cr` count from the middle of their range, in the same units as `y`.
 inline Rgb YccToRgb(int y, int cb, int cr) {
-    return {y + ((kRedOfCr * cr + kHalf) >> kShift),
-            y + ((-kGreenOfCb * cb - kGreenOfCr * cr + kHalf) >> kShift),
-            y + ((kBlueOfCb * cb + kHalf) >> kShift)};
+    return {y + cr + ((kRedOfCr * cr + kHalf) >> kShift),
+            y - cr + ((kGreenOfCb * cb + kGreenOfCr * cr + kHalf) >> kShift),
+            y + 2 * cb + ((kBlueOfCb * cb + kHalf) >> kShift)};
 }
 
 inline int Clamp(int value) { return std::clamp(value, 0, 255); }
@@ -103,15 +104,13 @@ __m128i Weighed(__m128i ofA, __m128i ofB) {
     return _mm_packs_epi32(sum(_mm_unpacklo_epi16(ofA, ofB)), sum(_mm_unpackhi_epi16(ofA, ofB)));
 }
 
-// Weights are parted into a whole number and what fits into 16 bits. The whole parts come first:
-// where a sum stops at the limit of 16 bits, what follows leaves it far outside the range of bytes,
-// as it should be.
+// The whole parts of the weights come first: where a sum stops at the limit of 16 bits, what
+// follows leaves it far outside the range of bytes, as it should be.
 RgbBy8 YccToRgb(__m128i y, __m128i cb, __m128i cr) {
-    constexpr int kOne = 1 << kShift;
-    return {_mm_adds_epi16(_mm_adds_epi16(y, cr), Weighed<kRedOfCr - kOne, 0>(cr, cr)),
-            _mm_adds_epi16(_mm_subs_epi16(y, cr), Weighed<-kGreenOfCb, kOne - kGreenOfCr>(cb, cr)),
-            _mm_adds_epi16(_mm_adds_epi16(_mm_adds_epi16(y, cb), cb),
-                           Weighed<kBlueOfCb - 2 * kOne, 0>(cb, cb))};
+    return {
+        _mm_adds_epi16(_mm_adds_epi16(y, cr), Weighed<kRedOfCr, 0>(cr, cr)),
+        _mm_adds_epi16(_mm_subs_epi16(y, cr), Weighed<kGreenOfCb, kGreenOfCr>(cb, cr)),
+        _mm_adds_epi16(_mm_adds_epi16(_mm_adds_epi16(y, cb), cb), Weighed<kBlueOfCb, 0>(cb, cb))};
 }
 
 // Fine samples as bytes, in the lower half.
