@@ -128,17 +128,6 @@ std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weight
     }
     return sum;
 }
-
-void WeighRowAlong(const FilterAxis& filter, const std::int16_t* row, int stride,
-                   std::int16_t* result) {
-    const std::int32_t half = 1 << (filter.shift - 1);
-    for (const FilterTaps& taps : filter.taps) {
-        const std::int32_t sum =
-            WeightedSum(row + taps.first, filter.WeightsOf(taps), taps.count) + half;
-        *result = Narrow(sum >> filter.shift);
-        result += stride;
-    }
-}
 #endif
 
 }  // namespace
@@ -188,8 +177,15 @@ void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
 #else
 void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
                 RowGroup<std::int16_t> results, int stride) {
-    for (int i = 0; i < kRowsAtOnce; ++i) {
-        WeighRowAlong(filter, rows.Row(i), stride, results.Row(i));
+    const std::int32_t half = 1 << (filter.shift - 1);
+    std::int16_t* to = results.first;
+    for (const FilterTaps& taps : filter.taps) {
+        const std::int16_t* const weights = filter.WeightsOf(taps);
+        for (int i = 0; i < kRowsAtOnce; ++i) {
+            const std::int32_t sum = WeightedSum(rows.Row(i) + taps.first, weights, taps.count);
+            to[static_cast<std::size_t>(i) * results.apart] = Narrow((sum + half) >> filter.shift);
+        }
+        to += stride;
     }
 }
 #endif
