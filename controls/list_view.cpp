@@ -181,8 +181,7 @@ std::intptr_t ListView::OnNotify(void* header) {
         }
         case NM_CLICK:
         case NM_RCLICK: {
-            // The control waits for the release itself and then tells so; the release is not seen
-            // as a message of its own.
+            // The control waits for the release itself and then tells so.
             POINT at{};
             GetCursorPos(&at);
             ScreenToClient(handle(), &at);
@@ -210,8 +209,9 @@ std::intptr_t ListView::OnNotify(void* header) {
 
 bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                          std::intptr_t& result) {
-    // Releases arrive as NM_CLICK and NM_RCLICK.
-    if (message == WM_LBUTTONUP || message == WM_RBUTTONUP) return false;
+    // Releases arrive as NM_CLICK and NM_RCLICK. The right button's is a message of its own where
+    // the control saw the beginning of a drag: the hand was not steady.
+    if (message == WM_LBUTTONUP) return false;
     if (message == WM_DESTROY) dropTarget_.reset();
     return Control::OnMessage(message, wParam, lParam, result);
 }

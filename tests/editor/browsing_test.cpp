@@ -300,6 +300,17 @@ TEST_F(Browsing, TheManageMenuPutsThePictureIntoASlot) {
     });
 }
 
+TEST_F(Browsing, TheManageMenuOpensForAnUnsteadyHandToo) {
+    Put(pictures + "new.sys", ScreenFile(0, 255, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const POINT at = PointOfItem(editor, "new.sys");
+        user::RightDrag(at, {at.x + 15, at.y + 5});
+        const HMENU menu = user::WaitForPopUp();
+        EXPECT_EQ(GetMenuState(menu, ID_ItmSetLogo, MF_BYCOMMAND) & MF_GRAYED, 0u);
+        DismissMenu();
+    });
+}
+
 TEST_F(Browsing, TheManageMenuOffersNoSlotThatIsNotShown) {
     Put(pictures + "new.sys", ScreenFile(0, 255, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {

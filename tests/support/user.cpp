@@ -176,9 +176,11 @@ void RightClickAt(POINT point) {
     ClickButton(point, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 1);
 }
 
-void Drag(POINT from, POINT to) {
+namespace {
+
+void DragWith(DWORD down, DWORD up, POINT from, POINT to) {
     MoveTo(from);
-    Send({MouseInput(MOUSEEVENTF_LEFTDOWN, from)});
+    Send({MouseInput(down, from)});
     constexpr int kSteps = 10;
     for (int step = 1; step <= kSteps; ++step) {
         MoveTo(
@@ -186,7 +188,15 @@ void Drag(POINT from, POINT to) {
         // Whoever drags looks at each position once; moves in the queue would become one.
         WaitUntil([start = GetTickCount()] { return GetTickCount() - start >= 20; });
     }
-    Send({MouseInput(MOUSEEVENTF_LEFTUP, to)});
+    Send({MouseInput(up, to)});
+}
+
+}  // namespace
+
+void Drag(POINT from, POINT to) { DragWith(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, from, to); }
+
+void RightDrag(POINT from, POINT to) {
+    DragWith(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, from, to);
 }
 
 bool Click(HWND window) {

@@ -62,6 +62,8 @@ void DoubleClickAt(POINT point);
 void RightClickAt(POINT point);
 /// Presses the left button at one point, moves in small steps to the other and lets go.
 void Drag(POINT from, POINT to);
+/// The same with the right button.
+void RightDrag(POINT from, POINT to);
 
 /// Clicks the middle of a window. Returns false, without a click, when it cannot be seen there
 /// within a second because it is hidden or another window lies above it.
