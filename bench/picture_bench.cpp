@@ -1,18 +1,19 @@
 // picture-bench: one step of the comparison of colour reductions a call; see compare_pictures.
 #include <gd.h>
-#include <libimagequant.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <functional>
 #include <string>
 
 #include "bench/picture_baselines.h"
+#include "bench/picture_imagequant.h"
 #include "bench/picture_metrics.h"
+#include "bench/picture_whole_way.h"
+#include "bench/processor_time.h"
 #include "pictures/convert.h"
 #include "pictures/quantize.h"
 
@@ -120,48 +121,26 @@ MetricPicture Colored(const MetricPicture& size, const std::vector<std::uint8_t>
 using Triple = std::array<int, 3>;
 using Reduction = std::function<MetricPicture(const MetricPicture&, double& milliseconds)>;
 
-double Now() {
-    timespec time;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
 MetricPicture ReduceOurs(const MetricPicture& picture, Dither dither, double& milliseconds) {
     std::vector<std::uint8_t> indices(picture.pixels.size() / 3);
     std::vector<std::uint8_t> palette(kColors * 4);
-    const double start = Now();
+    const double start = ProcessorTime();
     QuantizeRgb(picture.pixels.data(), picture.width, picture.height, kColors, indices.data(),
                 palette.data(), dither);
-    milliseconds = Now() - start;
+    milliseconds = ProcessorTime() - start;
     return Colored(picture, indices, [&](int i) {
         return Triple{palette[4 * i + 2], palette[4 * i + 1], palette[4 * i]};
     });
 }
 
-MetricPicture ReduceByImagequant(const MetricPicture& picture, int speed, double& milliseconds) {
-    std::vector<std::uint8_t> indices(picture.pixels.size() / 3);
-    std::vector<std::uint8_t> rgba;
-    for (std::size_t i = 0; i < picture.pixels.size(); i += 3) {
-        rgba.insert(rgba.end(),
-                    {picture.pixels[i], picture.pixels[i + 1], picture.pixels[i + 2], 255});
-    }
-    const double start = Now();
-    liq_attr* const attributes = liq_attr_create();
-    liq_set_speed(attributes, speed);
-    liq_image* const image =
-        liq_image_create_rgba(attributes, rgba.data(), picture.width, picture.height, 0);
-    liq_result* result = nullptr;
-    if (liq_image_quantize(image, attributes, &result) != LIQ_OK) Fail("libimagequant failed");
-    liq_set_dithering_level(result, 1);
-    liq_write_remapped_image(result, image, indices.data(), indices.size());
-    const liq_palette palette = *liq_get_palette(result);
-    milliseconds = Now() - start;
-    liq_result_destroy(result);
-    liq_image_destroy(image);
-    liq_attr_destroy(attributes);
-    return Colored(picture, indices, [&](int i) {
-        const liq_color& color = palette.entries[i];
-        return Triple{color.r, color.g, color.b};
+MetricPicture ReduceTheirs(const MetricPicture& picture, int speed, double& milliseconds) {
+    const std::vector<std::uint8_t> rgba = WithAlpha(picture.pixels);
+    const double start = ProcessorTime();
+    const IndexedPicture reduced = ReduceByImagequant(rgba, picture.width, picture.height, speed);
+    milliseconds = ProcessorTime() - start;
+    return Colored(picture, reduced.indices, [&](int i) {
+        const auto& color = reduced.palette[i];
+        return Triple{color[0], color[1], color[2]};
     });
 }
 
@@ -174,9 +153,9 @@ MetricPicture ReduceByGd(const MetricPicture& picture, double& milliseconds) {
             gdImageSetPixel(image, x, y, gdTrueColor(rgb[0], rgb[1], rgb[2]));
         }
     }
-    const double start = Now();
+    const double start = ProcessorTime();
     gdImageTrueColorToPalette(image, 1, kColors);
-    milliseconds = Now() - start;
+    milliseconds = ProcessorTime() - start;
     std::vector<std::uint8_t> indices;
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
@@ -199,10 +178,10 @@ Reduction ReductionOf(const std::string& name) {
         return [](const Picture& p, double& ms) { return ReduceOurs(p, Dither::Off, ms); };
     }
     if (name == "imagequant-1") {
-        return [](const Picture& p, double& ms) { return ReduceByImagequant(p, 1, ms); };
+        return [](const Picture& p, double& ms) { return ReduceTheirs(p, 1, ms); };
     }
     if (name == "imagequant-4") {
-        return [](const Picture& p, double& ms) { return ReduceByImagequant(p, 4, ms); };
+        return [](const Picture& p, double& ms) { return ReduceTheirs(p, 4, ms); };
     }
     if (name == "gd") return ReduceByGd;
     if (name == "k-means") return [](const Picture& p, double&) { return ReduceByKMeans(p); };
@@ -234,11 +213,17 @@ int Run(const std::vector<std::string>& arguments) {
             least = i < 2 ? milliseconds : std::min(least, milliseconds);
         }
         std::printf("%.3f\n", least);
+    } else if (mode == "whole" && count == 4) {
+        const WholeWayTimes times =
+            MeasureWholeWay(arguments[1], arguments[2], std::atoi(arguments[3].c_str()));
+        std::printf("%.3f %.3f %.3f %.3f %.3f\n", times.decodingOurs, times.decodingTwice,
+                    times.decodingWhole, times.wholeOurs, times.wholeTheirs);
     } else {
         Fail(
             "usage: picture-bench reference|scaled SOURCE OUT.ppm\n"
             "       picture-bench compare REFERENCE.ppm CANDIDATE.ppm\n"
-            "       picture-bench reduce NAME IN.ppm OUT.ppm TIMES");
+            "       picture-bench reduce NAME IN.ppm OUT.ppm TIMES\n"
+            "       picture-bench whole SOURCE.jpg TARGET TIMES");
     }
     return 0;
 }
