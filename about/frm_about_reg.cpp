@@ -12,7 +12,6 @@
 namespace vistrel {
 namespace {
 
-constexpr long kBlue = 0xFF0000;
 constexpr const char* kVersion = "Version: 4.00b2 - Beta 2";
 constexpr const char* kLegalWarning =
     "Copying this program in parts or under another name is against the law.";

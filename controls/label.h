@@ -15,6 +15,9 @@ struct FontChange {
     const char* face = "";
 };
 
+/// The colour of what leads somewhere.
+inline constexpr long kBlue = 0xFF0000;
+
 class Label : public Control {
  public:
     /// Colours are 24-bit numbers in blue-green-red order.

@@ -111,6 +111,9 @@ class Window {
     void RepaintPictures();
     Control* ControlOf(WindowHandle child) const;
 
+    /// The command of the menu that a right click on a control opens.
+    static constexpr int kWhatsThis = 0x7f00;
+
     const char* className_;
     int templateId_;
     WindowHandle handle_ = nullptr;

@@ -16,7 +16,6 @@
 namespace vistrel {
 namespace {
 
-constexpr long kBlue = 0xFF0000;
 constexpr long kToolbarTransparent = 0xFF00FF;
 constexpr int kTwipsPerInch = 1440;
 /// The editor opens this many milliseconds after its command, once the click has fully returned.

@@ -25,7 +25,6 @@ namespace vistrel {
 namespace {
 
 constexpr long kGreen = 0x008000;
-constexpr long kBlue = 0xFF0000;
 constexpr unsigned long kTutorialTopic = 30;
 /// Where "StartUp logo in" stands in its menu.
 constexpr int kPlaceOfDrives = 9;
