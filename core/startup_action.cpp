@@ -5,6 +5,7 @@
 
 #include "core/generali.h"
 #include "platform/files.h"
+#include "platform/shell.h"
 
 namespace vistrel {
 
@@ -14,6 +15,16 @@ constexpr const char* kRotalineLink = "Rotaline.lnk";
 constexpr const char* kShuffletLink = "Shufflet.lnk";
 
 }  // namespace
+
+void MakeMissingLinks(const std::string& programFolder) {
+    const auto make = [&](const char* link, const char* program, const char* description) {
+        if (FileExists(programFolder + link)) return;
+        WriteShellLink(programFolder + link, programFolder + program, "", programFolder,
+                       description);
+    };
+    make(kRotalineLink, "Rotaline.exe", "Installs the next logo set in turn");
+    make(kShuffletLink, "Shufflet.exe", "Installs a logo set at random");
+}
 
 std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFolder) {
     const bool shufflet = FileExists(startupFolder + kShuffletLink);

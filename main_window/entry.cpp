@@ -7,6 +7,7 @@
 #include "controls/message_loop.h"
 #include "core/locations.h"
 #include "core/settings.h"
+#include "core/startup_action.h"
 #include "main_window/principale.h"
 #include "pictures/imgdll.h"
 #include "platform/clock.h"
@@ -21,6 +22,7 @@ constexpr const char* kImageLibraryCode = "";
 void Run() {
     FailOnDrivesNotReady();
     const SystemLocations locations = FindSystemLocations();
+    MakeMissingLinks(locations.programFolder);
     Window::SetHelpFile(locations.HelpFile());
     ImgDLLStringInitDLL(kImageLibraryCode);
 

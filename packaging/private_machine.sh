@@ -43,6 +43,5 @@ set_attributes() {
 install_programs() {
     local folder="$1/prefix/drive_c/Program Files/Vistrel"
     mkdir -p "$folder"
-    cp "$2"/bin/*.exe "$2"/bin/*.hlp "$folder/" || return 1
-    in_wine "$1" env -u DISPLAY wine "$2/companions/make_links.exe" 'C:\Program Files\Vistrel'
+    cp "$2"/bin/*.exe "$2"/bin/*.hlp "$folder/"
 }

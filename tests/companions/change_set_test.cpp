@@ -244,7 +244,7 @@ TEST_F(ChangeSetTest, OnNtTheNameIsStoredWithoutANul) {
 
 TEST_F(ChangeSetTest, TheLinkInTheStartupFolderStartsTheChosenCompanion) {
     PutSet("Blue");
-    ASSERT_EQ(RunUnseen("make_links.exe C:\\test"), 0u);
+    MakeMissingLinks(bin);
     ApplyStartUpAction(StartUpActionKind::Rotaline, bin, startup);
     ASSERT_EQ(NamesIn(startup), Names{"Rotaline.lnk"});
     const auto result = reinterpret_cast<INT_PTR>(ShellExecuteA(

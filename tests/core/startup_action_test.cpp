@@ -29,6 +29,17 @@ TEST_F(StartUpActionTest, TheLinksInTheStartupFolderAreTheRecord) {
     EXPECT_EQ(ReadStartUpAction(startup), StartUpActionKind::Shufflet);
 }
 
+TEST_F(StartUpActionTest, LinksAreMadeWhereTheyAreMissingOnly) {
+    RemoveTree(program + "Shufflet.lnk");
+    MakeMissingLinks(program);
+    EXPECT_EQ(Contents(program + "Rotaline.lnk"), "link to Rotaline");
+    EXPECT_EQ(Contents(program + "Shufflet.lnk").value_or("").substr(0, 4),
+              std::string("L\0\0\0", 4));
+    RemoveTree(program);
+    MakeMissingLinks(program);
+    EXPECT_FALSE(Exists(program));
+}
+
 TEST_F(StartUpActionTest, AStartupFolderThatIsGoneMeansNothing) {
     EXPECT_EQ(ReadStartUpAction(root + "gone\\"), StartUpActionKind::Nothing);
     ApplyStartUpAction(StartUpActionKind::Rotaline, program, root + "gone\\");

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include "tests/core/machine.h"
-#include "tests/support/started_program.h"
 #include "tests/user/installed_program.h"
 
 namespace vistrel::test {
@@ -20,9 +19,6 @@ class ProgramOnTheMachine : public testing::Environment {
             for (const char* name : {"vistrel.exe", "Rotaline.exe"})
                 CopyFileA((std::string("C:\\test\\") + name).c_str(),
                           (kProgramFolder + name).c_str(), FALSE);
-            ASSERT_EQ(StartedProgram("C:\\test\\make_links.exe \"C:\\Program Files\\Vistrel\"")
-                          .WaitForEnd(),
-                      0u);
         }
     }
 
