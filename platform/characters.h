@@ -1,0 +1,14 @@
+// Characters of the system's code page, which are one byte long or, in some code pages, two. The
+// second byte of a pair may be the code of a backslash or of a letter and is neither.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace vistrel {
+
+/// The number of bytes, 1 or 2, of the character that begins at `at`; 1 for a first byte whose
+/// second is missing. `at` lies inside `text` and at a character's beginning.
+std::size_t CharacterLength(std::string_view text, std::size_t at);
+
+}  // namespace vistrel
