@@ -6,6 +6,7 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/seen.cpp
     ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/started_program.cpp)
