@@ -6,6 +6,7 @@
 #include "about/frm_splash.h"
 #include "controls/message_loop.h"
 #include "core/locations.h"
+#include "core/running_instance.h"
 #include "core/settings.h"
 #include "core/startup_action.h"
 #include "main_window/principale.h"
@@ -21,6 +22,8 @@ constexpr const char* kImageLibraryCode = "";
 
 void Run() {
     FailOnDrivesNotReady();
+    OnlyCopy onlyCopy;
+    if (!onlyCopy.Take()) return;
     const SystemLocations locations = FindSystemLocations();
     MakeMissingLinks(locations.programFolder);
     Window::SetHelpFile(locations.HelpFile());
