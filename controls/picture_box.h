@@ -37,6 +37,7 @@ class PictureBox : public Control {
     void SetTag(const std::string& tag) { SetText(tag); }
 
  protected:
+    bool HoldsMouse() const override { return MouseUp != nullptr; }
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result) override;
 
