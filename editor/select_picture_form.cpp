@@ -165,14 +165,23 @@ void SelPictureForm::Form_Activate() {
     BrowseTo(folder);
 }
 
-bool SelPictureForm::Form_Unload() {
+bool SelPictureForm::MayEndSession() {
+    if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
+    return Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
+               kQuestionYesNoDefaultNo) == Answer::Yes;
+}
+
+// What the user was asked about is discarded; the list of sets is read at the next start.
+void SelPictureForm::SessionEnds() {
     main_.Preferences().searchLogoPath = CurrentFolder;
-    if ((OkButton[0].Enabled() || OkButton[1].Enabled()) &&
-        Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
-            kQuestionYesNoDefaultNo) != Answer::Yes)
-        return false;
     // One that is gone already is passed over.
     for (int i = 0; i < List1.Count(); ++i) Remove(List1.Item(i));
+}
+
+bool SelPictureForm::Form_Unload() {
+    main_.Preferences().searchLogoPath = CurrentFolder;
+    if (!MayEndSession()) return false;
+    SessionEnds();
     if (LibraryChanged) {
         main_.LeggiDatiDisco();
         main_.VisualizzaNumLogo();

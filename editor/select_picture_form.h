@@ -90,6 +90,8 @@ class SelPictureForm : public Window {
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
+    bool MayEndSession() override;
+    void SessionEnds() override;
     void Form_Resize(Size client) override;
     Size SmallestSize() const override;
     void MenuCommand(int id) override;
