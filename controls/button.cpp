@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 namespace vistrel {
 
 void Button::OnCommand(int code) {
@@ -41,6 +43,11 @@ bool OptionButton::OnMessage(unsigned message, std::uintptr_t wParam, std::intpt
     SetMark(false);
     SetTabStop();
     return true;
+}
+
+bool Frame::HoldsFocus() const {
+    return std::any_of(held_.begin(), held_.end(),
+                       [focus = GetFocus()](const Control* c) { return c->handle() == focus; });
 }
 
 void Frame::ShowWithAll(bool visible) {

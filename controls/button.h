@@ -60,6 +60,8 @@ class Frame : public Control {
  public:
     void Hold(std::vector<Control*> controls) { held_ = std::move(controls); }
     void ShowWithAll(bool visible);
+    /// Whether the user works in one of the controls.
+    bool HoldsFocus() const;
 
     /// What the window notes with the frame; not shown.
     std::string Tag;

@@ -210,11 +210,6 @@ void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
-bool Window::FocusIsSeen() const {
-    const HWND focus = GetFocus();
-    return IsChild(handle_, focus) && IsWindowVisible(focus);
-}
-
 void Window::FocusNextTo(const Control& control) {
     const HWND next = GetNextDlgTabItem(handle_, control.handle(), FALSE);
     SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);

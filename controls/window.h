@@ -110,8 +110,6 @@ class Window {
     /// The topic of the help that F1 shows where no control has one of its own.
     void SetHelpTopic(unsigned long number) { helpTopic_ = number; }
 
-    /// False when what has the focus is hidden, or none of the window's controls has it.
-    bool FocusIsSeen() const;
     /// Gives the focus to the control at which the tab key stops behind this one.
     void FocusNextTo(const Control& control);
 

@@ -153,10 +153,14 @@ void FrmOptions::TabStrip1_Click() { DefineVisible(); }
 
 void FrmOptions::DefineVisible() {
     const int shown = TabStrip1.SelectedIndex() - 1;
-    for (int i = 0; i < TabStrip1.Count(); ++i)
-        if (i != shown) MyFrame[i].ShowWithAll(false);
+    bool focusGoes = false;
+    for (int i = 0; i < TabStrip1.Count(); ++i) {
+        if (i == shown) continue;
+        focusGoes |= MyFrame[i].HoldsFocus();
+        MyFrame[i].ShowWithAll(false);
+    }
     MyFrame[shown].ShowWithAll(true);
-    if (!FocusIsSeen()) FocusNextTo(TabStrip1);
+    if (focusGoes) FocusNextTo(TabStrip1);
 }
 
 bool FrmOptions::Form_KeyDown(int key) { return TabStrip1.TurnPage(key); }

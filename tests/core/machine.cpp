@@ -94,6 +94,18 @@ void MakeFolders(const std::string& path) {
     ASSERT_TRUE(Exists(WithoutBackslash(path))) << path;
 }
 
+void KeepAccessTime(const std::string& folder) {
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    const ULONGLONG hour = 3600ull * 10'000'000;
+    const ULONGLONG later = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) + hour;
+    const FILETIME accessed = {static_cast<DWORD>(later), static_cast<DWORD>(later >> 32)};
+    HANDLE open = CreateFileA(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
+                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    EXPECT_TRUE(SetFileTime(open, nullptr, &accessed, nullptr));
+    CloseHandle(open);
+}
+
 std::vector<std::string> NamesIn(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;

@@ -26,6 +26,9 @@ void GiveAttributes(const std::string& path, unsigned long attributes);
 void MakeFolders(const std::string& path);
 /// Removes a folder with all that it holds, or a file. Nothing happens when there is none.
 void RemoveTree(const std::string& path);
+/// Gives a folder a time of last access that looking into it does not change, for it lies ahead.
+/// Wine's browser for folders knows one again by that time, among others.
+void KeepAccessTime(const std::string& folder);
 /// The names of what a folder holds, sorted.
 std::vector<std::string> NamesIn(const std::string& folder);
 

@@ -139,20 +139,6 @@ std::string SelectedInBrowser(HWND dialog) {
     return item.pszText;
 }
 
-/// Gives a folder a time of last access that looking into it does not change, for it lies ahead.
-/// Wine's browser knows a folder again by that time, among others.
-void KeepAccessTime(const std::string& folder) {
-    FILETIME now;
-    GetSystemTimeAsFileTime(&now);
-    const ULONGLONG hour = 3600ull * 10'000'000;
-    const ULONGLONG later = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) + hour;
-    const FILETIME accessed = {static_cast<DWORD>(later), static_cast<DWORD>(later >> 32)};
-    HANDLE open = CreateFileA(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
-                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    EXPECT_TRUE(SetFileTime(open, nullptr, &accessed, nullptr));
-    CloseHandle(open);
-}
-
 TEST_F(Machine, PickFolderBeginsAtTheStartFolder) {
     KeepAccessTime(root);
     KeepAccessTime(logos);
