@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "platform/characters.h"
 #include "platform/fault.h"
 #include "platform/system_error.h"
 
@@ -26,15 +27,23 @@ class SearchHandle {
     HANDLE handle_;
 };
 
+/// The name by which an entry can be opened. One with letters that the code page lacks comes with
+/// question marks in their places, which no file's name holds: its short name has none.
+std::string NameOf(const WIN32_FIND_DATAA& found) {
+    const std::string name = found.cFileName;
+    const bool lossy = name.find('?') != std::string::npos;
+    return lossy && found.cAlternateFileName[0] ? found.cAlternateFileName : name;
+}
+
 FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
-    return {found.cFileName, found.dwFileAttributes,
+    return {NameOf(found), found.dwFileAttributes,
             (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32) | found.nFileSizeLow};
 }
 
 // Windows 95 does not know a folder by a name that ends in a backslash, other than a drive's root.
 std::string WithoutFinalBackslash(const std::string& path) {
     const bool isRoot = path.size() == 3 && path[1] == ':';
-    if (path.size() < 2 || path.back() != '\\' || isRoot) return path;
+    if (path.size() < 2 || !EndsInBackslash(path) || isRoot) return path;
     return path.substr(0, path.size() - 1);
 }
 
@@ -85,7 +94,7 @@ bool Remove(const std::string& path, Error* error) {
 }
 
 bool RemoveMatching(const std::string& pattern, Error* error) {
-    const std::string folder = pattern.substr(0, pattern.rfind('\\') + 1);
+    const std::string folder = pattern.substr(0, LastBackslash(pattern) + 1);
     std::vector<std::string> names;
     const bool listed = ForEachEntry(
         pattern,

@@ -48,13 +48,14 @@ endif()
 # add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
 #                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>]
-#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>])
+#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>]
+#                  [LANGUAGE <locale whose code page programs have, such as ja_JP>])
 # The target and the program are called <name>; the program's folder is its current one, C:\test.
 # Building the target makes everything that `ctest -R <name>` needs.
 # With PROGRAM <target> instead of SOURCES and LIBRARIES that test's program runs once more, on
 # another machine.
 function(add_windows_test)
-    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS"
+    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS;LANGUAGE"
         "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
@@ -71,6 +72,9 @@ function(add_windows_test)
     endif()
     if(ARG_BITS)
         list(APPEND machine --bits ${ARG_BITS})
+    endif()
+    if(ARG_LANGUAGE)
+        list(APPEND machine --language ${ARG_LANGUAGE})
     endif()
     add_test(NAME ${ARG_NAME}
         COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
