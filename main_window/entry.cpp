@@ -5,6 +5,7 @@
 
 #include "about/frm_splash.h"
 #include "controls/message_loop.h"
+#include "core/generali.h"
 #include "core/locations.h"
 #include "core/running_instance.h"
 #include "core/settings.h"
@@ -25,7 +26,7 @@ void Run() {
     OnlyCopy onlyCopy;
     if (!onlyCopy.Take()) return;
     const SystemLocations locations = FindSystemLocations();
-    MakeMissingLinks(locations.programFolder);
+    MakeMissingLinks(locations.programFolder, GetStartupFolder());
     Window::SetHelpFile(locations.HelpFile());
     ImgDLLStringInitDLL(kImageLibraryCode);
 

@@ -88,6 +88,20 @@ TEST_F(Machine, AShellLinkHoldsWhatItIsGiven) {
     CoUninitialize();
 }
 
+TEST_F(Machine, TheTargetOfAShellLinkIsReadWhetherOrNotItExists) {
+    const std::string path = startup + OddName() + ".lnk";
+    Put(program + "Tool.exe", "");
+    ASSERT_TRUE(WriteShellLink(path, program + "Tool.exe", "/x", program, ""));
+    EXPECT_EQ(ShellLinkTarget(path), program + "Tool.exe");
+    RemoveTree(program + "Tool.exe");
+    EXPECT_EQ(ShellLinkTarget(path), program + "Tool.exe");
+    Put(path, "no link at all");
+    EXPECT_EQ(ShellLinkTarget(path), "");
+    EXPECT_EQ(ShellLinkTarget(startup + "gone.lnk"), "");
+    fault::FailOperation(1);
+    EXPECT_EQ(ShellLinkTarget(path), "");
+}
+
 TEST_F(Machine, AShellLinkIntoAFolderThatIsGoneIsNotWritten) {
     EXPECT_FALSE(WriteShellLink(root + "gone\\Tool.lnk", program + "Tool.exe", "", "", ""));
     EXPECT_FALSE(WriteShellLink(startup + std::string(4000, 'x'), program, "", "", ""));
