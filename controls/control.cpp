@@ -63,6 +63,8 @@ void Control::SetVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA
 
 void Control::Focus() { ::SetFocus(handle_); }
 
+bool Control::HasFocus() const { return GetFocus() == handle_; }
+
 void Control::Repaint() { InvalidateRect(handle_, nullptr, TRUE); }
 
 Rect Control::Bounds() const {

@@ -39,6 +39,7 @@ class Control {
     bool Visible() const;
     void SetVisible(bool visible);
     void Focus();
+    bool HasFocus() const;
     void Repaint();
 
     /// Place within the parent's client area.
