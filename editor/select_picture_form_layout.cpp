@@ -60,7 +60,7 @@ void SelPictureForm::Form_Resize(Size client) {
     PlacePreview({preview, gap, columns.preview, height});
     PlaceTypeAndName({preview, gap, columns.preview, height});
     PlaceSlots({slots, gap, client.width - gap - slots, height}, columns);
-    LblWritten.MoveTo({gap, client.height - gap / 2 - line, client.width - 2 * gap, line});
+    LblWritten.MoveTo({gap, client.height - gap + 2 - line, client.width - 2 * gap, line});
     RedrawPictures();
     // Controls that were moved over each other have copied what stood there.
     RepaintAll();
@@ -170,7 +170,7 @@ void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
     const int text = LblSlot[index].Bounds().height;  // two lines, as the caption has
     // Within the frame, which its background must not cover.
     LblNotAval[index].MoveTo(
-        {slot.left + 2, slot.top + (slot.height - text) / 2, slot.width - 4, text});
+        {slot.left + Gap() / 2, slot.top + (slot.height - text) / 2, slot.width - Gap(), text});
 }
 
 void SelPictureForm::PlaceBeside(int index, const Rect& slot) {

@@ -47,6 +47,20 @@ std::string WithoutFinalBackslash(const std::string& path) {
     return path.substr(0, path.size() - 1);
 }
 
+/// True when the disk has an entry by just this path, its last name's case included.
+bool IsNamedSo(const std::string& path) {
+    WIN32_FIND_DATAA found;
+    const SearchHandle search(FindFirstFileA(path.c_str(), &found));
+    return search.IsOpen() && path.ends_with(std::string("\\") + found.cFileName);
+}
+
+// Wine calls a change of case alone done and leaves the name as it was: it takes a name in between.
+void ChangeCase(const std::string& from, const std::string& to) {
+    const std::string between = to + ".~";
+    if (!MoveFileA(from.c_str(), between.c_str())) return;
+    if (!MoveFileA(between.c_str(), to.c_str())) MoveFileA(between.c_str(), from.c_str());
+}
+
 }  // namespace
 
 void FailOnDrivesNotReady() { SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX); }
@@ -112,7 +126,9 @@ bool RemoveMatching(const std::string& pattern, Error* error) {
 
 bool Rename(const std::string& from, const std::string& to, Error* error) {
     if (fault::Strikes()) return Failed(error, kStruckError);
-    return Report(MoveFileA(from.c_str(), to.c_str()), error);
+    const BOOL renamed = MoveFileA(from.c_str(), to.c_str());
+    if (renamed && lstrcmpiA(from.c_str(), to.c_str()) == 0 && !IsNamedSo(to)) ChangeCase(from, to);
+    return Report(renamed, error);
 }
 
 bool MakeFolder(const std::string& path, Error* error) {
