@@ -143,6 +143,7 @@ void SelPictureForm::SetHelpNumbers() {
     }
     ActButton.SetHelpNumber(help_number::ActButton);
     CloseButton.SetHelpNumber(help_number::CloseButton);
+    LblWritten.SetHelpNumber(help_number::LblWritten);
 }
 
 void SelPictureForm::Form_Activate() {

@@ -40,6 +40,7 @@ inline constexpr unsigned long OptOnlyStart = 72;
 inline constexpr unsigned long NameLogoSet = 73;
 inline constexpr unsigned long ActButton = 74;
 inline constexpr unsigned long CloseButton = 75;
+inline constexpr unsigned long LblWritten = 76;
 
 // The main window.
 inline constexpr unsigned long MyList = 80;

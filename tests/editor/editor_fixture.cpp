@@ -204,14 +204,18 @@ void LogoBrowser::Fill(SelPictureForm& editor, const std::string& name, int slot
     Press(editor.AddButton[slot]);
 }
 
-void LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
+std::string LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
     PostMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
     const HWND question = user::WaitForTop("#32770");
     EXPECT_NE(question, nullptr);
+    std::string text;
+    for (HWND part = GetWindow(question, GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT))
+        text += user::TextOf(part) + '\n';
     user::Activate(question);
     EXPECT_TRUE(user::Click(GetDlgItem(question, answer)));
     EXPECT_TRUE(user::WaitUntilGone(question));
     Settle(editor);
+    return text;
 }
 
 void LogoBrowser::DismissMenu() {
