@@ -18,7 +18,8 @@ class PictureBox : public Control {
     /// Makes the drawing area this large; the box's place stays.
     void SetScaleSize(Size size);
 
-    /// Takes the picture away.
+    /// Takes the picture away. The box then says why it is empty, by its tag: it names no file, one
+    /// that is not there, or one that could not be shown.
     void Clear();
     /// A device context of the drawing area's size to draw the next picture into; empty at first.
     /// What is drawn is seen after Keep.
@@ -34,7 +35,7 @@ class PictureBox : public Control {
     std::function<void(DeviceContext target)> PaintInstead;
 
     std::string Tag() const { return Text(); }
-    void SetTag(const std::string& tag) { SetText(tag); }
+    void SetTag(const std::string& tag);
 
  protected:
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
@@ -43,8 +44,11 @@ class PictureBox : public Control {
  private:
     void ReleaseCanvas();
     void Paint(DeviceContext target);
+    void PaintEmpty(DeviceContext target) const;
+    void FindWhyEmpty();
 
     bool hasPicture_ = false;
+    const char* whyEmpty_ = "";
     DeviceContext canvas_ = nullptr;
     BitmapHandle bitmap_ = nullptr;
     void* formerBitmap_ = nullptr;
