@@ -101,6 +101,7 @@ void Window::Show() {
 }
 
 void Window::ShowModal(WindowHandle owner) {
+    if (Window* below = OpenWindowOf(owner)) below->EndEdits();
     if (!Create(owner)) return;
     if (owner && IsWindowEnabled(owner)) {
         disabledOwner_ = owner;
@@ -115,6 +116,7 @@ bool Window::Unload() {
     if (!handle_) return true;
     if (unloading_) return false;  // asked again while Form_Unload still asks the user
     unloading_ = true;
+    EndEdits();
     const bool agreed = Form_Unload();
     unloading_ = false;
     if (!agreed) return false;
@@ -222,6 +224,10 @@ void Window::PopUpMenu(MenuHandle menu, Point screen, int defaultItem) {
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
 }
 
+void Window::EndEdits() {
+    for (const auto& [id, control] : controls_) control->EndEdit();
+}
+
 bool Window::TranslateKey(const void* message) {
     const auto& m = *static_cast<const MSG*>(message);
     if (m.message == WM_KEYUP) Form_KeyUp(static_cast<int>(m.wParam));
@@ -232,6 +238,8 @@ bool Window::TranslateKey(const void* message) {
 
 bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
     const int id = LOWORD(wParam);
+    // A list hands on what the edit of a label says of itself: no command of this window.
+    if (lParam != 0 && GetParent(reinterpret_cast<HWND>(lParam)) != handle_) return false;
     if (lParam != 0) {
         if (Control* control = Find(id)) {
             control->OnCommand(HIWORD(wParam));
@@ -239,6 +247,7 @@ bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
         }
     }
     if (id == kWhatsThis) return true;
+    EndEdits();
     if (lParam == 0) {
         // Enter and Esc arrive without a control; a button of that number stands for them.
         if (Control* control = Find(id)) {
@@ -342,6 +351,7 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             Unload();
             return true;
         case WM_QUERYENDSESSION:
+            EndEdits();
             result = TRUE;
             return true;
         case WM_ENDSESSION:
