@@ -34,10 +34,11 @@ void ListView::OnAttach() {
 void ListView::LoadIcons(int bitmapResource, long transparent,
                          const std::vector<std::string>& keys) {
     iconKeys_ = keys;
-    // The control destroys the list together with itself.
-    SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL,
-                ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
-                                     static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0));
+    // The list destroys them with itself.
+    const HIMAGELIST icons =
+        ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
+                             static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
+    SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons);
 }
 
 void ListView::AddColumn(const std::string& heading, int width) {
@@ -227,6 +228,20 @@ void ListView::TellClick() {
     if (clickTold_ || item < 0 || item != SelectedItem() || !ItemClick) return;
     clickTold_ = true;
     ItemClick(item);
+}
+
+Point ListView::MenuPoint() const {
+    const int selected = SelectedItem();
+    RECT label{};
+    label.left = LVIR_LABEL;
+    RECT area{};
+    GetClientRect(handle(), &area);
+    if (selected < 0 || !SendPointer(LVM_GETITEMRECT, static_cast<WPARAM>(selected), &label) ||
+        !PtInRect(&area, {label.left, label.top}))
+        return Control::MenuPoint();
+    POINT below{label.left, label.bottom};
+    ClientToScreen(handle(), &below);
+    return {static_cast<int>(below.x), static_cast<int>(below.y)};
 }
 
 std::intptr_t ListView::OnNotify(void* header) {

@@ -87,6 +87,8 @@ class ListView : public Control {
     std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
 
     std::intptr_t OnNotify(void* header) override;
+    /// Below the selected item's text, where that is in sight.
+    Point MenuPoint() const override;
 
  protected:
     void OnAttach() override;

@@ -65,6 +65,7 @@ void PictureBox::ReleaseCanvas() {
 
 void PictureBox::Clear() {
     hasPicture_ = false;
+    LetTabStop();
     ReleaseCanvas();
     FindWhyEmpty();
     Repaint();
@@ -104,6 +105,7 @@ DeviceContext PictureBox::Canvas() {
 
 void PictureBox::Keep() {
     hasPicture_ = true;
+    LetTabStop();
     // Every pixel is painted over: erasing first would only flicker.
     InvalidateRect(handle(), nullptr, FALSE);
 }
@@ -152,6 +154,7 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
         case WM_PAINT: {
             PAINTSTRUCT paint{};
             Paint(BeginPaint(handle(), &paint));
+            DrawFocusMark(paint.hdc);
             EndPaint(handle(), &paint);
             result = 0;
             return true;
@@ -164,8 +167,15 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
         case WM_SIZE:
             InvalidateRect(handle(), nullptr, FALSE);
             return false;
+        case WM_CONTEXTMENU:
+            // The mouse's menu opens at its release; this is the key's.
+            if (!MouseUp) return false;
+            MouseUp(kRightButton, {ScaleWidth() / 2, ScaleHeight() / 2});
+            result = 0;
+            return true;
         default:
-            return Control::OnMessage(message, wParam, lParam, result);
+            return OnKeyboard(message, wParam) ||
+                   Control::OnMessage(message, wParam, lParam, result);
     }
 }
 

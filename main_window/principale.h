@@ -17,6 +17,8 @@
 
 namespace vistrel {
 
+class FrmOptions;
+
 class Principale : public Window, public MainWindow {
  public:
     /// `locations` lack the Startup folder, which is found when the window loads.
@@ -134,7 +136,7 @@ class Principale : public Window, public MainWindow {
     void ShowActualSize(WindowHandle owner);
     void OpenPaint(WindowHandle owner);
     void OpenCustomProgram(WindowHandle owner);
-    void ShowPreferences(WindowHandle owner);
+    void ShowPreferences(FrmOptions& options, WindowHandle owner);
     void OpenExplorer(const std::string& folder);
     void RedrawScreens();
     MenuHandle ClassicMenu(int place) const;
@@ -155,7 +157,6 @@ class Principale : public Window, public MainWindow {
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;
-    bool browserOpen_ = false;
     std::string currentPicture_;
     std::string oldName_;
     Point lastMouseDown_;

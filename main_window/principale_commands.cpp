@@ -192,17 +192,17 @@ void Principale::ItmSetDefault_Click() {
 void Principale::ItmLogoManager_Click() { Timer1.SetEnabled(true); }
 
 void Principale::Timer1_Timer() {
-    if (browserOpen_) return;  // the timer goes on ticking while the browser is open
-    browserOpen_ = true;
+    // Another window came between the command and the tick: the browser waits until it is closed.
+    if (!IsEnabled()) return;
+    Timer1.SetEnabled(false);
     EndEdits();
     const ListPlace place = PlaceInList();
     {
+        const BusyPointer busy;  // until the browser's own Form_Load
         SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
     ShowDefaultPointer();
-    Timer1.SetEnabled(false);
-    browserOpen_ = false;
     ReturnTo(place);
 }
 
@@ -233,11 +233,13 @@ void Principale::LogoRandomChange() {
     ItmSetDefault_Click();
 }
 
-void Principale::ItmPref_Click() { ShowPreferences(handle()); }
-
-void Principale::ShowPreferences(WindowHandle owner) {
-    const ListPlace place = PlaceInList();
+void Principale::ItmPref_Click() {
     FrmOptions options(*this);
+    ShowPreferences(options, handle());
+}
+
+void Principale::ShowPreferences(FrmOptions& options, WindowHandle owner) {
+    const ListPlace place = PlaceInList();
     options.ShowModal(owner);
     ReturnTo(place);
 }

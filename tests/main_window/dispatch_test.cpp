@@ -3,8 +3,8 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
-#include "tests/main_window/help_listener.h"
 #include "tests/main_window/main_window_fixture.h"
+#include "tests/support/help_requests.h"
 #include "tests/support/seen.h"
 
 namespace vistrel::test {
@@ -173,7 +173,7 @@ TEST_F(Dispatch, BugReportBeginsAMailWithASubject) {
 }
 
 TEST_F(Dispatch, ContentsAndTutorialOpenTheHelp) {
-    const HelpListener listener;
+    user::HelpRequests help;
     Window::SetHelpFile("C:\\test\\vistrl.hlp");
     const struct {
         int id;
@@ -183,16 +183,12 @@ TEST_F(Dispatch, ContentsAndTutorialOpenTheHelp) {
     WithMainWindow([&](Principale& main) {
         for (const auto& row : rows) {
             StartCommand(main, row.id);
-            EXPECT_TRUE(WaitUntil([&] { return listener.asked().has_value(); })) << row.id;
-            const auto asked = HelpListener::Take();
-            EXPECT_EQ(asked.command, row.command) << row.id;
-            EXPECT_EQ(asked.data, row.data) << row.id;
-            EXPECT_EQ(asked.file, "C:\\test\\vistrl.hlp") << row.id;
+            const user::HelpRequest expected{row.command, row.data, "C:\\test\\vistrl.hlp"};
+            EXPECT_EQ(help.Next(), expected) << row.id;
         }
         main.MyList.Focus();
         user::Press(VK_F1);
-        EXPECT_TRUE(WaitUntil([&] { return listener.asked().has_value(); }));
-        EXPECT_EQ(HelpListener::Take().command, 3u);
+        EXPECT_EQ(help.Next().command, 3u);
     });
 }
 

@@ -5,11 +5,15 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/clean_start.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
     ${CMAKE_CURRENT_LIST_DIR}/seen.cpp
     ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/help_requests.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/openings.cpp
     ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/started_program.cpp)
+add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/record_opening.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
 target_include_directories(windows_test SYSTEM
@@ -20,30 +24,38 @@ target_link_libraries(windows_test PUBLIC gdi32)
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
 set(RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/run_in_wine)
 set(MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/make_prefix)
+set(wine_properties)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    list(PREPEND RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/debian32)
-    list(PREPEND MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/debian32)
+    # 32-bit programs show windows in a 32-bit Debian only, which need not be where they are built: so
+    # the prefix is made when the tests run.
+    set(debian12 ${CMAKE_SOURCE_DIR}/packaging/debian12 wine32)
+    list(PREPEND RUN_IN_WINE ${debian12})
+    add_test(NAME wine_prefix COMMAND ${debian12} ${MAKE_PREFIX} --if-older ${WINE_TEMPLATE})
+    set_tests_properties(wine_prefix PROPERTIES FIXTURES_SETUP wine_prefix)
+    set(wine_properties FIXTURES_REQUIRED wine_prefix)
+    add_custom_target(wine_template)
+else()
+    add_custom_command(
+        OUTPUT ${WINE_TEMPLATE}/system.reg
+        COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
+        DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
+                ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
+        COMMENT "Wine prefix for tests"
+        VERBATIM)
+    add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
 endif()
-add_custom_command(
-    OUTPUT ${WINE_TEMPLATE}/system.reg
-    COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
-    COMMAND ${CMAKE_COMMAND} -E touch ${WINE_TEMPLATE}/system.reg
-    DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
-            ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
-    COMMENT "Wine prefix for tests"
-    VERBATIM)
-add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
 
 # add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
 #                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>]
-#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>])
+#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>]
+#                  [LANGUAGE <locale whose code page programs have, such as ja_JP>])
 # The target and the program are called <name>; the program's folder is its current one, C:\test.
 # Building the target makes everything that `ctest -R <name>` needs.
 # With PROGRAM <target> instead of SOURCES and LIBRARIES that test's program runs once more, on
 # another machine.
 function(add_windows_test)
-    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS"
+    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS;LANGUAGE"
         "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
@@ -61,9 +73,12 @@ function(add_windows_test)
     if(ARG_BITS)
         list(APPEND machine --bits ${ARG_BITS})
     endif()
+    if(ARG_LANGUAGE)
+        list(APPEND machine --language ${ARG_LANGUAGE})
+    endif()
     add_test(NAME ${ARG_NAME}
         COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
             $<TARGET_FILE:${ARG_PROGRAM}> ${ARG_FILES})
     math(EXPR limit "${ARG_TIMEOUT} + 60")
-    set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit})
+    set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit} ${wine_properties})
 endfunction()
