@@ -8,6 +8,16 @@
 #include "platform/instance.h"
 
 namespace vistrel {
+namespace {
+
+/// What a menu shows for a tool: its caption and, at the right, its key.
+std::string MenuTextOf(const Tool& tool) {
+    std::string text = tool.caption;
+    if (*tool.key) text += std::string("\t") + tool.key;
+    return text;
+}
+
+}  // namespace
 
 ActiveBar::ActiveBar(std::span<const Tool> tools, std::span<const Band> bands)
     : tools_(tools), bands_(bands) {
@@ -38,7 +48,7 @@ MenuHandle ActiveBar::MenuOf(const Band& band) {
         if (opened)
             AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(MenuOf(*opened)), tool.caption);
         else
-            AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(tool.id), tool.caption);
+            AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(tool.id), MenuTextOf(tool).c_str());
     }
     return menu;
 }

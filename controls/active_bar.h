@@ -22,8 +22,9 @@ struct Tool {
     const char* caption;
     const char* tip;  ///< empty for none
     const char* category;
-    int image;          ///< number of its picture in the bar's strip; -1 for none
-    const char* opens;  ///< name of the band that it drops down; empty for none
+    int image;             ///< number of its picture in the bar's strip; -1 for none
+    const char* opens;     ///< name of the band that it drops down; empty for none
+    const char* key = "";  ///< the key that does the same, as menus tell it; empty for none
 };
 
 enum class BandKind { MenuBar, DropDown, ButtonBar };

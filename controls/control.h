@@ -85,6 +85,8 @@ class Control {
     virtual void OnDrawItem(const void*) {}
     /// Sets a pointer picture of the control's own; false to leave it to the window.
     virtual bool SetPointer() { return false; }
+    /// Ends what the user edits within the control, taken as typed.
+    virtual void EndEdit() {}
 
  protected:
     /// Called once the handle is known.

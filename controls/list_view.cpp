@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "controls/file_drop_target.h"
+#include "controls/window.h"
 #include "platform/instance.h"
 
 namespace vistrel {
@@ -22,7 +23,12 @@ ListView::ListView() = default;
 ListView::~ListView() = default;
 
 void ListView::OnAttach() {
-    if (OLEDragDrop) dropTarget_ = std::make_unique<FileDropTarget>(handle(), OLEDragDrop);
+    if (!OLEDragDrop) return;
+    const auto dropped = [this](const std::vector<std::string>& paths) {
+        parent()->EndEdits();
+        OLEDragDrop(paths);
+    };
+    dropTarget_ = std::make_unique<FileDropTarget>(handle(), dropped);
 }
 
 void ListView::LoadIcons(int bitmapResource, long transparent,
@@ -63,9 +69,15 @@ int ListView::AddItem(const std::string& text, const std::string& iconKey) {
     return static_cast<int>(SendPointer(LVM_INSERTITEMA, 0, &item));
 }
 
-void ListView::RemoveItem(int index) { Send(LVM_DELETEITEM, static_cast<WPARAM>(index)); }
+void ListView::RemoveItem(int index) {
+    Send(LVM_DELETEITEM, static_cast<WPARAM>(index));
+    if (SelectionChanged) SelectionChanged();
+}
 
-void ListView::Clear() { Send(LVM_DELETEALLITEMS); }
+void ListView::Clear() {
+    Send(LVM_DELETEALLITEMS);
+    if (SelectionChanged) SelectionChanged();
+}
 
 std::string ListView::ItemText(int index) const {
     std::string text(kLongestLabel, '\0');
@@ -116,6 +128,15 @@ int ListView::FindItem(const std::string& text) const {
     return -1;
 }
 
+int ListView::FindItemOfAnyCase(const std::string& text) const {
+    const int exact = FindItem(text);
+    if (exact >= 0) return exact;
+    LVFINDINFOA find{};
+    find.flags = LVFI_STRING;
+    find.psz = text.c_str();
+    return static_cast<int>(SendPointer(LVM_FINDITEMA, static_cast<WPARAM>(-1), &find));
+}
+
 int ListView::SelectedItem() const {
     return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
@@ -137,6 +158,14 @@ void ListView::EnsureVisible(int index) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
 }
 
+int ListView::TopItem() const { return static_cast<int>(Send(LVM_GETTOPINDEX)); }
+
+void ListView::ScrollTo(int top) {
+    // Coming from below, the item ends up as the first one.
+    EnsureVisible(Count() - 1);
+    EnsureVisible(top);
+}
+
 int ListView::HitTest(Point at) const {
     LVHITTESTINFO hit{};
     hit.pt = {at.x, at.y};
@@ -152,6 +181,11 @@ void ListView::SetMode(ListViewMode mode) {
     const LONG style = GetWindowLongA(handle(), GWL_STYLE) & ~LVS_TYPEMASK;
     SetWindowLongA(handle(), GWL_STYLE,
                    style | (mode == ListViewMode::Report ? LVS_REPORT : LVS_LIST));
+    if (columnFills_ && mode == ListViewMode::Report) {
+        RECT r{};
+        GetClientRect(handle(), &r);
+        SetColumnWidth(static_cast<int>(r.right));
+    }
     Repaint();
 }
 
@@ -168,6 +202,33 @@ void ListView::StartLabelEdit() {
 }
 
 bool ListView::EditingLabel() const { return Send(LVM_GETEDITCONTROL) != 0; }
+
+void ListView::EndEdit() {
+    // Taking the focus from it ends the edit as a click elsewhere does. What asks the user about
+    // the new text may lead here again.
+    if (EditingLabel() && !endingEdit_) Focus();
+}
+
+bool ListView::OnEndLabelEdit(const char* text) {
+    // Some versions of the control report an edit that changed nothing, others call it cancelled.
+    const bool changed = text && *text && ItemText(editedItem_) != text;
+    bool taken = false;
+    if (changed && AfterLabelEdit) {
+        endingEdit_ = true;
+        taken = AfterLabelEdit(text);
+        endingEdit_ = false;
+    }
+    editedItem_ = -1;
+    return taken;
+}
+
+/// A click on the item that is selected already changes nothing that the control would report.
+void ListView::TellClick() {
+    const int item = HitTest(pressedAt_);
+    if (clickTold_ || item < 0 || item != SelectedItem() || !ItemClick) return;
+    clickTold_ = true;
+    ItemClick(item);
+}
 
 Point ListView::MenuPoint() const {
     const int selected = SelectedItem();
@@ -187,14 +248,17 @@ std::intptr_t ListView::OnNotify(void* header) {
     switch (static_cast<const NMHDR*>(header)->code) {
         case LVN_ITEMCHANGED: {
             const auto& change = *static_cast<const NMLISTVIEW*>(header);
-            const bool selected = (change.uChanged & LVIF_STATE) &&
-                                  (change.uNewState & LVIS_SELECTED) &&
-                                  !(change.uOldState & LVIS_SELECTED);
-            if (selected && !selectingByCode_ && ItemClick) ItemClick(change.iItem);
+            if (!(change.uChanged & LVIF_STATE)) return 0;
+            if (!((change.uNewState ^ change.uOldState) & LVIS_SELECTED)) return 0;
+            if (SelectionChanged) SelectionChanged();
+            if (!(change.uNewState & LVIS_SELECTED) || selectingByCode_ || !ItemClick) return 0;
+            clickTold_ = true;
+            ItemClick(change.iItem);
             return 0;
         }
         case NM_CLICK:
         case NM_RCLICK: {
+            TellClick();
             // The control waits for the release itself and then tells so.
             POINT at{};
             GetCursorPos(&at);
@@ -211,11 +275,10 @@ std::intptr_t ListView::OnNotify(void* header) {
             if (BeginDrag) BeginDrag();
             return 0;
         case LVN_BEGINLABELEDITA:
+            editedItem_ = static_cast<const NMLVDISPINFOA*>(header)->item.iItem;
             return BeforeLabelEdit && !BeforeLabelEdit() ? TRUE : FALSE;
-        case LVN_ENDLABELEDITA: {
-            const char* text = static_cast<const NMLVDISPINFOA*>(header)->item.pszText;
-            return text && AfterLabelEdit && AfterLabelEdit(text) ? TRUE : FALSE;
-        }
+        case LVN_ENDLABELEDITA:
+            return OnEndLabelEdit(static_cast<const NMLVDISPINFOA*>(header)->item.pszText);
         default:
             return 0;
     }
@@ -227,6 +290,14 @@ bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
     // the control saw the beginning of a drag: the hand was not steady.
     if (message == WM_LBUTTONUP) return false;
     if (message == WM_DESTROY) dropTarget_.reset();
+    if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
+        // What the end of the edit selects must not come after what is clicked.
+        EndEdit();
+        pressedAt_ = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+        clickTold_ = false;
+    }
+    if (message == WM_SIZE && columnFills_ && Mode() == ListViewMode::Report)
+        SetColumnWidth(LOWORD(lParam));
     return Control::OnMessage(message, wParam, lParam, result);
 }
 

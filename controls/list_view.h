@@ -27,6 +27,8 @@ class ListView : public Control {
     void SetColumnWidth(int width);
     /// Makes the column as wide as the list leaves beside a vertical scroll bar.
     void FitColumn();
+    /// From now on the column of a report takes the whole width, however it changes.
+    void FillWithColumn() { columnFills_ = true; }
 
     int Count() const;
     /// Adds an item at the end; its number.
@@ -40,12 +42,17 @@ class ListView : public Control {
     void SetItemIcon(int index, const std::string& iconKey);
     /// Number of the item with exactly this text; -1 when there is none.
     int FindItem(const std::string& text) const;
+    /// The same whatever the case; an item with exactly this text comes first.
+    int FindItemOfAnyCase(const std::string& text) const;
 
     /// Number of the selected item; -1 when none is.
     int SelectedItem() const;
     /// Selects one item, or none with -1. ItemClick does not run.
     void Select(int index);
     void EnsureVisible(int index);
+    /// The first item that is seen, and scrolling so that an item is.
+    int TopItem() const;
+    void ScrollTo(int top);
     /// The item at a point of the control; -1 when there is none.
     int HitTest(Point at) const;
 
@@ -58,15 +65,22 @@ class ListView : public Control {
 
     void StartLabelEdit();
     bool EditingLabel() const;
+    /// Number of the item whose label is being edited, which need not be the selected one any more;
+    /// -1 when none is. It still stands while AfterLabelEdit runs.
+    int EditedItem() const { return editedItem_; }
+    void EndEdit() override;
 
-    /// The user selected an item, by mouse or keyboard.
+    /// The user selected an item, by mouse or keyboard, or clicked the selected one.
     std::function<void(int index)> ItemClick;
+    /// The selection is another now, or none, whoever made it so.
+    std::function<void()> SelectionChanged;
     std::function<void()> DblClick;
     /// The user begins to drag the selected item with the left button, which is still down.
     std::function<void()> BeginDrag;
     /// Editing of an item's label begins; false forbids it.
     std::function<bool()> BeforeLabelEdit;
-    /// Editing ended with a new text; false keeps the old one.
+    /// Editing ended with a new text, which is neither empty nor the old one; false leaves the
+    /// label as it is.
     std::function<bool(const std::string& newText)> AfterLabelEdit;
     /// Files and folders were dropped on the list: their full paths. Setting this before the window
     /// is created makes the list a drop target.
@@ -83,9 +97,16 @@ class ListView : public Control {
 
  private:
     int IconNumber(const std::string& key) const;
+    void TellClick();
+    bool OnEndLabelEdit(const char* text);
 
     std::vector<std::string> iconKeys_;
+    bool columnFills_ = false;
     bool selectingByCode_ = false;
+    Point pressedAt_;
+    bool clickTold_ = false;  ///< ItemClick has run for the press that goes on
+    int editedItem_ = -1;
+    bool endingEdit_ = false;
     std::unique_ptr<FileDropTarget> dropTarget_;
 };
 

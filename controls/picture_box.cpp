@@ -4,9 +4,25 @@
 
 #include "controls/display_palette.h"
 #include "controls/window.h"
+#include "platform/files.h"
 #include "platform/instance.h"
 
 namespace vistrel {
+namespace {
+
+/// Grey as the system draws it: pressed into the ground, with light at its lower right.
+void DrawGreyText(HDC target, const char* text, const RECT& place) {
+    SetBkMode(target, TRANSPARENT);
+    RECT light = place;
+    OffsetRect(&light, 1, 1);
+    SetTextColor(target, GetSysColor(COLOR_3DHIGHLIGHT));
+    DrawTextA(target, text, -1, &light, DT_CENTER | DT_WORDBREAK);
+    RECT grey = place;
+    SetTextColor(target, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextA(target, text, -1, &grey, DT_CENTER | DT_WORDBREAK);
+}
+
+}  // namespace
 
 void RegisterPictureBoxClass() {
     WNDCLASSEXA c{};
@@ -51,7 +67,23 @@ void PictureBox::Clear() {
     hasPicture_ = false;
     LetTabStop();
     ReleaseCanvas();
+    FindWhyEmpty();
     Repaint();
+}
+
+void PictureBox::SetTag(const std::string& tag) {
+    SetText(tag);
+    if (hasPicture_) return;
+    FindWhyEmpty();
+    Repaint();
+}
+
+void PictureBox::FindWhyEmpty() {
+    const std::string path = Tag();
+    if (path.empty())
+        whyEmpty_ = "no picture";
+    else
+        whyEmpty_ = FileAttributes(path) ? "cannot be read as a picture" : "no file";
 }
 
 DeviceContext PictureBox::Canvas() {
@@ -80,16 +112,27 @@ void PictureBox::Keep() {
 
 bool PictureBox::InActiveWindow() const { return GetActiveWindow() == parent()->handle(); }
 
+void PictureBox::PaintEmpty(DeviceContext target) const {
+    const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
+    FillRect(target, &all, GetSysColorBrush(COLOR_BTNFACE));
+    const auto font = reinterpret_cast<HFONT>(SendMessageA(parent()->handle(), WM_GETFONT, 0, 0));
+    const HGDIOBJ former = SelectObject(target, font);
+    RECT text = all;
+    const int height = DrawTextA(target, whyEmpty_, -1, &text, DT_CALCRECT | DT_WORDBREAK);
+    DrawGreyText(target, whyEmpty_, {0, (all.bottom - height) / 2, all.right, all.bottom});
+    SelectObject(target, former);
+}
+
 void PictureBox::Paint(DeviceContext target) {
     if (PaintInstead) {
         PaintInstead(target);
         return;
     }
-    const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
     if (!hasPicture_) {
-        FillRect(target, &all, GetSysColorBrush(COLOR_APPWORKSPACE));
+        PaintEmpty(target);
         return;
     }
+    const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
     if (HasPalette(target)) {
         PaintThroughPalette(target, bitmap_, ScaleWidth(), ScaleHeight(), InActiveWindow());
         return;
@@ -116,6 +159,11 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
             result = 0;
             return true;
         }
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+            // A picture takes no focus, which would end what is edited elsewhere.
+            parent()->EndEdits();
+            return Control::OnMessage(message, wParam, lParam, result);
         case WM_SIZE:
             InvalidateRect(handle(), nullptr, FALSE);
             return false;

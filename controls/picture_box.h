@@ -19,7 +19,8 @@ class PictureBox : public Control {
     /// Makes the drawing area this large; the box's place stays.
     void SetScaleSize(Size size);
 
-    /// Takes the picture away.
+    /// Takes the picture away. The box then says why it is empty, by its tag: it names no file, one
+    /// that is not there, or one that could not be shown.
     void Clear();
     /// A device context of the drawing area's size to draw the next picture into; empty at first.
     /// What is drawn is seen after Keep.
@@ -38,7 +39,7 @@ class PictureBox : public Control {
     Point OnScreen(Point at) const;
 
     std::string Tag() const { return Text(); }
-    void SetTag(const std::string& tag) { SetText(tag); }
+    void SetTag(const std::string& tag);
 
  protected:
     bool HoldsMouse() const override { return MouseUp != nullptr; }
@@ -52,8 +53,11 @@ class PictureBox : public Control {
     void LetTabStop();
     void ReleaseCanvas();
     void Paint(DeviceContext target);
+    void PaintEmpty(DeviceContext target) const;
+    void FindWhyEmpty();
 
     bool hasPicture_ = false;
+    const char* whyEmpty_ = "";
     bool tabStop_ = false;    ///< its template lets Tab stop here
     bool spaceDown_ = false;  ///< and not up again, with the focus here all the time
     DeviceContext canvas_ = nullptr;

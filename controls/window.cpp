@@ -103,6 +103,7 @@ void Window::Show() {
 }
 
 void Window::ShowModal(WindowHandle owner) {
+    if (Window* below = OpenWindowOf(owner)) below->EndEdits();
     if (!Create(owner)) return;
     if (owner && IsWindowEnabled(owner)) {
         disabledOwner_ = owner;
@@ -117,6 +118,7 @@ bool Window::Unload() {
     if (!handle_) return true;
     if (unloading_) return false;  // asked again while Form_Unload still asks the user
     unloading_ = true;
+    EndEdits();
     const bool agreed = Form_Unload();
     unloading_ = false;
     if (!agreed) return false;
@@ -237,6 +239,10 @@ void Window::ShowTip(WindowHandle child, const std::string& tip) {
 void Window::PopUpMenu(MenuHandle menu, Point screen, int defaultItem) {
     SetMenuDefaultItem(menu, defaultItem ? static_cast<UINT>(defaultItem) : UINT(-1), FALSE);
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
+}
+
+void Window::EndEdits() {
+    for (const auto& [id, control] : controls_) control->EndEdit();
 }
 
 }  // namespace vistrel

@@ -63,6 +63,11 @@ class Window {
     /// `defaultItem` is shown in bold; 0 for none.
     void PopUpMenu(MenuHandle menu, Point screen, int defaultItem = 0);
 
+    /// Ends what the user edits within a control, taken as typed. Every command does this first,
+    /// and so do the closing, a click on a picture and a window that opens in front: the edit may
+    /// rename what they are about.
+    void EndEdits();
+
     /// Sees each of the window's messages before the dialog manager; see message_loop.h.
     bool TranslateKey(const void* message);
     /// False for a window in which Tab, Enter and Esc are keys like any other.

@@ -22,6 +22,8 @@ bool Window::TranslateKey(const void* message) {
 
 bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
     const int id = LOWORD(wParam);
+    // A list hands on what the edit of a label says of itself: no command of this window.
+    if (lParam != 0 && GetParent(reinterpret_cast<HWND>(lParam)) != handle_) return false;
     if (lParam != 0) {
         if (Control* control = Find(id)) {
             control->OnCommand(HIWORD(wParam));
@@ -29,6 +31,7 @@ bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
         }
     }
     if (id == kWhatsThis) return true;
+    EndEdits();
     if (lParam == 0) {
         // Enter and Esc arrive without a control; a button of that number stands for them.
         if (Control* control = Find(id)) {
@@ -135,6 +138,7 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             if (IsEnabled()) Unload();
             return true;
         case WM_QUERYENDSESSION:
+            EndEdits();
             result = MayEndSession();
             return true;
         case WM_ENDSESSION:

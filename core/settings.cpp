@@ -40,8 +40,8 @@ struct SettingRow {
 };
 
 // In the order in which they are saved. The splash screen's flag is read first, since it counts
-// before there is any window.
-constexpr std::array<SettingRow, 14> kRows = {{
+// before there is any window. How the main window looks comes last: what matters is safe by then.
+constexpr std::array<SettingRow, 20> kRows = {{
     {"SearchLogoPath", &Settings::searchLogoPath, Rule::Text, 4},
     {"View", &Settings::view, Rule::UpToOne, 10},
     {"Synchronize logos", &Settings::synchronizeLogos, Rule::Number, 1},
@@ -56,6 +56,12 @@ constexpr std::array<SettingRow, 14> kRows = {{
     {"ShowSplashScreen", &Settings::showSplashScreen, Rule::OneWhenEmpty, 0},
     {"LogoPath", &Settings::logoPath, Rule::Folder, 5},
     {"ActionOnDoubleClick", &Settings::actionOnDoubleClick, Rule::Number, 6},
+    {"WindowLeft", &Settings::windowLeft, Rule::Number, 14},
+    {"WindowTop", &Settings::windowTop, Rule::Number, 15},
+    {"WindowWidth", &Settings::windowWidth, Rule::Number, 16},
+    {"WindowHeight", &Settings::windowHeight, Rule::Number, 17},
+    {"WindowMaximized", &Settings::windowMaximized, Rule::Number, 18},
+    {"AutoshowAnimation", &Settings::autoshowAnimation, Rule::Number, 19},
 }};
 
 /// The same rows in the order in which they are read.

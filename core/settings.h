@@ -28,6 +28,14 @@ struct Settings {
     std::int16_t showSplashScreen = 1;
     std::string logoPath;                  ///< the logo folder, ending in a backslash
     std::int16_t actionOnDoubleClick = 0;  ///< 0 installs the set, else opens the Logo browser
+
+    // Where the main window stood when it was closed last; a width of 0 when that is not known.
+    std::int16_t windowLeft = 0;
+    std::int16_t windowTop = 0;
+    std::int16_t windowWidth = 0;
+    std::int16_t windowHeight = 0;
+    std::int16_t windowMaximized = 0;
+    std::int16_t autoshowAnimation = 0;  ///< not 0: the actual-size view moves the colours
 };
 
 /// The flag "ShowSplashScreen" alone, read before any window exists; 1 when empty.
@@ -40,7 +48,7 @@ Settings ReadSettings(const SystemLocations& locations);
 /// Logos", that set is made of the screens now installed. A step that fails is passed over.
 Settings LoadSettings(const SystemLocations& locations);
 
-/// Writes all fourteen values as texts. It ends at the first that cannot be written.
+/// Writes all values as texts. It ends at the first that cannot be written.
 /// `view` and `defaultLogoSet` must hold what the main window shows; kUnknownSet is written as the
 /// empty text.
 void SaveSettings(const Settings& settings);

@@ -5,6 +5,7 @@
 
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "controls/window_place.h"
 #include "core/boot_option.h"
 #include "core/close.h"
 #include "core/generali.h"
@@ -44,6 +45,11 @@ Principale::Principale(SystemLocations locations)
     MyList.ItemClick = [this](int) { MyList_ItemClick(); };
     MyList.MouseDown = [this](int, Point at) { MyList_MouseDown(at); };
     MyList.MouseUp = [this](int button, Point) { MyList_MouseUp(button); };
+    MyList.SelectionChanged = [this] {
+        // While the installed screens are shown nothing is selected, but the tools keep their
+        // state.
+        if (!savedView_) CheckSetCommands();
+    };
     MyList.DblClick = [this] { MyList_DblClick(); };
     MyList.KeyUp = [this](int key) { MyList_KeyUp(key); };
     MyList.BeforeLabelEdit = [this] { return MyList_BeforeLabelEdit(); };
@@ -52,7 +58,7 @@ Principale::Principale(SystemLocations locations)
         MyList_OLEDragDrop(paths);
     };
     MyList.ContextMenu = [this](Point screen, bool byKeyboard) {
-        if (byKeyboard) ActiveBar1.PopUp("LogoBand", screen);
+        if (byKeyboard && !savedView_) ActiveBar1.PopUp("LogoBand", screen);
     };
     for (int i = 0; i < 3; ++i)
         Imag[i].MouseUp = [this, i](int button, Point) { Imag_MouseUp(i, button); };
@@ -81,18 +87,36 @@ void Principale::Form_Load() {
         LblScreen[i].SetText(std::string(kScreenFileNames[i]) + "\r\n" + kScreenTitles[i]);
     const int margin = 600 * PixelsPerInch() / kTwipsPerInch;
     MyList.AddColumn("Logoset name", MyList.Bounds().width - margin);
+    MyList.FillWithColumn();
     bootLogoOption_ = ReadBootLogoOption(locations_.BootConfigurationFile());
 
     settings_ = LoadSettings(locations_);
     ItmViewType_Click(settings_.view);
     ShowCustomProgramName();
-    // With large fonts the window would be wider than a screen of 800 x 600.
-    FitInto(WorkArea());
+    SetAnimationShown(settings_.autoshowAnimation != 0);
+    PutBackWindow();
     // The boxes have their real sizes before anything is drawn into them.
     Form_Resize(ClientSize());
     LeggiDatiDisco();
-    CheckSetCommands();
+}
+
+void Principale::PutBackWindow() {
+    if (settings_.windowWidth > 0)
+        PlaceWithin(handle(),
+                    {settings_.windowLeft, settings_.windowTop, settings_.windowWidth,
+                     settings_.windowHeight},
+                    WorkArea());
+    else
+        // With large fonts the window would be wider than a screen of 800 x 600.
+        FitInto(WorkArea());
+}
+
+// What a window cannot do before it is shown. One that has the focus while it is hidden counts as
+// active already, and showing it does not bring it to the front.
+void Principale::Form_Activate() {
     MyList.Focus();
+    // The first time only.
+    if (std::exchange(settings_.windowMaximized, std::int16_t{0})) Maximize(handle());
 }
 
 bool Principale::Form_Unload() {
@@ -108,6 +132,13 @@ void Principale::CloseAll() {
     state.settings.view = MenuMark(ID_ItmViewType) ? 0 : 1;
     const std::string shown = CurrentSet();
     state.settings.defaultLogoSet = shown == kUnknownSet ? std::string() : shown;
+    const WindowPlace place = PlaceOf(handle());
+    state.settings.windowLeft = static_cast<std::int16_t>(place.normal.left);
+    state.settings.windowTop = static_cast<std::int16_t>(place.normal.top);
+    state.settings.windowWidth = static_cast<std::int16_t>(place.normal.width);
+    state.settings.windowHeight = static_cast<std::int16_t>(place.normal.height);
+    state.settings.windowMaximized = place.maximized ? 1 : 0;
+    state.settings.autoshowAnimation = AnimationShown() ? 1 : 0;
     WriteBackOnClose(locations_, state);
 }
 
@@ -118,25 +149,28 @@ Size Principale::SmallestSize() const { return {520, 400}; }
 void Principale::Form_Resize(Size client) {
     if (!ActiveBar1.bar()) return;
     const int gap = 8;
+    // Where the pictures of the tools and the menu's captions begin.
+    const int edge = 4;
     const int line = LblDefaultLogo.Bounds().height;
     const int twoLines = LblScreen[0].Bounds().height;
     const int labelWidth = FromDialogUnits({0, 0, 52, 0}).width;
     const int top = ActiveBar1.Resize() + gap;
-    const int height = client.height - top - gap;
+    const int height = client.height - top - edge;
     const int leastList = FromDialogUnits({0, 0, 110, 0}).width;
 
     // The height that a panel of width w takes: line + gap + 3/4 (w - label) + gap
     // + 3/8 (w - gap) + 2 + twoLines.
     const int fixed = line + 2 * gap + 2 + twoLines;
     const int byHeight = (8 * (height - fixed) + 6 * (labelWidth + gap) + 3 * gap) / 9;
-    const int panel = std::max(120, std::min(byHeight, client.width - 3 * gap - leastList));
-    const int left = client.width - gap - panel;
+    const int panel = std::max(120, std::min(byHeight, client.width - gap - 2 * edge - leastList));
+    const int left = client.width - edge - panel;
 
-    MyList.MoveTo({gap, top, left - 2 * gap, height - line - 4});
-    const int listWidth = left - 2 * gap;
-    const int below = client.height - gap - line;
-    NumLogo.MoveTo({gap, below, listWidth / 2, line});
-    LogoType.MoveTo({gap + listWidth / 2, below, listWidth - listWidth / 2, line});
+    const int listWidth = left - gap - edge;
+    MyList.MoveTo({edge, top, listWidth, height - line - 4});
+    const int below = client.height - edge - line;
+    // The count line begins with a blank.
+    NumLogo.MoveTo({edge - 2, below, listWidth / 2, line});
+    LogoType.MoveTo({edge + listWidth / 2, below, listWidth - listWidth / 2, line});
 
     const int caption = LblDefaultLogo.Bounds().width;
     LblDefaultLogo.MoveTo({left, top, caption, line});

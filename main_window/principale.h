@@ -17,6 +17,8 @@
 
 namespace vistrel {
 
+class FrmOptions;
+
 class Principale : public Window, public MainWindow {
  public:
     /// `locations` lack the Startup folder, which is found when the window loads.
@@ -44,7 +46,8 @@ class Principale : public Window, public MainWindow {
     void SetBootLogoOption(std::int16_t option) override { bootLogoOption_ = option; }
     void RaiseBootLogoOptionChanged() override { bootLogoOptionChanged_ = true; }
 
-    /// Shows the screens and the kind of the selected set ("mostra la lista del logo").
+    /// Shows the screens and the kind of the selected set ("mostra la lista del logo"); with none
+    /// selected the boxes and the kind are empty.
     void ShowListaLogo();
     /// Selects the set of this name, if there is one, and shows it.
     void SelItem(const std::string& name);
@@ -62,6 +65,7 @@ class Principale : public Window, public MainWindow {
 
  protected:
     void Form_Load() override;
+    void Form_Activate() override;
     bool Form_Unload() override;
     void Form_Resize(Size client) override;
     void Form_KeyUp(int key) override;
@@ -72,6 +76,12 @@ class Principale : public Window, public MainWindow {
     Size SmallestSize() const override;
 
  private:
+    /// Where the user is in the list: what a command that reads it anew goes back to.
+    struct ListPlace {
+        std::string selectedSet;
+        int top = 0;
+    };
+
     // Where a click or a key arrives, in the order in which a user meets them.
     void ActiveBar1_Click(const Tool& tool);
     void MyList_ItemClick();
@@ -108,16 +118,25 @@ class Principale : public Window, public MainWindow {
     void ItmExit_Click();
 
     void CloseAll();
+    void PutBackWindow();
     void CheckSetCommands();
     bool ASetIsSelected() const;
+    void FollowDeselection();
     void ShowScreens(const std::array<std::string, 3>& paths);
+    void ClearScreens();
     void ShowInstalledScreens();
     void ShowSetScreens();
+    void LeaveInstalledView();
+    void EndInstalledView();
+    ListPlace PlaceInList() const;
+    void ReturnTo(const ListPlace& place);
     void SelectAfterDelete(int index);
     bool ConfirmFormatChange(bool toSingle);
+    bool ConfirmOverwriting(const std::string& name);
     void ShowActualSize(WindowHandle owner);
     void OpenPaint(WindowHandle owner);
     void OpenCustomProgram(WindowHandle owner);
+    void ShowPreferences(FrmOptions& options, WindowHandle owner);
     void OpenExplorer(const std::string& folder);
     void RedrawScreens();
     MenuHandle ClassicMenu(int place) const;

@@ -14,7 +14,6 @@
 #include "editor/select_picture_form.h"
 #include "main_window/principale.h"
 #include "options/frm_options.h"
-#include "pictures/draw_preview.h"
 #include "platform/clock.h"
 #include "platform/help_viewer.h"
 #include "platform/pointer.h"
@@ -24,7 +23,6 @@
 namespace vistrel {
 namespace {
 
-constexpr long kGreen = 0x008000;
 constexpr unsigned long kTutorialTopic = 30;
 /// Where "StartUp logo in" stands in its menu.
 constexpr int kPlaceOfDrives = 9;
@@ -128,16 +126,20 @@ MenuHandle Principale::ClassicMenu(int place) const { return SubMenu(classicMenu
 bool Principale::MenuMark(int id) const { return HasMenuMark(classicMenus_, id); }
 
 void Principale::MyList_ItemClick() {
+    EndInstalledView();
     ShowListaLogo();
-    // The keyboard selects too, and no mouse button is released then.
-    CheckSetCommands();
 }
 
 void Principale::MyList_MouseDown(Point at) { lastMouseDown_ = at; }
 
 void Principale::MyList_MouseUp(int button) {
     CheckSetCommands();
-    if (button == kRightButton) ActiveBar1.PopUp("LogoBand", PointerPosition());
+    FollowDeselection();
+    if (button == kRightButton && !savedView_) ActiveBar1.PopUp("LogoBand", PointerPosition());
+}
+
+void Principale::FollowDeselection() {
+    if (!ASetIsSelected() && !savedView_) ShowListaLogo();
 }
 
 void Principale::MyList_DblClick() {
@@ -151,13 +153,16 @@ void Principale::MyList_DblClick() {
 void Principale::MyList_KeyUp(int key) {
     // A key that ends or serves the editing of a label is not a command.
     if (MyList.EditingLabel()) return;
+    FollowDeselection();
     if (key == kKeyDelete && ActiveBar1.Enabled("ToolDelete")) ItmDelete_Click();
     if (key == kKeyF2 && ActiveBar1.Enabled("ToolRename")) ItmRename_Click();
     if (key == kKeyF5) itmRefresh_Click();
 }
 
 void Principale::Form_KeyUp(int key) {
-    if (key == kKeyF1) ItmContents_Click();
+    if (key != kKeyF1) return;
+    EndEdits();
+    ItmContents_Click();
 }
 
 void Principale::ItmRename_Click() { MyList.StartLabelEdit(); }
@@ -172,7 +177,6 @@ void Principale::ItmDelete_Click() {
     MyList.RemoveItem(index);
     SelectAfterDelete(index);
     VisualizzaNumLogo();
-    CheckSetCommands();
 }
 
 void Principale::ItmSetDefault_Click() {
@@ -191,13 +195,15 @@ void Principale::Timer1_Timer() {
     // Another window came between the command and the tick: the browser waits until it is closed.
     if (!IsEnabled()) return;
     Timer1.SetEnabled(false);
+    EndEdits();
+    const ListPlace place = PlaceInList();
     {
         const BusyPointer busy;  // until the browser's own Form_Load
         SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
     ShowDefaultPointer();
-    CheckSetCommands();
+    ReturnTo(place);
 }
 
 void Principale::ItmExplore_Click() {
@@ -210,74 +216,17 @@ void Principale::OpenExplorer(const std::string& folder) {
     ShellOpen(handle(), folder, locations_.programFolder, ShowState::Normal);
 }
 
-void Principale::itmRefresh_Click() { LeggiDatiDisco(); }
-
-void Principale::ViewAsList() { ItmViewType_Click(0); }
-
-void Principale::ViewAsReport() { ItmViewType_Click(1); }
-
-void Principale::ItmViewType_Click(int index) {
-    MyList.SetMode(index == 0 ? ListViewMode::List : ListViewMode::Report);
-    ActiveBar1.SetChecked("ToolListView", index == 0);
-    ActiveBar1.SetChecked("ToolReportView", index != 0);
-    SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
-    SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
-}
-
-void Principale::ToggleShowCurrent() {
-    ActiveBar1.SetChecked("ToolShowCurrent", !ActiveBar1.Checked("ToolShowCurrent"));
-    ItmViewDefOrActual_Click();
-}
-
-void Principale::ItmViewDefOrActual_Click() {
-    const BusyPointer busy;
-    if (ActiveBar1.Checked("ToolShowCurrent"))
-        ShowInstalledScreens();
-    else
-        ShowSetScreens();
-}
-
-void Principale::ShowInstalledScreens() {
-    DefaultLogo.SetTip("Showing current logo setting");
-    ActiveBar1.SetEnabled("MnuLogo", false);
-    LogoType.SetVisible(false);
-    LblDefaultLogo.SetVisible(false);
-    ActiveBar1.SetEnabled("ToolRandom", false);
-    // Run again while they are shown already, there is nothing new to save.
-    if (!savedView_) {
-        const int selected = MyList.SelectedItem();
-        savedView_ = {DefaultLogo.Text(), selected < 0 ? std::string() : MyList.ItemText(selected)};
-    }
-    MyList.Select(-1);
-    ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
-    DefaultLogo.SetText("");
-    DefaultLogo.SetForeColor(kGreen);
-    DefaultLogo.SetText("Current logo setting");
-}
-
-void Principale::ShowSetScreens() {
-    DefaultLogo.SetTip("Default logo set");
-    ActiveBar1.SetEnabled("MnuLogo", true);
-    ActiveBar1.SetEnabled("ToolRandom", true);
-    DefaultLogo.SetForeColor(kBlue);
-    if (savedView_) {
-        const SavedView saved = *savedView_;
-        savedView_.reset();
-        DefaultLogo.SetText(saved.currentSet);
-        SelItem(saved.selectedSet);
-    } else {
-        ShowListaLogo();
-    }
-    LblDefaultLogo.SetVisible(true);
-    LogoType.SetVisible(true);
-    CheckSetCommands();
+void Principale::itmRefresh_Click() {
+    const ListPlace place = PlaceInList();
+    LeggiDatiDisco();
+    ReturnTo(place);
 }
 
 void Principale::ItmRandomSpin_Click() { LogoRandomChange(); }
 
 void Principale::LogoRandomChange() {
     const int count = MyList.Count();
-    if (count <= 1) return;
+    if (count <= 1 || savedView_) return;
     RandomGenerator generator(SecondsSinceMidnight());
     const int chosen = DrawOther(generator, count, MyList.SelectedItem() + 1);
     SelItem(MyList.ItemText(chosen - 1));
@@ -286,7 +235,13 @@ void Principale::LogoRandomChange() {
 
 void Principale::ItmPref_Click() {
     FrmOptions options(*this);
-    options.ShowModal(handle());
+    ShowPreferences(options, handle());
+}
+
+void Principale::ShowPreferences(FrmOptions& options, WindowHandle owner) {
+    const ListPlace place = PlaceInList();
+    options.ShowModal(owner);
+    ReturnTo(place);
 }
 
 void Principale::ItmContents_Click() { ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0); }

@@ -1,6 +1,7 @@
 // The main window's list: reading the logo folder, showing a set, selecting, renaming, deleting and
 // importing sets.
-#include "controls/screen_metrics.h"
+#include "controls/window_place.h"
+#include "core/entry_name.h"
 #include "core/generali.h"
 #include "core/library.h"
 #include "main_window/principale.h"
@@ -15,6 +16,11 @@ namespace {
 
 /// SHFileOperation's flag that answers yes to every question.
 constexpr unsigned short kYesToAll = 16;
+
+/// "D:" or "D:\\", which has no name to be a set's.
+bool IsDriveRoot(const std::string& path) {
+    return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
+}
 
 }  // namespace
 
@@ -39,7 +45,7 @@ void Principale::SetCurrentSet(const std::string& name) {
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
-    if (installedShown) ShowSetScreens();
+    if (installedShown) LeaveInstalledView();
 
     bool installedFound = false;
     MyList.SuspendPainting();
@@ -49,11 +55,10 @@ void Principale::LeggiDatiDisco() {
         MyList.AddItem(name, IconKeyOfSet(name));
     });
     MyList.ResumePainting();
-    for (PictureBox& box : Imag) box.Clear();
+    ShowListaLogo();
     VisualizzaNumLogo();
     if (installedFound) SelItem(settings_.defaultLogoSet);
     DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : kUnknownSet);
-    CheckSetCommands();
 
     if (installedShown) ShowInstalledScreens();
 }
@@ -70,6 +75,13 @@ void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
     }
 }
 
+void Principale::ClearScreens() {
+    for (PictureBox& box : Imag) {
+        box.SetTag("");
+        box.Clear();
+    }
+}
+
 void Principale::RedrawScreens() {
     for (PictureBox& box : Imag)
         if (box.HasPicture()) DrawPreview(box.Tag(), box);
@@ -77,7 +89,11 @@ void Principale::RedrawScreens() {
 
 void Principale::ShowListaLogo() {
     const int selected = MyList.SelectedItem();
-    if (selected < 0) return;
+    if (selected < 0) {
+        ClearScreens();
+        LogoType.SetText("");
+        return;
+    }
     const BusyPointer busy;
     const std::string name = MyList.ItemText(selected);
     LogoType.SetText(TypeCaptionOfSet(name));
@@ -93,7 +109,7 @@ void Principale::SelItem(const std::string& name) {
 }
 
 bool Principale::MyList_BeforeLabelEdit() {
-    oldName_ = MyList.ItemText(MyList.SelectedItem());
+    oldName_ = MyList.ItemText(MyList.EditedItem());
     return true;
 }
 
@@ -106,32 +122,46 @@ bool Principale::ConfirmFormatChange(bool toSingle) {
                kQuestionYesNo) == Answer::Yes;
 }
 
-bool Principale::MyList_AfterLabelEdit(const std::string& newName) {
+bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
+    const auto folder = SetFolderName(typed, settings_.logoPath);
+    if (folder == oldName_) return false;
+    const std::string newName = folder.value_or(typed);
     const bool toSingle = IsSingleLogoSet(newName);
     const bool formatChanges = toSingle != IsSingleLogoSet(oldName_);
     if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
 
-    const int selected = MyList.SelectedItem();
+    const int edited = MyList.EditedItem();
     // The new icon stays although the renaming may fail: it is kept so until the next refresh.
-    if (formatChanges) MyList.SetItemIcon(selected, IconKeyOfSet(newName));
-    if (!Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
+    if (formatChanges) MyList.SetItemIcon(edited, IconKeyOfSet(newName));
+    if (!folder || !Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
         Ask(handle(), "Cannot rename folder. The folder already exists or has an invalid name",
             kExclamationOk);
         return false;
     }
-    MyList.SetItemText(selected, newName);
+    MyList.SetItemText(edited, newName);
     SelItem(newName);
     if (CurrentSet() == oldName_) SetCurrentSet(newName);
-    return true;
+    // The label shows the folder's name by now, which is not always the text as it was typed.
+    return false;
 }
 
 void Principale::SelectAfterDelete(int index) {
     if (MyList.Count() == 0) {
-        for (PictureBox& box : Imag) box.Clear();
+        ClearScreens();
         return;
     }
     const int next = index == MyList.Count() ? index - 1 : index;
     SelItem(MyList.ItemText(next));
+}
+
+bool Principale::ConfirmOverwriting(const std::string& name) {
+    // The folder came from another window, which is still the one in front.
+    BringToFront(handle());
+    return Ask(handle(),
+               "The selected folder '" + name +
+                   "' already exist in your logo folder. Would you like to overwrite the existing "
+                   "files?",
+               kQuestionYesNoDefaultNo) == Answer::Yes;
 }
 
 void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
@@ -139,21 +169,20 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (!IsFolder(AddBackslash(path))) continue;
+        if (IsDriveRoot(path) || !IsFolder(AddBackslash(path))) continue;
         name = GetFileName(path);
         const bool exists = IsFolder(settings_.logoPath + name);
-        if (exists && Ask(handle(),
-                          "The selected folder '" + name +
-                              "' already exist in your logo folder. Would you like to overwrite "
-                              "the existing files?",
-                          kQuestionYesNoDefaultNo) != Answer::Yes)
-            continue;
+        if (exists && !ConfirmOverwriting(name)) continue;
         // Whether the shell could copy it is not asked: the list catches up at the next refresh.
         ShellCopy(handle(), path, settings_.logoPath, kYesToAll);
         if (!exists) MyList.AddItem(name, IconKeyOfSet(name));
         showLast = true;
     }
-    if (showLast) SelItem(name);
+    if (!showLast) return;
+    EndInstalledView();
+    // An existing set may have been dropped in other case than the list has it.
+    const int item = MyList.FindItemOfAnyCase(name);
+    if (item >= 0) SelItem(MyList.ItemText(item));
 }
 
 }  // namespace vistrel

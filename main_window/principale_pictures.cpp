@@ -76,7 +76,7 @@ void Principale::OpenCustomProgram(WindowHandle owner) {
     } else if (Ask(owner, "You haven't specified a custom program. Would you like to do it now?",
                    kQuestionYesNo) == Answer::Yes) {
         FrmOptions options(*this, FrmOptions::kImages);
-        options.ShowModal(owner);
+        ShowPreferences(options, owner);
     }
 }
 

@@ -54,7 +54,13 @@ inline const std::vector<std::string> kSettingNames = {"SearchLogoPath",
                                                        "ConfirmLogoTypeChange",
                                                        "ShowSplashScreen",
                                                        "LogoPath",
-                                                       "ActionOnDoubleClick"};
+                                                       "ActionOnDoubleClick",
+                                                       "WindowLeft",
+                                                       "WindowTop",
+                                                       "WindowWidth",
+                                                       "WindowHeight",
+                                                       "WindowMaximized",
+                                                       "AutoshowAnimation"};
 
 struct StoredValue {
     unsigned long type = 0;

@@ -28,6 +28,12 @@ constexpr NumberCase kNumbers[] = {
     {"ConfirmLogoTypeChange", &Settings::confirmLogoTypeChange, 1, 1, 32767},
     {"ShowSplashScreen", &Settings::showSplashScreen, 1, 0, 32767},
     {"ActionOnDoubleClick", &Settings::actionOnDoubleClick, 0, 0, 32767},
+    {"WindowLeft", &Settings::windowLeft, 0, 0, 32767},
+    {"WindowTop", &Settings::windowTop, 0, 0, 32767},
+    {"WindowWidth", &Settings::windowWidth, 0, 0, 32767},
+    {"WindowHeight", &Settings::windowHeight, 0, 0, 32767},
+    {"WindowMaximized", &Settings::windowMaximized, 0, 0, 32767},
+    {"AutoshowAnimation", &Settings::autoshowAnimation, 0, 0, 32767},
 };
 
 /// A text value that is read as it stands.
@@ -190,7 +196,13 @@ TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
                                             "View",
                                             "DeleteInTheRecycleBin",
                                             "ConfirmLogosetDelete",
-                                            "ConfirmLogoTypeChange"};
+                                            "ConfirmLogoTypeChange",
+                                            "WindowLeft",
+                                            "WindowTop",
+                                            "WindowWidth",
+                                            "WindowHeight",
+                                            "WindowMaximized",
+                                            "AutoshowAnimation"};
     const auto store = [&] {
         ForgetSettings();
         for (const NumberCase& number : kNumbers) Store(number.name, TextValue("2"));
@@ -241,10 +253,16 @@ Settings UnlikeTheDefaults() {
     settings.showSplashScreen = 0;
     settings.logoPath = "C:\\machine\\logos\\";
     settings.actionOnDoubleClick = -3;
+    settings.windowLeft = -4;
+    settings.windowTop = 25;
+    settings.windowWidth = 640;
+    settings.windowHeight = 452;
+    settings.windowMaximized = 1;
+    settings.autoshowAnimation = 1;
     return settings;
 }
 
-TEST_F(SettingsTest, AllFourteenValuesAreSavedAsTextsWithoutANul) {
+TEST_F(SettingsTest, AllValuesAreSavedAsTextsWithoutANul) {
     SaveSettings(UnlikeTheDefaults());
     const std::vector<std::string> texts = {"C:\\PICS\\",
                                             "1",
@@ -259,7 +277,14 @@ TEST_F(SettingsTest, AllFourteenValuesAreSavedAsTextsWithoutANul) {
                                             "0",
                                             "0",
                                             "C:\\machine\\logos\\",
-                                            "-3"};
+                                            "-3",
+                                            "-4",
+                                            "25",
+                                            "640",
+                                            "452",
+                                            "1",
+                                            "1"};
+    ASSERT_EQ(texts.size(), kSettingNames.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {
         EXPECT_EQ(Stored(kSettingNames[i]), SavedText(texts[i])) << kSettingNames[i];
     }
@@ -283,6 +308,12 @@ TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
     EXPECT_EQ(loaded.showSplashScreen, 0);
     EXPECT_EQ(loaded.logoPath, saved.logoPath);
     EXPECT_EQ(loaded.actionOnDoubleClick, saved.actionOnDoubleClick);
+    EXPECT_EQ(loaded.windowLeft, saved.windowLeft);
+    EXPECT_EQ(loaded.windowTop, saved.windowTop);
+    EXPECT_EQ(loaded.windowWidth, saved.windowWidth);
+    EXPECT_EQ(loaded.windowHeight, saved.windowHeight);
+    EXPECT_EQ(loaded.windowMaximized, saved.windowMaximized);
+    EXPECT_EQ(loaded.autoshowAnimation, saved.autoshowAnimation);
 }
 
 TEST_F(SettingsTest, AnUnknownInstalledSetIsSavedAsTheEmptyText) {
@@ -305,13 +336,13 @@ TEST_F(SettingsTest, SavingEndsAtTheFirstValueThatCannotBeWritten) {
         [&](int operation) {
             ++failing;
             // The first operation creates the key, which is there; then two for each value.
-            const std::size_t saved = operation == 1 ? 14 : (operation - 2) / 2;
+            const std::size_t saved = operation == 1 ? kSettingNames.size() : (operation - 2) / 2;
             for (std::size_t i = 0; i < kSettingNames.size(); ++i) {
                 EXPECT_EQ(Stored(kSettingNames[i]).has_value(), i < saved) << kSettingNames[i];
             }
             EXPECT_EQ(Stored("other"), TextValue("kept"));
         });
-    EXPECT_EQ(failing, 1 + 2 * 14);
+    EXPECT_EQ(failing, 1 + 2 * 20);
 }
 
 TEST_F(SettingsTest, TheInstalledSetCanBeRecordedAlone) {

@@ -1,8 +1,5 @@
 // The command layer: what is enabled when, keys, menus, views, and pictures that are clicked.
-#include <algorithm>
-
 #include "controls/menu.h"
-#include "main_window/tool_table.h"
 #include "tests/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
@@ -10,36 +7,19 @@ namespace {
 
 using Commands = MainWindow98;
 
-constexpr const char* kSetTools[] = {"ToolRename", "ToolDelete", "ToolSetDefault"};
-
-TEST_F(Commands, ThatNeedASetAreEnabledWithASelectionOnly) {
-    Store("DefaultLogoSet", TextValue("gone"));
-    WithMainWindow([&](Principale& main) {
-        for (const char* tool : kSetTools) EXPECT_FALSE(main.ActiveBar1.Enabled(tool)) << tool;
-        ClickSet(main, "Red");
-        EXPECT_TRUE(WaitUntil([&] { return main.ActiveBar1.Enabled("ToolRename"); }));
-        Settle(main);
-        for (const char* tool : kSetTools) EXPECT_TRUE(main.ActiveBar1.Enabled(tool)) << tool;
-        POINT below = PointOfSet(main, "Red");
-        below.y += 60;
-        user::ClickAt(below);
-        EXPECT_TRUE(WaitUntil([&] { return !main.ActiveBar1.Enabled("ToolDelete"); }));
-        Settle(main);
-        for (const char* tool : kSetTools) EXPECT_FALSE(main.ActiveBar1.Enabled(tool)) << tool;
-    });
-}
-
 TEST_F(Commands, DoNothingByDeleteOrF2WithNothingSelected) {
     Store("DefaultLogoSet", TextValue("gone"));
     WithMainWindow([&](Principale& main) {
         main.MyList.Focus();
+        PutSet("Zebra", 1, 1, 1);
         user::Press(VK_DELETE);
         user::Press(VK_F2);
-        user::Press(VK_F5);  // done after the others
-        Command(main, ID_ToolListView);
+        user::Press(VK_F5);
+        // Done after the others.
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.FindItem("Zebra") >= 0; }));
         EXPECT_FALSE(main.MyList.EditingLabel());
         EXPECT_EQ(user::FindTop("#32770"), nullptr);
-        EXPECT_EQ(main.MyList.Count(), 3);
+        EXPECT_EQ(main.MyList.Count(), 4);
     });
 }
 
@@ -48,8 +28,7 @@ TEST_F(Commands, ShowTheListAsListOrReportAndRememberIt) {
         EXPECT_EQ(main.MyList.Mode(), ListViewMode::List);
         EXPECT_TRUE(user::ChooseFromMenuBar(main.handle(), ID_ToolReportView));
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
-        EXPECT_TRUE(WaitUntil([&] { return main.ActiveBar1.Checked("ToolReportView"); }));
-        EXPECT_TRUE(WaitUntil([&] { return !main.ActiveBar1.Checked("ToolListView"); }));
+        Settle(main);
         user::TakeShot("report_view");
     });
     EXPECT_EQ(Stored("View"), SavedText("1"));
@@ -57,7 +36,6 @@ TEST_F(Commands, ShowTheListAsListOrReportAndRememberIt) {
         EXPECT_EQ(main.MyList.Mode(), ListViewMode::Report);
         Command(main, ID_ItmViewType);
         EXPECT_EQ(main.MyList.Mode(), ListViewMode::List);
-        EXPECT_TRUE(main.ActiveBar1.Checked("ToolListView"));
     });
     EXPECT_EQ(Stored("View"), SavedText("0"));
 }
@@ -94,16 +72,6 @@ TEST_F(Commands, LeaveTheMainWindowByExit) {
         StartCommand(main, ID_MnuExit);
         EXPECT_TRUE(WaitUntil([&] { return !main.IsOpen(); }));
     });
-}
-
-TEST_F(Commands, EveryToolOfABandStandsInTheTableAndIsDispatched) {
-    std::vector<std::string> known;
-    for (const Tool& tool : MainTools()) known.push_back(tool.name);
-    for (const Band& band : MainBands())
-        for (const char* tool : band.tools)
-            if (*tool) {
-                EXPECT_NE(std::find(known.begin(), known.end(), tool), known.end()) << tool;
-            }
 }
 
 TEST_F(Commands, OpenTheEditorOnceAtTwoQuickClicks) {

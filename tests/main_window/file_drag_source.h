@@ -20,6 +20,8 @@ class FileDragSource {
     /// How the last drag ended: the effect of the drop, DROPEFFECT_NONE where it was refused; empty
     /// (~0) before.
     DWORD effect() const { return effect_; }
+    /// Forgets how the last drag ended.
+    void Forget() { effect_ = ~DWORD{0}; }
     void Begin();
 
  private:

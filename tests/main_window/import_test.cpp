@@ -86,6 +86,34 @@ TEST_F(Importing, CopiesOverAnExistingSetAtYesWithoutASecondItem) {
     EXPECT_TRUE(Contents(logos + "Red\\LOGOW.SYS") == ScreenFile(255, 0, 0));
 }
 
+TEST_F(Importing, FindsAnExistingSetWhateverItsCase) {
+    Drop(
+        {Outside("red")},
+        [&](Principale& main) {
+            const user::Box box = user::WaitForBox();
+            EXPECT_EQ(GetForegroundWindow(), box.window);
+            EXPECT_EQ(GetWindow(box.window, GW_OWNER), main.handle());
+            user::AnswerBox(IDYES);
+        },
+        [&](Principale& main) {
+            EXPECT_EQ(main.SetNames(), (std::vector<std::string>{"Blue", "Green.SLS", "Red"}));
+            EXPECT_EQ(Selected(main), "Red");
+            EXPECT_TRUE(Says(main.Imag[0], "cannot be read as a picture"));
+            EXPECT_EQ(MiddleOf(main.Imag[1]), kRed);
+        });
+    EXPECT_EQ(Contents(logos + "Red\\LOGO.SYS"), "screen of red");
+}
+
+TEST_F(Importing, PassesOverTheRootOfADrive) {
+    const auto before = NamesIn(logos);
+    for (const char* drive : {"C:\\", "C:"})
+        Drop({drive}, NoQuestion, [&](Principale& main) {
+            EXPECT_EQ(main.MyList.Count(), 3);
+            EXPECT_EQ(Selected(main), "Blue");
+        });
+    EXPECT_EQ(NamesIn(logos), before);
+}
+
 TEST_F(Importing, GoesOnAfterADeclinedFolder) {
     Drop(
         {Outside("Red"), Outside("New")}, [&](Principale&) { user::AnswerBox(IDNO); },
@@ -110,6 +138,31 @@ TEST_F(Importing, PassesOverFilesAndSelectsNothingAfterALastOne) {
         EXPECT_EQ(main.MyList.SelectedItem(), 0);
     });
     EXPECT_FALSE(Exists(logos + "outside.txt"));
+}
+
+TEST_F(Importing, EndsTheViewOfTheInstalledScreens) {
+    OleInitialize(nullptr);
+    {
+        FileDragSource source({4, 4}, {Outside("New")});
+        WithMainWindow([&](Principale& main) {
+            Command(main, ID_ToolShowCurrent);
+            user::Drag(user::CentreOf(source.window()), user::CentreOf(main.MyList.handle()));
+            EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Blue"; }));
+            Settle(main);
+            EXPECT_EQ(Selected(main), "New");
+            EXPECT_EQ(main.Imag[0].Tag(), logos + "New\\LOGO.SYS");
+            EXPECT_TRUE(SetToolsEnabled(main));
+        });
+    }
+    OleUninitialize();
+}
+
+TEST_F(Importing, EnablesTheSetCommandsWhereNothingWasSelected) {
+    Store("DefaultLogoSet", TextValue("gone"));
+    Drop({Outside("New")}, NoQuestion, [&](Principale& main) {
+        EXPECT_EQ(Selected(main), "New");
+        EXPECT_TRUE(SetToolsEnabled(main));
+    });
 }
 
 TEST_F(Importing, RefusesADropThatIsNoFileList) {

@@ -1,5 +1,6 @@
 // The view of the screens that are installed now, and the preview in actual size.
 #include "tests/main_window/main_window_fixture.h"
+#include "tests/support/seen.h"
 
 namespace vistrel::test {
 namespace {
@@ -10,6 +11,24 @@ class InstalledView : public MainWindow98 {
         Put(boot + "LOGO.SYS", ScreenFile(0, 255, 0));
         Put(windows + "LOGOW.SYS", ScreenFile(0, 255, 0));
         Put(windows + "LOGOS.SYS", ScreenFile(0, 255, 0));
+    }
+    /// The sets are shown again, as if the tool had been clicked.
+    void ExpectSetView(Principale& main, const std::string& set) {
+        EXPECT_FALSE(seen::ButtonOf(main.ActiveBar1.bar(), ID_ToolShowCurrent).checked);
+        EXPECT_FALSE(seen::RowOf(GetMenu(main.handle()), ID_ToolShowCurrent).checked);
+        EXPECT_TRUE(seen::RowsOf(GetMenu(main.handle())).at(0).enabled);
+        EXPECT_TRUE(seen::ButtonOf(main.ActiveBar1.bar(), ID_ToolRandom).enabled);
+        EXPECT_TRUE(SetToolsEnabled(main));
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        EXPECT_TRUE(IsWindowVisible(main.LogoType.handle()));
+        EXPECT_TRUE(IsWindowVisible(main.LblDefaultLogo.handle()));
+        EXPECT_EQ(Selected(main), set);
+        EXPECT_EQ(main.Imag[0].Tag(), logos + set + "\\LOGO.SYS");
+    }
+    static POINT BesideTheControls(Principale& main) {
+        RECT r{};
+        GetWindowRect(main.LblScreen[0].handle(), &r);
+        return {(r.left + r.right) / 2, r.bottom + 20};
     }
 };
 
@@ -100,6 +119,164 @@ TEST_F(InstalledView, StaysThroughARefresh) {
         Command(main, ID_ToolShowCurrent);
         EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
     });
+}
+
+TEST_F(InstalledView, ChangesTheColourAndTheTipOfTheLabel) {
+    constexpr COLORREF kBlueLetters = RGB(0, 0, 255);
+    constexpr COLORREF kGreenLetters = RGB(0, 128, 0);
+    WithMainWindow([&](Principale& main) {
+        const HWND label = main.DefaultLogo.handle();
+        const auto shows = [&](COLORREF color) {
+            return WaitUntil([&] { return seen::ShowsColor(label, color); }, 3000);
+        };
+        EXPECT_TRUE(shows(kBlueLetters));
+        EXPECT_EQ(seen::TipOver(label), "Default logo set");
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_TRUE(shows(kGreenLetters));
+        EXPECT_FALSE(seen::ShowsColor(label, kBlueLetters));
+        EXPECT_EQ(seen::TipOver(label), "Showing current logo setting");
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_TRUE(shows(kBlueLetters));
+        EXPECT_EQ(seen::TipOver(label), "Default logo set");
+    });
+}
+
+TEST_F(InstalledView, TellsHowToCloseTheActualSize) {
+    WithMainWindow([&](Principale& main) {
+        user::Click(main.Imag[0].handle());
+        const HWND view = user::WaitForTop("FrmView");
+        ASSERT_NE(view, nullptr);
+        EXPECT_EQ(seen::TipOver(GetDlgItem(view, ID_Preview)), "Click or press a key to close");
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(user::WaitUntilGone(view));
+    });
+}
+
+TEST_F(InstalledView, WithholdsTheRandomChange) {
+    WithMainWindow([&](Principale& main) {
+        const auto random = [&] {
+            return seen::RowOf(GetMenu(main.handle()), ID_ToolRandom).enabled;
+        };
+        const auto randomButton = [&] {
+            return seen::ButtonOf(main.ActiveBar1.bar(), ID_ToolRandom).enabled;
+        };
+        const auto randomItem = [&] {
+            user::RightClickAt(BesideTheControls(main));
+            const bool enabled = seen::RowOf(user::WaitForPopUp(), ID_ItmRandomSpin).enabled;
+            user::Press(VK_ESCAPE);
+            WaitUntil([] { return user::FindTop("#32768") == nullptr; });
+            return enabled;
+        };
+        EXPECT_TRUE(random() && randomButton() && randomItem());
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_FALSE(random());
+        EXPECT_FALSE(randomButton());
+        EXPECT_FALSE(randomItem());
+        Command(main, ID_ItmRandomSpin);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
+        EXPECT_EQ(Contents(boot + "LOGO.SYS"), ScreenFile(0, 255, 0));
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        EXPECT_TRUE(random() && randomButton() && randomItem());
+    });
+}
+
+TEST_F(InstalledView, GreysTheLogoMenuInTheBarAndWithholdsItOnTheList) {
+    WithMainWindow([&](Principale& main) {
+        const auto logoMenu = [&] { return seen::RowsOf(GetMenu(main.handle())).at(0); };
+        EXPECT_TRUE(logoMenu().enabled);
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(logoMenu().text, "&Logo");
+        EXPECT_FALSE(logoMenu().enabled);
+        POINT below = PointOfSet(main, "Red");
+        below.y += 60;
+        user::RightClickAt(below);
+        user::Press(VK_APPS);
+        user::Press(VK_F10, {VK_SHIFT});
+        Settle(main);
+        EXPECT_EQ(user::FindTop("#32768"), nullptr);
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_TRUE(logoMenu().enabled);
+    });
+}
+
+TEST_F(InstalledView, EndsWhenTheUserClicksASet) {
+    WithMainWindow([&](Principale& main) {
+        Command(main, ID_ToolShowCurrent);
+        ClickSet(main, "Red");
+        ExpectSetView(main, "Red");
+        EXPECT_EQ(MiddleOf(main.Imag[0]), kRed);
+        // And the tool shows the installed screens again.
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
+    });
+}
+
+TEST_F(InstalledView, EndsWhenTheUserSelectsASetByTheKeyboard) {
+    WithMainWindow([&](Principale& main) {
+        main.MyList.Focus();
+        Command(main, ID_ToolShowCurrent);
+        user::Press(VK_END);
+        EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Blue"; }));
+        Settle(main);
+        ExpectSetView(main, "Red");
+    });
+}
+
+TEST_F(InstalledView, LeavesTheBoxesEmptyAfterwardsWhereNothingWasSelected) {
+    Store("DefaultLogoSet", TextValue("gone"));
+    WithMainWindow([&](Principale& main) {
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(MiddleOf(main.Imag[0]), kGreenScreen);
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(main.DefaultLogo.Text(), "<Don't know>");
+        for (const PictureBox& box : main.Imag) EXPECT_TRUE(Says(box, "no picture"));
+        EXPECT_EQ(main.LogoType.Text(), "");
+        EXPECT_FALSE(SetToolsEnabled(main));
+    });
+}
+
+TEST_F(InstalledView, KeepsTheStateOfTheSetToolsWhichThenDoNothing) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_TRUE(SetToolsEnabled(main));
+        for (const int id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault}) Command(main, id);
+        EXPECT_FALSE(main.MyList.EditingLabel());
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
+        EXPECT_EQ(Contents(boot + "LOGO.SYS"), ScreenFile(0, 255, 0));
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        EXPECT_EQ(Selected(main), "Red");
+    });
+}
+
+TEST_F(InstalledView, ComesBackWithASetThatBecameTheInstalledOneMeanwhile) {
+    WithMainWindow([&](Principale& main) {
+        Command(main, ID_ToolShowCurrent);
+        main.SetCurrentSet("Red");
+        EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Red");
+    });
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Red"));
+}
+
+TEST_F(InstalledView, SaysWhichScreensAreAbsentAfterASetWithoutThemWasInstalled) {
+    DeleteFileA((logos + "Red\\LOGOS.SYS").c_str());
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        EXPECT_TRUE(Says(main.Imag[2], "no file"));
+        Command(main, ID_ToolSetDefault);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Red");
+        Command(main, ID_ToolShowCurrent);
+        EXPECT_EQ(MiddleOf(main.Imag[0]), kRed);
+        EXPECT_EQ(MiddleOf(main.Imag[1]), kRed);
+        EXPECT_TRUE(Says(main.Imag[2], "no file"));
+        user::TakeShot("installed_without_shutdown");
+    });
+    EXPECT_FALSE(Exists(windows + "LOGOS.SYS"));
 }
 
 class Animation : public MainWindow98 {

@@ -1,5 +1,6 @@
 // Making a set the installed one, from each place where the command stands.
 #include "tests/main_window/main_window_fixture.h"
+#include "tests/support/seen.h"
 
 namespace vistrel::test {
 namespace {
@@ -62,11 +63,42 @@ TEST_F(Installing, NotByADoubleClickBelowTheLastSet) {
         POINT at = PointOfSet(main, "Red");
         at.y += 60;
         user::DoubleClickAt(at);
-        // The list takes the clicks before this is answered.
-        Command(main, ID_ToolListView);
+        // The list takes these clicks before the next one.
+        ClickSet(main, "Green.SLS");
         EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        main.Preferences().actionOnDoubleClick = 1;
+        user::DoubleClickAt(at);
+        ClickSet(main, "Red");
+        EXPECT_FALSE(main.Timer1.Enabled());
+        EXPECT_EQ(user::FindTop("SelPictureForm"), nullptr);
     });
     EXPECT_FALSE(Exists(boot + "LOGO.SYS"));
+}
+
+TEST_F(Installing, WithoutSynchronizingTakesMirrorkinBack) {
+    Store("Synchronize logos", TextValue("1"));
+    WithMainWindow([&](Principale& main) {
+        main.SelItem("Red");
+        Command(main, ID_ToolSetDefault);
+        main.Preferences().synchronizeLogos = 0;
+        Command(main, ID_ToolSetDefault);
+    });
+    EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin"), std::nullopt);
+    EXPECT_FALSE(Exists(program + "Mirrorkin.ini"));
+}
+
+TEST_F(Installing, ShowsTheHourglassMeanwhile) {
+    Put(logos + "Red\\LOGO.SYS", std::string(60'000'000, 'x'));
+    WithMainWindow([&](Principale& main) {
+        main.SelItem("Red");
+        user::MoveTo(user::CentreOf(main.MyList.handle()));
+        Settle(main);
+        EXPECT_FALSE(seen::PointerIsHourglass());
+        StartCommand(main, ID_ToolSetDefault);
+        EXPECT_TRUE(WaitUntil([] { return seen::PointerIsHourglass(); }));
+        EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Red"; }));
+        EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
+    });
 }
 
 TEST_F(Installing, OnlyTheStartupScreenWhileSynchronizingAndMirrorkinIsRegistered) {

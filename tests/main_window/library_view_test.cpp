@@ -1,5 +1,6 @@
 // The list of sets and the screens of the selected one.
 #include "tests/main_window/main_window_fixture.h"
+#include "tests/support/seen.h"
 
 namespace vistrel::test {
 namespace {
@@ -54,7 +55,7 @@ TEST_F(LibraryView, ShowsNoShutdownPictureWhereTheSetHasNoneButKeepsItsPath) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
         EXPECT_FALSE(main.Imag[2].HasPicture());
-        EXPECT_EQ(MiddleOf(main.Imag[2]), kEmptyBox);
+        EXPECT_TRUE(Says(main.Imag[2], "no file"));
         EXPECT_EQ(main.Imag[2].Tag(), logos + "Red\\LOGOS.SYS");
     });
 }
@@ -137,8 +138,34 @@ TEST_F(LibraryView, RefreshesAtF5) {
         EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 4; }));
         EXPECT_TRUE(WaitUntil([&] { return main.NumLogo.Text() == " 4 logo sets"; }));
         Settle(main);
-        // The installed set is selected anew.
-        EXPECT_EQ(main.MyList.SelectedItem(), 0);
+        EXPECT_EQ(Selected(main), "Red");
+    });
+}
+
+TEST_F(LibraryView, ClearsPicturesAndKindWhereNoInstalledSetIsFoundAnyMore) {
+    WithMainWindow([&](Principale& main) {
+        RemoveTree(logos + "Blue");
+        Command(main, ID_ToolRefresh);
+        EXPECT_EQ(Selected(main), "");
+        EXPECT_EQ(main.DefaultLogo.Text(), "<Don't know>");
+        EXPECT_EQ(main.LogoType.Text(), "");
+        for (const PictureBox& box : main.Imag) EXPECT_TRUE(Says(box, "no picture"));
+    });
+}
+
+TEST_F(LibraryView, ShowsTheHourglassWhileAScreenIsRead) {
+    std::string large = ScreenFile(0, 255, 0);
+    // 6000 x 6000 pixels
+    large.replace(18, 8, std::string("\x70\x17\0\0\x70\x17\0\0", 8));
+    large.resize(1078 + 36'000'000);
+    Put(logos + "Red\\LOGO.SYS", large);
+    WithMainWindow([&](Principale& main) {
+        user::MoveTo(user::CentreOf(main.MyList.handle()));
+        Settle(main);
+        EXPECT_FALSE(seen::PointerIsHourglass());
+        user::ClickAt(PointOfSet(main, "Red"));
+        EXPECT_TRUE(WaitUntil([] { return seen::PointerIsHourglass(); }));
+        EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/settings.h"
 #include "pictures/bmp_writer.h"
+#include "tests/support/seen.h"
 
 namespace vistrel::test {
 
@@ -33,6 +34,51 @@ COLORREF MiddleOf(const PictureBox& box) {
     const COLORREF color = GetPixel(dc, box.ScaleWidth() / 2, box.ScaleHeight() / 2);
     ReleaseDC(box.handle(), dc);
     return color;
+}
+
+namespace {
+
+/// Which pixels of a picture differ from its first one, each as a letter.
+std::string Marks(HDC picture, int width, int height) {
+    const COLORREF ground = GetPixel(picture, 0, 0);
+    std::string marks;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) marks += GetPixel(picture, x, y) == ground ? ' ' : '#';
+    return marks;
+}
+
+void DrawCentred(HDC target, const std::string& text, int width, int height) {
+    RECT r{0, 0, width, 0};
+    const int lines = DrawTextA(target, text.c_str(), -1, &r, DT_CALCRECT | DT_WORDBREAK);
+    for (const int shadow : {1, 0}) {
+        RECT place{shadow, (height - lines) / 2 + shadow, width + shadow, height};
+        DrawTextA(target, text.c_str(), -1, &place, DT_CENTER | DT_WORDBREAK);
+    }
+}
+
+}  // namespace
+
+bool Says(const PictureBox& box, const std::string& text) {
+    if (box.HasPicture()) return false;
+    RedrawWindow(box.handle(), nullptr, nullptr, RDW_UPDATENOW);
+    SendMessageA(box.handle(), WM_NULL, 0, 0);
+    RECT r{};
+    GetClientRect(box.handle(), &r);
+    const HDC shown = GetDC(box.handle());
+    const HDC expected = CreateCompatibleDC(shown);
+    const HBITMAP bitmap = CreateCompatibleBitmap(shown, r.right, r.bottom);
+    const HGDIOBJ former = SelectObject(expected, bitmap);
+    FillRect(expected, &r, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    SelectObject(expected,
+                 reinterpret_cast<HFONT>(SendMessageA(GetParent(box.handle()), WM_GETFONT, 0, 0)));
+    SetBkMode(expected, TRANSPARENT);
+    DrawCentred(expected, text, r.right, r.bottom);
+    const bool same = Marks(shown, r.right, r.bottom) == Marks(expected, r.right, r.bottom);
+    SelectObject(expected, former);
+    DeleteObject(bitmap);
+    DeleteDC(expected);
+    ReleaseDC(box.handle(), shown);
+    return same && seen::ShowsColor(box.handle(), GetSysColor(COLOR_GRAYTEXT));
 }
 
 MainWindow98::MainWindow98() {
@@ -94,6 +140,46 @@ void MainWindow98::ClickSet(Principale& main, const std::string& name) {
                main.Imag[0].Tag() == logos + name + "\\LOGO.SYS";
     });
     Settle(main);
+}
+
+void MainWindow98::ClickBelowSets(Principale& main) {
+    RECT last{};
+    last.left = LVIR_BOUNDS;
+    SendMessageA(main.MyList.handle(), LVM_GETITEMRECT,
+                 static_cast<WPARAM>(main.MyList.Count() - 1), reinterpret_cast<LPARAM>(&last));
+    POINT below{last.left + 30, last.bottom + 40};
+    ClientToScreen(main.MyList.handle(), &below);
+    user::ClickAt(below);
+    WaitUntil([&] { return main.MyList.SelectedItem() < 0; });
+    Settle(main);
+}
+
+void MainWindow98::BeginRenaming(Principale& main, const std::string& name,
+                                 const std::string& typed) {
+    ClickSet(main, name);
+    user::Press(VK_F2);
+    HWND edit = nullptr;
+    WaitUntil([&] {
+        edit = reinterpret_cast<HWND>(SendMessageA(main.MyList.handle(), LVM_GETEDITCONTROL, 0, 0));
+        return edit != nullptr;
+    });
+    user::Type(typed);
+    EXPECT_TRUE(WaitUntil([&] { return user::TextOf(edit) == typed; })) << typed;
+}
+
+std::string MainWindow98::Selected(Principale& main) {
+    const int selected = main.MyList.SelectedItem();
+    return selected < 0 ? std::string() : main.MyList.ItemText(selected);
+}
+
+bool MainWindow98::SetToolsEnabled(Principale& main) {
+    const bool enabled = seen::ButtonOf(main.ActiveBar1.bar(), ID_ToolRename).enabled;
+    for (const int id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault}) {
+        EXPECT_EQ(seen::ButtonOf(main.ActiveBar1.bar(), id).enabled, enabled) << id;
+        const HMENU menuBar = GetMenu(main.handle());
+        EXPECT_EQ(seen::RowOf(menuBar, static_cast<unsigned>(id)).enabled, enabled) << id;
+    }
+    return enabled;
 }
 
 void MainWindow98::Command(Principale& main, int id) {

@@ -27,7 +27,9 @@ COLORREF MiddleOf(const PictureBox& box);
 inline constexpr COLORREF kRed = RGB(255, 0, 0);
 inline constexpr COLORREF kGreenScreen = RGB(0, 255, 0);
 inline constexpr COLORREF kBlueScreen = RGB(0, 0, 255);
-inline constexpr COLORREF kEmptyBox = RGB(128, 128, 128);
+
+/// Whether an empty picture box says just this, in small grey letters in its middle.
+bool Says(const PictureBox& box, const std::string& text);
 
 /// A library with the sets "Blue", "Green.SLS" and "Red": each shows its colour as startup screen;
 /// the multi-logo sets have the other two too, the shared ones are white.
@@ -51,6 +53,15 @@ class MainWindow98 : public Machine {
     /// For the user's thread: selects a set by a click on it.
     void ClickSet(Principale& main, const std::string& name);
     POINT PointOfSet(Principale& main, const std::string& name);
+    /// For the user's thread: clicks below the last set, where nothing is.
+    void ClickBelowSets(Principale& main);
+    /// For the user's thread: clicks a set, begins to edit its name, and types; the edit stays
+    /// open.
+    void BeginRenaming(Principale& main, const std::string& name, const std::string& typed);
+    /// The name of the selected set; empty when none is.
+    static std::string Selected(Principale& main);
+    /// Whether the list's commands on a set are enabled, as their real buttons say; all or none.
+    static bool SetToolsEnabled(Principale& main);
     /// Chooses a command as the toolbar, a menu or a key would send it, and waits until it is done.
     void Command(Principale& main, int id);
     /// The same for a command that opens something that waits for an answer: does not wait.

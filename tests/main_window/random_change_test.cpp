@@ -31,6 +31,19 @@ TEST_F(RandomChange, DoesNothingWithOneSetOrNone) {
     EXPECT_FALSE(Exists(boot + "LOGO.SYS"));
 }
 
+TEST_F(RandomChange, LeavesOutTheSelectedSetAndNotTheInstalledOne) {
+    RemoveTree(logos + "Green.SLS");
+    WithMainWindow([&](Principale& main) {
+        // "Blue" is the installed set all the time.
+        for (int i = 0; i < 5; ++i) {
+            main.SelItem("Red");
+            Command(main, ID_ToolRandom);
+            EXPECT_EQ(Selected(main), "Blue");
+            EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        }
+    });
+}
+
 TEST_F(RandomChange, NeverInstallsTheSelectedSet) {
     WithMainWindow([&](Principale& main) {
         for (int i = 0; i < 30; ++i) {

@@ -1,4 +1,9 @@
 // Renaming in place, changing the format by the name, deleting.
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
+#include "platform/fault.h"
 #include "tests/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
@@ -8,11 +13,8 @@ class Renaming : public MainWindow98 {
  protected:
     /// Edits a set's label by F2, types a name and presses Enter.
     void Rename(Principale& main, const std::string& name, const std::string& newName) {
-        ClickSet(main, name);
-        user::Press(VK_F2);
-        ASSERT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+        BeginRenaming(main, name, newName);
         user::TakeShot("rename_in_place");
-        user::Type(newName);
         user::Press(VK_RETURN);
     }
     static bool Shows(Principale& main, const std::string& name) {
@@ -101,6 +103,97 @@ TEST_F(Renaming, TellsThatTheNameIsTakenOrIllegalAndKeepsTheOld) {
         });
         EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS")) << name;
     }
+}
+
+TEST_F(Renaming, NeverMovesASetElsewhere) {
+    PutSet("Inner", 1, 1, 1);
+    for (const char* name : {"..\\Out", "Blue\\Moved", "Blue/Moved", "..", "a:b", "a*", "NUL"}) {
+        WithMainWindow([&](Principale& main) {
+            Rename(main, "Red", name);
+            EXPECT_EQ(user::AnswerBox(IDOK).text,
+                      "Cannot rename folder. The folder already exists or has an invalid name")
+                << name;
+            EXPECT_TRUE(Shows(main, "Red")) << name;
+            EXPECT_EQ(main.MyList.Count(), 4);
+        });
+        EXPECT_EQ(NamesIn(root),
+                  (std::vector<std::string>{"boot", "logos", "program", "startup", "windows"}));
+        EXPECT_EQ(NamesIn(logos + "Blue\\"),
+                  (std::vector<std::string>{"LOGO.SYS", "LOGOS.SYS", "LOGOW.SYS"}));
+        EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS")) << name;
+    }
+}
+
+TEST_F(Renaming, CutsBlanksAndDotsAtTheEndBeforeAnythingElse) {
+    for (const char* typed : {"Beep ", "Beep..", "Beep . "}) {
+        WithMainWindow([&](Principale& main) {
+            Rename(main, "Blue", typed);
+            EXPECT_TRUE(Shows(main, "Beep")) << typed;
+            EXPECT_EQ(main.DefaultLogo.Text(), "Beep");
+            EXPECT_EQ(main.Imag[0].Tag(), logos + "Beep\\LOGO.SYS");
+            EXPECT_EQ(MiddleOf(main.Imag[0]), kBlueScreen);
+        });
+        EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Beep"));
+        MoveFileA((logos + "Beep").c_str(), (logos + "Blue").c_str());
+        Store("DefaultLogoSet", TextValue("Blue"));
+    }
+}
+
+TEST_F(Renaming, AsksBeforeAnEndingWithABlankBehindItChangesTheFormat) {
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "Scarlet.SLS ");
+        EXPECT_EQ(user::AnswerBox(IDYES).text,
+                  "Would you like to change your logoset format from Multi Logo to Single Logo?");
+        EXPECT_TRUE(Shows(main, "Scarlet.SLS"));
+        EXPECT_EQ(main.MyList.ItemIcon(main.MyList.FindItem("Scarlet.SLS")), "singlelogo");
+    });
+}
+
+TEST_F(Renaming, DoesNothingWithALabelThatIsEmptiedOrUnchanged) {
+    WithMainWindow([&](Principale& main) {
+        for (const char* typed : {"", "Red", "Red ", "Red."}) {
+            ClickSet(main, "Blue");
+            ClickSet(main, "Red");
+            user::Press(VK_F2);
+            ASSERT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+            if (*typed)
+                user::Type(typed);
+            else
+                user::Press(VK_DELETE);
+            user::Press(VK_RETURN);
+            EXPECT_TRUE(Shows(main, "Red")) << typed;
+            EXPECT_EQ(user::FindTop("#32770"), nullptr) << typed;
+        }
+        EXPECT_EQ(Selected(main), "Red");
+    });
+    EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS"));
+}
+
+// Windows reports such an edit, Wine calls it cancelled.
+TEST_F(Renaming, TouchesNoFolderWhereTheListReportsAnUnchangedLabel) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        char text[] = "Red";
+        NMLVDISPINFOA edit{};
+        edit.hdr = {main.MyList.handle(), ID_MyList, UINT(LVN_BEGINLABELEDITA)};
+        edit.item.iItem = 2;
+        edit.item.pszText = text;
+        SendMessageA(main.handle(), WM_NOTIFY, ID_MyList, reinterpret_cast<LPARAM>(&edit));
+        edit.hdr.code = UINT(LVN_ENDLABELEDITA);
+        fault::Reset();
+        EXPECT_FALSE(
+            SendMessageA(main.handle(), WM_NOTIFY, ID_MyList, reinterpret_cast<LPARAM>(&edit)));
+        EXPECT_EQ(fault::Counted(), 0);
+    });
+}
+
+TEST_F(Renaming, AsksAboutTheFormatForExactlyOneOnly) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().confirmLogoTypeChange = 2;
+        Rename(main, "Red", "Red.SLS");
+        EXPECT_TRUE(Shows(main, "Red.SLS"));
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+    });
 }
 
 TEST_F(Renaming, ShowsTheIconAskedForAfterAFailedChangeOfFormatUntilTheNextRefresh) {
@@ -254,6 +347,36 @@ TEST_F(Deleting, ForgetsASetHeldOpenUntilTheNextRefresh) {
     });
     CloseHandle(file);
     EXPECT_EQ(NamesIn(logos + "Red\\"), std::vector<std::string>{"LOGOW.SYS"});
+}
+
+TEST_F(Deleting, ForgetsASetThatTheShellWasToldToKeepUntilTheNextRefresh) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().deleteInTheRecycleBin = 1;
+        main.Preferences().confirmLogosetDelete = 0;
+        main.SelItem("Red");
+        StartCommand(main, ID_ToolDelete);
+        const HWND question = user::WaitForTop("#32770");
+        ASSERT_NE(question, nullptr);
+        user::Activate(question);
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 2; }));
+        Settle(main);
+        EXPECT_EQ(main.MyList.FindItem("Red"), -1);
+        Command(main, ID_ToolRefresh);
+        EXPECT_EQ(main.MyList.FindItem("Red"), 2);
+    });
+    EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS"));
+}
+
+TEST_F(Deleting, AsksForExactlyOneOnly) {
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().deleteInTheRecycleBin = 2;
+        main.Preferences().confirmLogosetDelete = 2;
+        main.SelItem("Red");
+        Command(main, ID_ToolDelete);
+        EXPECT_EQ(main.MyList.Count(), 2);
+    });
+    EXPECT_FALSE(Exists(logos + "Red"));
 }
 
 TEST_F(Deleting, MovesTheFilesToTheRecycleBin) {

@@ -1,0 +1,109 @@
+// How the main window shows its sets: as a list or a report, or in their place the screens that are
+// installed now.
+#include "controls/menu.h"
+#include "core/library.h"
+#include "main_window/principale.h"
+#include "platform/pointer.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr long kGreen = 0x008000;
+
+}  // namespace
+
+void Principale::ViewAsList() { ItmViewType_Click(0); }
+
+void Principale::ViewAsReport() { ItmViewType_Click(1); }
+
+void Principale::ItmViewType_Click(int index) {
+    const int top = MyList.TopItem();
+    MyList.SetMode(index == 0 ? ListViewMode::List : ListViewMode::Report);
+    MyList.ScrollTo(top);
+    if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
+    ActiveBar1.SetChecked("ToolListView", index == 0);
+    ActiveBar1.SetChecked("ToolReportView", index != 0);
+    SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
+    SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
+}
+
+Principale::ListPlace Principale::PlaceInList() const {
+    const int selected = MyList.SelectedItem();
+    std::string name = selected < 0 ? std::string() : MyList.ItemText(selected);
+    if (savedView_) name = savedView_->selectedSet;
+    return {name, MyList.TopItem()};
+}
+
+// Reading the list anew has selected the installed set; the user's own choice comes back where it
+// is still there.
+void Principale::ReturnTo(const ListPlace& place) {
+    const int index = MyList.FindItem(place.selectedSet);
+    if (index < 0) return;
+    if (savedView_)
+        savedView_->selectedSet = place.selectedSet;
+    else if (index != MyList.SelectedItem())
+        SelItem(place.selectedSet);
+    MyList.ScrollTo(place.top);
+}
+
+void Principale::ToggleShowCurrent() {
+    ActiveBar1.SetChecked("ToolShowCurrent", !ActiveBar1.Checked("ToolShowCurrent"));
+    ItmViewDefOrActual_Click();
+}
+
+void Principale::ItmViewDefOrActual_Click() {
+    const BusyPointer busy;
+    if (ActiveBar1.Checked("ToolShowCurrent"))
+        ShowInstalledScreens();
+    else
+        ShowSetScreens();
+}
+
+void Principale::ShowInstalledScreens() {
+    DefaultLogo.SetTip("Showing current logo setting");
+    ActiveBar1.SetEnabled("MnuLogo", false);
+    LogoType.SetVisible(false);
+    LblDefaultLogo.SetVisible(false);
+    ActiveBar1.SetEnabled("ToolRandom", false);
+    SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, false);
+    // Run again while they are shown already, there is nothing new to save.
+    if (!savedView_) savedView_ = {DefaultLogo.Text(), PlaceInList().selectedSet};
+    MyList.Select(-1);
+    ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
+    DefaultLogo.SetText("");
+    DefaultLogo.SetForeColor(kGreen);
+    DefaultLogo.SetText("Current logo setting");
+}
+
+void Principale::ShowSetScreens() {
+    const int former = savedView_ ? MyList.FindItem(savedView_->selectedSet) : -1;
+    LeaveInstalledView();
+    if (former >= 0)
+        SelItem(MyList.ItemText(former));
+    else
+        ShowListaLogo();
+}
+
+/// Puts everything back but the selection and its screens.
+void Principale::LeaveInstalledView() {
+    DefaultLogo.SetTip("Default logo set");
+    ActiveBar1.SetEnabled("MnuLogo", true);
+    ActiveBar1.SetEnabled("ToolRandom", true);
+    SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, true);
+    DefaultLogo.SetForeColor(kBlue);
+    if (savedView_) DefaultLogo.SetText(savedView_->currentSet);
+    savedView_.reset();
+    LblDefaultLogo.SetVisible(true);
+    LogoType.SetVisible(true);
+    CheckSetCommands();
+}
+
+/// The user has selected a set, whose screens come next.
+void Principale::EndInstalledView() {
+    if (!savedView_) return;
+    ActiveBar1.SetChecked("ToolShowCurrent", false);
+    LeaveInstalledView();
+}
+
+}  // namespace vistrel

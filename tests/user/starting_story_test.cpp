@@ -1,0 +1,45 @@
+// How the program comes up.
+#include "resources/ids.h"
+#include "tests/support/seen.h"
+#include "tests/user/running_program.h"
+
+namespace vistrel::test {
+namespace {
+
+using Starting = RunningProgram;
+
+bool IsActiveTitleAt(POINT at) {
+    const COLORREF color = seen::PixelAt(at);
+    // Of the classic colours the active title goes from navy to light blue; the other is grey.
+    return GetBValue(color) >= 128 && GetRValue(color) < 64;
+}
+
+TEST_F(Starting, IsInFrontAndActiveWithoutTheSplashScreenToo) {
+    for (const char* splash : {"0", "1"}) {
+        Store("ShowSplashScreen", TextValue(splash));
+        const StartedProgram program(kOpenProgram);
+        ASSERT_TRUE(program);
+        const HWND main = user::WaitForTop("Principale", "", program.id(), 60000);
+        ASSERT_NE(main, nullptr);
+        EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == main; })) << splash;
+        RECT r{};
+        GetWindowRect(main, &r);
+        EXPECT_TRUE(WaitUntil([&] {
+            return IsActiveTitleAt({r.left + 200, r.top + 10});
+        })) << splash;
+        // Keys reach the list without a click.
+        const auto focused = [&] {
+            GUITHREADINFO info{};
+            info.cbSize = sizeof info;
+            GetGUIThreadInfo(GetWindowThreadProcessId(main, nullptr), &info);
+            return info.hwndFocus;
+        };
+        EXPECT_TRUE(WaitUntil([&] { return focused() == user::Control(main, ID_MyList); }));
+        user::TakeShot(std::string("started_with_splash_") + splash);
+        PostMessageA(main, WM_CLOSE, 0, 0);
+        EXPECT_EQ(program.WaitForEnd(), 0u);
+    }
+}
+
+}  // namespace
+}  // namespace vistrel::test
