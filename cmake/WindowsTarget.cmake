@@ -2,6 +2,7 @@
 # Windows 95 OSR2 lacks are then not even declared.
 add_compile_definitions(
     WINVER=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_WINNT=0x0400 _WIN32_IE=0x0300 NOMINMAX STRICT)
+add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-include ${CMAKE_CURRENT_LIST_DIR}/library_threads.h>")
 add_compile_options(-ffunction-sections -fdata-sections)
 add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 

@@ -20,7 +20,7 @@ struct Page {
 std::vector<Page> MakeLeaves(std::size_t room, const std::vector<TreeEntry>& entries,
                              std::vector<std::uint32_t>& firstEntryOfLeaf) {
     std::vector<Page> leaves(1);
-    firstEntryOfLeaf = {0};
+    firstEntryOfLeaf.assign(1, 0);
     std::uint32_t number = 0;
     for (const TreeEntry& entry : entries) {
         if (leaves.back().entries.size() + entry.key.size() + entry.value.size() > room) {

@@ -1,10 +1,11 @@
 // GoogleTest and its matchers for Windows, compiled from Debian's source package.
 #include <gtest/gtest.h>
 
-namespace testing::internal {
+namespace testing {
 
 /// Closes a handle at the end of its life. GoogleTest declares this class only together with its
-/// threads, which need std::mutex: the compiler with Windows threads has none.
+/// threads, which need std::mutex: the compiler with Windows threads has none. Its newer versions
+/// always have one, in the namespace `internal` inside this one, where they find it first.
 class AutoHandle {
  public:
     AutoHandle() = default;
@@ -20,12 +21,12 @@ class AutoHandle {
     void* handle_ = nullptr;
 };
 
-}  // namespace testing::internal
+}  // namespace testing
 
 #include <src/gmock-all.cc>
 #include <src/gtest-all.cc>
 
-void testing::internal::AutoHandle::Reset(void* handle) {
+void testing::AutoHandle::Reset(void* handle) {
     if (handle_ != nullptr && handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
     handle_ = handle;
 }
