@@ -5,6 +5,7 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/clean_start.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
     ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
@@ -19,19 +20,26 @@ target_link_libraries(windows_test PUBLIC gdi32)
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
 set(RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/run_in_wine)
 set(MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/make_prefix)
+set(wine_properties)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    list(PREPEND RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/debian32)
-    list(PREPEND MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/debian32)
+    # 32-bit programs show windows in a 32-bit Debian only, which need not be where they are built: so
+    # the prefix is made when the tests run.
+    set(debian12 ${CMAKE_SOURCE_DIR}/packaging/debian12 wine32)
+    list(PREPEND RUN_IN_WINE ${debian12})
+    add_test(NAME wine_prefix COMMAND ${debian12} ${MAKE_PREFIX} --if-older ${WINE_TEMPLATE})
+    set_tests_properties(wine_prefix PROPERTIES FIXTURES_SETUP wine_prefix)
+    set(wine_properties FIXTURES_REQUIRED wine_prefix)
+    add_custom_target(wine_template)
+else()
+    add_custom_command(
+        OUTPUT ${WINE_TEMPLATE}/system.reg
+        COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
+        DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
+                ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
+        COMMENT "Wine prefix for tests"
+        VERBATIM)
+    add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
 endif()
-add_custom_command(
-    OUTPUT ${WINE_TEMPLATE}/system.reg
-    COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
-    COMMAND ${CMAKE_COMMAND} -E touch ${WINE_TEMPLATE}/system.reg
-    DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
-            ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
-    COMMENT "Wine prefix for tests"
-    VERBATIM)
-add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)
 
 # add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
@@ -64,5 +72,5 @@ function(add_windows_test)
         COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
             $<TARGET_FILE:${ARG_PROGRAM}> ${ARG_FILES})
     math(EXPR limit "${ARG_TIMEOUT} + 60")
-    set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit})
+    set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit} ${wine_properties})
 endfunction()

@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+#include "tests/support/clean_start.h"
+
 namespace {
 
 /// Says where a crash happened and ends the program: nobody is there to answer a debugger.
@@ -27,6 +29,16 @@ void WakeDesktop() {
     DestroyWindow(window);
 }
 
+/// Keeps one test's misfortune from the next, and says what a failed one has left behind.
+class CleanStarts : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { vistrel::user::StartClean(); }
+
+    void OnTestEnd(const testing::TestInfo& test) override {
+        if (test.result()->Failed())
+            std::printf("Afterwards:\n%s", vistrel::user::LeftBehind().c_str());
+    }
+};
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -34,6 +46,7 @@ int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
     SetUnhandledExceptionFilter(ReportCrash);
     WakeDesktop();
+    testing::UnitTest::GetInstance()->listeners().Append(new CleanStarts);
     const int status = RUN_ALL_TESTS();
     // The runner demands this line.
     std::printf("Test program ended with status %d\n", status);
