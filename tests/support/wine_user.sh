@@ -59,15 +59,27 @@ remove_private_folder() {
     rm -rf "$1"
 }
 
+# Makes FILE with a password for a screen of any number.
+make_screen_password() {
+    (umask 077 && {
+        printf '\377\377\0\0\0\0\0\022MIT-MAGIC-COOKIE-1\0\020'
+        head -c 16 /dev/urandom
+    } >"$1")
+}
+
 # start_screen FOLDER [BITS]: starts a virtual X screen on a free display, of 24 bits a pixel or of
-# BITS. Sets DISPLAY and screen_pid; what it shows is in FOLDER/Xvfb_screen0.
+# BITS. Sets DISPLAY, XAUTHORITY and screen_pid; what it shows is in FOLDER/Xvfb_screen0. Screens of
+# other folders, or of other roots on the same machine, may have had the same number before or get it
+# afterwards: a password keeps each to the programs that were started for it.
 start_screen() {
     local attempt
     if [ "$(id -u)" = 0 ]; then mkdir -p -m 1777 /tmp/.X11-unix; fi
+    make_screen_password "$1/screen_password" && own "$1/screen_password" || return 1
+    export XAUTHORITY=$1/screen_password
     # A session of its own: an interrupt from the keyboard is not meant for the screen.
     : >"$1/display"
     setsid Xvfb -displayfd 3 -screen 0 "1024x768x${2:-24}" -fbdir "$1" -nolisten tcp -noreset \
-        3>"$1/display" >"$1/screen.log" 2>&1 &
+        -auth "$1/screen_password" 3>"$1/display" >"$1/screen.log" 2>&1 &
     screen_pid=$!
     for attempt in $(seq 300); do
         if [ -s "$1/display" ]; then
