@@ -5,8 +5,10 @@
 // use them: packaging/check_exe finds the calls.
 #pragma once
 
+#if __GNUC__ >= 13
 #pragma push_macro("_WIN32_WINNT")
 #undef _WIN32_WINNT
 #define _WIN32_WINNT 0x0600
 #include <bits/gthr.h>
 #pragma pop_macro("_WIN32_WINNT")
+#endif

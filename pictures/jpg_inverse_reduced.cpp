@@ -1,6 +1,8 @@
 // Inverse transforms of one to five, or all eight, frequencies an axis.
 #include "pictures/jpg_inverse_reduced.h"
 
+#include <algorithm>
+
 #include "pictures/jpg_color.h"
 #include "pictures/jpg_inverse_block.h"
 

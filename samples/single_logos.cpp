@@ -1,4 +1,5 @@
 // The startup screens of the single-logo sets Sunrise and Circuit, and the two screens they share.
+#include <algorithm>
 #include <cmath>
 
 #include "resources/art/kestrel.h"

@@ -1,6 +1,8 @@
 // The reader that judges the compiler, judged itself by a file that viewers are known to open.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/help/help_reader.h"
 #include "tests/help/tiny_help_file.h"
 

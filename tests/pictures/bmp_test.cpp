@@ -1,6 +1,8 @@
 // Bitmaps of every kind come out as they were put in; damaged ones do no harm.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "pictures/bmp_reader.h"
 #include "tests/pictures/bmp_file.h"
 

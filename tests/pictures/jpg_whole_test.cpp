@@ -1,4 +1,6 @@
 // Whole JPEG files come out as libjpeg decodes them, byte for byte, whatever their kind.
+#include <algorithm>
+
 #include "pictures/jpg_reader.h"
 #include "tests/pictures/jpg_maker.h"
 

@@ -32,10 +32,10 @@ std::vector<HWND> OpenWindows() {
 /// A window that this program always has, so that there is one that can be in front: one pixel in
 /// the corner of the screen.
 HWND Ground() {
-    static const HWND window = CreateWindowExA(
-        WS_EX_TOOLWINDOW, "STATIC", "Ground", WS_POPUP | WS_VISIBLE,
-        GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1, 1, 1, nullptr,
-        nullptr, nullptr, nullptr);
+    static const HWND window =
+        CreateWindowExA(WS_EX_TOOLWINDOW, "STATIC", "Ground", WS_POPUP | WS_VISIBLE,
+                        GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1, 1, 1,
+                        nullptr, nullptr, nullptr, nullptr);
     return window;
 }
 

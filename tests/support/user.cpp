@@ -1,6 +1,8 @@
 // Finding windows, reading them, mouse and keyboard of the tests' user.
 #include "tests/support/user.h"
 
+#include "tests/support/clean_start.h"
+
 namespace vistrel::user {
 
 namespace {
@@ -156,8 +158,20 @@ POINT CentreOf(HWND window) {
 
 bool Activate(HWND window) {
     const HWND top = GetAncestor(window, GA_ROOT);
-    SetForegroundWindow(top);
-    return WaitUntil([&] { return GetForegroundWindow() == top; });
+    // Like a click that did nothing, it is repeated.
+    constexpr int kTries = 20;
+    for (int i = 0; i < kTries; ++i) {
+        SetForegroundWindow(top);
+        if (WaitUntil([&] { return GetForegroundWindow() == top; }, 1000)) return true;
+    }
+    return false;
+}
+
+bool IsInFront(HWND window) {
+    if (GetForegroundWindow() == window) return true;
+    // It may be on its way there.
+    if (!WaitUntil([] { return !NobodyIsInFront(); }, 1000)) SetForegroundWindow(window);
+    return GetForegroundWindow() == window;
 }
 
 void MoveTo(POINT point) {
@@ -217,8 +231,41 @@ bool RightClick(HWND window) {
     return true;
 }
 
+namespace {
+
+BOOL CALLBACK IsInUse(HWND window, LPARAM found) {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) ||
+        (GetWindowLongA(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION) {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+/// A user whose keys reach nobody clicks the window that he was working with.
+void TakeUpKeyboard() {
+    if (WaitUntil([] { return !NobodyIsInFront(); }, 1000)) return;
+    HWND window = nullptr;
+    EnumWindows(IsInUse, reinterpret_cast<LPARAM>(&window));
+    if (window != nullptr) Activate(window);
+}
+
+/// Presses a key to hold it. The screen, which knows of no such key, lets go of it once when a
+/// window comes to the front, which may be just now.
+void Hold(WORD key) {
+    WaitUntil(
+        [&] {
+            Send({KeyInput(key, 0)});
+            return (GetAsyncKeyState(key) & 0x8000) != 0;
+        },
+        1000);
+}
+
+}  // namespace
+
 void Press(WORD key, const std::vector<WORD>& held) {
-    for (const WORD holding : held) Send({KeyInput(holding, 0)});
+    TakeUpKeyboard();
+    for (const WORD holding : held) Hold(holding);
     Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
     for (auto holding = held.rbegin(); holding != held.rend(); ++holding) {
         Send({KeyInput(*holding, KEYEVENTF_KEYUP)});
@@ -226,6 +273,7 @@ void Press(WORD key, const std::vector<WORD>& held) {
 }
 
 void Type(const std::string& text) {
+    TakeUpKeyboard();
     std::wstring wide(text.size(), L'\0');
     MultiByteToWideChar(1252, 0, text.data(), static_cast<int>(text.size()), wide.data(),
                         static_cast<int>(wide.size()));

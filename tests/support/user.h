@@ -56,6 +56,8 @@ std::string ClassOf(HWND window);
 POINT CentreOf(HWND window);
 /// Brings the window's top window to the front and waits until it is there.
 bool Activate(HWND window);
+/// Whether this top window is in front. Where nobody is, it is brought there as by a user's click.
+bool IsInFront(HWND window);
 void MoveTo(POINT point);
 void ClickAt(POINT point);
 void DoubleClickAt(POINT point);
@@ -80,8 +82,8 @@ void Type(const std::string& text);
 
 // Menus of this process; use a `Meanwhile` when the menu belongs to the thread of the test.
 
-/// Chooses a command from the menu bar of the active window by keyboard. Returns false, without a
-/// key pressed, when the menu bar has no such command.
+/// Chooses a command from the menu bar of the active window by keyboard, looking at what is marked.
+/// Returns false, without a key pressed, when the menu bar has no such command.
 bool ChooseFromMenuBar(HWND window, unsigned command);
 /// Waits for a pop-up menu and chooses a command from it by keyboard. When the menu does not have
 /// it the menu is closed and the result is false.
@@ -103,7 +105,8 @@ struct Box {
 
 /// Waits for a message box, of this process or any (`process` 0 is this one).
 Box WaitForBox(DWORD process = 0, DWORD milliseconds = 20000);
-/// Waits for a message box, presses this button and waits until the box is closed.
+/// Waits for a message box, presses this button and waits until the box is closed. When it stays
+/// for seconds the button is pressed again.
 Box AnswerBox(int button, DWORD process = 0);
 
 /// Keeps what the screen shows, or the part of it that a window takes, as NAME.png in the folder

@@ -7,19 +7,21 @@ namespace vistrel::user {
 
 namespace {
 
-/// One step of the way to a command: how many items to go down from the first, passing over
-/// separators.
-using MenuPath = std::vector<int>;
+/// An item on the way to a command.
+struct Step {
+    HMENU menu;
+    int position;
+};
+using MenuPath = std::vector<Step>;
 
 bool FindCommand(HMENU menu, unsigned command, MenuPath* path) {
-    int selectable = 0;
     const int count = GetMenuItemCount(menu);
     for (int i = 0; i < count; ++i) {
         MENUITEMINFOA item = {};
         item.cbSize = sizeof item;
         item.fMask = MIIM_TYPE | MIIM_ID | MIIM_SUBMENU;
         if (!GetMenuItemInfoA(menu, i, TRUE, &item) || (item.fType & MFT_SEPARATOR) != 0) continue;
-        path->push_back(selectable++);
+        path->push_back({menu, i});
         if (item.hSubMenu != nullptr ? FindCommand(item.hSubMenu, command, path)
                                      : item.wID == command) {
             return true;
@@ -29,13 +31,44 @@ bool FindCommand(HMENU menu, unsigned command, MenuPath* path) {
     return false;
 }
 
-/// Goes the rest of the way in an open pop-up whose first item is selected.
-void WalkDown(MenuPath::const_iterator step, MenuPath::const_iterator end) {
-    while (step != end) {
-        for (int i = 0; i < *step; ++i) Press(VK_DOWN);
-        if (++step != end) Press(VK_RIGHT);
+/// The item that a user sees marked, or -1.
+int MarkedItem(HMENU menu) {
+    for (int i = IsMenu(menu) ? GetMenuItemCount(menu) - 1 : -1; i >= 0; --i)
+        if ((GetMenuState(menu, i, MF_BYPOSITION) & MF_HILITE) != 0) return i;
+    return -1;
+}
+
+/// Presses a key and looks at what comes of it; presses it again when nothing does.
+template <typename Condition>
+bool PressUntil(WORD key, Condition condition) {
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        Press(key);
+        if (WaitUntil(condition, 3000)) return true;
     }
-    Press(VK_RETURN);
+    return false;
+}
+
+/// Marks an item of an open menu by going from one to the next.
+bool GoTo(const Step& step, WORD key) {
+    // Once around is enough.
+    for (int left = GetMenuItemCount(step.menu) + 1; left > 0; --left) {
+        const int marked = MarkedItem(step.menu);
+        if (marked == step.position) return true;
+        if (!PressUntil(key, [&] { return MarkedItem(step.menu) != marked; })) return false;
+    }
+    return false;
+}
+
+/// Goes the rest of the way in an open pop-up.
+bool WalkDown(MenuPath::const_iterator step, MenuPath::const_iterator end) {
+    for (; step + 1 != end; ++step) {
+        const HMENU inner = (step + 1)->menu;
+        if (!GoTo(*step, VK_DOWN) || !PressUntil(VK_RIGHT, [&] { return MarkedItem(inner) >= 0; }))
+            return false;
+    }
+    return GoTo(*step, VK_DOWN) &&
+           PressUntil(VK_RETURN, [&] { return MarkedItem(step->menu) != step->position; });
 }
 
 BOOL CALLBACK CollectChild(HWND window, LPARAM children) {
@@ -97,12 +130,11 @@ bool ReadBox(HWND dialog, Box* box) {
 
 bool ChooseFromMenuBar(HWND window, unsigned command) {
     MenuPath path;
-    if (!FindCommand(GetMenu(window), command, &path)) return false;
-    Press(VK_F10);
-    for (int i = 0; i < path.front(); ++i) Press(VK_RIGHT);
-    Press(VK_DOWN);
-    WalkDown(path.begin() + 1, path.end());
-    return true;
+    const HMENU bar = GetMenu(window);
+    if (!FindCommand(bar, command, &path)) return false;
+    return PressUntil(VK_F10, [&] { return MarkedItem(bar) >= 0; }) && GoTo(path[0], VK_RIGHT) &&
+           PressUntil(VK_DOWN, [&] { return MarkedItem(path[1].menu) >= 0; }) &&
+           WalkDown(path.begin() + 1, path.end());
 }
 
 HMENU WaitForPopUp() {
@@ -120,9 +152,7 @@ bool ChooseFromPopUp(unsigned command) {
         Press(VK_ESCAPE);
         return false;
     }
-    Press(VK_DOWN);
-    WalkDown(path.begin(), path.end());
-    return true;
+    return WalkDown(path.begin(), path.end());
 }
 
 Box WaitForBox(DWORD process, DWORD milliseconds) {
@@ -132,8 +162,7 @@ Box WaitForBox(DWORD process, DWORD milliseconds) {
         [&] {
             const HWND dialog = FindTop("#32770", "", process);
             Box seen;
-            const bool found =
-                dialog != nullptr && GetForegroundWindow() == dialog && ReadBox(dialog, &seen);
+            const bool found = dialog != nullptr && ReadBox(dialog, &seen) && IsInFront(dialog);
             if (found) box = seen;
             return found;
         },
@@ -144,8 +173,11 @@ Box WaitForBox(DWORD process, DWORD milliseconds) {
 Box AnswerBox(int button, DWORD process) {
     const Box box = WaitForBox(process);
     if (box.window == nullptr) return box;
-    Click(GetDlgItem(box.window, button));
-    WaitUntilGone(box.window);
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        Click(GetDlgItem(box.window, button));
+        if (WaitUntilGone(box.window, 7000)) break;
+    }
     return box;
 }
 
