@@ -25,7 +25,9 @@ test_needs="$win9x_needs"'
 /usr/include/gmock/gmock.h              libgmock-dev
 /usr/include/jpeglib.h                  libjpeg-dev
 /usr/include/gif_lib.h                  libgif-dev
-/usr/include/benchmark/benchmark.h      libbenchmark-dev'
+/usr/include/benchmark/benchmark.h      libbenchmark-dev
+makensis                                nsis
+zip                                     zip'
 fuzz_needs='
 clang++                                 clang
 /usr/lib/llvm*/lib/clang/*/lib/linux/libclang_rt.fuzzer*|/usr/lib*/clang/*/lib/*/libclang_rt.fuzzer*    libclang-rt-dev'
