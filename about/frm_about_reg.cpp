@@ -5,6 +5,8 @@
 #include "about/about.h"
 #include "about/contacts.h"
 #include "controls/drawing.h"
+#include "controls/screen_metrics.h"
+#include "help/context_numbers.h"
 #include "pictures/draw_resource.h"
 #include "platform/message_box.h"
 #include "resources/ids.h"
@@ -13,8 +15,14 @@ namespace vistrel {
 namespace {
 
 constexpr const char* kVersion = "Version: 4.00b2 - Beta 2";
-constexpr const char* kLegalWarning =
-    "Copying this program in parts or under another name is against the law.";
+constexpr const char* kLegalWarning = "Copying this program under another name is against the law.";
+
+/// The separator under the title, in twips; the other one is as long.
+constexpr Point kRuleFrom{720, 1260};
+constexpr Point kRuleTo{4560, 1270};
+constexpr int kTwipsPerInch = 1440;
+
+int PixelsOf(int twips) { return twips * PixelsPerInch() / kTwipsPerInch; }
 
 /// The web pages stand between the mail addresses.
 bool IsWebPage(int index) { return index == 1 || index == 3; }
@@ -37,11 +45,14 @@ FrmAboutReg::FrmAboutReg() : Window("FrmAboutReg", IDD_FrmAboutReg) {
 }
 
 void FrmAboutReg::Form_Load() {
+    SetHelpTopic(help_number::AboutBox);
     ShowPictureResource("logoicon", Image1);
     LblTitProgram.SetFont({.bold = true, .points = 18, .face = "Arial"});
     LblTitProgram.SetText(kProgramTitle);
     LblVersion.SetText(kVersion);
     LblComments.SetText(kLegalWarning);
+    const Rect line = Line1.Bounds();
+    Line1.MoveTo({PixelsOf(kRuleFrom.x), line.top, PixelsOf(kRuleTo.x - kRuleFrom.x), line.height});
     const char* addresses[] = {kSupportAddress, kHomePage, kSuggestionsAddress, kLogoPage};
     for (int i = 0; i < 4; ++i) {
         LblInternet[i].SetText(addresses[i]);
@@ -53,9 +64,7 @@ void FrmAboutReg::Form_Load() {
     }
 }
 
-void FrmAboutReg::Form_Paint(DeviceContext target) {
-    DrawSeparator(target, {720, 1260}, {4560, 1270});
-}
+void FrmAboutReg::Form_Paint(DeviceContext target) { DrawSeparator(target, kRuleFrom, kRuleTo); }
 
 void FrmAboutReg::LblInternet_Click(int index) {
     const std::string text = LblInternet[index].Text();

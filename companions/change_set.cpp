@@ -1,8 +1,13 @@
 // What Rotaline and Shufflet have in common: installing another set without any window.
 #include "companions/change_set.h"
 
-#include "core/install.h"
+#include <algorithm>
+#include <optional>
+
+#include "companions/replace_screen.h"
+#include "core/generali.h"
 #include "core/library.h"
+#include "core/mdl_registry.h"
 #include "core/running_instance.h"
 #include "core/settings.h"
 #include "core/synchronizing.h"
@@ -11,6 +16,44 @@
 namespace vistrel {
 
 namespace {
+
+/// False when a logo folder is stored and is not there: the drive may be away for this one start.
+/// The settings then name the program's folder, which is right only where somebody can see it.
+bool LogoFolderIsThere() {
+    const std::string stored =
+        CutAtNul(TextOf(QueryValue(Hive::LocalMachine, kSettingsKey, "LogoPath")));
+    return stored.empty() || IsFolder(AddBackslash(stored));
+}
+
+bool HasStartupScreen(const std::string& logoFolder, const std::string& setName) {
+    return FileExists(ScreenPathsOfSet(logoFolder, setName)[0], kHiddenFile | kSystemFile);
+}
+
+/// Chooses again until it is a set that can be installed: one with a startup screen. Empty when
+/// there is none.
+std::optional<std::string> ChooseUsable(const SetChooser& choose, const Settings& settings) {
+    std::vector<std::string> sets = LogoSetNames(settings.logoPath);
+    while (!sets.empty()) {
+        const std::string chosen = choose(sets, settings.defaultLogoSet);
+        if (HasStartupScreen(settings.logoPath, chosen)) return chosen;
+        sets.erase(std::find(sets.begin(), sets.end(), chosen));
+    }
+    return std::nullopt;
+}
+
+/// Installs a set as InstallLogoSet does, but so that a power cut leaves no screen half written.
+bool InstallSafely(const std::string& setName, const Settings& settings,
+                   const SystemLocations& locations) {
+    const auto from = ScreenPathsOfSet(settings.logoPath, setName);
+    const auto to = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
+    // While synchronizing, Mirrorkin brings the other two.
+    const std::size_t count = settings.synchronizeLogos != 0 ? 1 : to.size();
+    bool copiedAll = true;
+    for (std::size_t screen = 0; screen < count; ++screen) {
+        if (!ReplaceScreen(from[screen], to[screen])) copiedAll = false;
+    }
+    return copiedAll;
+}
 
 /// Enters or removes what brings the wait and shutdown screens at the next start.
 bool FollowSynchronizing(bool synchronize, const std::string& programFolder,
@@ -25,19 +68,17 @@ bool FollowSynchronizing(bool synchronize, const std::string& programFolder,
 Outcome ChangeLogoSet(const SetChooser& choose) {
     FailOnDrivesNotReady();
     if (VistrelIsRunning()) return Outcome::VistrelRuns;
+    if (!LogoFolderIsThere()) return Outcome::LogoFolderNotThere;
 
     const SystemLocations locations = FindSystemLocations();
     const Settings settings = ReadSettings(locations);
-    const std::vector<std::string> sets = LogoSetNames(settings.logoPath);
-    if (sets.empty()) return Outcome::NoSets;
+    const std::optional<std::string> chosen = ChooseUsable(choose, settings);
+    if (!chosen) return Outcome::NoSets;
 
-    const std::string chosen = choose(sets, settings.defaultLogoSet);
-    const bool synchronize = settings.synchronizeLogos != 0;
-    const bool copied = InstallLogoSet(
-        {settings.logoPath, settings.bootRoot, locations.windowsDirectory}, chosen, synchronize);
-    const bool recorded = SaveDefaultLogoSet(chosen);
-    const bool registered =
-        FollowSynchronizing(synchronize, locations.programFolder, settings.logoPath, chosen);
+    const bool copied = InstallSafely(*chosen, settings, locations);
+    const bool recorded = SaveDefaultLogoSet(*chosen);
+    const bool registered = FollowSynchronizing(
+        settings.synchronizeLogos != 0, locations.programFolder, settings.logoPath, *chosen);
 
     if (!copied) return Outcome::ScreenNotCopied;
     if (!recorded) return Outcome::SetNotRecorded;

@@ -7,13 +7,8 @@
 
 namespace vistrel {
 
-/// Makes both installed screens equal to those of `folder` (with or without a trailing backslash).
-/// What is equal already is left as it is; a screen that the folder lacks ends up absent, as after
-/// installing. `windowsDirectory` ends in a backslash.
-///
-/// Whenever the power goes, the old or the new file is there, complete. Windows 95 cannot replace a
-/// file by renaming another over it, so that for the moment between two renames neither bears the
-/// screen's own name: the old one is then found aside and put back by the next run.
+/// Makes both installed screens equal to those of `folder` (with or without a trailing backslash),
+/// each by ReplaceScreen. `windowsDirectory` ends in a backslash.
 Outcome MirrorScreens(const std::string& folder, const std::string& windowsDirectory);
 
 }  // namespace vistrel

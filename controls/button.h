@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -37,6 +38,21 @@ class OptionButton : public Button {
         SetMark(true);
     }
     void SetMark(bool chosen);
+    /// Has the tab key stop at this option of a group of which none is chosen; to come there does
+    /// not choose it.
+    void SetTabStop();
+
+    /// What the window notes with the option; not shown.
+    std::string Tag;
+
+    void OnCommand(int code) override;
+
+ protected:
+    bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                   std::intptr_t& result) override;
+
+ private:
+    bool takingFocus_ = false;
 };
 
 /// A box around controls, which are shown and hidden with it.
@@ -44,6 +60,11 @@ class Frame : public Control {
  public:
     void Hold(std::vector<Control*> controls) { held_ = std::move(controls); }
     void ShowWithAll(bool visible);
+    /// Whether the user works in one of the controls.
+    bool HoldsFocus() const;
+
+    /// What the window notes with the frame; not shown.
+    std::string Tag;
 
  private:
     std::vector<Control*> held_;

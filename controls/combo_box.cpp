@@ -42,6 +42,8 @@ void ComboBox::SetText(const std::string& text) {
     fillingField_ = false;
 }
 
+void ComboBox::SelectText() { Send(CB_SETEDITSEL, 0, MAKELPARAM(0, -1)); }
+
 void ComboBox::OnCommand(int code) {
     if (code == CBN_SELCHANGE) {
         // The field still shows the former text here; the handler is to see the chosen one.

@@ -25,6 +25,9 @@ class ComboBox : public Control {
     /// Fills the field. Change does not run.
     void SetText(const std::string& text);
 
+    /// Selects the whole text of the field, so that typing replaces it.
+    void SelectText();
+
     /// The user chose an entry; ListIndex and Text are those of the choice already.
     std::function<void()> Click;
     /// The user typed in the field.

@@ -63,6 +63,8 @@ void Control::SetVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA
 
 void Control::Focus() { ::SetFocus(handle_); }
 
+bool Control::HasFocus() const { return GetFocus() == handle_; }
+
 void Control::Repaint() { InvalidateRect(handle_, nullptr, TRUE); }
 
 Rect Control::Bounds() const {
@@ -84,9 +86,19 @@ void Control::MoveTo(const Rect& place) {
     MoveWindow(handle_, place.left, place.top, place.width, place.height, TRUE);
 }
 
+Point Control::MenuPoint() const {
+    const Rect place = ScreenBounds();
+    return {place.left + 8, place.top + 8};
+}
+
 void Control::SetTip(const std::string& tip) {
     tip_ = tip;
     if (handle_) parent_->ShowTip(handle_, tip_);
+}
+
+std::intptr_t Control::PassOn(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) const {
+    return CallWindowProcA(reinterpret_cast<WNDPROC>(formerProcedure_), handle_, message, wParam,
+                           lParam);
 }
 
 std::intptr_t Control::Send(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) const {
@@ -98,33 +110,53 @@ std::intptr_t Control::SendPointer(unsigned message, std::uintptr_t wParam,
     return SendMessageA(handle_, message, wParam, reinterpret_cast<LPARAM>(pointer));
 }
 
+void Control::Pressed(int button, Point at) {
+    pressed_ = button;
+    if (HoldsMouse()) SetCapture(handle_);
+    if (MouseDown) MouseDown(button, at);
+}
+
+// A button that went down elsewhere, on the title bar or over another control, was not meant for
+// this one; nor was one that was drawn away before it was let go.
+void Control::Released(int button, Point at) {
+    RECT area{};
+    GetClientRect(handle_, &area);
+    const bool clicked = pressed_ == button && PtInRect(&area, {at.x, at.y});
+    pressed_ = 0;
+    // Before the handler, which may open a window or a menu that wants the mouse.
+    if (HoldsMouse() && GetCapture() == handle_) ReleaseCapture();
+    if (clicked && MouseUp) MouseUp(button, at);
+}
+
 bool Control::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                         std::intptr_t& result) {
     const Point at{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            if (MouseDown) MouseDown(kLeftButton, at);
+            Pressed(kLeftButton, at);
             break;
         case WM_RBUTTONDOWN:
-            if (MouseDown) MouseDown(kRightButton, at);
+        case WM_RBUTTONDBLCLK:
+            Pressed(kRightButton, at);
             break;
         case WM_LBUTTONUP:
-            if (MouseUp) MouseUp(kLeftButton, at);
+            Released(kLeftButton, at);
             break;
-        case WM_RBUTTONUP:
-            if (MouseUp) {
-                MouseUp(kRightButton, at);
-                result = 0;
-                return true;  // the handler's own menu stands for the system's
-            }
+        case WM_RBUTTONUP: {
+            // The handler's own menu stands for the system's. Afterwards the control may be no
+            // more.
+            const bool ownMenu = MouseUp != nullptr;
+            Released(kRightButton, at);
+            result = 0;
+            if (ownMenu) return true;
+            break;
+        }
+        case WM_CAPTURECHANGED:
+            if (HoldsMouse()) pressed_ = 0;
             break;
         case WM_MOUSEMOVE:
-            if (MouseMove)
-                MouseMove((wParam & MK_LBUTTON)   ? kLeftButton
-                          : (wParam & MK_RBUTTON) ? kRightButton
-                                                  : 0,
-                          at);
+            if (MouseMove) MouseMove((wParam & (MK_LBUTTON | MK_RBUTTON)) ? pressed_ : 0, at);
             break;
         case WM_KEYUP:
             if (KeyUp) KeyUp(static_cast<int>(wParam));

@@ -39,6 +39,7 @@ class Control {
     bool Visible() const;
     void SetVisible(bool visible);
     void Focus();
+    bool HasFocus() const;
     void Repaint();
 
     /// Place within the parent's client area.
@@ -55,9 +56,11 @@ class Control {
     void SetHelpNumber(int number) { helpNumber_ = number; }
     int helpNumber() const { return helpNumber_; }
 
-    /// A mouse button was released over the control; x and y in its client area.
+    /// A mouse button that was pressed over the control was released over it; x and y in its client
+    /// area.
     std::function<void(int button, Point at)> MouseUp;
     std::function<void(int button, Point at)> MouseDown;
+    /// `button` is the one that went down over the control and is still down, 0 for none.
     std::function<void(int button, Point at)> MouseMove;
     std::function<void(int key)> KeyUp;
     std::function<void(char character)> KeyPress;
@@ -72,6 +75,8 @@ class Control {
     virtual void OnCommand(int) {}
     /// A WM_NOTIFY with this NMHDR; the result goes back to the control.
     virtual std::intptr_t OnNotify(void*) { return 0; }
+    /// Where on the screen a menu opens that was asked for from the keyboard.
+    virtual Point MenuPoint() const;
     /// The colour of the control's text; negative for the system's.
     virtual long TextColor() const { return -1; }
     /// What the control's background is painted with; null for the window's own.
@@ -87,6 +92,11 @@ class Control {
     /// Sees every message before the control does; true when `result` is the answer already.
     virtual bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                            std::intptr_t& result);
+    /// True for a control that has the mouse while a button is down, so that it hears of the
+    /// release wherever that is.
+    virtual bool HoldsMouse() const { return false; }
+    /// Has the control itself deal with a message at once.
+    std::intptr_t PassOn(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) const;
     /// Sends a message to the real control.
     std::intptr_t Send(unsigned message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) const;
     /// Sends a message whose last argument is a pointer.
@@ -96,10 +106,14 @@ class Control {
  private:
     friend struct ControlProcedure;
 
+    void Pressed(int button, Point at);
+    void Released(int button, Point at);
+
     Window* parent_ = nullptr;
     WindowHandle handle_ = nullptr;
     int id_ = 0;
     int helpNumber_ = 0;
+    int pressed_ = 0;  ///< the button that went down last over the control and is not up yet
     std::string tip_;
     void* formerProcedure_ = nullptr;
 };

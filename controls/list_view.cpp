@@ -19,9 +19,7 @@ constexpr int kLongestLabel = 1024;
 
 ListView::ListView() = default;
 
-ListView::~ListView() {
-    if (icons_) ImageList_Destroy(icons_);
-}
+ListView::~ListView() = default;
 
 void ListView::OnAttach() {
     if (OLEDragDrop) dropTarget_ = std::make_unique<FileDropTarget>(handle(), OLEDragDrop);
@@ -30,9 +28,11 @@ void ListView::OnAttach() {
 void ListView::LoadIcons(int bitmapResource, long transparent,
                          const std::vector<std::string>& keys) {
     iconKeys_ = keys;
-    icons_ = ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
-                                  static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
-    SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons_);
+    // The list destroys them with itself.
+    const HIMAGELIST icons =
+        ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
+                             static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
+    SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons);
 }
 
 void ListView::AddColumn(const std::string& heading, int width) {
@@ -168,6 +168,20 @@ void ListView::StartLabelEdit() {
 }
 
 bool ListView::EditingLabel() const { return Send(LVM_GETEDITCONTROL) != 0; }
+
+Point ListView::MenuPoint() const {
+    const int selected = SelectedItem();
+    RECT label{};
+    label.left = LVIR_LABEL;
+    RECT area{};
+    GetClientRect(handle(), &area);
+    if (selected < 0 || !SendPointer(LVM_GETITEMRECT, static_cast<WPARAM>(selected), &label) ||
+        !PtInRect(&area, {label.left, label.top}))
+        return Control::MenuPoint();
+    POINT below{label.left, label.bottom};
+    ClientToScreen(handle(), &below);
+    return {static_cast<int>(below.x), static_cast<int>(below.y)};
+}
 
 std::intptr_t ListView::OnNotify(void* header) {
     switch (static_cast<const NMHDR*>(header)->code) {

@@ -73,6 +73,8 @@ class ListView : public Control {
     std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
 
     std::intptr_t OnNotify(void* header) override;
+    /// Below the selected item's text, where that is in sight.
+    Point MenuPoint() const override;
 
  protected:
     void OnAttach() override;
@@ -83,7 +85,6 @@ class ListView : public Control {
     int IconNumber(const std::string& key) const;
 
     std::vector<std::string> iconKeys_;
-    ImageListHandle icons_ = nullptr;
     bool selectingByCode_ = false;
     std::unique_ptr<FileDropTarget> dropTarget_;
 };

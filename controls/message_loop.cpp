@@ -47,6 +47,13 @@ Window* OpenWindowOf(WindowHandle handle) {
     return nullptr;
 }
 
+void EndSession() {
+    // A window is opened in front of those that are open.
+    const std::vector<Window*> windows = openWindows();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+        (*window)->SessionEnds();
+}
+
 void RunLoopWhileOpen(const Window& window) {
     MSG message{};
     while (window.IsOpen()) {

@@ -14,6 +14,11 @@ void LeaveLoop(Window& window);
 /// The window of ours with this handle; null when there is none open.
 Window* OpenWindowOf(WindowHandle handle);
 
+/// Tells all open windows, the one in front first, that the system's session ends: it tells each
+/// window itself, but in an order of its own, and may end the program after the first. Told again,
+/// they keep the same again.
+void EndSession();
+
 /// Runs until this window has been closed, or the program is to end.
 void RunLoopWhileOpen(const Window& window);
 /// Handles the messages that wait, and returns when there are none. False when the program is to

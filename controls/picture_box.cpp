@@ -49,6 +49,7 @@ void PictureBox::ReleaseCanvas() {
 
 void PictureBox::Clear() {
     hasPicture_ = false;
+    LetTabStop();
     ReleaseCanvas();
     Repaint();
 }
@@ -72,6 +73,7 @@ DeviceContext PictureBox::Canvas() {
 
 void PictureBox::Keep() {
     hasPicture_ = true;
+    LetTabStop();
     // Every pixel is painted over: erasing first would only flicker.
     InvalidateRect(handle(), nullptr, FALSE);
 }
@@ -109,6 +111,7 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
         case WM_PAINT: {
             PAINTSTRUCT paint{};
             Paint(BeginPaint(handle(), &paint));
+            DrawFocusMark(paint.hdc);
             EndPaint(handle(), &paint);
             result = 0;
             return true;
@@ -116,8 +119,15 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
         case WM_SIZE:
             InvalidateRect(handle(), nullptr, FALSE);
             return false;
+        case WM_CONTEXTMENU:
+            // The mouse's menu opens at its release; this is the key's.
+            if (!MouseUp) return false;
+            MouseUp(kRightButton, {ScaleWidth() / 2, ScaleHeight() / 2});
+            result = 0;
+            return true;
         default:
-            return Control::OnMessage(message, wParam, lParam, result);
+            return OnKeyboard(message, wParam) ||
+                   Control::OnMessage(message, wParam, lParam, result);
     }
 }
 

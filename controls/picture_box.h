@@ -1,4 +1,5 @@
-// A box that shows a picture. Its window text is its tag: the path of the file that it shows.
+// A box that shows a picture. Its window text is its tag: the path of the file that it shows. Where
+// the template makes it a tab stop, keys stand for the mouse's buttons while it shows a picture.
 #pragma once
 
 #include <functional>
@@ -33,18 +34,28 @@ class PictureBox : public Control {
     /// Paints the drawing area in place of the picture while it is set.
     std::function<void(DeviceContext target)> PaintInstead;
 
+    /// A point of the drawing area as one of the screen.
+    Point OnScreen(Point at) const;
+
     std::string Tag() const { return Text(); }
     void SetTag(const std::string& tag) { SetText(tag); }
 
  protected:
+    bool HoldsMouse() const override { return MouseUp != nullptr; }
+    void OnAttach() override;
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result) override;
 
  private:
+    bool OnKeyboard(unsigned message, std::uintptr_t key);
+    void DrawFocusMark(DeviceContext target) const;
+    void LetTabStop();
     void ReleaseCanvas();
     void Paint(DeviceContext target);
 
     bool hasPicture_ = false;
+    bool tabStop_ = false;    ///< its template lets Tab stop here
+    bool spaceDown_ = false;  ///< and not up again, with the focus here all the time
     DeviceContext canvas_ = nullptr;
     BitmapHandle bitmap_ = nullptr;
     void* formerBitmap_ = nullptr;

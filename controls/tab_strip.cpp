@@ -19,6 +19,19 @@ int TabStrip::SelectedIndex() const { return static_cast<int>(Send(TCM_GETCURSEL
 
 void TabStrip::Select(int index) { Send(TCM_SETCURSEL, static_cast<WPARAM>(index - 1)); }
 
+bool TabStrip::TurnPage(int key) {
+    if (GetKeyState(VK_CONTROL) >= 0) return false;
+    int step = 0;
+    if (key == VK_TAB) step = GetKeyState(VK_SHIFT) < 0 ? -1 : 1;
+    if (key == VK_PRIOR) step = -1;
+    if (key == VK_NEXT) step = 1;
+    if (step == 0) return false;
+    // From the last to the first and back.
+    Select((SelectedIndex() - 1 + step + Count()) % Count() + 1);
+    if (Click) Click();
+    return true;
+}
+
 Rect TabStrip::PageArea() const {
     const Rect place = Bounds();
     RECT r{place.left, place.top, place.right(), place.bottom()};

@@ -16,6 +16,9 @@ class TabStrip : public Control {
     int SelectedIndex() const;
     /// Selects a tab by its number, from 1. Click does not run.
     void Select(int index);
+    /// Ctrl+Tab and Ctrl+Page Down go to the next tab, Ctrl+Shift+Tab and Ctrl+Page Up to the one
+    /// before, as a click on it would. False for any other key.
+    bool TurnPage(int key);
     /// The part of the control that the tabs leave for a page, within the parent's client area.
     Rect PageArea() const;
 

@@ -11,7 +11,6 @@
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "platform/instance.h"
-#include "platform/pointer.h"
 
 namespace vistrel {
 namespace {
@@ -63,8 +62,11 @@ Window::Window(const char* className, int templateId)
 
 Window::~Window() {
     if (!handle_) return;
+    // Its controls' and timers' objects are gone already: nothing that it hears now is handled.
+    const HWND closing = handle_;
+    handle_ = nullptr;
     LeaveLoop(*this);
-    DestroyWindow(handle_);
+    DestroyWindow(closing);
 }
 
 void Window::Add(Control& control, int id, const char* tip) {
@@ -118,17 +120,27 @@ bool Window::Unload() {
     const bool agreed = Form_Unload();
     unloading_ = false;
     if (!agreed) return false;
-    for (Timer* timer : timers_) timer->SetEnabled(false);
-    // The owner must be able to take the focus before this window gives it up.
-    if (disabledOwner_) EnableWindow(disabledOwner_, TRUE);
-    disabledOwner_ = nullptr;
-    const HWND closing = handle_;
-    LeaveLoop(*this);
-    DestroyWindow(closing);
-    handle_ = nullptr;
-    tips_ = nullptr;
+    FreeOwner();
+    DestroyWindow(handle_);
     return true;
 }
+
+// The owner must be able to take the focus before this window gives it up.
+void Window::FreeOwner() {
+    if (disabledOwner_) EnableWindow(disabledOwner_, TRUE);
+    disabledOwner_ = nullptr;
+}
+
+// By Unload, or by the system together with the window that owns it.
+void Window::OnDestroy() {
+    for (Timer* timer : timers_) timer->SetEnabled(false);
+    FreeOwner();
+    LeaveLoop(*this);
+    handle_ = nullptr;
+    tips_ = nullptr;
+}
+
+bool Window::IsEnabled() const { return IsWindowEnabled(handle_) != 0; }
 
 Control* Window::Find(int id) const {
     const auto found = controls_.find(id);
@@ -198,6 +210,11 @@ void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+void Window::FocusNextTo(const Control& control) {
+    const HWND next = GetNextDlgTabItem(handle_, control.handle(), FALSE);
+    SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+}
+
 Rect Window::FromDialogUnits(const Rect& units) const {
     RECT r{units.left, units.top, units.right(), units.bottom()};
     MapDialogRect(handle_, &r);
@@ -220,137 +237,6 @@ void Window::ShowTip(WindowHandle child, const std::string& tip) {
 void Window::PopUpMenu(MenuHandle menu, Point screen, int defaultItem) {
     SetMenuDefaultItem(menu, defaultItem ? static_cast<UINT>(defaultItem) : UINT(-1), FALSE);
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
-}
-
-bool Window::TranslateKey(const void* message) {
-    const auto& m = *static_cast<const MSG*>(message);
-    if (m.message == WM_KEYUP) Form_KeyUp(static_cast<int>(m.wParam));
-    if (m.message == WM_CHAR) Form_KeyPress(static_cast<char>(m.wParam));
-    // A key handler may have closed the window; its message is then nobody's.
-    return handle_ == nullptr;
-}
-
-bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
-    const int id = LOWORD(wParam);
-    if (lParam != 0) {
-        if (Control* control = Find(id)) {
-            control->OnCommand(HIWORD(wParam));
-            return true;
-        }
-    }
-    if (id == kWhatsThis) return true;
-    if (lParam == 0) {
-        // Enter and Esc arrive without a control; a button of that number stands for them.
-        if (Control* control = Find(id)) {
-            control->OnCommand(BN_CLICKED);
-            return true;
-        }
-    }
-    MenuCommand(id);
-    return true;
-}
-
-bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                       std::intptr_t& result) {
-    switch (message) {
-        case WM_COMMAND:
-            return OnCommand(wParam, lParam);
-        case WM_NOTIFY: {
-            const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-            Control* control = Find(static_cast<int>(header->idFrom));
-            result = control && control->handle() == header->hwndFrom
-                         ? control->OnNotify(reinterpret_cast<void*>(lParam))
-                         : OnNotify(reinterpret_cast<void*>(lParam));
-            return true;
-        }
-        case WM_CTLCOLORSTATIC: {
-            const Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
-            if (!control || control->TextColor() < 0) return false;
-            SetTextColor(reinterpret_cast<HDC>(wParam),
-                         static_cast<COLORREF>(control->TextColor()));
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            const BrushHandle own = control->BackBrush();
-            result = reinterpret_cast<std::intptr_t>(own ? own : GetSysColorBrush(COLOR_BTNFACE));
-            return true;
-        }
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            Control* control = ControlOf(item.hwndItem);
-            if (!control) return false;
-            control->OnDrawItem(&item);
-            result = TRUE;
-            return true;
-        }
-        case WM_SETCURSOR: {
-            if (BusyPointer::Shown()) {
-                SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
-                result = TRUE;
-                return true;
-            }
-            Control* control = ControlOf(reinterpret_cast<HWND>(wParam));
-            if (!control || !control->SetPointer()) return false;
-            result = TRUE;
-            return true;
-        }
-        case WM_TIMER:
-            for (Timer* timer : timers_) {
-                if (reinterpret_cast<std::uintptr_t>(timer) != wParam) continue;
-                if (timer->Tick) timer->Tick();
-                return true;
-            }
-            return false;
-        case WM_SIZE:
-            if (wParam != SIZE_MINIMIZED) Form_Resize(ClientSize());
-            return false;
-        case WM_GETMINMAXINFO: {
-            const Size least = SmallestSize();
-            auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
-            info.ptMinTrackSize = {least.width, least.height};
-            return least.width > 0;
-        }
-        case WM_PAINT: {
-            PAINTSTRUCT paint{};
-            const HDC dc = BeginPaint(handle_, &paint);
-            Form_Paint(dc);
-            EndPaint(handle_, &paint);
-            return true;
-        }
-        case WM_INITMENUPOPUP:
-            if (HIWORD(lParam) == FALSE) MenuOpens(reinterpret_cast<HMENU>(wParam));
-            return false;
-        case WM_HELP:
-            return OnHelp(lParam);
-        case WM_CONTEXTMENU:
-            return OnContextMenu(
-                reinterpret_cast<HWND>(wParam),
-                {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))},
-                lParam == -1);
-        case WM_PALETTECHANGED: {
-            // What its own picture boxes changed, they have just painted with.
-            const auto changer = reinterpret_cast<HWND>(wParam);
-            if (changer != handle_ && !IsChild(handle_, changer)) RepaintPictures();
-            return true;
-        }
-        case WM_QUERYNEWPALETTE:
-            // The window becomes the active one. Behind others its pictures were matched to colours
-            // of theirs; now they bring in their own.
-            UnrealizeObject(DisplayPalette());
-            RepaintPictures();
-            result = TRUE;
-            return true;
-        case WM_CLOSE:
-            Unload();
-            return true;
-        case WM_QUERYENDSESSION:
-            result = TRUE;
-            return true;
-        case WM_ENDSESSION:
-            // The system ends the program right after this message.
-            if (wParam) Form_Unload();
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace vistrel

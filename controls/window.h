@@ -36,6 +36,8 @@ class Window {
 
     WindowHandle handle() const { return handle_; }
     bool IsOpen() const { return handle_ != nullptr; }
+    /// False while a window in front of it waits for the user.
+    bool IsEnabled() const;
     /// The control with this number; null when the window has none.
     Control* Find(int id) const;
     /// The control seen at a point of the screen; null when there is none of this window's.
@@ -83,11 +85,20 @@ class Window {
     virtual bool Form_Unload() { return true; }
     virtual void Form_Resize(Size) {}
     virtual void Form_Paint(DeviceContext) {}
+    /// The system asks whether its session may end, and waits: the last moment at which the user
+    /// can be asked. False keeps the session going.
+    virtual bool MayEndSession() { return true; }
+    /// The session ends, and the program with it: keeps what the user would lose. Nothing may be
+    /// shown any more.
+    virtual void SessionEnds() { Form_Unload(); }
+    /// A key went down, in whatever control; true when nobody else is to hear of it.
+    virtual bool Form_KeyDown(int) { return false; }
     virtual void Form_KeyUp(int) {}
     virtual void Form_KeyPress(char) {}
     /// A menu item, a tool or, without a control of that number, a dialog command (1 Enter, 2 Esc).
     virtual void MenuCommand(int) {}
-    /// The right button was pressed beside the controls. False leaves it to the system.
+    /// The right button was clicked within the window beside the controls. False leaves it to the
+    /// system.
     virtual bool Form_ContextMenu(Point) { return false; }
     /// A menu is about to open.
     virtual void MenuOpens(MenuHandle) {}
@@ -96,12 +107,21 @@ class Window {
     /// The smallest size of the whole window that the user can drag it to.
     virtual Size SmallestSize() const { return {0, 0}; }
 
+    /// The topic of the help that F1 shows where no control has one of its own.
+    void SetHelpTopic(unsigned long number) { helpTopic_ = number; }
+
+    /// Gives the focus to the control at which the tab key stops behind this one.
+    void FocusNextTo(const Control& control);
+
     /// Converts dialog units of this window's font to pixels.
     Rect FromDialogUnits(const Rect& units) const;
 
  private:
     friend struct WindowProcedure;
+    friend void EndSession();
 
+    void FreeOwner();
+    void OnDestroy();
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result);
     bool OnCommand(std::uintptr_t wParam, std::intptr_t lParam);
@@ -120,6 +140,7 @@ class Window {
     WindowHandle tips_ = nullptr;
     WindowHandle disabledOwner_ = nullptr;
     bool unloading_ = false;
+    unsigned long helpTopic_ = 0;
     std::map<int, Control*> controls_;
     std::vector<Timer*> timers_;
 };

@@ -12,6 +12,13 @@ std::string& helpFile() {
     return path;
 }
 
+bool IsInside(HWND window, Point screen) {
+    RECT area{};
+    GetClientRect(window, &area);
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
+    return PtInRect(&area, {screen.x, screen.y}) != 0;
+}
+
 }  // namespace
 
 void Window::SetHelpFile(const std::string& path) { helpFile() = path; }
@@ -27,19 +34,20 @@ bool Window::OnHelp(std::intptr_t lParam) {
     const auto& info = *reinterpret_cast<const HELPINFO*>(lParam);
     if (info.iContextType != HELPINFO_WINDOW) return false;
     const Control* control = ControlOf(static_cast<HWND>(info.hItemHandle));
-    if (!control || control->helpNumber() == 0) return false;
-    ShowTopic(*control);
+    if (control && control->helpNumber() != 0)
+        ShowTopic(*control);
+    else if (helpTopic_ != 0)
+        ShowHelp(handle_, HelpFile(), HelpCommand::Context, helpTopic_);
+    else
+        return false;
     return true;
 }
 
 bool Window::OnContextMenu(WindowHandle child, Point screen, bool byKeyboard) {
     Control* control = ControlOf(child);
-    if (!control) return !byKeyboard && Form_ContextMenu(screen);
-    if (byKeyboard) {
-        RECT r{};
-        GetWindowRect(control->handle(), &r);
-        screen = {static_cast<int>(r.left) + 8, static_cast<int>(r.top) + 8};
-    }
+    // The title bar and the frame have the system's menu.
+    if (!control) return !byKeyboard && IsInside(handle_, screen) && Form_ContextMenu(screen);
+    if (byKeyboard) screen = control->MenuPoint();
     if (control->ContextMenu) {
         control->ContextMenu(screen, byKeyboard);
         return true;

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 #include "core/mdl_registry.h"
+#include "platform/characters.h"
 #include "platform/files.h"
 
 namespace vistrel {
@@ -16,6 +18,14 @@ constexpr const char* kShellFoldersKey =
 
 /// The attributes that hide an entry from a search that does not ask for them.
 constexpr std::uint32_t kAskedForOnly = kHiddenFile | kSystemFile | kDirectory;
+
+/// Where each character of a text begins.
+std::vector<std::size_t> CharacterStarts(const std::string& text) {
+    std::vector<std::size_t> starts;
+    for (std::size_t at = 0; at < text.size(); at += CharacterLength(text, at))
+        starts.push_back(at);
+    return starts;
+}
 
 }  // namespace
 
@@ -31,14 +41,14 @@ std::string GetStartupFolder() {
 }
 
 std::string AddBackslash(const std::string& path) {
-    if (path.ends_with('\\')) return path;
+    if (EndsInBackslash(path)) return path;
     return Trim(path) + "\\";
 }
 
 bool FileExists(const std::string& path, unsigned attributes) {
     if (path.empty()) return false;
     // A folder's name with a backslash searches what the folder holds.
-    const std::string pattern = path.ends_with('\\') ? path + "*.*" : path;
+    const std::string pattern = EndsInBackslash(path) ? path + "*.*" : path;
     bool found = false;
     ForEachEntry(pattern, [&](const FolderEntry& entry) {
         found = (entry.attributes & kAskedForOnly & ~attributes) == 0;
@@ -48,18 +58,21 @@ bool FileExists(const std::string& path, unsigned attributes) {
 }
 
 std::string GetFileName(std::string& path) {
-    if (path.ends_with('\\')) path.pop_back();
-    return path.substr(path.rfind('\\') + 1);
+    if (EndsInBackslash(path)) path.pop_back();
+    return path.substr(LastBackslash(path) + 1);
 }
 
 std::string CompactPath(const std::string& path, int maximum) {
-    const auto length = static_cast<std::int64_t>(path.size());
+    const std::vector<std::size_t> starts = CharacterStarts(path);
+    const auto length = static_cast<std::int64_t>(starts.size());
     if (length <= maximum) return path;
+    const std::string head = path.substr(0, length > 3 ? starts[3] : path.size()) + "...";
     // Positions count from 1: the tail begins at or after this one.
     const std::int64_t start = length - (static_cast<std::int64_t>(maximum) - 6);
-    const auto tail = path.find('\\', static_cast<std::size_t>(start - 1));
-    const std::string head = path.substr(0, 3) + "...";
-    return tail == std::string::npos ? head : head + path.substr(tail);
+    for (std::int64_t i = start - 1; i < length; ++i) {
+        if (path[starts[i]] == '\\') return head + path.substr(starts[i]);
+    }
+    return head;
 }
 
 std::string CutAtNul(std::string text) {
@@ -76,14 +89,16 @@ std::string Trim(const std::string& text) {
 std::string UpperCase(std::string_view text) {
     // The endings that are compared are plain letters: no other character has to change.
     std::string upper(text);
-    for (char& letter : upper) {
+    for (std::size_t at = 0; at < upper.size(); at += CharacterLength(upper, at)) {
+        char& letter = upper[at];
         if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
     }
     return upper;
 }
 
 std::string UpperEnding(std::string_view name) {
-    return UpperCase(name.substr(name.size() - std::min<std::size_t>(name.size(), 4)));
+    const std::string upper = UpperCase(name);
+    return upper.substr(upper.size() - std::min<std::size_t>(upper.size(), 4));
 }
 
 }  // namespace vistrel

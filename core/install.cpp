@@ -13,22 +13,21 @@ void ToggleReadOnlyAttrib(const InstallTargets& targets) {
     }
 }
 
-bool InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize) {
+void InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize) {
     ToggleReadOnlyAttrib(targets);
     const auto [setStartup, setWait, setShutdown] = ScreenPathsOfSet(targets.logoFolder, setName);
     const auto [startup, wait, shutdown] =
         InstalledScreenPaths(targets.bootRoot, targets.windowsDirectory);
 
     Remove(startup);
-    bool copiedAll = CopyOver(setStartup, startup);
-    if (synchronize) return copiedAll;
+    CopyOver(setStartup, startup);
+    if (synchronize) return;
 
     // Both go before either comes.
     Remove(wait);
     Remove(shutdown);
-    if (!CopyOver(setWait, wait)) copiedAll = false;
-    if (!CopyOver(setShutdown, shutdown)) copiedAll = false;
-    return copiedAll;
+    CopyOver(setWait, wait);
+    CopyOver(setShutdown, shutdown);
 }
 
 }  // namespace vistrel

@@ -16,8 +16,7 @@ void ToggleReadOnlyAttrib(const InstallTargets& targets);
 
 /// Copies the screens of a set over the installed ones. A step that fails is passed over: a screen
 /// that the set lacks ends up absent, its old file deleted. With `synchronize` only the startup
-/// screen is copied; Mirrorkin brings the other two at the next start. True when each of the
-/// screens to be copied was.
-bool InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize);
+/// screen is copied; Mirrorkin brings the other two at the next start.
+void InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize);
 
 }  // namespace vistrel

@@ -37,7 +37,9 @@ std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
 void ForEachLogoSet(const std::string& logoFolder,
                     const std::function<void(const std::string& name)>& visit) {
     ForEachEntry(AddBackslash(logoFolder) + "*.*", [&](const FolderEntry& entry) {
-        if (entry.IsFolder() && entry.name != "." && entry.name != "..") visit(entry.name);
+        const bool hidden = (entry.attributes & (kHiddenFile | kSystemFile)) != 0;
+        if (entry.IsFolder() && !hidden && entry.name != "." && entry.name != "..")
+            visit(entry.name);
         return true;
     });
 }

@@ -31,7 +31,8 @@ std::array<std::string, 3> ScreenPathsOfSet(const std::string& logoFolder,
 std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
                                                 const std::string& windowsDirectory);
 
-/// Calls `visit` with the name of each set, in the order in which the folder lists them.
+/// Calls `visit` with the name of each set, in the order in which the folder lists them. Hidden and
+/// system folders, such as the Recycle Bin of a drive, are none.
 void ForEachLogoSet(const std::string& logoFolder,
                     const std::function<void(const std::string& name)>& visit);
 

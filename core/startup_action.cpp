@@ -14,16 +14,28 @@ namespace {
 constexpr const char* kRotalineLink = "Rotaline.lnk";
 constexpr const char* kShuffletLink = "Shufflet.lnk";
 
+/// True when a shell link leads to `program`, by its long name or its short one.
+bool LeadsTo(const std::string& link, const std::string& program) {
+    const auto known = [](const std::string& path) {
+        return UpperCase(CutAtNul(GetShortPath(path)));
+    };
+    return known(ShellLinkTarget(link)) == known(program);
+}
+
 }  // namespace
 
-void MakeMissingLinks(const std::string& programFolder) {
-    const auto make = [&](const char* link, const char* program, const char* description) {
-        if (FileExists(programFolder + link)) return;
-        WriteShellLink(programFolder + link, programFolder + program, "", programFolder,
-                       description);
+void MakeMissingLinks(const std::string& programFolder, const std::string& startupFolder) {
+    const auto mend = [&](const std::string& link, const std::string& companion,
+                          const char* description) {
+        const std::string program = programFolder + companion;
+        if (!FileExists(program)) return;
+        const std::string own = programFolder + link;
+        if (!LeadsTo(own, program)) WriteShellLink(own, program, "", programFolder, description);
+        const std::string started = startupFolder + link;
+        if (FileExists(started) && !LeadsTo(started, program)) CopyOver(own, started);
     };
-    make(kRotalineLink, "Rotaline.exe", "Installs the next logo set in turn");
-    make(kShuffletLink, "Shufflet.exe", "Installs a logo set at random");
+    mend(kRotalineLink, "Rotaline.exe", "Installs the next logo set in turn");
+    mend(kShuffletLink, "Shufflet.exe", "Installs a logo set at random");
 }
 
 std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFolder) {

@@ -20,7 +20,8 @@ std::string IniFile(const std::string& programFolder) { return programFolder + "
 }  // namespace
 
 std::string SynchronizedPath(const std::string& logoFolder, const std::string& setName) {
-    return IsSingleLogoSet(setName) ? logoFolder : logoFolder + setName;
+    if (IsSingleLogoSet(setName)) return logoFolder;
+    return logoFolder + (setName.empty() ? kUnknownSet : setName);
 }
 
 bool RegisterMirrorkin(const std::string& programFolder, const std::string& logoFolder,

@@ -6,7 +6,8 @@
 namespace vistrel {
 
 /// The folder that Mirrorkin copies from: the logo folder itself for a single-logo set, otherwise
-/// the set's own folder without a trailing backslash.
+/// the set's own folder without a trailing backslash. Where no set is known (an empty name) it is
+/// one that cannot exist, so that Mirrorkin leaves the screens alone.
 std::string SynchronizedPath(const std::string& logoFolder, const std::string& setName);
 
 /// Enters Mirrorkin among the programs that run at start and writes its ini file; a step that fails

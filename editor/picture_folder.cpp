@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/generali.h"
-#include "platform/files.h"
 
 namespace vistrel {
 namespace {
@@ -21,6 +20,10 @@ void SortIgnoringCase(std::vector<std::string>& names) {
 
 }  // namespace
 
+bool IsOutOfSight(const FolderEntry& entry) {
+    return (entry.attributes & (kHiddenFile | kSystemFile)) != 0;
+}
+
 bool IsScreenName(const std::string& name) { return UpperEnding(name) == ".SYS"; }
 
 bool IsPictureName(const std::string& name) {
@@ -34,7 +37,8 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     const bool read = ForEachEntry(
         folder + "*.*",
         [&](const FolderEntry& entry) {
-            if (entry.attributes & (kHiddenFile | kSystemFile) || entry.name == ".") return true;
+            // ".." may have what hides the folder above, and is the way out of there.
+            if (entry.name == "." || (IsOutOfSight(entry) && entry.name != "..")) return true;
             if (entry.IsFolder())
                 found.folders.push_back(entry.name);
             else if (IsPictureName(entry.name))

@@ -4,12 +4,17 @@
 #include <string>
 #include <vector>
 
+#include "platform/files.h"
+
 namespace vistrel {
 
 /// True for a name that ends in ".SYS", ".BMP", ".GIF" or ".JPG", in any case.
 bool IsPictureName(const std::string& name);
 /// True for a name that ends in ".SYS".
 bool IsScreenName(const std::string& name);
+
+/// True for a hidden or system entry, which no list shows.
+bool IsOutOfSight(const FolderEntry& entry);
 
 /// Names of one folder, each group sorted without regard to case.
 struct PictureFolder {
@@ -18,7 +23,7 @@ struct PictureFolder {
 };
 
 /// Reads the folders and pictures of `folder`, which ends in a backslash, into `found`. Hidden and
-/// system files stay out. False when the folder cannot be read; `found` is then empty.
+/// system entries stay out. False when the folder cannot be read; `found` is then empty.
 bool ReadPictureFolder(const std::string& folder, PictureFolder& found);
 
 }  // namespace vistrel

@@ -15,9 +15,6 @@ namespace vistrel {
 namespace {
 
 constexpr long kIconTransparent = 0xFF00FF;
-constexpr long kBlack = 0;
-/// Place of the menu in its resource.
-constexpr int kActionMenu = 0;
 
 }  // namespace
 
@@ -56,6 +53,7 @@ void SelPictureForm::AddControls() {
     Add(ActButton, ID_ActButton);
     Add(CloseButton, ID_CloseButton);
     Add(List1, ID_List1);
+    Add(LblWritten, ID_LblWritten);
 }
 
 void SelPictureForm::ConnectBrowser() {
@@ -64,6 +62,7 @@ void SelPictureForm::ConnectBrowser() {
     LogoList.ItemClick = [this](int index) { LogoList_ItemClick(index); };
     LogoList.DblClick = [this] { LogoList_DblClick(); };
     LogoList.KeyPress = [this](char character) { LogoList_KeyPress(character); };
+    LogoList.KeyUp = [this](int key) { LogoList_KeyUp(key); };
     LogoList.MouseUp = [this](int button, Point) { LogoList_MouseUp(button); };
     LogoList.ContextMenu = [this](Point screen, bool byKeyboard) {
         if (byKeyboard) ShowManageMenu(screen);
@@ -75,7 +74,7 @@ void SelPictureForm::ConnectBrowser() {
     };
     CurView.MouseDown = [this](int, Point at) { CurView_MouseDown(at); };
     CurView.MouseMove = [this](int button, Point at) { CurView_MouseMove(button, at); };
-    CurView.MouseUp = [this](int button, Point) { Picture_MouseUp(CurView, button); };
+    CurView.MouseUp = [this](int button, Point at) { Picture_MouseUp(CurView, button, at); };
 }
 
 void SelPictureForm::ConnectSlots() {
@@ -85,8 +84,8 @@ void SelPictureForm::ConnectSlots() {
     NameLogoSet.Change = [this] { NameLogoSet_Change(); };
     NameLogoSet.Click = [this] { NameLogoSet_Click(); };
     for (int i = 0; i < 3; ++i) {
-        ImgPreview[i].MouseUp = [this, i](int button, Point) {
-            Picture_MouseUp(ImgPreview[i], button);
+        ImgPreview[i].MouseUp = [this, i](int button, Point at) {
+            Picture_MouseUp(ImgPreview[i], button, at);
         };
         AddButton[i].Click = [this, i] { AddButton_Click(i); };
         DeleteButton[i].Click = [this, i] { DeleteButton_Click(i); };
@@ -120,10 +119,8 @@ void SelPictureForm::Form_Load() {
     LogoList.LoadIcons(IDB_Browser, kIconTransparent, {"closed", "sys", "im"});
     Drive1.LoadIcons(IDB_Drives, kIconTransparent);
     Drive1.Fill();
-    // Yellow cannot be read on grey.
-    ImageInfo.SetBackColor(kBlack);
-    ImageInfo.SetForeColor(kNoPictureColor);
     ImageInfo.SetFont({.bold = true});
+    ForgetPicture();
     OptCompSet.SetMark(true);
     GrowToScreen();
     LogoList.Focus();
@@ -153,9 +150,10 @@ void SelPictureForm::Form_Activate() {
         ActivateOnce = false;
         return;
     }
-    NameLogoSet.Clear();
-    for (const std::string& name : main_.SetNames()) NameLogoSet.AddItem(name);
+    shownLogoFolder_ = LogoFolder();
+    ListNames();
     NameLogoSet.SetListIndex(main_.SelectedSet());
+    NameLogoSet.SelectText();
     if (IsSingleLogoSet(NameLogoSet.Text())) ChooseByCode(SetType::OnlyStartup);
 
     const std::string& lastBrowsed = main_.Preferences().searchLogoPath;
@@ -165,14 +163,30 @@ void SelPictureForm::Form_Activate() {
     BrowseTo(folder);
 }
 
-bool SelPictureForm::Form_Unload() {
+void SelPictureForm::ListNames() {
+    NameLogoSet.Clear();
+    for (const std::string& name : main_.SetNames()) NameLogoSet.AddItem(name);
+}
+
+bool SelPictureForm::MayEndSession() {
+    if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
+    return Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
+               kQuestionYesNoDefaultNo) == Answer::Yes;
+}
+
+// What the user was asked about is discarded; the list of sets is read at the next start.
+void SelPictureForm::SessionEnds() {
+    GoWhereAFolderIs();
     main_.Preferences().searchLogoPath = CurrentFolder;
-    if ((OkButton[0].Enabled() || OkButton[1].Enabled()) &&
-        Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
-            kQuestionYesNoDefaultNo) != Answer::Yes)
-        return false;
     // One that is gone already is passed over.
     for (int i = 0; i < List1.Count(); ++i) Remove(List1.Item(i));
+}
+
+bool SelPictureForm::Form_Unload() {
+    GoWhereAFolderIs();
+    main_.Preferences().searchLogoPath = CurrentFolder;
+    if (!MayEndSession()) return false;
+    SessionEnds();
     if (LibraryChanged) {
         main_.LeggiDatiDisco();
         main_.VisualizzaNumLogo();
@@ -181,6 +195,7 @@ bool SelPictureForm::Form_Unload() {
 }
 
 void SelPictureForm::CheckBtnStatus() {
+    LblWritten.SetText("");
     const CommandStatus status =
         StatusOfCommands({SetChanged, NameChanged, !LoadedSet.empty(), !NameLogoSet.Text().empty()},
                          {OkButton[0].Enabled(), OkButton[1].Enabled(), EliminaSetBtn.Enabled()});
@@ -197,50 +212,6 @@ void SelPictureForm::EnableImage() {
 void SelPictureForm::DisableImage() {
     SlotsEnabled = false;
     EnableControls(false, AddButton[0], AddButton[1], AddButton[2]);
-}
-
-void SelPictureForm::ActButton_Click() {
-    if (type_ == SetType::DefaultScreens) {
-        LibraryChanged = true;
-        if (SaveDefaultScreens())
-            FinishSaving();
-        else
-            ReportSaveError();
-        return;
-    }
-    const Rect button = ActButton.ScreenBounds();
-    PopUpMenu(SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
-}
-
-void SelPictureForm::CloseButton_Click() { Unload(); }
-
-void SelPictureForm::MenuCommand(int id) {
-    // Items of the main window's menu close what they opened before they return.
-    ActivateOnce = true;
-    const bool openWith = main_.OpenWithCommand(id, handle());
-    ActivateOnce = false;
-    if (openWith) return;
-    switch (id) {
-        case ID_OkButton:
-        case ID_OkButton + 1:
-            return OkButton_Click(id - ID_OkButton);
-        case ID_EliminaSetBtn:
-            return EliminaSetBtn_Click();
-        case ID_ClearAllButton:
-            return ClearAllButton_Click();
-        case ID_BrowserRename:
-            return ItmRename_Click();
-        case ID_BrowserDelete:
-            return ItmDelete_Click();
-        case ID_BrowserRefresh:
-            return AggiornaDir();
-        case ID_ItmSetLogo:
-        case ID_ItmSetLogo + 1:
-        case ID_ItmSetLogo + 2:
-            return AddButton_Click(id - ID_ItmSetLogo);
-        default:
-            return;
-    }
 }
 
 }  // namespace vistrel

@@ -51,7 +51,8 @@ class SelPictureForm : public Window {
     Label SlotFrame[3];   ///< with it
     Button ActButton;
     Button CloseButton;
-    ListBox List1;  ///< hidden: the temporary files of this session's conversions
+    ListBox List1;     ///< hidden: the temporary files of this session
+    Label LblWritten;  ///< what the last command that saved has written
 
     // Menus mnuAction and MnuManage
     MenuItem OkButton[2];  ///< create, update
@@ -90,6 +91,8 @@ class SelPictureForm : public Window {
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
+    bool MayEndSession() override;
+    void SessionEnds() override;
     void Form_Resize(Size client) override;
     Size SmallestSize() const override;
     void MenuCommand(int id) override;
@@ -105,12 +108,25 @@ class SelPictureForm : public Window {
     void SetHelpNumbers();
 
     // Layout
+    /// Widths of the three columns' pictures and of the list.
+    struct Columns {
+        int list = 0;
+        int preview = 0;
+        int slot = 0;
+        bool captionsBeneath = false;  ///< of the slots' pictures, instead of beside
+    };
+    Columns ColumnsFor(int width, int height) const;
     void GrowToScreen();
     void PlaceList(const Rect& column);
     void PlacePreview(const Rect& column);
     void PlaceTypeAndName(const Rect& column);
-    void PlaceSlots(const Rect& column, int slotWidth);
+    void PlaceSlots(const Rect& column, const Columns& columns);
     void PlaceSlot(int index, const Rect& slot);
+    void PlaceBeside(int index, const Rect& slot);
+    void PlaceBeneath(int index, const Rect& slot);
+    int RoomAbovePreview() const;
+    int RoomBelowPreview() const;
+    int TypeFrameHeight() const;
     void RedrawPictures();
 
     // The browser
@@ -119,21 +135,39 @@ class SelPictureForm : public Window {
     void LogoList_ItemClick(int index);
     void LogoList_DblClick();
     void LogoList_KeyPress(char character);
+    void LogoList_KeyUp(int key);
     void LogoList_MouseUp(int button);
     void LogoList_BeginDrag();
     bool LogoList_BeforeLabelEdit();
     bool LogoList_AfterLabelEdit(const std::string& newName);
     void CurView_MouseDown(Point at);
     void CurView_MouseMove(int button, Point at);
-    void Picture_MouseUp(const PictureBox& box, int button);
+    void Picture_MouseUp(const PictureBox& box, int button, Point at);
     void ItmRename_Click();
     void ItmDelete_Click();
     void ShowManageMenu(Point screen);
     void BrowseTo(const std::string& folder);
     void ShowPath(const std::string& path);
     void GoUp();
+    void GoWhereAFolderIs();
+    void SelectInList(const std::string& name);
+    void ShowVerdict(long color, const std::string& text);
+    void ForgetPicture();
     std::string SelectedName() const;
     void DragPicture(const Control& source);
+    bool RunOpenWith(int id);
+
+    // What follows when something is renamed or deleted
+    bool InLogoFolder() const;
+    bool TouchesLibrary(const std::string& path) const;
+    void FollowRename(const std::string& from, const std::string& to);
+    void FollowRenamedSet(const std::string& from, const std::string& to);
+    void FollowInstalledSet(const std::string& oldName, const std::string& name);
+    void FollowLogoFolder();
+    void ReplaceName(const std::string& from, const std::string& to);
+    void RemoveName(const std::string& name);
+    void FindLoadedIndex();
+    void ForgetLoadedSet(const std::string& name);
 
     // The slots and the set's type
     void OptCompSet_Click();
@@ -143,6 +177,9 @@ class SelPictureForm : public Window {
     void ChooseByCode(SetType type);
     void ShowType(SetType type);
     void ShowSlot(int index, bool used);
+    void KeepSetsOwnSlots();
+    void ShowSetsOwnSlots();
+    void ShowInSlot(int index, const std::string& path);
     void OptionWasSet();
     void AddButton_Click(int index);
     std::string ConvertSelected();
@@ -150,24 +187,26 @@ class SelPictureForm : public Window {
     void DeleteButton_Click(int index);
     void ClearAllButton_Click();
     void EmptySlot(int index);
-    void RepointSlots(const std::string& from, const std::string& to);
 
     // Names, loading and saving
+    void ListNames();
     void NameLogoSet_Change();
     void NameLogoSet_Click();
     void ActButton_Click();
     void CloseButton_Click();
     void OkButton_Click(int index);
     void EliminaSetBtn_Click();
+    std::string NameToSave();
     bool UpdateSet(const std::string& name);
-    bool RenameLoadedSet(const std::string& name);
+    bool RenameLoadedSet(const std::string& oldName, const std::string& name);
     bool CreateSet(const std::string& name);
-    void AddName(const std::string& name);
-    bool SaveDefaultScreens();
+    void SaveDefaultScreens();
     void LoadSlots(const std::string& setFolder);
     bool RemoveFilesOfEmptySlots(int first, int last, const std::string& folder);
     bool CopySlots(int first, int last, const std::string& folder);
-    void FinishSaving();
+    bool KeepSources(int first, int last, const std::string& folder);
+    bool KeepSource(int index);
+    void FinishSaving(const std::string& what, const std::string& folder);
     void ReportSaveError();
     const std::string& LogoFolder() const { return main_.Preferences().logoPath; }
     std::string ReadTag(int index);
@@ -179,6 +218,8 @@ class SelPictureForm : public Window {
     Size smallest_;         ///< of the whole window: what fits a screen of 640 x 480
     Point pressedAt_;       ///< where the left button went down over CurView
     std::string oldName_;   ///< of the item whose label is edited
+    std::string setsOwnTag_[3];    ///< of slots 1 and 2 while they show the shared screens
+    std::string shownLogoFolder_;  ///< whose sets the session is about
     std::string lastRead_;  ///< the last text that a save command read from a control
 };
 

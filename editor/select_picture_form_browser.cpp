@@ -2,27 +2,31 @@
 #include "controls/drag.h"
 #include "controls/screen_metrics.h"
 #include "core/generali.h"
-#include "editor/file_handling.h"
 #include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
 #include "pictures/draw_preview.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
-#include "resources/ids.h"
 
 namespace vistrel {
 namespace {
 
-/// Place of the menu in its resource.
-constexpr int kManageMenu = 1;
 constexpr char kBackspace = 8;
 constexpr const char* kParentFolder = "..";
 /// "C:\".
 constexpr std::size_t kRootLength = 3;
+constexpr const char* kNoLogoSelected = "No logo selected";
+constexpr long kDarkGround = 0;
+constexpr long kLightGround = 0xFFFFFF;
 constexpr const char* kFixedFolder = "c:\\programmi\\vistrel95\\";
 
 const char* IconOfPicture(const std::string& name) { return IsScreenName(name) ? "sys" : "im"; }
+
+std::string FolderAbove(std::string folder) {
+    const std::string name = GetFileName(folder);
+    return folder.substr(0, folder.size() - name.size());
+}
 
 /// A number with the place of its sign: a blank before one that is not negative.
 std::string Signed(long long number) { return (number < 0 ? "" : " ") + std::to_string(number); }
@@ -43,7 +47,19 @@ bool SelPictureForm::FillList(const std::string& folder) {
     return read;
 }
 
-void SelPictureForm::AggiornaDir() { FillList(CurrentFolder); }
+void SelPictureForm::AggiornaDir() {
+    GoWhereAFolderIs();
+    FillList(CurrentFolder);
+}
+
+// The folder may have been deleted, here or elsewhere: then the nearest one above is shown.
+void SelPictureForm::GoWhereAFolderIs() {
+    std::string folder = CurrentFolder;
+    while (folder.size() > kRootLength && !IsFolder(folder)) folder = FolderAbove(folder);
+    if (folder == CurrentFolder) return;
+    CurrentFolder = folder;
+    ShowPath(CurrentFolder);
+}
 
 void SelPictureForm::BrowseTo(const std::string& folder) {
     CurrentFolder = folder;
@@ -74,7 +90,7 @@ void SelPictureForm::Drive1_Change() {
 void SelPictureForm::Dir1_Change() {
     LogoList.Clear();
     ForEachEntry(std::string(kFixedFolder) + "*.*", [&](const FolderEntry& entry) {
-        if (entry.name != "." && entry.name != kParentFolder)
+        if (entry.name != "." && entry.name != kParentFolder && !IsOutOfSight(entry))
             LogoList.AddItem(entry.name, entry.IsFolder() ? "closed" : IconOfPicture(entry.name));
         return true;
     });
@@ -98,23 +114,46 @@ void SelPictureForm::LogoList_DblClick() {
     else if (IsFolder(CurrentFolder + name))
         BrowseTo(CurrentFolder + name + "\\");
     else
-        Picture_MouseUp(CurView, kLeftButton);
+        Picture_MouseUp(CurView, kLeftButton, {});
 }
 
 void SelPictureForm::LogoList_KeyPress(char character) {
     if (character == kBackspace && CurrentFolder.size() > kRootLength) GoUp();
 }
 
+// The folder that was left is selected, so that Enter goes back into it.
 void SelPictureForm::GoUp() {
-    const std::string inside = CurrentFolder.substr(0, CurrentFolder.size() - 1);
-    BrowseTo(inside.substr(0, inside.rfind('\\') + 1));
+    std::string inside = CurrentFolder;
+    const std::string name = GetFileName(inside);
+    BrowseTo(FolderAbove(CurrentFolder));
+    SelectInList(name);
+}
+
+void SelPictureForm::SelectInList(const std::string& name) {
+    const int index = LogoList.FindItem(name);
+    LogoList.Select(index);
+    if (index >= 0) LogoList.EnsureVisible(index);
+}
+
+void SelPictureForm::ShowVerdict(long color, const std::string& text) {
+    // Each of the three colours is legible on one of these grounds only.
+    ImageInfo.SetBackColor(color == kReadyColor ? kLightGround : kDarkGround);
+    ImageInfo.SetForeColor(color);
+    ImageInfo.SetText(text);
+}
+
+void SelPictureForm::ForgetPicture() {
+    SelectedPicture.clear();
+    CurView.SetTag("");
+    CurView.Clear();
+    ShowVerdict(kNoPictureColor, kNoLogoSelected);
+    DisableImage();
 }
 
 void SelPictureForm::CheckImage(const std::string& path) {
     IsSysFile = false;
     if (!IsPictureName(path)) {
-        ImageInfo.SetForeColor(kNoPictureColor);
-        ImageInfo.SetText("No logo selected");
+        ShowVerdict(kNoPictureColor, kNoLogoSelected);
         // Buttons that an earlier picture enabled stay enabled; the slots look at the verdict.
         if (!SlotsEnabled) DisableImage();
         return;
@@ -129,60 +168,10 @@ void SelPictureForm::CheckImage(const std::string& path) {
     SelectedPicture = path;
     CurView.SetTag(path);
     const bool logoForm = width == 320 && height == 400 && depth == 8;
-    ImageInfo.SetForeColor(logoForm && IsSysFile ? kReadyColor : kConvertColor);
-    ImageInfo.SetText(Trim(Signed(width)) + " x " + Signed(height) + " x " +
-                      Signed(ColorsOfDepth(depth)));
+    ShowVerdict(
+        logoForm && IsSysFile ? kReadyColor : kConvertColor,
+        Trim(Signed(width)) + " x " + Signed(height) + " x " + Signed(ColorsOfDepth(depth)));
     EnableImage();
-}
-
-void SelPictureForm::LogoList_MouseUp(int button) {
-    if (button == kRightButton) ShowManageMenu(PointerPosition());
-}
-
-void SelPictureForm::ShowManageMenu(Point screen) {
-    PopUpMenu(SubMenu(menus_, kManageMenu), screen);
-}
-
-void SelPictureForm::MenuOpens(MenuHandle menu) {
-    if (menu != SubMenu(menus_, kManageMenu)) return;
-    const std::string name = SelectedName();
-    const bool changeable = !name.empty() && name != kParentFolder;
-    EnableControls(changeable, ItmRename, ItmDelete);
-    for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
-}
-
-void SelPictureForm::ItmRename_Click() { LogoList.StartLabelEdit(); }
-
-bool SelPictureForm::LogoList_BeforeLabelEdit() {
-    oldName_ = SelectedName();
-    return oldName_ != kParentFolder;
-}
-
-bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& newName) {
-    const std::string before = CurrentFolder + oldName_;
-    const std::string after = CurrentFolder + newName;
-    if (!Rename(before, after)) {
-        Ask(handle(),
-            "Cannot rename " + oldName_ + ". A file or folder named " + newName +
-                " already exists or the name is not valid.",
-            kExclamationOk);
-        return false;
-    }
-    RepointSlots(before, after);
-    AggiornaDir();
-    const int renamed = LogoList.FindItem(newName);
-    LogoList.Select(renamed);
-    if (renamed >= 0) LogoList.EnsureVisible(renamed);
-    if (SelectedPicture == before) CheckImage(after);
-    // The list shows the new name already.
-    return false;
-}
-
-void SelPictureForm::ItmDelete_Click() {
-    const std::string name = SelectedName();
-    if (name.empty() || name == kParentFolder) return;
-    DeleteToRecycleBin(handle(), {CurrentFolder + name});
-    AggiornaDir();
 }
 
 void SelPictureForm::CurView_MouseDown(Point at) { pressedAt_ = at; }
@@ -203,7 +192,7 @@ void SelPictureForm::DragPicture(const Control& source) {
         if (target == &ImgPreview[i]) AddButton_Click(i);
 }
 
-void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button) {
+void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button, Point at) {
     if (!box.HasPicture()) return;
     main_.SetCurrentPicture(box.Tag());
     if (button == kLeftButton) {
@@ -211,8 +200,9 @@ void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button) {
         ActivateOnce = true;
         main_.AzioneSuImmagine(main_.Preferences().defaultAction, handle());
         ActivateOnce = false;
+        FollowLogoFolder();
     } else if (button == kRightButton) {
-        PopUpMenu(main_.OpenWithMenu(), PointerPosition(), main_.DefaultOpenWithItem());
+        PopUpMenu(main_.OpenWithMenu(), box.OnScreen(at), main_.DefaultOpenWithItem());
     }
 }
 

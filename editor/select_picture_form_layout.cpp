@@ -17,8 +17,14 @@ int Gap() { return Scaled(8); }
 /// The height of a picture of this width on the 4:3 screen that shows it.
 int ScreenHeight(int width) { return width * 3 / 4; }
 
+/// The width of one of this height.
+int ScreenWidth(int height) { return height * 4 / 3; }
+
 /// The width in dialog units that the texts of all columns need beside each other.
 constexpr Rect kNarrowest{0, 0, 384, 0};
+
+/// Pixels at 96 dots an inch.
+constexpr int kButtonWidth = 75;
 
 /// The dropped list of a combo box counts as its height.
 constexpr int kDroppedLines = 10;
@@ -45,23 +51,56 @@ void SelPictureForm::GrowToScreen() {
 
 void SelPictureForm::Form_Resize(Size client) {
     const int gap = Gap();
-    const int height = client.height - 2 * gap;
-    const int buttonColumn = LblSlot[0].Bounds().width;
-    const int list = std::max(Scaled(140), client.width * 22 / 100);
-    // The preview is twice as wide as a slot.
-    const int pictures = client.width - 4 * gap - list - buttonColumn - gap;
-    const int slot = pictures / 3;
-    const int preview = pictures - slot;
-
-    PlaceList({gap, gap, list, height});
-    PlacePreview({gap + list + gap, gap, preview, height});
-    PlaceTypeAndName({gap + list + gap, gap, preview, height});
-    PlaceSlots(
-        {client.width - gap - slot - gap - buttonColumn, gap, slot + gap + buttonColumn, height},
-        slot);
+    const int line = LblWritten.Bounds().height;
+    const int height = client.height - 2 * gap - line;
+    const Columns columns = ColumnsFor(client.width - 4 * gap, height);
+    const int preview = gap + columns.list + gap;
+    const int slots = preview + columns.preview + gap;
+    PlaceList({gap, gap, columns.list, height});
+    PlacePreview({preview, gap, columns.preview, height});
+    PlaceTypeAndName({preview, gap, columns.preview, height});
+    PlaceSlots({slots, gap, client.width - gap - slots, height}, columns);
+    LblWritten.MoveTo({gap, client.height - gap + 2 - line, client.width - 2 * gap, line});
     RedrawPictures();
     // Controls that were moved over each other have copied what stood there.
     RepaintAll();
+}
+
+// Captions and buttons stand beside the slots. Where there is height enough they go beneath, which
+// leaves the pictures more of the width.
+SelPictureForm::Columns SelPictureForm::ColumnsFor(int width, int height) const {
+    const int gap = Gap();
+    const Rect caption = LblSlot[0].Bounds();
+    const int slotHeight = (height - ActButton.Bounds().height - 3 * gap) / 3;
+    const int leastList = std::max(Scaled(140), width * 18 / 100);
+    Columns columns;
+    columns.slot =
+        std::min(ScreenWidth(slotHeight - caption.height - gap), (width - leastList) / 3);
+    columns.captionsBeneath = columns.slot >= caption.width + 2 * gap + 2 * Scaled(64);
+    int slots = columns.slot;
+    if (!columns.captionsBeneath) {
+        const int list = std::max(Scaled(140), width * 22 / 100);
+        // The preview is twice as wide as a slot.
+        columns.slot = std::min(ScreenWidth(slotHeight), (width - list - caption.width - gap) / 3);
+        slots = columns.slot + gap + caption.width;
+    }
+    const int previewHeight = height - RoomAbovePreview() - RoomBelowPreview();
+    columns.preview = std::min(ScreenWidth(previewHeight),
+                               columns.captionsBeneath ? width - leastList - slots
+                                                       : 2 * columns.slot);
+    columns.list = width - slots - columns.preview;
+    return columns;
+}
+
+int SelPictureForm::RoomAbovePreview() const { return Drive1.Bounds().height + Gap() / 2; }
+
+int SelPictureForm::TypeFrameHeight() const {
+    return Label3.Bounds().height + Gap() + 3 * (OptCompSet.Bounds().height + Gap() / 4);
+}
+
+int SelPictureForm::RoomBelowPreview() const {
+    const int name = Label3.Bounds().height + 2 + NameLogoSet.Bounds().height;
+    return 2 + ImageInfo.Bounds().height + Gap() + TypeFrameHeight() + Gap() + name;
 }
 
 void SelPictureForm::PlaceList(const Rect& column) {
@@ -78,7 +117,7 @@ void SelPictureForm::PlaceList(const Rect& column) {
 void SelPictureForm::PlacePreview(const Rect& column) {
     const int line = Label1.Bounds().height;
     const int drive = Drive1.Bounds().height;
-    const int top = column.top + drive + Gap() / 2;
+    const int top = column.top + RoomAbovePreview();
     const int info = ImageInfo.Bounds().height;
     const int height = ScreenHeight(column.width);
     CurPath.MoveTo({column.left, column.top + (drive - line) / 2, column.width, line});
@@ -96,7 +135,7 @@ void SelPictureForm::PlaceTypeAndName(const Rect& column) {
 
     const int option = OptCompSet.Bounds().height;
     const int step = option + Gap() / 4;
-    const int frame = line + Gap() / 2 + 3 * step + Gap() / 2;
+    const int frame = TypeFrameHeight();
     const int top = name - 2 - line - Gap() - frame;
     Frame1.MoveTo({column.left, top, column.width, frame});
     int y = top + line + Gap() / 2;
@@ -106,32 +145,55 @@ void SelPictureForm::PlaceTypeAndName(const Rect& column) {
     }
 }
 
-void SelPictureForm::PlaceSlots(const Rect& column, int slotWidth) {
-    const int slotHeight = ScreenHeight(slotWidth);
+void SelPictureForm::PlaceSlots(const Rect& column, const Columns& columns) {
+    const int captions = columns.captionsBeneath ? Gap() / 2 + LblSlot[0].Bounds().height : 0;
+    const int slotHeight = ScreenHeight(columns.slot);
     const Rect button = ActButton.Bounds();
     const int below = column.bottom() - button.height;
-    const int spare = below - Gap() - column.top - 3 * slotHeight;
-    for (int i = 0; i < 3; ++i)
-        PlaceSlot(i,
-                  {column.left, column.top + i * (slotHeight + spare / 2), slotWidth, slotHeight});
+    const int spare = below - Gap() - column.top - 3 * (slotHeight + captions);
+    for (int i = 0; i < 3; ++i) {
+        const int top = column.top + i * (slotHeight + captions + spare / 2);
+        const Rect slot{column.left, top, columns.slot, slotHeight};
+        PlaceSlot(i, slot);
+        if (columns.captionsBeneath)
+            PlaceBeneath(i, slot);
+        else
+            PlaceBeside(i, slot);
+    }
     ActButton.MoveTo({column.left, below, button.width, button.height});
     CloseButton.MoveTo({column.right() - button.width, below, button.width, button.height});
 }
 
 void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
-    const Rect caption = LblSlot[index].Bounds();
-    const Rect button = AddButton[index].Bounds();
-    const int left = slot.right() + Gap();
-    const int lower = slot.bottom() - button.height;
     ImgPreview[index].MoveTo(slot);
     SlotFrame[index].MoveTo(slot);
-    LblSlot[index].MoveTo({left, slot.top, caption.width, caption.height});
-    AddButton[index].MoveTo({left, lower - Gap() / 2 - button.height, button.width, button.height});
-    DeleteButton[index].MoveTo({left, lower, button.width, button.height});
-    const int text = caption.height;  // two lines, as the caption has
+    const int text = LblSlot[index].Bounds().height;  // two lines, as the caption has
     // Within the frame, which its background must not cover.
     LblNotAval[index].MoveTo(
-        {slot.left + 2, slot.top + (slot.height - text) / 2, slot.width - 4, text});
+        {slot.left + Gap() / 2, slot.top + (slot.height - text) / 2, slot.width - Gap(), text});
+}
+
+void SelPictureForm::PlaceBeside(int index, const Rect& slot) {
+    const Rect caption = LblSlot[index].Bounds();
+    const int width = Scaled(kButtonWidth);
+    const int height = AddButton[index].Bounds().height;
+    const int left = slot.right() + Gap();
+    const int lower = slot.bottom() - height;
+    LblSlot[index].MoveTo({left, slot.top, caption.width, caption.height});
+    AddButton[index].MoveTo({left, lower - Gap() / 2 - height, width, height});
+    DeleteButton[index].MoveTo({left, lower, width, height});
+}
+
+void SelPictureForm::PlaceBeneath(int index, const Rect& slot) {
+    const Rect caption = LblSlot[index].Bounds();
+    const int room = slot.width - caption.width - 2 * Gap();
+    const int width = std::min(Scaled(kButtonWidth), room / 2);
+    const int height = AddButton[index].Bounds().height;
+    const int top = slot.bottom() + Gap() / 2;
+    const int right = slot.right() - width;
+    LblSlot[index].MoveTo({slot.left, top, caption.width, caption.height});
+    AddButton[index].MoveTo({right - Gap() - width, top, width, height});
+    DeleteButton[index].MoveTo({right, top, width, height});
 }
 
 void SelPictureForm::RedrawPictures() {

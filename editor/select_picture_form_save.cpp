@@ -1,11 +1,11 @@
 // Loading, writing and deleting sets in the Logo browser. What a command writes before a step fails
 // stays written, and the step's failure ends the command.
+#include "core/entry_name.h"
 #include "core/generali.h"
 #include "core/library.h"
 #include "editor/elimina_logo_set.h"
 #include "editor/select_picture_form.h"
 #include "editor/slot_file.h"
-#include "pictures/draw_preview.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
@@ -18,11 +18,30 @@ constexpr int kStartup = 0;
 constexpr int kWait = 1;
 constexpr int kShutdown = 2;
 
+/// The names of the screens that a folder holds, for the user to read.
+std::string ScreensIn(const std::string& folder) {
+    std::string names;
+    for (const char* screen : kScreenFileNames) {
+        if (!HoldsPicture(folder + screen)) continue;
+        if (!names.empty()) names += ", ";
+        names += screen;
+    }
+    return names.empty() ? "no screens" : names;
+}
+
+/// True for a file that the folder has as the screen of another slot than this one.
+bool IsScreenOfAnotherSlot(int index, const std::string& path, const std::string& folder) {
+    for (int other = 0; other < 3; ++other)
+        if (other != index && IsSameFile(path, folder + kScreenFileNames[other])) return true;
+    return false;
+}
+
 }  // namespace
 
 void SelPictureForm::NameLogoSet_Change() {
     if (NameLogoSet.Text().empty()) {
-        EnableControls(false, OkButton[0], OkButton[1]);
+        EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
+        LblWritten.SetText("");
         return;
     }
     NameChanged = true;
@@ -42,33 +61,34 @@ void SelPictureForm::NameLogoSet_Click() {
 }
 
 void SelPictureForm::LoadSlots(const std::string& setFolder) {
-    for (int i = 0; i < 3; ++i) {
-        const std::string path = setFolder + kScreenFileNames[i];
-        DrawPreview(path, ImgPreview[i]);
-        ImgPreview[i].SetTag(path);
-        DeleteButton[i].SetEnabled(ImgPreview[i].HasPicture());
-    }
+    for (int i = 0; i < 3; ++i) ShowInSlot(i, setFolder + kScreenFileNames[i]);
+}
+
+// The name as a folder will have it. What no folder can be named stays as it was typed, and making
+// or renaming the folder then fails.
+std::string SelPictureForm::NameToSave() {
+    const std::string typed = NameLogoSet.Text();
+    std::string name = SetFolderName(typed, LogoFolder()).value_or(typed);
+    if (OptOnlyStart.Value() && !IsSingleLogoSet(name)) name += ".sls";
+    if (name != typed) NameLogoSet.SetText(name);
+    return name;
 }
 
 void SelPictureForm::OkButton_Click(int index) {
     LibraryChanged = true;
-    std::string name = NameLogoSet.Text();
-    if (OptOnlyStart.Value() && !IsSingleLogoSet(name)) {
-        name += ".sls";
-        NameLogoSet.SetText(name);
-    }
-    lastRead_ = name;
+    const std::string name = lastRead_ = NameToSave();
+    const std::string folder = AddBackslash(LogoFolder() + name);
     if (index == 1 ? UpdateSet(name) : CreateSet(name))
-        FinishSaving();
+        FinishSaving((index == 1 ? "Updated " : "Created ") + name, folder);
     else
         ReportSaveError();
 }
 
 bool SelPictureForm::UpdateSet(const std::string& name) {
-    if (!RenameLoadedSet(name)) return false;
+    const std::string oldName = NameLogoSet.Item(LoadedIndex);
+    if (!RenameLoadedSet(oldName, name)) return false;
     const std::string folder = AddBackslash(LogoFolder() + name);
-    // Unchanged slots have nothing to copy that would tell of a folder that has gone.
-    if (!IsFolder(folder)) return false;
+    if (!KeepSources(kStartup, OptCompSet.Value() ? kShutdown : kStartup, folder)) return false;
     if (!RemoveFilesOfEmptySlots(kStartup, kStartup, folder) ||
         !CopySlots(kStartup, kStartup, folder))
         return false;
@@ -80,46 +100,53 @@ bool SelPictureForm::UpdateSet(const std::string& name) {
                !Remove(folder + kScreenFileNames[kShutdown])) {
         return false;
     }
-    // The set selected in the main window counts, whichever was loaded here: it is kept so.
-    const int selected = main_.SelectedSet();
-    if (selected >= 0 && main_.SetNames()[static_cast<std::size_t>(selected)] == main_.CurrentSet())
-        main_.SetCurrentSet(name);
+    FollowInstalledSet(oldName, name);
     return true;
 }
 
-bool SelPictureForm::RenameLoadedSet(const std::string& name) {
-    const std::string oldName = NameLogoSet.Item(LoadedIndex);
+// The set selected in the main window counts, whichever was loaded here: it is kept so. While the
+// installed screens are shown there, none is selected.
+void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::string& name) {
+    const std::string installed = main_.CurrentSet();
+    const int selected = main_.SelectedSet();
+    const bool installedSelected =
+        selected >= 0 && main_.SetNames()[static_cast<std::size_t>(selected)] == installed;
+    if (installedSelected || oldName == installed) main_.SetCurrentSet(name);
+}
+
+bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::string& name) {
     if (oldName == name) return true;
+    // Without a name the folder would be the logo folder itself.
+    if (oldName.empty() || !SetFolderName(name, LogoFolder())) return false;
     if (!Rename(LogoFolder() + oldName, LogoFolder() + name)) return false;
-    NameLogoSet.RemoveItem(LoadedIndex);
-    AddName(name);
+    ReplaceName(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
-    RepointSlots(LogoFolder() + oldName + "\\", AddBackslash(LogoFolder() + name));
+    FollowRename(LogoFolder() + oldName, LogoFolder() + name);
     return true;
 }
 
 bool SelPictureForm::CreateSet(const std::string& name) {
-    if (!MakeFolder(LogoFolder() + name)) return false;
+    if (!SetFolderName(name, LogoFolder()) || !MakeFolder(LogoFolder() + name)) return false;
     const std::string folder = AddBackslash(LogoFolder() + name);
     const int last = OptCompSet.Value() ? kShutdown : kStartup;
     for (int i = kStartup; i <= last; ++i) {
         const std::string tag = ReadTag(i);
         if (HoldsPicture(tag) && !CopyScreen(tag, folder + kScreenFileNames[i])) return false;
     }
-    AddName(name);
-    return true;
-}
-
-// Adds a set's name to the combo box and makes it the set that is being edited.
-void SelPictureForm::AddName(const std::string& name) {
     LoadedIndex = NameLogoSet.AddItem(name);
     NameLogoSet.SetListIndex(LoadedIndex);
     LoadedSet = name;
+    return true;
 }
 
-bool SelPictureForm::SaveDefaultScreens() {
-    return RemoveFilesOfEmptySlots(kWait, kShutdown, LogoFolder()) &&
-           CopySlots(kWait, kShutdown, LogoFolder());
+void SelPictureForm::SaveDefaultScreens() {
+    LibraryChanged = true;
+    if (KeepSources(kWait, kShutdown, LogoFolder()) &&
+        RemoveFilesOfEmptySlots(kWait, kShutdown, LogoFolder()) &&
+        CopySlots(kWait, kShutdown, LogoFolder()))
+        FinishSaving("Saved the default screens", LogoFolder());
+    else
+        ReportSaveError();
 }
 
 std::string SelPictureForm::ReadTag(int index) { return lastRead_ = ImgPreview[index].Tag(); }
@@ -137,15 +164,37 @@ bool SelPictureForm::CopySlots(int first, int last, const std::string& folder) {
     return true;
 }
 
-void SelPictureForm::FinishSaving() {
+// A slot may hold a screen of the same folder that another slot is about to replace or delete: its
+// picture is kept aside first, until the session ends.
+bool SelPictureForm::KeepSources(int first, int last, const std::string& folder) {
+    for (int i = first; i <= last; ++i) {
+        const std::string tag = ImgPreview[i].Tag();
+        if (HoldsPicture(tag) && IsScreenOfAnotherSlot(i, tag, folder) && !KeepSource(i))
+            return false;
+    }
+    return true;
+}
+
+bool SelPictureForm::KeepSource(int index) {
+    const std::string kept = GetTempFile();
+    if (kept.empty()) return false;
+    List1.AddItem(kept);
+    if (!CopyScreen(ReadTag(index), kept)) return false;
+    ImgPreview[index].SetTag(kept);
+    return true;
+}
+
+void SelPictureForm::FinishSaving(const std::string& what, const std::string& folder) {
     EnableControls(false, OkButton[0], OkButton[1]);
-    EliminaSetBtn.SetEnabled(true);
+    EliminaSetBtn.SetEnabled(!NameLogoSet.Text().empty());
     SetChanged = false;
     NameChanged = false;
     AggiornaDir();
+    LblWritten.SetText(what + ": " + ScreensIn(folder));
 }
 
 void SelPictureForm::ReportSaveError() {
+    LblWritten.SetText("");
     Ask(handle(), "A directory named " + lastRead_ + " already exist or bad directory name!",
         kExclamationOk, "Cannot create directory");
 }
@@ -156,13 +205,7 @@ void SelPictureForm::EliminaSetBtn_Click() {
     if (name.empty()) return;
     if (!EliminaLogoSet(handle(), main_, LogoFolder() + name, name, name)) return;
     LibraryChanged = true;
-    LoadedSet.clear();
-    LoadedIndex = -1;
-    EliminaSetBtn.SetEnabled(false);
-    NameLogoSet.RemoveItem(NameLogoSet.ListIndex());
-    NameLogoSet.SetText("");
-    NameLogoSet_Change();
-    ClearAllButton_Click();
+    ForgetLoadedSet(name);
     AggiornaDir();
 }
 

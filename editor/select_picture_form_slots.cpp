@@ -2,7 +2,6 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "editor/select_picture_form.h"
-#include "editor/slot_file.h"
 #include "pictures/convert.h"
 #include "pictures/draw_preview.h"
 #include "platform/pointer.h"
@@ -24,10 +23,22 @@ void SelPictureForm::ChooseByCode(SetType type) {
 }
 
 void SelPictureForm::ShowType(SetType type) {
+    const SetType former = type_;
     type_ = type;
+    if (former == SetType::DefaultScreens && type != former) ShowSetsOwnSlots();
+    if (type == SetType::DefaultScreens && type != former) KeepSetsOwnSlots();
     if (type == SetType::Complete) OptCompSet_Click();
     if (type == SetType::DefaultScreens) OptDefShut_Click();
     if (type == SetType::OnlyStartup) OptOnlyStart_Click();
+}
+
+// The shared screens take the places of the set's own wait and shutdown screens for a while.
+void SelPictureForm::KeepSetsOwnSlots() {
+    for (int i = 1; i < 3; ++i) setsOwnTag_[i] = ImgPreview[i].Tag();
+}
+
+void SelPictureForm::ShowSetsOwnSlots() {
+    for (int i = 1; i < 3; ++i) ShowInSlot(i, setsOwnTag_[i]);
 }
 
 void SelPictureForm::ShowSlot(int index, bool used) {
@@ -71,10 +82,15 @@ void SelPictureForm::OptDefShut_Click() {
     ActButton.SetText("Save se&tting");
     for (int i = 1; i < 3; ++i) {
         ShowSlot(i, true);
-        const std::string path = LogoFolder() + kScreenFileNames[i];
-        DrawPreview(path, ImgPreview[i]);
-        ImgPreview[i].SetTag(path);
+        ShowInSlot(i, LogoFolder() + kScreenFileNames[i]);
     }
+}
+
+// Shows a file that is in the slot already, or none: unlike filling it with another one.
+void SelPictureForm::ShowInSlot(int index, const std::string& path) {
+    DrawPreview(path, ImgPreview[index]);
+    ImgPreview[index].SetTag(path);
+    DeleteButton[index].SetEnabled(ImgPreview[index].HasPicture());
 }
 
 void SelPictureForm::AddButton_Click(int index) {
@@ -122,10 +138,6 @@ void SelPictureForm::ClearAllButton_Click() {
 void SelPictureForm::EmptySlot(int index) {
     ImgPreview[index].Clear();
     ImgPreview[index].SetTag("");
-}
-
-void SelPictureForm::RepointSlots(const std::string& from, const std::string& to) {
-    for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
 }
 
 }  // namespace vistrel

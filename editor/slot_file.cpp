@@ -4,16 +4,12 @@
 #include "platform/files.h"
 
 namespace vistrel {
-namespace {
 
-/// True for two names of one file, long or short.
 bool IsSameFile(const std::string& path, const std::string& other) {
     if (UpperCase(path) == UpperCase(other)) return true;
     const std::string shortPath = CutAtNul(GetShortPath(path));
     return !shortPath.empty() && UpperCase(shortPath) == UpperCase(CutAtNul(GetShortPath(other)));
 }
-
-}  // namespace
 
 bool HoldsPicture(const std::string& path) {
     bool holds = false;
@@ -26,16 +22,20 @@ bool HoldsPicture(const std::string& path) {
 }
 
 bool CopyScreen(const std::string& slot, const std::string& target) {
-    if (IsSameFile(slot, target)) return true;
+    if (IsSameFile(slot, target)) return FileAttributes(target).has_value();
     if (!HoldsPicture(slot) || !CopyOver(slot, target)) return false;
     // A picture from a CD-ROM is read-only; its copy must not stay so.
     SetAttributes(target, kNormalFile);
     return true;
 }
 
+bool IsAtOrIn(const std::string& path, const std::string& folder) {
+    if (UpperCase(path.substr(0, folder.size())) != UpperCase(folder)) return false;
+    return path.size() == folder.size() || path[folder.size()] == '\\';
+}
+
 std::string Repointed(const std::string& path, const std::string& from, const std::string& to) {
-    if (UpperCase(path.substr(0, from.size())) != UpperCase(from)) return path;
-    return to + path.substr(from.size());
+    return IsAtOrIn(path, from) ? to + path.substr(from.size()) : path;
 }
 
 }  // namespace vistrel

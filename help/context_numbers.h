@@ -3,8 +3,10 @@
 
 namespace vistrel::help_number {
 
-/// The tutorial, an ordinary topic.
+// Ordinary topics: the tutorial, and what F1 shows in windows without controls to ask about.
 inline constexpr unsigned long Tutorial = 30;
+inline constexpr unsigned long AboutBox = 90;
+inline constexpr unsigned long ActualSize = 91;
 
 // The preferences dialog. Boxes and buttons that belong together share a number.
 inline constexpr unsigned long ActiveStart = 32;

@@ -5,7 +5,9 @@
 
 #include "about/frm_splash.h"
 #include "controls/message_loop.h"
+#include "core/generali.h"
 #include "core/locations.h"
+#include "core/running_instance.h"
 #include "core/settings.h"
 #include "core/startup_action.h"
 #include "main_window/principale.h"
@@ -21,8 +23,10 @@ constexpr const char* kImageLibraryCode = "";
 
 void Run() {
     FailOnDrivesNotReady();
+    OnlyCopy onlyCopy;
+    if (!onlyCopy.Take()) return;
     const SystemLocations locations = FindSystemLocations();
-    MakeMissingLinks(locations.programFolder);
+    MakeMissingLinks(locations.programFolder, GetStartupFolder());
     Window::SetHelpFile(locations.HelpFile());
     ImgDLLStringInitDLL(kImageLibraryCode);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "controls/screen_metrics.h"
+#include "help/context_numbers.h"
 #include "pictures/draw_preview.h"
 #include "resources/ids.h"
 
@@ -27,6 +28,7 @@ FrmView::FrmView(std::string path, bool animate)
 }
 
 void FrmView::Form_Load() {
+    SetHelpTopic(help_number::ActualSize);
     ShowPictureInBox(path_, Preview);
     if (animate_ && Preview.HasPicture()) ShowAnimation();
     SetClientSize({Preview.ScaleWidth(), Preview.ScaleHeight()});

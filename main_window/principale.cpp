@@ -52,7 +52,7 @@ Principale::Principale(SystemLocations locations)
         MyList_OLEDragDrop(paths);
     };
     MyList.ContextMenu = [this](Point screen, bool byKeyboard) {
-        if (byKeyboard) PopUpMenu(ClassicMenu(kMenuListLogo), screen);
+        if (byKeyboard) ActiveBar1.PopUp("LogoBand", screen);
     };
     for (int i = 0; i < 3; ++i)
         Imag[i].MouseUp = [this, i](int button, Point) { Imag_MouseUp(i, button); };

@@ -118,7 +118,6 @@ class Principale : public Window, public MainWindow {
     void ShowActualSize(WindowHandle owner);
     void OpenPaint(WindowHandle owner);
     void OpenCustomProgram(WindowHandle owner);
-    void ShowPreferences(WindowHandle owner);
     void OpenExplorer(const std::string& folder);
     void RedrawScreens();
     MenuHandle ClassicMenu(int place) const;
@@ -139,7 +138,6 @@ class Principale : public Window, public MainWindow {
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;
-    bool browserOpen_ = false;
     std::string currentPicture_;
     std::string oldName_;
     Point lastMouseDown_;

@@ -188,15 +188,15 @@ void Principale::ItmSetDefault_Click() {
 void Principale::ItmLogoManager_Click() { Timer1.SetEnabled(true); }
 
 void Principale::Timer1_Timer() {
-    if (browserOpen_) return;  // the timer goes on ticking while the browser is open
-    browserOpen_ = true;
+    // Another window came between the command and the tick: the browser waits until it is closed.
+    if (!IsEnabled()) return;
+    Timer1.SetEnabled(false);
     {
+        const BusyPointer busy;  // until the browser's own Form_Load
         SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
     ShowDefaultPointer();
-    Timer1.SetEnabled(false);
-    browserOpen_ = false;
     CheckSetCommands();
 }
 
@@ -284,11 +284,9 @@ void Principale::LogoRandomChange() {
     ItmSetDefault_Click();
 }
 
-void Principale::ItmPref_Click() { ShowPreferences(handle()); }
-
-void Principale::ShowPreferences(WindowHandle owner) {
+void Principale::ItmPref_Click() {
     FrmOptions options(*this);
-    options.ShowModal(owner);
+    options.ShowModal(handle());
 }
 
 void Principale::ItmContents_Click() { ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0); }

@@ -4,6 +4,7 @@
 #include "core/generali.h"
 #include "main_window/frm_view.h"
 #include "main_window/principale.h"
+#include "options/frm_options.h"
 #include "platform/message_box.h"
 #include "platform/shell.h"
 #include "resources/ids.h"
@@ -74,7 +75,8 @@ void Principale::OpenCustomProgram(WindowHandle owner) {
             kExclamationOk);
     } else if (Ask(owner, "You haven't specified a custom program. Would you like to do it now?",
                    kQuestionYesNo) == Answer::Yes) {
-        ShowPreferences(owner);
+        FrmOptions options(*this, FrmOptions::kImages);
+        options.ShowModal(owner);
     }
 }
 

@@ -13,8 +13,8 @@
 
 namespace vistrel {
 
-FrmOptions::FrmOptions(MainWindow& main)
-    : Window("FrmOptions", IDD_FrmOptions), main_(main), MnuDrive_(NewPopUpMenu()) {
+FrmOptions::FrmOptions(MainWindow& main, Page first)
+    : Window("FrmOptions", IDD_FrmOptions), main_(main), first_(first), MnuDrive_(NewPopUpMenu()) {
     Add(TabStrip1, ID_TabStrip1);
     TabStrip1.Click = [this] { TabStrip1_Click(); };
     for (int i = 0; i < 4; ++i) Add(MyFrame[i], ID_MyFrame + i);
@@ -78,9 +78,11 @@ void FrmOptions::AddImages() {
 
 void FrmOptions::AddStartUp() {
     Add(LblStartUp, ID_LblStartUp);
+    const char* companions[] = {"Rotaline", "Shufflet", "Nothing"};
     for (int i = 0; i < 3; ++i) {
         Add(StartUpAction[i], ID_StartUpAction + i);
-        StartUpAction[i].Click = [this] { StartUpAction_Click(); };
+        StartUpAction[i].Tag = companions[i];
+        StartUpAction[i].Click = [this, i] { StartUpAction_Click(i); };
     }
     MyFrame[3].Hold({&LblStartUp, &StartUpAction[0], &StartUpAction[1], &StartUpAction[2]});
 }
@@ -107,6 +109,7 @@ void FrmOptions::Form_Load() {
     SetHelpNumbers();
     for (const char* caption : {"General", "Confirmations", "Images", "StartUp settings"})
         TabStrip1.AddTab(caption);
+    TabStrip1.Select(first_);
     DblAction.AddItem("Sets the logo set as default");
     DblAction.AddItem("Opens the logo browser!");
 }
@@ -132,22 +135,35 @@ void FrmOptions::Form_Activate() {
     ChkSyncronize.SetValue(settings.synchronizeLogos);
     DefineVisible();
     showingValues_ = false;
+    // Who is sent to the pictures is to say which program opens them.
+    if (first_ == kImages)
+        CustProg.Focus();
+    else
+        FocusNextTo(TabStrip1);
 }
 
 void FrmOptions::ShowStartUpAction() {
     const auto inForce = ReadStartUpAction(main_.Locations().startupFolder);
     for (int i = 0; i < 3; ++i)
         StartUpAction[i].SetMark(inForce && static_cast<int>(*inForce) == i);
+    if (!inForce) StartUpAction[0].SetTabStop();
 }
 
 void FrmOptions::TabStrip1_Click() { DefineVisible(); }
 
 void FrmOptions::DefineVisible() {
     const int shown = TabStrip1.SelectedIndex() - 1;
-    for (int i = 0; i < TabStrip1.Count(); ++i)
-        if (i != shown) MyFrame[i].ShowWithAll(false);
+    bool focusGoes = false;
+    for (int i = 0; i < TabStrip1.Count(); ++i) {
+        if (i == shown) continue;
+        focusGoes |= MyFrame[i].HoldsFocus();
+        MyFrame[i].ShowWithAll(false);
+    }
     MyFrame[shown].ShowWithAll(true);
+    if (focusGoes) FocusNextTo(TabStrip1);
 }
+
+bool FrmOptions::Form_KeyDown(int key) { return TabStrip1.TurnPage(key); }
 
 void FrmOptions::btnBrwFolder_Click() {
     const std::string folder =
@@ -187,7 +203,10 @@ void FrmOptions::BtnBrowse_Click() {
     CustomName.SetText(FileTitle.substr(0, FileTitle.size() - std::min(ending, FileTitle.size())));
 }
 
-void FrmOptions::StartUpAction_Click() { StartupActionChanged_ = true; }
+void FrmOptions::StartUpAction_Click(int index) {
+    StartupActionChanged_ = true;
+    MyFrame[kStartUp - 1].Tag = StartUpAction[index].Tag;
+}
 
 void FrmOptions::ApplyStartUpChoice() {
     const SystemLocations& locations = main_.Locations();
@@ -205,11 +224,19 @@ void FrmOptions::TakeLogoFolder() {
     main_.LeggiDatiDisco();
 }
 
+// A program without a name would be forgotten at the next start.
+std::string FrmOptions::NameOfProgram() const {
+    if (!CustomName.Text().empty()) return CustomName.Text();
+    std::string path = CustProg.Text();
+    const std::string file = GetFileName(path);
+    return file.substr(0, file.rfind('.'));
+}
+
 // Every step is done whether or not the ones before it succeeded; no value is checked.
 void FrmOptions::BtnOK_Click() {
     Settings& settings = main_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();
-    settings.customProgName = CustomName.Text();
+    settings.customProgName = NameOfProgram();
     settings.customProgPath = CustProg.Text();
     main_.ShowCustomProgramName();
     for (int i = 2; i >= 0; --i)

@@ -13,7 +13,11 @@ namespace vistrel {
 
 class FrmOptions : public Window {
  public:
-    explicit FrmOptions(MainWindow& main);
+    /// The pages, as the tabs are numbered.
+    enum Page { kGeneral = 1, kConfirmations = 2, kImages = 3, kStartUp = 4 };
+
+    /// `first` is the page that is shown at first.
+    explicit FrmOptions(MainWindow& main, Page first = kGeneral);
     ~FrmOptions() override;
 
     TabStrip TabStrip1;
@@ -53,6 +57,7 @@ class FrmOptions : public Window {
     void Form_Load() override;
     void Form_Activate() override;
     void MenuCommand(int id) override;
+    bool Form_KeyDown(int key) override;
 
  private:
     void AddGeneral();
@@ -70,15 +75,17 @@ class FrmOptions : public Window {
     void GetDiskInfo();
     void CustomProgram_Change();
     void BtnBrowse_Click();
-    void StartUpAction_Click();
+    void StartUpAction_Click(int index);
     void BtnOK_Click();
     void BtnCancel_Click();
 
     void ShowStartUpAction();
+    std::string NameOfProgram() const;
     void ApplyStartUpChoice();
     void TakeLogoFolder();
 
     MainWindow& main_;
+    Page first_;
     MenuHandle MnuDrive_;
     std::vector<std::string> driveLetters_;
     bool StartupActionChanged_ = false;

@@ -9,4 +9,16 @@ std::size_t CharacterLength(std::string_view text, std::size_t at) {
     return pair ? 2 : 1;
 }
 
+std::size_t LastBackslash(std::string_view path) {
+    std::size_t last = std::string_view::npos;
+    for (std::size_t at = 0; at < path.size(); at += CharacterLength(path, at)) {
+        if (path[at] == '\\') last = at;
+    }
+    return last;
+}
+
+bool EndsInBackslash(std::string_view path) {
+    return !path.empty() && LastBackslash(path) == path.size() - 1;
+}
+
 }  // namespace vistrel

@@ -11,4 +11,9 @@ namespace vistrel {
 /// second is missing. `at` lies inside `text` and at a character's beginning.
 std::size_t CharacterLength(std::string_view text, std::size_t at);
 
+/// Where the last backslash of a path stands; npos without one.
+std::size_t LastBackslash(std::string_view path);
+/// True when a path's last character is a backslash.
+bool EndsInBackslash(std::string_view path);
+
 }  // namespace vistrel

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "platform/characters.h"
 #include "platform/fault.h"
 #include "platform/system_error.h"
 
@@ -26,16 +27,38 @@ class SearchHandle {
     HANDLE handle_;
 };
 
+/// The name by which an entry can be opened. One with letters that the code page lacks comes with
+/// question marks in their places, which no file's name holds: its short name has none.
+std::string NameOf(const WIN32_FIND_DATAA& found) {
+    const std::string name = found.cFileName;
+    const bool lossy = name.find('?') != std::string::npos;
+    return lossy && found.cAlternateFileName[0] ? found.cAlternateFileName : name;
+}
+
 FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
-    return {found.cFileName, found.dwFileAttributes,
+    return {NameOf(found), found.dwFileAttributes,
             (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32) | found.nFileSizeLow};
 }
 
 // Windows 95 does not know a folder by a name that ends in a backslash, other than a drive's root.
 std::string WithoutFinalBackslash(const std::string& path) {
     const bool isRoot = path.size() == 3 && path[1] == ':';
-    if (path.size() < 2 || path.back() != '\\' || isRoot) return path;
+    if (path.size() < 2 || !EndsInBackslash(path) || isRoot) return path;
     return path.substr(0, path.size() - 1);
+}
+
+/// True when the disk has an entry by just this path, its last name's case included.
+bool IsNamedSo(const std::string& path) {
+    WIN32_FIND_DATAA found;
+    const SearchHandle search(FindFirstFileA(path.c_str(), &found));
+    return search.IsOpen() && path.ends_with(std::string("\\") + found.cFileName);
+}
+
+// Wine calls a change of case alone done and leaves the name as it was: it takes a name in between.
+void ChangeCase(const std::string& from, const std::string& to) {
+    const std::string between = to + ".~";
+    if (!MoveFileA(from.c_str(), between.c_str())) return;
+    if (!MoveFileA(between.c_str(), to.c_str())) MoveFileA(between.c_str(), from.c_str());
 }
 
 }  // namespace
@@ -85,7 +108,7 @@ bool Remove(const std::string& path, Error* error) {
 }
 
 bool RemoveMatching(const std::string& pattern, Error* error) {
-    const std::string folder = pattern.substr(0, pattern.rfind('\\') + 1);
+    const std::string folder = pattern.substr(0, LastBackslash(pattern) + 1);
     std::vector<std::string> names;
     const bool listed = ForEachEntry(
         pattern,
@@ -103,7 +126,9 @@ bool RemoveMatching(const std::string& pattern, Error* error) {
 
 bool Rename(const std::string& from, const std::string& to, Error* error) {
     if (fault::Strikes()) return Failed(error, kStruckError);
-    return Report(MoveFileA(from.c_str(), to.c_str()), error);
+    const BOOL renamed = MoveFileA(from.c_str(), to.c_str());
+    if (renamed && lstrcmpiA(from.c_str(), to.c_str()) == 0 && !IsNamedSo(to)) ChangeCase(from, to);
+    return Report(renamed, error);
 }
 
 bool MakeFolder(const std::string& path, Error* error) {

@@ -20,7 +20,7 @@ inline constexpr std::uint32_t kDirectory = 16;
 
 /// One entry of a folder, as a directory search gives it.
 struct FolderEntry {
-    std::string name;
+    std::string name;  ///< the short one (8.3) where the code page lacks letters of the long one
     std::uint32_t attributes = 0;
     std::uint64_t size = 0;
 

@@ -3,6 +3,7 @@
 #include <shlobj.h>
 #include <windows.h>
 
+#include "platform/characters.h"
 #include "platform/fault.h"
 #include "platform/shell.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 // The browser knows a folder by its name without a backslash at the end, a drive by its root.
 std::string NameForBrowser(const std::string& folder) {
-    if (folder.size() > 3 && folder.back() == '\\') return folder.substr(0, folder.size() - 1);
+    if (folder.size() > 3 && EndsInBackslash(folder)) return folder.substr(0, folder.size() - 1);
     return folder;
 }
 

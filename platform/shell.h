@@ -33,5 +33,7 @@ std::string PickFolder(WindowHandle owner, const std::string& prompt, const std:
 bool WriteShellLink(const std::string& linkPath, const std::string& target,
                     const std::string& arguments, const std::string& workingFolder,
                     const std::string& description);
+/// The file that a shell link opens, whether or not it exists; empty when `linkPath` is no link.
+std::string ShellLinkTarget(const std::string& linkPath);
 
 }  // namespace vistrel

@@ -1,4 +1,4 @@
-// Writing shell links.
+// Writing and reading shell links.
 #include <objbase.h>
 #include <shlobj.h>
 #include <windows.h>
@@ -42,12 +42,26 @@ class ComPointer {
     Interface* pointer_ = nullptr;
 };
 
-/// Saves a link; a file is named in wide characters whatever the system.
-bool SaveLink(IPersistFile& file, const std::string& path) {
-    wchar_t widePath[MAX_PATH] = {};
-    if (!MultiByteToWideChar(CP_ACP, 0, path.c_str(), -1, widePath, MAX_PATH)) return false;
-    return SUCCEEDED(file.Save(widePath, TRUE));
-}
+/// A link and the file it is kept in, which is named in wide characters whatever the system.
+class Link {
+ public:
+    /// False when the system makes no links or `path` is too long.
+    bool Open(const std::string& path) {
+        return MultiByteToWideChar(CP_ACP, 0, path.c_str(), -1, path_, MAX_PATH) != 0 &&
+               SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
+                                          IID_IShellLinkA, link_.Receive())) &&
+               SUCCEEDED(link_->QueryInterface(IID_IPersistFile, file_.Receive()));
+    }
+    IShellLinkA* operator->() const { return link_.operator->(); }
+    bool Load() { return SUCCEEDED(file_->Load(path_, STGM_READ)); }
+    bool Save() { return SUCCEEDED(file_->Save(path_, TRUE)); }
+
+ private:
+    const ComUse com_;  // ends after the interfaces
+    ComPointer<IShellLinkA> link_;
+    ComPointer<IPersistFile> file_;
+    wchar_t path_[MAX_PATH] = {};
+};
 
 }  // namespace
 
@@ -55,18 +69,22 @@ bool WriteShellLink(const std::string& linkPath, const std::string& target,
                     const std::string& arguments, const std::string& workingFolder,
                     const std::string& description) {
     if (fault::Strikes()) return false;
-    const ComUse com;
-    ComPointer<IShellLinkA> link;
-    if (FAILED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
-                                link.Receive())))
-        return false;
-    if (FAILED(link->SetPath(target.c_str()))) return false;
+    Link link;
+    if (!link.Open(linkPath) || FAILED(link->SetPath(target.c_str()))) return false;
     link->SetArguments(arguments.c_str());
     link->SetWorkingDirectory(workingFolder.c_str());
     link->SetDescription(description.c_str());
-    ComPointer<IPersistFile> file;
-    if (FAILED(link->QueryInterface(IID_IPersistFile, file.Receive()))) return false;
-    return SaveLink(*file.operator->(), linkPath);
+    return link.Save();
+}
+
+std::string ShellLinkTarget(const std::string& linkPath) {
+    if (fault::Strikes()) return {};
+    Link link;
+    char target[MAX_PATH] = {};
+    if (!link.Open(linkPath) || !link.Load() ||
+        FAILED(link->GetPath(target, sizeof target, nullptr, 0)))
+        return {};
+    return target;
 }
 
 }  // namespace vistrel

@@ -1,6 +1,7 @@
 // Folders and file names that the system gives.
 #include <windows.h>
 
+#include "platform/characters.h"
 #include "platform/fault.h"
 #include "platform/files.h"
 
@@ -16,7 +17,7 @@ std::string ProgramFolder() {
     char program[1024] = {};
     GetModuleFileNameA(nullptr, program, sizeof program - 1);
     std::string folder = program;
-    const auto lastBackslash = folder.rfind('\\');
+    const auto lastBackslash = LastBackslash(folder);
     if (lastBackslash == std::string::npos) return folder;
     const bool isRoot = lastBackslash == 2;
     return folder.substr(0, isRoot ? 3 : lastBackslash);

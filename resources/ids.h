@@ -92,6 +92,7 @@
 #define ID_List1 1229
 #define ID_Dir1 1230
 #define ID_SlotFrame 1231  // 1231 to 1233
+#define ID_LblWritten 1234
 
 #define ID_OkButton 1250  // 1250 create, 1251 update
 #define ID_EliminaSetBtn 1252

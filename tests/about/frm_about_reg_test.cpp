@@ -4,40 +4,22 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <algorithm>
+#include <utility>
+
+#include "about/about.h"
 #include "about/frm_splash.h"
 #include "controls/message_loop.h"
+#include "controls/screen_metrics.h"
+#include "help/context_numbers.h"
 #include "resources/ids.h"
+#include "tests/support/help_requests.h"
+#include "tests/support/openings.h"
+#include "tests/support/seen.h"
 #include "tests/support/user.h"
 
 namespace vistrel {
 namespace {
-
-/// Makes a program the one that opens addresses of a kind: it writes the address to a file.
-void Register(const std::string& protocol) {
-    HKEY key = nullptr;
-    RegCreateKeyExA(HKEY_CLASSES_ROOT, protocol.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
-                    &key, nullptr);
-    RegSetValueExA(key, "URL Protocol", 0, REG_SZ, reinterpret_cast<const BYTE*>(""), 1);
-    RegCloseKey(key);
-    const std::string command = "cmd /c echo %1> C:\\opened.txt";
-    RegCreateKeyExA(HKEY_CLASSES_ROOT, (protocol + "\\shell\\open\\command").c_str(), 0, nullptr, 0,
-                    KEY_ALL_ACCESS, nullptr, &key, nullptr);
-    RegSetValueExA(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(command.c_str()),
-                   static_cast<DWORD>(command.size() + 1));
-    RegCloseKey(key);
-}
-
-std::string Opened() {
-    char text[512] = "";
-    DWORD read = 0;
-    const HANDLE file =
-        CreateFileA("C:\\opened.txt", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                    OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return {};
-    ReadFile(file, text, sizeof text - 1, &read, nullptr);
-    CloseHandle(file);
-    return text;
-}
 
 void WithAboutBox(const std::function<void(FrmAboutReg&)>& user) {
     FrmAboutReg about;
@@ -55,9 +37,18 @@ void WithAboutBox(const std::function<void(FrmAboutReg&)>& user) {
 TEST(AboutBox, TellsTitleVersionAndAddresses) {
     WithAboutBox([](FrmAboutReg& about) {
         EXPECT_EQ(user::TextOf(about.handle()), "About Vistrel 98");
+        EXPECT_EQ(about.LblTitProgram.Text(), "Vistrel");
         EXPECT_EQ(about.LblVersion.Text(), "Version: 4.00b2 - Beta 2");
         EXPECT_EQ(about.Label4.Text(), "Send suggestions and comments to:");
         EXPECT_EQ(about.Label5.Text(), "Look for logos and updates at my homepage:");
+        // Mail, web, mail, web.
+        const char* addresses[] = {"support@vistrel.example.org", "http://www.vistrel.example.org",
+                                   "ideas@vistrel.example.org", "http://logos.vistrel.example.org"};
+        for (int i = 0; i < 4; ++i) {
+            EXPECT_EQ(about.LblInternet[i].Text(), addresses[i]);
+            EXPECT_TRUE(seen::ShowsColor(about.LblInternet[i].handle(), RGB(0, 0, 255))) << i;
+        }
+        EXPECT_EQ(user::TextOf(about.BtnOK.handle()), "&OK");
         EXPECT_TRUE(about.Image1.HasPicture());
         LOGFONTA font{};
         GetObjectA(
@@ -68,38 +59,99 @@ TEST(AboutBox, TellsTitleVersionAndAddresses) {
     });
 }
 
+TEST(AboutBox, WarnsOnOneLine) {
+    WithAboutBox([](FrmAboutReg& about) {
+        const HWND label = about.LblComments.handle();
+        const std::string text = about.LblComments.Text();
+        EXPECT_NE(text, "");
+        const HDC dc = GetDC(label);
+        const HGDIOBJ former =
+            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)));
+        SIZE size{};
+        GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
+        SelectObject(dc, former);
+        ReleaseDC(label, dc);
+        const Rect place = about.LblComments.Bounds();
+        EXPECT_LE(size.cx, place.width);
+        EXPECT_GE(place.height, size.cy);
+    });
+}
+
+/// Where a line of another colour than the ground begins and ends in a row of pixels, from the
+/// window's left edge; begins behind its end where there is none.
+std::pair<int, int> LineIn(HWND window, int row) {
+    RECT client{};
+    GetClientRect(window, &client);
+    POINT corner{0, row};
+    ClientToScreen(window, &corner);
+    const COLORREF ground = GetSysColor(COLOR_BTNFACE);
+    std::pair<int, int> line{client.right, -1};
+    for (int x = 0; x < client.right; ++x) {
+        if (seen::PixelAt({corner.x + x, corner.y}) == ground) continue;
+        line.first = std::min(line.first, x);
+        line.second = x;
+    }
+    return line;
+}
+
+TEST(AboutBox, DrawsItsTwoRulesBelowEachOther) {
+    WithAboutBox([](FrmAboutReg& about) {
+        const Rect lower = about.Line1.Bounds();
+        const int dots = PixelsPerInch();
+        const auto upper = LineIn(about.handle(), 1260 * dots / 1440);
+        EXPECT_EQ(upper, (std::pair{720 * dots / 1440, 4560 * dots / 1440 - 1}));
+        EXPECT_EQ(LineIn(about.handle(), lower.top), upper);
+    });
+}
+
 TEST(AboutBox, ShowsTheHandOverALink) {
     WithAboutBox([](FrmAboutReg& about) {
-        const HWND link = about.LblInternet[0].handle();
-        EXPECT_EQ(SendMessageA(about.handle(), WM_SETCURSOR, reinterpret_cast<WPARAM>(link),
-                               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)),
-                  TRUE);
-        EXPECT_NE(LoadCursorA(GetModuleHandleA(nullptr), "mano"), nullptr);
+        const HCURSOR hand = LoadCursorA(GetModuleHandleA(nullptr), "mano");
+        ASSERT_NE(hand, nullptr);
+        for (const Label& link : about.LblInternet) {
+            EXPECT_TRUE(WaitUntil([&] {
+                user::MoveTo(user::CentreOf(about.LblVersion.handle()));
+                return seen::Pointer() != hand;
+            }));
+            EXPECT_TRUE(WaitUntil([&] {
+                user::MoveTo(user::CentreOf(link.handle()));
+                return seen::Pointer() == hand;
+            })) << link.Text();
+        }
     });
 }
 
-TEST(AboutBox, OpensTheMailProgramWithTheSubject) {
-    Register("mailto");
-    DeleteFileA("C:\\opened.txt");
-    WithAboutBox([](FrmAboutReg& about) {
-        user::Click(about.LblInternet[0].handle());
-        const std::string wanted = "mailto:" + about.LblInternet[0].Text() + "?subject=Vistrel 98";
-        EXPECT_TRUE(WaitUntil([&] {
-            const std::string opened = Opened();
-            // The blank may arrive written as %20.
-            return opened.find("?subject=Vistrel") != std::string::npos &&
-                   opened.substr(0, 20) == wanted.substr(0, 20);
-        })) << Opened();
+TEST(AboutBox, OpensEachAddressMaximizedInTheProgramsFolder) {
+    const std::string opened[] = {
+        "mailto:support@vistrel.example.org?subject=Vistrel 98", "http://www.vistrel.example.org",
+        "mailto:ideas@vistrel.example.org?subject=Vistrel 98", "http://logos.vistrel.example.org"};
+    user::RecordOpenings("mailto");
+    user::RecordOpenings("http");
+    WithAboutBox([&](FrmAboutReg& about) {
+        for (int i = 0; i < 4; ++i) {
+            EXPECT_TRUE(user::Click(about.LblInternet[i].handle()));
+            const user::Opening opening = user::NextOpening();
+            EXPECT_EQ(opening.address.substr(0, opened[i].size()), opened[i]);
+            // The system may write a slash behind a bare host.
+            EXPECT_LE(opening.address.size(), opened[i].size() + 1);
+            EXPECT_EQ(opening.folder, "C:\\test");
+            EXPECT_EQ(opening.show, SW_SHOWMAXIMIZED);
+        }
     });
 }
 
-TEST(AboutBox, OpensAWebPageAsItIs) {
-    Register("http");
-    DeleteFileA("C:\\opened.txt");
-    WithAboutBox([](FrmAboutReg& about) {
-        const std::string page = about.LblInternet[1].Text();
-        user::Click(about.LblInternet[1].handle());
-        EXPECT_TRUE(WaitUntil([&] { return Opened().substr(0, page.size()) == page; })) << Opened();
+TEST(AboutBox, OpensNothingAndSaysNothingWithoutAProgramForAnAddress) {
+    OpenLink("vistrelnone:nobody", nullptr);
+    EXPECT_EQ(user::FindTop("#32770"), nullptr);
+}
+
+TEST(AboutBox, ShowsTheHelpsTopicAboutItAtF1) {
+    user::HelpRequests requests;
+    Window::SetHelpFile("C:\\test\\vistrl.hlp");
+    WithAboutBox([&](FrmAboutReg&) {
+        user::Press(VK_F1);
+        EXPECT_EQ(requests.Next(),
+                  (user::HelpRequest{HELP_CONTEXT, help_number::AboutBox, "C:\\test\\vistrl.hlp"}));
     });
 }
 

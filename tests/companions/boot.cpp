@@ -45,7 +45,8 @@ void Boot::CleanUp() {
          {"LOGOW.SYS", "LOGOS.SYS", "~LOGOW.NEW", "~LOGOS.NEW", "~LOGOW.OLD", "~LOGOS.OLD"}) {
         RemoveTree(windows + name);
     }
-    RemoveTree("C:\\LOGO.SYS");
+    for (const char* name : {"LOGO.SYS", "~LOGO.NEW", "~LOGO.OLD"})
+        RemoveTree(std::string("C:\\") + name);
     RemoveTree(bin + "Mirrorkin.ini");
 }
 

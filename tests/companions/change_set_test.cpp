@@ -1,11 +1,13 @@
 // Rotaline and Shufflet: the real programs on real files and the real registry.
+#include "companions/change_set.h"
+
 #include <windows.h>
 
 #include <algorithm>
 #include <set>
 
-#include "companions/outcome.h"
 #include "core/startup_action.h"
+#include "platform/fault.h"
 #include "tests/companions/boot.h"
 #include "tests/support/poll.h"
 
@@ -102,11 +104,57 @@ TEST_F(ChangeSetTest, FiveThousandSetsAreNoTrouble) {
     ASSERT_EQ(order.size(), 5000u);
     Store("DefaultLogoSet", TextValue(order[2499]));
     PutSet(order[2500]);
+    PutSet(order[7]);
     EXPECT_EQ(Rotaline(), Outcome::Done);
     ExpectInstalled(order[2500]);
-    Shufflet();
-    EXPECT_NE(std::find(order.begin(), order.end(), InstalledSet()), order.end());
-    EXPECT_NE(InstalledSet(), order[2500]);
+    // The only other set that has a startup screen.
+    EXPECT_EQ(Shufflet(), Outcome::Done);
+    ExpectInstalled(order[7]);
+}
+
+TEST_F(ChangeSetTest, ASetWithoutAStartupScreenIsPassedOver) {
+    for (const char* name : {"a", "b", "c"}) PutSet(name);
+    const Names order = SetsInOrder();
+    RemoveTree(logos + order[1] + "\\LOGO.SYS");
+    Store("DefaultLogoSet", TextValue(order[0]));
+    EXPECT_EQ(Rotaline(), Outcome::Done);
+    ExpectInstalled(order[2]);
+    for (int start = 0; start < 10; ++start) {
+        EXPECT_EQ(Shufflet(), Outcome::Done);
+        ASSERT_NE(InstalledSet(), order[1]);
+        ExpectInstalled(InstalledSet());
+    }
+    // One that the system hides counts.
+    Put(logos + order[1] + "\\LOGO.SYS", order[1] + " LOGO.SYS");
+    GiveAttributes(logos + order[1] + "\\LOGO.SYS", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    Store("DefaultLogoSet", TextValue(order[0]));
+    EXPECT_EQ(Rotaline(), Outcome::Done);
+    ExpectInstalled(order[1]);
+}
+
+TEST_F(ChangeSetTest, SetsOfWhichNoneHasAStartupScreenChangeNothing) {
+    MakeFolders(logos + "Blue\\");
+    Put(logos + "Blue\\LOGOW.SYS", "Blue LOGOW.SYS");
+    MakeFolders(logos + "Red\\LOGO.SYS\\");
+    EXPECT_EQ(Rotaline(), Outcome::NoSets);
+    EXPECT_EQ(Shufflet(), Outcome::NoSets);
+    ExpectNothingChanged();
+    EXPECT_EQ(InstalledSet(), "(none)");
+}
+
+TEST_F(ChangeSetTest, AStoredLogoFolderThatIsNotThereChangesNothing) {
+    PutScreens(bin + "Original Logos\\", "Original");
+    Store("DefaultLogoSet", TextValue("Blue"));
+    for (const std::string& gone : {root + "gone\\", root + "gone", std::string("Q:\\LOGOS\\")}) {
+        Store("LogoPath", TextValue(gone));
+        StoreIn(kRunKey, "Mirrorkin", TextValue("as it was"));
+        EXPECT_EQ(Rotaline(), Outcome::LogoFolderNotThere);
+        EXPECT_EQ(Shufflet(), Outcome::LogoFolderNotThere);
+        ExpectNothingChanged();
+        EXPECT_EQ(InstalledSet(), "Blue");
+        EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin"), TextValue("as it was"));
+    }
+    RemoveTree(bin + "Original Logos");
 }
 
 TEST_F(ChangeSetTest, AfterASetThatWasDeletedComesTheFirst) {
@@ -211,6 +259,15 @@ TEST_F(ChangeSetTest, ReadOnlyHiddenAndSystemTargetsAreReplaced) {
     ExpectInstalled("Blue");
 }
 
+TEST_F(ChangeSetTest, AStartupScreenThatCannotBeReadLeavesTheInstalledOne) {
+    PutSet("Blue");
+    const HANDLE taken = CreateFileA((logos + "Blue\\LOGO.SYS").c_str(), GENERIC_READ, 0, nullptr,
+                                     OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(Rotaline(), Outcome::ScreenNotCopied);
+    CloseHandle(taken);
+    EXPECT_EQ(Installed(), (Screens{old[0], "Blue LOGOW.SYS", "Blue LOGOS.SYS"}));
+}
+
 TEST_F(ChangeSetTest, WhileVistrelRunsNothingChanges) {
     PutSet("Blue");
     WNDCLASSA windowClass = {};
@@ -244,7 +301,7 @@ TEST_F(ChangeSetTest, OnNtTheNameIsStoredWithoutANul) {
 
 TEST_F(ChangeSetTest, TheLinkInTheStartupFolderStartsTheChosenCompanion) {
     PutSet("Blue");
-    MakeMissingLinks(bin);
+    MakeMissingLinks(bin, startup);
     ApplyStartUpAction(StartUpActionKind::Rotaline, bin, startup);
     ASSERT_EQ(NamesIn(startup), Names{"Rotaline.lnk"});
     const auto result = reinterpret_cast<INT_PTR>(ShellExecuteA(
@@ -252,6 +309,71 @@ TEST_F(ChangeSetTest, TheLinkInTheStartupFolderStartsTheChosenCompanion) {
     EXPECT_GT(result, 32);
     EXPECT_TRUE(WaitUntil([&] { return InstalledSet() == "Blue"; }));
     EXPECT_EQ(Installed(), ScreensOf("Blue"));
+}
+
+/// The same in this process, where operations can be made to fail.
+class ChangeSetHardshipTest : public Boot {
+ protected:
+    void Prepare() {
+        PutInstalled();
+        PutSet("Blue");
+        GiveAttributes("C:\\LOGO.SYS", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
+        Store("DefaultLogoSet", TextValue("Red"));
+        for (const char* left : {"~LOGO.OLD", "~LOGO.NEW"}) RemoveTree(std::string("C:\\") + left);
+        for (const char* left : {"~LOGOW.OLD", "~LOGOW.NEW", "~LOGOS.OLD", "~LOGOS.NEW"})
+            RemoveTree(windows + left);
+    }
+    static Outcome Change() {
+        return ChangeLogoSet([](const Names& sets, const std::string&) { return sets.front(); });
+    }
+    /// Each screen that is there is the old one or the set's, complete.
+    void ExpectWholeScreens(bool allThere) const {
+        for (int i = 0; i < 3; ++i) {
+            const std::string screen = Installed()[i];
+            if (screen == "-" && !allThere) continue;
+            EXPECT_TRUE(screen == old[i] || screen == blue_[i]) << screen;
+        }
+    }
+    void ExpectTheNextStartRepairs() {
+        EXPECT_EQ(Change(), Outcome::Done);
+        EXPECT_EQ(Installed(), blue_);
+        EXPECT_EQ(InstalledSet(), "Blue");
+        EXPECT_FALSE(Exists("C:\\~LOGO.OLD") || Exists("C:\\~LOGO.NEW"));
+    }
+
+    const Screens blue_ = {"Blue LOGO.SYS", "Blue LOGOW.SYS", "Blue LOGOS.SYS"};
+};
+
+TEST_F(ChangeSetHardshipTest, OneFailureLosesNoScreen) {
+    WithEachOperationFailing([&] { Prepare(); }, [] { Change(); },
+                             [&](int) {
+                                 ExpectWholeScreens(true);
+                                 EXPECT_TRUE(InstalledSet() == "Red" || InstalledSet() == "Blue");
+                                 ExpectTheNextStartRepairs();
+                             });
+}
+
+TEST_F(ChangeSetHardshipTest, APowerCutAnywhereLeavesNoHalfScreenAndTheNextStartRepairs) {
+    Prepare();
+    fault::Reset();
+    ASSERT_EQ(Change(), Outcome::Done);
+    const int operations = fault::Counted();
+    int between = 0;
+    for (int cut = 1; cut <= operations; ++cut) {
+        SCOPED_TRACE("power cut before operation " + std::to_string(cut));
+        Prepare();
+        fault::FailFromOperation(cut);
+        Change();
+        fault::Reset();
+        ExpectWholeScreens(false);
+        if (!Exists("C:\\LOGO.SYS")) {
+            ++between;
+            EXPECT_EQ(Contents("C:\\~LOGO.OLD"), old[0]);
+            EXPECT_EQ(Contents("C:\\~LOGO.NEW"), blue_[0]);
+        }
+        ExpectTheNextStartRepairs();
+    }
+    EXPECT_EQ(between, 1);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "companions/mirror_screens.h"
+#include "core/synchronizing.h"
 #include "platform/fault.h"
 #include "tests/companions/boot.h"
 #include "tests/support/user.h"
@@ -161,6 +162,13 @@ TEST_F(MirrorkinTest, WithoutAFolderTheScreensStay) {
     NamePath("Q:\\LOGOS");
     EXPECT_EQ(Mirrorkin(), Outcome::FolderNotThere);
     NamePath(std::string(1500, 'x'));
+    EXPECT_EQ(Mirrorkin(), Outcome::FolderNotThere);
+    EXPECT_EQ(Installed(), old);
+}
+
+TEST_F(MirrorkinTest, WithoutAKnownSetNeitherTheScreensNorTheirSharedOnesChange) {
+    PutScreens(logos, "shared");
+    RegisterMirrorkin(bin, logos, "");
     EXPECT_EQ(Mirrorkin(), Outcome::FolderNotThere);
     EXPECT_EQ(Installed(), old);
 }

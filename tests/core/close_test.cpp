@@ -55,6 +55,14 @@ TEST_F(CloseTest, AWantedCompanionGetsTheFolderOfTheInstalledSet) {
     EXPECT_EQ(Ini(), "[Settings]\r\nPath=" + logos + "\r\n");
 }
 
+TEST_F(CloseTest, WithoutAKnownSetTheCompanionGetsAFolderThatCannotExist) {
+    PutScreens(logos, "shared");
+    state_.companionWanted = true;
+    state_.settings.defaultLogoSet = "";
+    WriteBackOnClose(locations, state_);
+    EXPECT_EQ(Ini(), "[Settings]\r\nPath=" + logos + "<Don't know>\r\n");
+}
+
 TEST_F(CloseTest, ACompanionThatIsNotWantedIsRemoved) {
     StoreIn(kRunKey, "Mirrorkin", TextValue("old"));
     Put(program + "Mirrorkin.ini", "old");

@@ -211,6 +211,53 @@ TEST(CompactPathTest, WithoutABackslashInTheTailOnlyTheHeadIsLeft) {
     EXPECT_EQ(CompactPath("AB", 0), "AB...");
 }
 
+/// In code page 932 one character of two bytes, the second that of a backslash.
+const std::string kLikeABackslash = "\x95\x5C";
+/// In code page 932 one character of two bytes, the second that of a small letter.
+const std::string kLikeASmallLetter = "\x83\x61";
+
+bool HasPairs() { return GetACP() == 932; }
+
+TEST(DoubleByteTest, AFolderThatEndsLikeABackslashGetsOne) {
+    const std::string folder = "C:\\LOGOS" + kLikeABackslash;
+    EXPECT_EQ(AddBackslash(folder), HasPairs() ? folder + "\\" : folder);
+    EXPECT_EQ(AddBackslash(folder + "\\"), folder + "\\");
+}
+
+TEST(DoubleByteTest, TheFileNameOfAPathMayHoldTheByteOfABackslash) {
+    const std::string name = "a" + kLikeABackslash;
+    std::string path = "C:\\LOGOS\\" + name;
+    EXPECT_EQ(GetFileName(path), HasPairs() ? name : "a\x95");
+    EXPECT_EQ(path, HasPairs() ? "C:\\LOGOS\\" + name : "C:\\LOGOS\\a\x95");
+}
+
+TEST(DoubleByteTest, APathIsMadeCompactByCharacters) {
+    std::string ten;
+    for (int i = 0; i < 5; ++i) ten += kLikeABackslash + kLikeASmallLetter;
+    if (!HasPairs()) return;
+    const std::string path = "C:\\" + ten + "\\" + ten;  // 24 characters
+    EXPECT_EQ(CompactPath(path, 24), path);
+    // The search begins at position 24 - (23 - 6) = 7, among bytes of backslashes.
+    EXPECT_EQ(CompactPath(path, 23), "C:\\...\\" + ten);
+    EXPECT_EQ(CompactPath(path, 10), "C:\\...");
+    EXPECT_EQ(CompactPath(kLikeABackslash + kLikeASmallLetter, 0),
+              kLikeABackslash + kLikeASmallLetter + "...");
+}
+
+TEST(DoubleByteTest, ThePartOfAPairIsNoSmallLetter) {
+    EXPECT_EQ(UpperCase("a" + kLikeASmallLetter), HasPairs() ? "A\x83\x61" : "A\x83\x41");
+    EXPECT_EQ(UpperEnding(kLikeASmallLetter + ".sls"), ".SLS");
+}
+
+TEST_F(Machine, AFolderThatEndsLikeABackslashExistsAndHoldsWhatItHolds) {
+    const std::string folder = logos + OddName();
+    CreateDirectoryA(folder.c_str(), nullptr);
+    EXPECT_TRUE(FileExists(folder, FILE_ATTRIBUTE_DIRECTORY));
+    EXPECT_FALSE(FileExists(folder));
+    Put(folder + "\\" + OddName(), "");
+    EXPECT_TRUE(FileExists(folder + "\\" + OddName()));
+}
+
 TEST(TextTest, TrimTakesBlanksAndNothingElse) {
     EXPECT_EQ(Trim("  a b\t "), "a b\t");
     EXPECT_EQ(Trim("   "), "");
@@ -227,7 +274,7 @@ TEST(TextTest, UpperEndingIsTheLastFourCharacters) {
     EXPECT_EQ(UpperEnding("Sunset.sls"), ".SLS");
     EXPECT_EQ(UpperEnding("sls"), "SLS");
     EXPECT_EQ(UpperEnding(""), "");
-    EXPECT_EQ(UpperCase("\xE0z{`A"), "\xE0Z{`A");
+    EXPECT_EQ(UpperCase("\xE0.z{`A"), "\xE0.Z{`A");
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ TEST_F(InstallTest, AMultiLogoSetBringsItsOwnScreens) {
     PutInstalled();
     PutScreens(logos, "shared");
     PutScreens(logos + "Blue\\", "Blue");
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
     EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "Blue LOGOW.SYS", "Blue LOGOS.SYS"}));
 }
 
@@ -39,14 +39,14 @@ TEST_F(InstallTest, ASingleLogoSetBringsTheSharedScreensAndNotThoseInsideIt) {
     PutInstalled();
     PutScreens(logos, "shared");
     PutScreens(logos + "Blue.sls\\", "Blue");
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue.sls", false));
+    InstallLogoSet(targets_, "Blue.sls", false);
     EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "shared LOGOW.SYS", "shared LOGOS.SYS"}));
 }
 
 TEST_F(InstallTest, WhileSynchronizingOnlyTheStartupScreenChanges) {
     PutInstalled();
     PutScreens(logos + "Blue\\", "Blue");
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue", true));
+    InstallLogoSet(targets_, "Blue", true);
     EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "old LOGOW.SYS", "old LOGOS.SYS"}));
 }
 
@@ -54,13 +54,13 @@ TEST_F(InstallTest, AScreenThatTheSetLacksEndsUpAbsent) {
     PutInstalled();
     MakeFolders(logos + "Blue\\");
     Put(logos + "Blue\\LOGO.SYS", "Blue LOGO.SYS");
-    EXPECT_FALSE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
     EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "-", "-"}));
 }
 
 TEST_F(InstallTest, ASetThatIsGoneLeavesNoScreen) {
     PutInstalled();
-    EXPECT_FALSE(InstallLogoSet(targets_, "gone", false));
+    InstallLogoSet(targets_, "gone", false);
     EXPECT_EQ(Installed(), (Screens{"-", "-", "-"}));
 }
 
@@ -69,7 +69,7 @@ TEST_F(InstallTest, ReadOnlyHiddenAndSystemFilesAreReplaced) {
     for (unsigned long attributes = 1; attributes < 8; ++attributes) {
         PutInstalled();
         GiveInstalled(attributes);
-        EXPECT_TRUE(InstallLogoSet(targets_, "Blue", false));
+        InstallLogoSet(targets_, "Blue", false);
         EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "Blue LOGOW.SYS", "Blue LOGOS.SYS"}));
     }
 }
@@ -86,9 +86,9 @@ TEST_F(InstallTest, WhileSynchronizingAttributesAreClearedAllTheSame) {
 TEST_F(InstallTest, TheInstalledFileIsReadOnlyWhereTheSetsIs) {
     PutScreens(logos + "Blue\\", "Blue");
     GiveAttributes(logos + "Blue\\LOGO.SYS", FILE_ATTRIBUTE_READONLY);
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
     EXPECT_EQ(AttributesOf(boot + "LOGO.SYS"), static_cast<unsigned long>(FILE_ATTRIBUTE_READONLY));
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
 }
 
 TEST_F(InstallTest, ToggleReadOnlyAttribClearsWhatIsThereAndPassesOverWhatIsNot) {
@@ -102,15 +102,15 @@ TEST_F(InstallTest, ToggleReadOnlyAttribClearsWhatIsThereAndPassesOverWhatIsNot)
 
 TEST_F(InstallTest, OddSetNamesAndFoldersNamedLikeScreens) {
     for (const std::string& name :
-         {std::string("My blue set"), std::string("v1.2.3"), std::string("Caf\xE9 'o' \x80"),
+         {std::string("My blue set"), std::string("v1.2.3"), OddName() + " 'o'",
           std::string(200, 'n'), std::string("LOGO.SYS")}) {
         PutInstalled();
         PutScreens(logos + name + "\\", "odd");
-        EXPECT_TRUE(InstallLogoSet(targets_, name, false)) << name;
+        InstallLogoSet(targets_, name, false);
         EXPECT_EQ(Installed(), (Screens{"odd LOGO.SYS", "odd LOGOW.SYS", "odd LOGOS.SYS"}));
     }
     MakeFolders(logos + "Blue\\LOGO.SYS\\");
-    EXPECT_FALSE(InstallLogoSet(targets_, "Blue", true));
+    InstallLogoSet(targets_, "Blue", true);
     EXPECT_EQ(Installed()[0], "-");
 }
 
@@ -123,7 +123,7 @@ TEST_F(InstallTest, ScreensOfEverySizeArriveByteForByte) {
     Put(logos + "Blue\\LOGO.SYS", "");
     Put(logos + "Blue\\LOGOW.SYS", large.substr(0, 53));
     Put(logos + "Blue\\LOGOS.SYS", large);
-    EXPECT_TRUE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
     EXPECT_EQ(Installed(), (Screens{"", large.substr(0, 53), large}));
 }
 
@@ -179,7 +179,7 @@ TEST_F(InstallTest, EachStepThatFailsWhileSynchronizingIsPassedOver) {
 TEST_F(InstallTest, ATargetFolderThatIsGoneIsPassedOver) {
     PutScreens(logos + "Blue\\", "Blue");
     RemoveTree(windows);
-    EXPECT_FALSE(InstallLogoSet(targets_, "Blue", false));
+    InstallLogoSet(targets_, "Blue", false);
     EXPECT_EQ(Installed(), (Screens{"Blue LOGO.SYS", "-", "-"}));
 }
 

@@ -1,6 +1,8 @@
 // The rules about logo sets on disk.
 #include "core/library.h"
 
+#include <windows.h>
+
 #include <algorithm>
 
 #include "platform/fault.h"
@@ -55,17 +57,38 @@ TEST_F(Machine, OnlyFoldersAreSets) {
 }
 
 TEST_F(Machine, OddNamesAndFoldersInsideSetsAreNoTrouble) {
-    const Names names = {"Blue set", "Caf\xE9 'one'", "LOGO.SYS", "a.b.c", std::string(200, 'n')};
+    Names names = {"Blue set", OddName() + " 'one'", "LOGO.SYS", "a.b.c", std::string(200, 'n')};
     for (const std::string& name : names) MakeFolders(logos + name + "\\inside\\");
     Names found = LogoSetNames(logos);
     std::sort(found.begin(), found.end());
+    std::sort(names.begin(), names.end());
     EXPECT_EQ(found, names);
 }
 
-TEST_F(Machine, HiddenFoldersAreSetsToo) {
-    MakeFolders(logos + "Blue\\");
-    GiveAttributes(logos + "Blue", 2);
+TEST_F(Machine, HiddenAndSystemFoldersAreNoSets) {
+    for (const char* name : {"Blue", "RECYCLED", "System"}) MakeFolders(logos + name + "\\");
+    GiveAttributes(logos + "RECYCLED", 2);
+    GiveAttributes(logos + "System", 4);
     EXPECT_EQ(LogoSetNames(logos), Names{"Blue"});
+    GiveAttributes(logos + "Blue", 1);
+    EXPECT_EQ(LogoSetNames(logos), Names{"Blue"});
+}
+
+TEST_F(Machine, ASetWhoseNameTheCodePageLacksIsListedByItsShortName) {
+    // Two letters that neither code page 1252 nor 932 has.
+    CreateDirectoryW(L"C:\\machine\\logos\\\x0E01\x0E02 set", nullptr);
+    const Names names = LogoSetNames(logos);
+    ASSERT_EQ(names.size(), 1u);
+    EXPECT_EQ(names[0].find('?'), std::string::npos) << names[0];
+    PutScreens(logos + names[0] + "\\", "odd");
+    EXPECT_EQ(Contents(ScreenPathsOfSet(logos, names[0])[0]), "odd LOGO.SYS");
+}
+
+TEST_F(Machine, ALogoFolderThatEndsLikeABackslashListsItsSetsAndNotItself) {
+    const std::string folder = root + OddName();
+    CreateDirectoryA(folder.c_str(), nullptr);
+    CreateDirectoryA((folder + "\\" + OddName()).c_str(), nullptr);
+    EXPECT_EQ(LogoSetNames(folder), Names{OddName()});
 }
 
 TEST_F(Machine, AFolderWithoutABackslashIsReadAllTheSame) {

@@ -15,15 +15,25 @@ namespace {
 constexpr const char* kSettings = "SOFTWARE\\Tarnwick\\Vistrel";
 constexpr const char* kNames[] = {"LOGO.SYS", "LOGOW.SYS", "LOGOS.SYS"};
 
+/// Where a path's backslashes stand; the second byte of a pair is none.
+std::vector<std::size_t> BackslashesIn(const std::string& path) {
+    std::vector<std::size_t> places;
+    for (const char* at = path.c_str(); *at; at = CharNextA(at)) {
+        if (*at == '\\') places.push_back(static_cast<std::size_t>(at - path.c_str()));
+    }
+    return places;
+}
+
 std::string WithoutBackslash(std::string path) {
-    if (path.ends_with('\\')) path.pop_back();
+    const std::vector<std::size_t> backslashes = BackslashesIn(path);
+    if (!backslashes.empty() && backslashes.back() == path.size() - 1) path.pop_back();
     return path;
 }
 
 std::wstring Widened(const std::string& text) {
     std::wstring wide(text.size(), L'\0');
-    MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(),
-                        static_cast<int>(wide.size()));
+    wide.resize(MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()),
+                                    wide.data(), static_cast<int>(wide.size())));
     return wide;
 }
 
@@ -88,10 +98,22 @@ void GiveAttributes(const std::string& path, unsigned long attributes) {
 }
 
 void MakeFolders(const std::string& path) {
-    for (auto end = path.find('\\', 3); end != std::string::npos; end = path.find('\\', end + 1)) {
-        CreateDirectoryA(path.substr(0, end).c_str(), nullptr);
+    for (const std::size_t end : BackslashesIn(path)) {
+        if (end > 2) CreateDirectoryA(path.substr(0, end).c_str(), nullptr);
     }
     ASSERT_TRUE(Exists(WithoutBackslash(path))) << path;
+}
+
+void KeepAccessTime(const std::string& folder) {
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    const ULONGLONG hour = 3600ull * 10'000'000;
+    const ULONGLONG later = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) + hour;
+    const FILETIME accessed = {static_cast<DWORD>(later), static_cast<DWORD>(later >> 32)};
+    HANDLE open = CreateFileA(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
+                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    EXPECT_TRUE(SetFileTime(open, nullptr, &accessed, nullptr));
+    CloseHandle(open);
 }
 
 std::vector<std::string> NamesIn(const std::string& folder) {
@@ -101,7 +123,8 @@ std::vector<std::string> NamesIn(const std::string& folder) {
     if (search == INVALID_HANDLE_VALUE) return names;
     do {
         const std::string name = found.cFileName;
-        if (name != "." && name != "..") names.push_back(name);
+        const bool lossy = name.find('?') != std::string::npos;
+        if (name != "." && name != "..") names.push_back(lossy ? found.cAlternateFileName : name);
     } while (FindNextFileA(search, &found));
     FindClose(search);
     std::sort(names.begin(), names.end());
@@ -122,6 +145,8 @@ void RemoveTree(const std::string& path) {
     // A program that is just ending may still have it as its current folder.
     ASSERT_TRUE(WaitUntil([&] { return RemoveDirectoryA(name.c_str()) != 0; })) << name;
 }
+
+std::string OddName() { return GetACP() == 932 ? "\x83\x61\x95\x5C" : "Caf\xE9"; }
 
 StoredValue TextValue(const std::string& text) { return {REG_SZ, text}; }
 

@@ -26,8 +26,15 @@ void GiveAttributes(const std::string& path, unsigned long attributes);
 void MakeFolders(const std::string& path);
 /// Removes a folder with all that it holds, or a file. Nothing happens when there is none.
 void RemoveTree(const std::string& path);
-/// The names of what a folder holds, sorted.
+/// Gives a folder a time of last access that looking into it does not change, for it lies ahead.
+/// Wine's browser for folders knows one again by that time, among others.
+void KeepAccessTime(const std::string& folder);
+/// The names of what a folder holds, sorted; short ones where the code page lacks letters.
 std::vector<std::string> NamesIn(const std::string& folder);
+
+/// A name with letters that are not plain in this machine's code page. Where characters may be two
+/// bytes long, second bytes are those of a backslash and of a small letter.
+std::string OddName();
 
 // Values of the settings key and of other keys under HKEY_LOCAL_MACHINE.
 

@@ -124,8 +124,8 @@ TEST_F(SettingsTest, ValuesOfOtherTypesAreTakenWhereTheyCanBe) {
 TEST_F(SettingsTest, TextsAreCutAtTheFirstNul) {
     for (const TextCase& text : kTexts) {
         SCOPED_TRACE(text.name);
-        EXPECT_EQ(LoadWith(text.name, TextValueWithNul("Caf\xE9 \"one\"")).*text.field,
-                  "Caf\xE9 \"one\"");
+        EXPECT_EQ(LoadWith(text.name, TextValueWithNul(OddName() + " \"one\"")).*text.field,
+                  OddName() + " \"one\"");
         EXPECT_EQ(LoadWith(text.name, TextValue(std::string("a\0b", 3))).*text.field, "a");
         EXPECT_EQ(LoadWith(text.name, TextValue(std::string("\0b", 2))).*text.field, "");
         const std::string longText(4000, 'x');
@@ -231,7 +231,7 @@ Settings UnlikeTheDefaults() {
     settings.view = 1;
     settings.synchronizeLogos = 1;
     settings.bootRoot = "D:\\";
-    settings.defaultLogoSet = "Caf\xE9.SLS";
+    settings.defaultLogoSet = OddName() + ".SLS";
     settings.defaultAction = 2;
     settings.customProgName = "Painter";
     settings.customProgPath = "C:\\Tools\\PAINTER.EXE";
@@ -250,7 +250,7 @@ TEST_F(SettingsTest, AllFourteenValuesAreSavedAsTextsWithoutANul) {
                                             "1",
                                             "1",
                                             "D",
-                                            "Caf\xE9.SLS",
+                                            OddName() + ".SLS",
                                             "2",
                                             "Painter",
                                             "C:\\Tools\\PAINTER.EXE",

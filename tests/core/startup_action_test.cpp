@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "platform/shell.h"
 #include "tests/core/machine.h"
 
 namespace vistrel::test {
@@ -29,15 +30,84 @@ TEST_F(StartUpActionTest, TheLinksInTheStartupFolderAreTheRecord) {
     EXPECT_EQ(ReadStartUpAction(startup), StartUpActionKind::Shufflet);
 }
 
-TEST_F(StartUpActionTest, LinksAreMadeWhereTheyAreMissingOnly) {
-    RemoveTree(program + "Shufflet.lnk");
-    MakeMissingLinks(program);
-    EXPECT_EQ(Contents(program + "Rotaline.lnk"), "link to Rotaline");
-    EXPECT_EQ(Contents(program + "Shufflet.lnk").value_or("").substr(0, 4),
-              std::string("L\0\0\0", 4));
-    RemoveTree(program);
-    MakeMissingLinks(program);
-    EXPECT_FALSE(Exists(program));
+/// The companions lie in the program folder, their links do not.
+class MissingLinksTest : public Machine {
+ protected:
+    MissingLinksTest() {
+        Put(program + "Rotaline.exe", "");
+        Put(program + "Shufflet.exe", "");
+    }
+    void Mend() { MakeMissingLinks(program, startup); }
+    /// Makes a link as another folder's copy of the program had it.
+    void PutOldLink(const std::string& path) {
+        WriteShellLink(path, boot + "Rotaline.exe", "", boot, "");
+    }
+    void ExpectLinks(const std::string& folder) {
+        EXPECT_EQ(ShellLinkTarget(folder + "Rotaline.lnk"), program + "Rotaline.exe");
+        EXPECT_EQ(ShellLinkTarget(folder + "Shufflet.lnk"), program + "Shufflet.exe");
+    }
+};
+
+TEST_F(MissingLinksTest, LinksThatAreMissingAreMade) {
+    Mend();
+    ExpectLinks(program);
+    EXPECT_EQ(NamesIn(startup), Names{});
+}
+
+TEST_F(MissingLinksTest, ALinkThatLeadsHereIsLeftAsItIs) {
+    WriteShellLink(program + "Rotaline.lnk", program + "Rotaline.exe", "", program, "By the user");
+    WriteShellLink(startup + "Rotaline.lnk", program + "ROTALINE.EXE", "", program, "");
+    const auto own = Contents(program + "Rotaline.lnk");
+    const auto started = Contents(startup + "Rotaline.lnk");
+    Mend();
+    EXPECT_EQ(Contents(program + "Rotaline.lnk"), own);
+    EXPECT_EQ(Contents(startup + "Rotaline.lnk"), started);
+}
+
+TEST_F(MissingLinksTest, ALinkToAFolderThatTheProgramHasLeftIsMadeAnew) {
+    PutOldLink(program + "Rotaline.lnk");
+    Put(program + "Shufflet.lnk", "no link at all");
+    Mend();
+    ExpectLinks(program);
+}
+
+TEST_F(MissingLinksTest, ALinkInTheStartupFolderThatLeadsElsewhereIsReplaced) {
+    PutOldLink(startup + "Rotaline.lnk");
+    Mend();
+    EXPECT_EQ(NamesIn(startup), Names{"Rotaline.lnk"});
+    EXPECT_EQ(ShellLinkTarget(startup + "Rotaline.lnk"), program + "Rotaline.exe");
+}
+
+TEST_F(MissingLinksTest, NothingIsWrittenForACompanionThatIsNotThere) {
+    RemoveTree(program + "Shufflet.exe");
+    PutOldLink(startup + "Shufflet.lnk");
+    const auto started = Contents(startup + "Shufflet.lnk");
+    Mend();
+    EXPECT_EQ(NamesIn(program), (Names{"Rotaline.exe", "Rotaline.lnk"}));
+    EXPECT_EQ(Contents(startup + "Shufflet.lnk"), started);
+}
+
+TEST_F(MissingLinksTest, AStepThatFailsIsPassedOver) {
+    WithEachOperationFailing(
+        [&] {
+            for (const std::string& folder : {program, startup}) {
+                PutOldLink(folder + "Rotaline.lnk");
+                PutOldLink(folder + "Shufflet.lnk");
+            }
+        },
+        [&] { Mend(); },
+        [&](int) {
+            // One companion at most is left with its old links; the next start mends them.
+            int mended = 0;
+            for (const std::string name : {"Rotaline", "Shufflet"}) {
+                mended += ShellLinkTarget(program + name + ".lnk") == program + name + ".exe" &&
+                          ShellLinkTarget(startup + name + ".lnk") == program + name + ".exe";
+            }
+            EXPECT_GE(mended, 1);
+            Mend();
+            ExpectLinks(program);
+            ExpectLinks(startup);
+        });
 }
 
 TEST_F(StartUpActionTest, AStartupFolderThatIsGoneMeansNothing) {

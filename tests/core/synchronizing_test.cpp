@@ -14,6 +14,11 @@ TEST(SynchronizedPathTest, IsTheLogoFolderForASingleLogoSetAndTheSetsOwnOtherwis
     EXPECT_EQ(SynchronizedPath("C:\\L\\", "Blue"), "C:\\L\\Blue");
 }
 
+TEST(SynchronizedPathTest, IsAFolderThatCannotExistWhereNoSetIsKnown) {
+    EXPECT_EQ(SynchronizedPath("C:\\L\\", ""), "C:\\L\\<Don't know>");
+    EXPECT_EQ(SynchronizedPath("C:\\L\\", "<Don't know>"), "C:\\L\\<Don't know>");
+}
+
 TEST_F(Machine, RegisteringEntersTheProgramAndWritesItsFile) {
     EXPECT_TRUE(RegisterMirrorkin(program, logos, "Blue"));
     EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin"), SavedText(program + "Mirrorkin.exe /auto"));
@@ -23,7 +28,7 @@ TEST_F(Machine, RegisteringEntersTheProgramAndWritesItsFile) {
 
 TEST_F(Machine, RegisteringAgainReplacesThePath) {
     RegisterMirrorkin(program, logos, "Blue");
-    EXPECT_TRUE(RegisterMirrorkin(program, logos, "Caf\xE9.sls"));
+    EXPECT_TRUE(RegisterMirrorkin(program, logos, OddName() + ".sls"));
     EXPECT_EQ(ReadSynchronizedPath(program), logos);
 }
 

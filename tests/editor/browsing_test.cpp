@@ -44,13 +44,26 @@ TEST_F(Browsing, MarksFoldersScreensAndOtherPictures) {
     });
 }
 
-TEST_F(Browsing, LeavesHiddenAndSystemFilesOut) {
-    Put(pictures + "io.sys", "");
-    Put(pictures + "seen.sys", "");
+TEST_F(Browsing, LeavesHiddenAndSystemEntriesOut) {
+    for (const char* name : {"io.sys", "hidden.sys", "system.sys", "seen.sys"})
+        Put(pictures + name, "");
     GiveAttributes(pictures + "io.sys", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    GiveAttributes(pictures + "hidden.sys", FILE_ATTRIBUTE_HIDDEN);
+    GiveAttributes(pictures + "system.sys", FILE_ATTRIBUTE_SYSTEM);
+    MakeFolders(pictures + "RECYCLED\\");
+    GiveAttributes(pictures + "RECYCLED", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
     WithEditor([&](Principale&, SelPictureForm& editor) {
         EXPECT_EQ(Listed(editor), (Names{"..", "seen.sys"}));
     });
+}
+
+TEST_F(Browsing, AHiddenFolderCanBeLeftAgain) {
+    MakeFolders(pictures + "hidden\\inside\\");
+    GiveAttributes(pictures + "hidden", FILE_ATTRIBUTE_HIDDEN);
+    GiveAttributes(pictures + "hidden\\inside", FILE_ATTRIBUTE_HIDDEN);
+    Store("SearchLogoPath", TextValue(pictures + "hidden\\inside\\"));
+    WithEditor(
+        [&](Principale&, SelPictureForm& editor) { EXPECT_EQ(Listed(editor), (Names{".."})); });
 }
 
 TEST_F(Browsing, DoubleClicksGoIntoFoldersAndUpAgain) {

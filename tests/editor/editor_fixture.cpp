@@ -67,13 +67,15 @@ LogoBrowser::LogoBrowser() {
     Store("ConfirmLogosetDelete", TextValue("2"));
 }
 
-void LogoBrowser::WithEditor(const Acting& user) {
+void LogoBrowser::WithEditor(const Acting& user,
+                             const std::function<void(Principale& main)>& before) {
     OleInitialize(nullptr);
     {
         Principale main(locations);
         ASSERT_TRUE(main.Create(nullptr));
         main.Preferences().bootRoot = boot;
         main.Show();
+        before(main);
         SelPictureForm editor(main);
         user::Meanwhile acting([&] {
             WaitUntil([&] { return editor.IsOpen() && IsWindowVisible(editor.handle()); });
@@ -124,6 +126,30 @@ void LogoBrowser::Pick(SelPictureForm& editor, const std::string& name) {
 
 void LogoBrowser::Open(SelPictureForm& editor, const std::string& name) {
     user::DoubleClickAt(PointOfItem(editor, name));
+}
+
+void LogoBrowser::BrowseInto(SelPictureForm& editor, const std::string& name) {
+    const std::string from = editor.CurPath.Text();
+    Open(editor, name);
+    Await([&] { return editor.CurPath.Text() != from; }, "folder opened");
+    Settle(editor);
+}
+
+void LogoBrowser::RenameItem(SelPictureForm& editor, const std::string& name,
+                             const std::string& typed) {
+    Pick(editor, name);
+    Run(editor, ID_BrowserRename);
+    Await([&] { return editor.LogoList.EditingLabel(); }, "label edited");
+    user::Type(typed);
+    user::Press(VK_RETURN);
+}
+
+HMENU LogoBrowser::ActionMenu(SelPictureForm& editor) {
+    PostMessageA(editor.ActButton.handle(), BM_CLICK, 0, 0);
+    const HMENU menu = user::WaitForPopUp();
+    DismissMenu();
+    Settle(editor);
+    return menu;
 }
 
 void LogoBrowser::ChooseSet(SelPictureForm& editor, const std::string& name) {

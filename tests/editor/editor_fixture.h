@@ -27,7 +27,11 @@ class LogoBrowser : public MainWindow98 {
 
     /// Opens the editor over the main window and lets `user` act in it on a thread of its own; then
     /// closes it, discarding changes.
-    void WithEditor(const Acting& user);
+    void WithEditor(const Acting& user) {
+        WithEditor(user, [](Principale&) {});
+    }
+    /// The same, after something was done in the main window.
+    void WithEditor(const Acting& user, const std::function<void(Principale& main)>& before);
 
     // For the user's thread.
 
@@ -42,6 +46,11 @@ class LogoBrowser : public MainWindow98 {
     static void Pick(SelPictureForm& editor, const std::string& name);
     /// Opens an item by a double click.
     static void Open(SelPictureForm& editor, const std::string& name);
+    /// Opens a folder by a double click and waits until it is listed.
+    static void BrowseInto(SelPictureForm& editor, const std::string& name);
+    /// Types another name over an item's label and presses Enter. What follows is to be awaited.
+    static void RenameItem(SelPictureForm& editor, const std::string& name,
+                           const std::string& typed);
     static std::vector<std::string> Listed(SelPictureForm& editor);
 
     /// Chooses a set in the name's list, as the keyboard does.
@@ -57,6 +66,8 @@ class LogoBrowser : public MainWindow98 {
     static user::Box RunAndAnswer(SelPictureForm& editor, int command, int answer);
 
     static void DismissMenu();
+    /// Opens the Action menu, closes it again and returns it, to be read as it was.
+    static HMENU ActionMenu(SelPictureForm& editor);
     /// Runs a command that deletes into the recycle bin and answers the shell's own question.
     static void RunAndAnswerShell(SelPictureForm& editor, int command, int answer);
 

@@ -31,8 +31,10 @@ void ExpectOrderly(SelPictureForm& editor) {
         EXPECT_LE(place.bottom(), client.height) << id;
         for (const auto& [otherId, other] : editor.controls()) {
             // The frames lie around what they hold.
-            const bool frame = id == ID_Frame1 || otherId == ID_Frame1 || id >= ID_SlotFrame ||
-                               otherId >= ID_SlotFrame;
+            const auto isFrame = [](int number) {
+                return number == ID_Frame1 || (number >= ID_SlotFrame && number < ID_SlotFrame + 3);
+            };
+            const bool frame = isFrame(id) || isFrame(otherId);
             if (otherId <= id || !other->Visible() || frame) continue;
             EXPECT_FALSE(Overlap(place, other->Bounds())) << id << " and " << otherId;
         }
@@ -95,6 +97,9 @@ TEST_F(Look, IsOrderlyInEachTypeAtItsFirstSizeAndAtItsSmallest) {
         EXPECT_LE(r.right, 640);
         EXPECT_LE(r.bottom, 452);
         LookAtTypes(editor, "small");
+        ShowWindow(editor.handle(), SW_MAXIMIZE);
+        Settle(editor);
+        LookAtTypes(editor, "maximised");
     });
     RemoveTree("C:\\test\\pictures\\ready.sys");
 }

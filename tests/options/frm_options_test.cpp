@@ -3,12 +3,19 @@
 
 #include <gtest/gtest.h>
 #include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+#include <objbase.h>
+
+#include <functional>
 
 #include "controls/message_loop.h"
 #include "core/library.h"
 #include "core/startup_action.h"
 #include "resources/ids.h"
 #include "tests/core/machine.h"
+#include "tests/support/help_requests.h"
+#include "tests/support/seen.h"
 #include "tests/support/user.h"
 
 namespace vistrel::test {
@@ -50,6 +57,35 @@ class RecordingMain : public MainWindow {
     SystemLocations locations_;
 };
 
+BOOL CALLBACK KeepTree(HWND window, LPARAM result) {
+    if (user::ClassOf(window) != "SysTreeView32") return TRUE;
+    *reinterpret_cast<HWND*>(result) = window;
+    return FALSE;
+}
+
+HWND FindTree(HWND dialog) {
+    HWND tree = nullptr;
+    EnumChildWindows(dialog, KeepTree, reinterpret_cast<LPARAM>(&tree));
+    return tree;
+}
+
+/// The text of a tree's selected item.
+std::string SelectedIn(HWND tree) {
+    char text[MAX_PATH] = "";
+    TVITEMA item{};
+    item.mask = TVIF_TEXT | TVIF_HANDLE;
+    item.hItem = reinterpret_cast<HTREEITEM>(SendMessageA(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    item.pszText = text;
+    item.cchTextMax = sizeof text;
+    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
+    return text;
+}
+
+/// Gives a dialog's control the focus, as the tab key would.
+void SetFocusOn(HWND dialog, HWND control) {
+    SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
 class Preferences : public Machine {
  protected:
     Preferences() : main(locations) {
@@ -61,8 +97,9 @@ class Preferences : public Machine {
 
     /// Opens the dialog, lets `user` act on a thread of its own, and returns when it is closed; a
     /// dialog that is still open is cancelled.
-    void WithDialog(const std::function<void(FrmOptions&)>& user) {
-        FrmOptions options(main);
+    void WithDialog(const std::function<void(FrmOptions&)>& user,
+                    FrmOptions::Page first = FrmOptions::kGeneral) {
+        FrmOptions options(main, first);
         ASSERT_TRUE(options.Create(nullptr));
         options.Show();
         user::Meanwhile acting([&] {
@@ -81,6 +118,24 @@ class Preferences : public Machine {
         ClientToScreen(options.TabStrip1.handle(), &at);
         user::ClickAt(at);
         WaitUntil([&] { return options.MyFrame[number - 1].Visible(); });
+    }
+    /// The window of the dialog's thread that has the focus.
+    static HWND FocusOf(FrmOptions& options) {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        GetGUIThreadInfo(GetWindowThreadProcessId(options.handle(), nullptr), &info);
+        return info.hwndFocus;
+    }
+    static bool HasFocus(FrmOptions& options, const Control& control) {
+        return WaitUntil([&] { return FocusOf(options) == control.handle(); });
+    }
+    static bool PageIsShown(FrmOptions& options, int number) {
+        return WaitUntil([&] {
+            for (int i = 0; i < 4; ++i)
+                if ((IsWindowVisible(options.MyFrame[i].handle()) != 0) != (i == number - 1))
+                    return false;
+            return true;
+        });
     }
     static void PressOk(FrmOptions& options) {
         user::Click(options.BtnOK.handle());
@@ -102,6 +157,100 @@ TEST_F(Preferences, ShowsOnlyThePageOfTheSelectedTab) {
             EXPECT_EQ(options.StartUpAction[2].Visible(), tab == 4);
             user::TakeShot("preferences_" + std::to_string(tab));
         }
+    });
+}
+
+TEST_F(Preferences, AreWordedLikeThis) {
+    const std::pair<int, const char*> captions[] = {
+        {ID_LblLogoPath, "Logo &folder:"},
+        {ID_btnBrwFolder, ".&.."},
+        {ID_LblDblAction, "Double click on logo set:"},
+        {ID_ChkShowSplash, "Show splash screen at startup"},
+        {ID_ChkSyncronize, "Synchronize logos (delay wait and shutdown logo copy)"},
+        {ID_ActiveStart, "Show startup logo"},
+        {ID_LblDriveHost, "Put the startup logo in:"},
+        {ID_ChkConfirmChange, "Confirm logo type (single/multi) change"},
+        {ID_ChkDelConfirm, "Confirm logo sets deletion"},
+        {ID_ChkDeleteRecycle, "Delete logosets in the Recycle Bin"},
+        {ID_ChkShowAnim, "Autos&how logo animation"},
+        {ID_FrameOpen, "When I click on image"},
+        {ID_OptOpen, "&Show it in its actual size"},
+        {ID_OptOpen + 1, "Open &Paint"},
+        {ID_OptOpen + 2, "Op&en program:"},
+        {ID_BtnBrowse, "..."},
+        {ID_LblStartUp, "Every time Windows is started run:"},
+        {ID_StartUpAction, "Logo &sequential change (Rotaline)"},
+        {ID_StartUpAction + 1, "Logo &random change (Shufflet)"},
+        {ID_StartUpAction + 2, "&Nothing"},
+        {ID_BtnOK, "&OK"},
+        {ID_BtnCancel, "&Cancel"},
+    };
+    WithDialog([&](FrmOptions& options) {
+        EXPECT_EQ(user::TextOf(options.handle()), "Preferences");
+        for (const auto& [id, caption] : captions)
+            EXPECT_EQ(user::TextOf(GetDlgItem(options.handle(), id)), caption);
+        std::vector<std::string> tabs;
+        const HWND strip = options.TabStrip1.handle();
+        for (LRESULT i = 0; i < SendMessageA(strip, TCM_GETITEMCOUNT, 0, 0); ++i) {
+            char text[64] = "";
+            TCITEMA item{};
+            item.mask = TCIF_TEXT;
+            item.pszText = text;
+            item.cchTextMax = sizeof text;
+            SendMessageA(strip, TCM_GETITEMA, static_cast<WPARAM>(i),
+                         reinterpret_cast<LPARAM>(&item));
+            tabs.push_back(text);
+        }
+        EXPECT_EQ(tabs, (std::vector<std::string>{"General", "Confirmations", "Images",
+                                                  "StartUp settings"}));
+        char actions[2][64];
+        const HWND combo = options.DblAction.handle();
+        EXPECT_EQ(SendMessageA(combo, CB_GETCOUNT, 0, 0), 2);
+        for (WPARAM i = 0; i < 2; ++i)
+            SendMessageA(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(actions[i]));
+        EXPECT_STREQ(actions[0], "Sets the logo set as default");
+        EXPECT_STREQ(actions[1], "Opens the logo browser!");
+    });
+}
+
+TEST_F(Preferences, OpenWithTheLogoFolderSelectedSoThatTypingReplacesIt) {
+    WithDialog([&](FrmOptions& options) {
+        EXPECT_TRUE(HasFocus(options, options.TxtLogoPath));
+        user::Type("D:\\New");
+        EXPECT_TRUE(WaitUntil([&] {
+            return user::TextOf(options.TxtLogoPath.handle()) == "D:\\New";
+        })) << user::TextOf(options.TxtLogoPath.handle());
+    });
+}
+
+TEST_F(Preferences, OpenWhereThePictureProgramIsSetWhenAskedTo) {
+    WithDialog(
+        [&](FrmOptions& options) {
+            EXPECT_TRUE(PageIsShown(options, 3));
+            EXPECT_EQ(SendMessageA(options.TabStrip1.handle(), TCM_GETCURSEL, 0, 0), 2);
+            EXPECT_TRUE(HasFocus(options, options.CustProg));
+        },
+        FrmOptions::kImages);
+}
+
+TEST_F(Preferences, TurnTheirPagesByTheKeyboard) {
+    WithDialog([&](FrmOptions& options) {
+        for (const int page : {2, 3, 4, 1}) {
+            user::Press(VK_TAB, {VK_CONTROL});
+            EXPECT_TRUE(PageIsShown(options, page)) << page;
+            EXPECT_EQ(SendMessageA(options.TabStrip1.handle(), TCM_GETCURSEL, 0, 0), page - 1);
+            // Keys go where the user sees it.
+            EXPECT_TRUE(IsWindowVisible(FocusOf(options))) << page;
+        }
+        EXPECT_TRUE(HasFocus(options, options.TxtLogoPath));
+        user::Press(VK_TAB, {VK_CONTROL, VK_SHIFT});
+        EXPECT_TRUE(PageIsShown(options, 4));
+        user::Press(VK_PRIOR, {VK_CONTROL});
+        EXPECT_TRUE(PageIsShown(options, 3));
+        user::Press(VK_NEXT, {VK_CONTROL});
+        EXPECT_TRUE(PageIsShown(options, 4));
+        user::Press(VK_TAB);
+        EXPECT_TRUE(PageIsShown(options, 4));
     });
 }
 
@@ -205,6 +354,33 @@ TEST_F(Preferences, ChoosesTheCustomProgramAsSoonAsOneTypes) {
     EXPECT_EQ(main.customCaption, "Brush \"and\" more");
 }
 
+TEST_F(Preferences, NameAProgramAfterItsFileWhereItHasNoName) {
+    WithDialog([&](FrmOptions& options) {
+        ClickTab(options, 3);
+        user::Click(options.CustProg.handle());
+        user::Type("C:\\My Tools\\brush.exe");
+        EXPECT_TRUE(WaitUntil(
+            [&] { return user::TextOf(options.CustProg.handle()) == "C:\\My Tools\\brush.exe"; }));
+        PressOk(options);
+    });
+    EXPECT_EQ(main.settings.customProgName, "brush");
+    EXPECT_EQ(main.settings.customProgPath, "C:\\My Tools\\brush.exe");
+    EXPECT_EQ(main.customCaption, "brush");
+}
+
+TEST_F(Preferences, AcceptThatThereIsNoProgram) {
+    main.settings.customProgName = "Painter";
+    main.settings.customProgPath = "C:\\p.exe";
+    WithDialog([&](FrmOptions& options) {
+        options.CustomName.SetText("");
+        options.CustProg.SetText("");
+        PressOk(options);
+    });
+    EXPECT_EQ(main.settings.customProgName, "");
+    EXPECT_EQ(main.settings.customProgPath, "");
+    EXPECT_EQ(main.customCaption, "");
+}
+
 TEST_F(Preferences, UncheckTheAnimationWhenTheBoxIsLeftAlone) {
     main.animation = true;
     WithDialog([&](FrmOptions& options) { PressOk(options); });
@@ -221,8 +397,52 @@ TEST_F(Preferences, GiveANewLogoFolderItsBackslashAndScanAgain) {
     EXPECT_EQ(main.scans, 1);
 }
 
+TEST_F(Preferences, TakeAFolderThatDiffersByCaseOnlyForAnother) {
+    std::string upper = logos;
+    CharUpperA(upper.data());
+    ASSERT_NE(upper, logos);
+    WithDialog([&](FrmOptions& options) {
+        options.TxtLogoPath.SetText(upper);
+        PressOk(options);
+    });
+    EXPECT_EQ(main.settings.logoPath, upper);
+    EXPECT_EQ(main.scans, 1);
+}
+
+TEST_F(Preferences, TakeTheFolderThatIsPicked) {
+    MakeFolders(root + "logos2\\");
+    KeepAccessTime(root);
+    KeepAccessTime(logos);
+    CoInitialize(nullptr);
+    WithDialog([&](FrmOptions& options) {
+        user::Click(options.btnBrwFolder.handle());
+        const HWND dialog = user::WaitForTop("#32770");
+        ASSERT_NE(dialog, nullptr);
+        user::Activate(dialog);
+        // The folder that is set is selected; its neighbour is the next in the tree.
+        const HWND tree = FindTree(dialog);
+        ASSERT_NE(tree, nullptr);
+        EXPECT_TRUE(WaitUntil([&] { return SelectedIn(tree) == "logos"; })) << SelectedIn(tree);
+        SetFocusOn(dialog, tree);
+        user::Press(VK_DOWN);
+        EXPECT_TRUE(WaitUntil([&] { return SelectedIn(tree) == "logos2"; })) << SelectedIn(tree);
+        user::Click(GetDlgItem(dialog, IDOK));
+        EXPECT_TRUE(user::WaitUntilGone(dialog));
+        EXPECT_TRUE(WaitUntil([&] {
+            return user::TextOf(options.TxtLogoPath.handle()) == root + "logos2";
+        })) << user::TextOf(options.TxtLogoPath.handle());
+        PressOk(options);
+    });
+    CoUninitialize();
+    EXPECT_EQ(main.settings.logoPath, root + "logos2\\");
+    EXPECT_EQ(main.scans, 1);
+}
+
 TEST_F(Preferences, SelectTheWholeLogoFolderWhenTheBoxIsEntered) {
     WithDialog([&](FrmOptions& options) {
+        // From another control, with nothing of the text marked.
+        SendMessageA(options.TxtLogoPath.handle(), EM_SETSEL, 2, 2);
+        user::Click(options.ChkShowSplash.handle());
         user::Press('F', {VK_MENU});
         EXPECT_TRUE(WaitUntil([&] {
             DWORD from = 1;
@@ -237,6 +457,8 @@ TEST_F(Preferences, SelectTheWholeLogoFolderWhenTheBoxIsEntered) {
 TEST_F(Preferences, OfferFixedDrivesOnlyAndEachOnce) {
     WithDialog([&](FrmOptions& options) {
         for (int opening = 0; opening < 2; ++opening) {
+            // Shown again, the values are filled in again.
+            if (opening == 1) options.Show();
             user::Click(options.DriveHost.handle());
             const HMENU menu = user::WaitForPopUp();
             ASSERT_NE(menu, nullptr);
@@ -299,11 +521,71 @@ TEST_F(Preferences, LeaveTheStartupFolderAloneWhereNoActionIsClicked) {
 TEST_F(Preferences, StandAMissingStartupFolder) {
     RemoveTree(startup);
     WithDialog([&](FrmOptions& options) {
+        user::Click(options.ChkSyncronize.handle());
         ClickTab(options, 4);
         user::Click(options.StartUpAction[0].handle());
         PressOk(options);
+        EXPECT_FALSE(options.IsOpen());
+    });
+    EXPECT_FALSE(Exists(startup));
+    // What stands behind that step is done all the same, and without a word.
+    EXPECT_EQ(main.settings.synchronizeLogos, 1);
+    EXPECT_EQ(user::FindTop("#32770"), nullptr);
+}
+
+TEST_F(Preferences, LetTheTabKeyComeToTheStartUpActionsWithoutChoosingOne) {
+    Put(startup + "Rotaline.lnk", "mine");
+    Put(startup + "Shufflet.lnk", "mine too");
+    WithDialog([&](FrmOptions& options) {
+        ClickTab(options, 4);
+        SetFocusOn(options.handle(), options.BtnCancel.handle());
+        EXPECT_TRUE(HasFocus(options, options.BtnCancel));
+        user::Press(VK_TAB);
+        EXPECT_TRUE(HasFocus(options, options.TabStrip1));
+        user::Press(VK_TAB);
+        EXPECT_TRUE(HasFocus(options, options.StartUpAction[0]));
+        for (const OptionButton& option : options.StartUpAction)
+            EXPECT_EQ(SendMessageA(option.handle(), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+        user::Press(VK_TAB);
+        EXPECT_TRUE(HasFocus(options, options.BtnOK));
+        PressOk(options);
+    });
+    EXPECT_EQ(Contents(startup + "Rotaline.lnk"), "mine");
+    EXPECT_EQ(Contents(startup + "Shufflet.lnk"), "mine too");
+}
+
+TEST_F(Preferences, ChooseAStartUpActionByTheArrowKeys) {
+    Put(startup + "Rotaline.lnk", "mine");
+    Put(startup + "Shufflet.lnk", "mine too");
+    WithDialog([&](FrmOptions& options) {
+        ClickTab(options, 4);
+        SetFocusOn(options.handle(), options.StartUpAction[0].handle());
+        EXPECT_TRUE(HasFocus(options, options.StartUpAction[0]));
+        user::Press(VK_DOWN);
+        EXPECT_TRUE(WaitUntil([&] {
+            return SendMessageA(options.StartUpAction[1].handle(), BM_GETCHECK, 0, 0) ==
+                   BST_CHECKED;
+        }));
+        EXPECT_EQ(options.MyFrame[3].Tag, "Shufflet");
+        PressOk(options);
     });
     EXPECT_FALSE(Exists(startup + "Rotaline.lnk"));
+    EXPECT_EQ(Contents(startup + "Shufflet.lnk"), "link to Shufflet");
+}
+
+TEST_F(Preferences, NoteTheClickedActionsTagWithItsPage) {
+    WithDialog([&](FrmOptions& options) {
+        ClickTab(options, 4);
+        EXPECT_EQ(options.MyFrame[3].Tag, "");
+        for (const int clicked : {0, 2, 1}) {
+            user::Click(options.StartUpAction[clicked].handle());
+            EXPECT_NE(options.StartUpAction[clicked].Tag, "");
+            EXPECT_TRUE(WaitUntil(
+                [&] { return options.MyFrame[3].Tag == options.StartUpAction[clicked].Tag; }));
+        }
+        // It is nothing to read.
+        EXPECT_EQ(user::TextOf(options.MyFrame[3].handle()), "");
+    });
 }
 
 TEST_F(Preferences, TakeAPickedProgramAndItsNameWithoutTheEnding) {
@@ -348,16 +630,31 @@ TEST_F(Preferences, KeepTheBoxesWhenTheSystemsDialogsAreCancelled) {
     });
 }
 
-TEST_F(Preferences, AskWhatAControlIsByTheRightButton) {
+TEST_F(Preferences, TellWhatAControlIsByTheRightButton) {
+    user::HelpRequests requests;
+    Window::SetHelpFile("C:\\test\\vistrl.hlp");
     WithDialog([&](FrmOptions& options) {
         ASSERT_TRUE(user::RightClick(options.ChkSyncronize.handle()));
         const HMENU menu = user::WaitForPopUp();
         ASSERT_NE(menu, nullptr);
-        char text[32] = "";
-        GetMenuStringA(menu, 0, text, sizeof text, MF_BYPOSITION);
-        EXPECT_STREQ(text, "&What's this?");
-        user::Press(VK_ESCAPE);
+        EXPECT_EQ(seen::TextsOf(menu), std::vector<std::string>{"&What's this?"});
+        EXPECT_TRUE(requests.None());
+        user::Press(VK_DOWN);
+        user::Press(VK_RETURN);
+        EXPECT_EQ(requests.Next(),
+                  (user::HelpRequest{HELP_CONTEXTPOPUP, 34, "C:\\test\\vistrl.hlp"}));
         EXPECT_NE(GetWindowLongA(options.handle(), GWL_EXSTYLE) & WS_EX_CONTEXTHELP, 0);
+    });
+}
+
+TEST_F(Preferences, TellWhatTheControlWithTheFocusIsAtF1) {
+    user::HelpRequests requests;
+    Window::SetHelpFile("C:\\test\\vistrl.hlp");
+    WithDialog([&](FrmOptions& options) {
+        EXPECT_TRUE(HasFocus(options, options.TxtLogoPath));
+        user::Press(VK_F1);
+        EXPECT_EQ(requests.Next(),
+                  (user::HelpRequest{HELP_CONTEXTPOPUP, 36, "C:\\test\\vistrl.hlp"}));
     });
 }
 

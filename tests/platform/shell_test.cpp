@@ -88,6 +88,20 @@ TEST_F(Machine, AShellLinkHoldsWhatItIsGiven) {
     CoUninitialize();
 }
 
+TEST_F(Machine, TheTargetOfAShellLinkIsReadWhetherOrNotItExists) {
+    const std::string path = startup + OddName() + ".lnk";
+    Put(program + "Tool.exe", "");
+    ASSERT_TRUE(WriteShellLink(path, program + "Tool.exe", "/x", program, ""));
+    EXPECT_EQ(ShellLinkTarget(path), program + "Tool.exe");
+    RemoveTree(program + "Tool.exe");
+    EXPECT_EQ(ShellLinkTarget(path), program + "Tool.exe");
+    Put(path, "no link at all");
+    EXPECT_EQ(ShellLinkTarget(path), "");
+    EXPECT_EQ(ShellLinkTarget(startup + "gone.lnk"), "");
+    fault::FailOperation(1);
+    EXPECT_EQ(ShellLinkTarget(path), "");
+}
+
 TEST_F(Machine, AShellLinkIntoAFolderThatIsGoneIsNotWritten) {
     EXPECT_FALSE(WriteShellLink(root + "gone\\Tool.lnk", program + "Tool.exe", "", "", ""));
     EXPECT_FALSE(WriteShellLink(startup + std::string(4000, 'x'), program, "", "", ""));
@@ -137,20 +151,6 @@ std::string SelectedInBrowser(HWND dialog) {
     item.cchTextMax = sizeof text;
     SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
     return item.pszText;
-}
-
-/// Gives a folder a time of last access that looking into it does not change, for it lies ahead.
-/// Wine's browser knows a folder again by that time, among others.
-void KeepAccessTime(const std::string& folder) {
-    FILETIME now;
-    GetSystemTimeAsFileTime(&now);
-    const ULONGLONG hour = 3600ull * 10'000'000;
-    const ULONGLONG later = (ULONGLONG{now.dwHighDateTime} << 32 | now.dwLowDateTime) + hour;
-    const FILETIME accessed = {static_cast<DWORD>(later), static_cast<DWORD>(later >> 32)};
-    HANDLE open = CreateFileA(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
-                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    EXPECT_TRUE(SetFileTime(open, nullptr, &accessed, nullptr));
-    CloseHandle(open);
 }
 
 TEST_F(Machine, PickFolderBeginsAtTheStartFolder) {

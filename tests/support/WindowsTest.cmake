@@ -7,9 +7,13 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/clean_start.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/seen.cpp
     ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/help_requests.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/openings.cpp
     ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/started_program.cpp)
+add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/record_opening.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
 target_include_directories(windows_test SYSTEM
@@ -44,13 +48,14 @@ endif()
 # add_windows_test(NAME <name> SOURCES <files> LIBRARIES <targets>
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
 #                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>]
-#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>])
+#                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>]
+#                  [LANGUAGE <locale whose code page programs have, such as ja_JP>])
 # The target and the program are called <name>; the program's folder is its current one, C:\test.
 # Building the target makes everything that `ctest -R <name>` needs.
 # With PROGRAM <target> instead of SOURCES and LIBRARIES that test's program runs once more, on
 # another machine.
 function(add_windows_test)
-    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS"
+    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS;LANGUAGE"
         "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
@@ -67,6 +72,9 @@ function(add_windows_test)
     endif()
     if(ARG_BITS)
         list(APPEND machine --bits ${ARG_BITS})
+    endif()
+    if(ARG_LANGUAGE)
+        list(APPEND machine --language ${ARG_LANGUAGE})
     endif()
     add_test(NAME ${ARG_NAME}
         COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}

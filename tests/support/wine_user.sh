@@ -33,7 +33,8 @@ make_private_folder() {
 }
 
 # in_wine FOLDER COMMAND...: runs a command as the ordinary user with the prefix FOLDER/prefix and
-# the home FOLDER/home. The code page is fixed (1252), whatever the caller's language is.
+# the home FOLDER/home. The code page is fixed (1252), whatever the caller's language is,
+# unless COMMAND begins with other settings.
 in_wine() {
     local folder=$1
     shift

@@ -91,11 +91,49 @@ TEST_F(Story, ChangesTheScreensAtEveryStartOfWindowsOnceToldTo) {
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Sunrise.SLS"));
 }
 
-TEST_F(Story, ShowsTheSplashScreenUnlessItIsSwitchedOff) {
+/// What a start shows until the main window is there.
+struct SeenAtStart {
+    bool splash = false;
+    bool main = false;
+    bool mainBesideSplash = false;
+};
+
+SeenAtStart WatchStart(DWORD process) {
+    SeenAtStart seen;
+    WaitUntil(
+        [&] {
+            const bool splash = user::FindTop("frmSplash", "", process) != nullptr;
+            seen.main = user::FindTop("Principale", "", process) != nullptr;
+            if (splash && !seen.splash) user::TakeShot("story_splash");
+            seen.splash |= splash;
+            seen.mainBesideSplash |= splash && seen.main;
+            return seen.main;
+        },
+        60000);
+    return seen;
+}
+
+TEST_F(Story, ShowsTheSplashScreenUntilTheMainWindowIsThere) {
+    const StartedProgram program(kOpenProgram);
+    ASSERT_TRUE(program);
+    const SeenAtStart seen = WatchStart(program.id());
+    EXPECT_TRUE(seen.splash);
+    EXPECT_TRUE(seen.main);
+    EXPECT_FALSE(seen.mainBesideSplash);
+    PostMessageA(user::FindTop("Principale", "", program.id()), WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.WaitForEnd(), 0u);
+    EXPECT_EQ(Stored("ShowSplashScreen"), SavedText("1"));
+}
+
+TEST_F(Story, ShowsNoSplashScreenWhereItIsSwitchedOff) {
     Store("ShowSplashScreen", TextValue("0"));
-    ASSERT_NE(Start(), nullptr);
-    EXPECT_EQ(user::FindTop("frmSplash", "", process), nullptr);
-    Close();
+    const StartedProgram program(kOpenProgram);
+    ASSERT_TRUE(program);
+    const SeenAtStart seen = WatchStart(program.id());
+    EXPECT_FALSE(seen.splash);
+    EXPECT_TRUE(seen.main);
+    PostMessageA(user::FindTop("Principale", "", program.id()), WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.WaitForEnd(), 0u);
     EXPECT_EQ(Stored("ShowSplashScreen"), SavedText("0"));
 }
 

@@ -45,6 +45,18 @@ void RunningProgram::Close() {
     running_ = StartedProgram();
 }
 
+std::optional<unsigned long> RunningProgram::WaitForEnd() {
+    const auto status = running_.WaitForEnd();
+    if (status) running_ = StartedProgram();
+    return status;
+}
+
+void RunningProgram::EndAtOnce() {
+    running_.Terminate();
+    EXPECT_TRUE(running_.WaitForEnd().has_value());
+    running_ = StartedProgram();
+}
+
 void RunningProgram::SelectSet(HWND main, int place) {
     const HWND list = user::Control(main, ID_MyList);
     RECT r{};

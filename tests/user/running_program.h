@@ -7,6 +7,7 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <optional>
 #include <string>
 
 #include "tests/core/machine.h"
@@ -27,6 +28,10 @@ class RunningProgram : public testing::Test {
     HWND Start();
     /// Closes the program as its close button does and waits until it has ended.
     void Close();
+    /// Its exit status once it has ended by itself; nothing when it does not.
+    std::optional<unsigned long> WaitForEnd();
+    /// Ends the program as the system does at the end of a session.
+    void EndAtOnce();
     /// Selects the set at this place of the list (0 is the first) by the keyboard.
     void SelectSet(HWND main, int place);
     std::string LabelOf(HWND main, int id) { return user::TextOf(user::Control(main, id)); }

@@ -1,0 +1,91 @@
+// The Logo browser's commands: its two menus, its buttons below and its keys.
+#include "controls/screen_metrics.h"
+#include "editor/select_picture_form.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+/// Places of the menus in their resource.
+constexpr int kActionMenu = 0;
+constexpr int kManageMenu = 1;
+constexpr const char* kParentFolder = "..";
+
+}  // namespace
+
+void SelPictureForm::ActButton_Click() {
+    if (type_ == SetType::DefaultScreens) {
+        SaveDefaultScreens();
+        return;
+    }
+    const Rect button = ActButton.ScreenBounds();
+    PopUpMenu(SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
+}
+
+void SelPictureForm::CloseButton_Click() { Unload(); }
+
+void SelPictureForm::LogoList_MouseUp(int button) {
+    if (button == kRightButton) ShowManageMenu(PointerPosition());
+}
+
+void SelPictureForm::ShowManageMenu(Point screen) {
+    PopUpMenu(SubMenu(menus_, kManageMenu), screen);
+}
+
+void SelPictureForm::MenuOpens(MenuHandle menu) {
+    if (menu != SubMenu(menus_, kManageMenu)) return;
+    const std::string name = SelectedName();
+    const bool changeable = !name.empty() && name != kParentFolder;
+    EnableControls(changeable, ItmRename, ItmDelete);
+    for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
+}
+
+// The keys of the list are those of its menu.
+void SelPictureForm::LogoList_KeyUp(int key) {
+    // A key that ends or serves the editing of a label is not a command.
+    if (LogoList.EditingLabel()) return;
+    if (key == kKeyF2) ItmRename_Click();
+    if (key == kKeyDelete) ItmDelete_Click();
+    if (key == kKeyF5) AggiornaDir();
+}
+
+bool SelPictureForm::RunOpenWith(int id) {
+    // Items of the main window's menu close what they opened before they return.
+    ActivateOnce = true;
+    const bool openWith = main_.OpenWithCommand(id, handle());
+    ActivateOnce = false;
+    FollowLogoFolder();
+    return openWith;
+}
+
+void SelPictureForm::MenuCommand(int id) {
+    if (RunOpenWith(id)) return;
+    switch (id) {
+        case ID_BtnOK:  // Enter
+            if (LogoList.HasFocus()) LogoList_DblClick();
+            return;
+        case ID_BtnCancel:  // Esc
+            return CloseButton_Click();
+        case ID_OkButton:
+        case ID_OkButton + 1:
+            return OkButton_Click(id - ID_OkButton);
+        case ID_EliminaSetBtn:
+            return EliminaSetBtn_Click();
+        case ID_ClearAllButton:
+            return ClearAllButton_Click();
+        case ID_BrowserRename:
+            return ItmRename_Click();
+        case ID_BrowserDelete:
+            return ItmDelete_Click();
+        case ID_BrowserRefresh:
+            return AggiornaDir();
+        case ID_ItmSetLogo:
+        case ID_ItmSetLogo + 1:
+        case ID_ItmSetLogo + 2:
+            return AddButton_Click(id - ID_ItmSetLogo);
+        default:
+            return;
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,158 @@
+// Renaming and deleting in the Logo browser's list, and how the session follows: what it names by
+// path or by set moves along with a folder, and what is gone is forgotten.
+#include "core/entry_name.h"
+#include "core/generali.h"
+#include "core/library.h"
+#include "editor/file_handling.h"
+#include "editor/select_picture_form.h"
+#include "editor/slot_file.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+
+namespace vistrel {
+namespace {
+
+constexpr const char* kParentFolder = "..";
+
+bool SameName(const std::string& name, const std::string& other) {
+    return UpperCase(name) == UpperCase(other);
+}
+
+std::string WithoutBackslash(std::string folder) {
+    if (folder.ends_with('\\')) folder.pop_back();
+    return folder;
+}
+
+}  // namespace
+
+void SelPictureForm::ItmRename_Click() { LogoList.StartLabelEdit(); }
+
+bool SelPictureForm::LogoList_BeforeLabelEdit() {
+    oldName_ = SelectedName();
+    return oldName_ != kParentFolder;
+}
+
+bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& typed) {
+    const std::string before = CurrentFolder + oldName_;
+    const bool folder = IsFolder(before);
+    const auto name =
+        folder ? SetFolderName(typed, CurrentFolder) : EntryName(typed, CurrentFolder);
+    if (name == oldName_) return false;
+    if (!name || !Rename(before, CurrentFolder + *name)) {
+        Ask(handle(),
+            "Cannot rename " + oldName_ + ". A file or folder named " + typed +
+                " already exists or the name is not valid.",
+            kExclamationOk);
+        return false;
+    }
+    const std::string after = CurrentFolder + *name;
+    FollowRename(before, after);
+    if (folder && InLogoFolder()) FollowRenamedSet(oldName_, *name);
+    AggiornaDir();
+    SelectInList(*name);
+    // Another ending may make another kind of picture of it.
+    if (SelectedPicture == after) CheckImage(after);
+    // The list shows the new name already.
+    return false;
+}
+
+void SelPictureForm::ItmDelete_Click() {
+    const std::string name = SelectedName();
+    if (name.empty() || name == kParentFolder) return;
+    const std::string path = CurrentFolder + name;
+    const bool isSet = InLogoFolder() && IsFolder(path);
+    DeleteToRecycleBin(handle(), {path});
+    if (TouchesLibrary(path)) LibraryChanged = true;
+    AggiornaDir();
+    if (FileAttributes(path)) return;
+    if (IsAtOrIn(SelectedPicture, path)) ForgetPicture();
+    if (!isSet) return;
+    if (SameName(name, LoadedSet))
+        ForgetLoadedSet(name);
+    else
+        RemoveName(name);
+}
+
+bool SelPictureForm::InLogoFolder() const {
+    return SameName(CurrentFolder, AddBackslash(LogoFolder()));
+}
+
+bool SelPictureForm::TouchesLibrary(const std::string& path) const {
+    const std::string library = WithoutBackslash(LogoFolder());
+    return IsAtOrIn(path, library) || IsAtOrIn(library, path);
+}
+
+void SelPictureForm::FollowRename(const std::string& from, const std::string& to) {
+    for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
+    for (std::string& tag : setsOwnTag_) tag = Repointed(tag, from, to);
+    SelectedPicture = Repointed(SelectedPicture, from, to);
+    CurView.SetTag(Repointed(CurView.Tag(), from, to));
+    if (IsAtOrIn(CurrentFolder, from)) {
+        CurrentFolder = Repointed(CurrentFolder, from, to);
+        ShowPath(CurrentFolder);
+    }
+    if (TouchesLibrary(from)) LibraryChanged = true;
+}
+
+void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string& to) {
+    const bool loaded = SameName(from, LoadedSet);
+    ReplaceName(from, to);
+    if (SameName(from, main_.CurrentSet())) main_.SetCurrentSet(to);
+    if (loaded && type_ != SetType::DefaultScreens && IsSingleLogoSet(from) != IsSingleLogoSet(to))
+        ChooseByCode(IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
+}
+
+// Gives a set another name in the combo box, in its field too where that shows the former one.
+void SelPictureForm::ReplaceName(const std::string& from, const std::string& to) {
+    const std::string shown = NameLogoSet.Text();
+    if (SameName(from, LoadedSet)) LoadedSet = to;
+    const int index = NameLogoSet.FindItem(from);
+    if (index >= 0) NameLogoSet.RemoveItem(index);
+    const int added = NameLogoSet.AddItem(to);
+    if (SameName(shown, from) || SameName(shown, to))
+        NameLogoSet.SetListIndex(added);
+    else
+        NameLogoSet.SetText(shown);
+    FindLoadedIndex();
+}
+
+// Takes a set's name out of the combo box; its field keeps what it shows.
+void SelPictureForm::RemoveName(const std::string& name) {
+    const std::string shown = NameLogoSet.Text();
+    const int index = NameLogoSet.FindItem(name);
+    if (index >= 0) NameLogoSet.RemoveItem(index);
+    NameLogoSet.SetText(shown);
+    FindLoadedIndex();
+}
+
+void SelPictureForm::FindLoadedIndex() {
+    LoadedIndex = LoadedSet.empty() ? -1 : NameLogoSet.FindItem(LoadedSet);
+}
+
+void SelPictureForm::ForgetLoadedSet(const std::string& name) {
+    LoadedSet.clear();
+    EliminaSetBtn.SetEnabled(false);
+    RemoveName(name);
+    NameLogoSet.SetText("");
+    NameLogoSet_Change();
+    for (std::string& tag : setsOwnTag_) tag.clear();
+    // The shared screens belong to no set.
+    if (type_ != SetType::DefaultScreens) ClearAllButton_Click();
+}
+
+// The logo folder may be another one since the preferences were opened from a picture's menu. What
+// is in the slots can still become a set, of the library that there is now.
+void SelPictureForm::FollowLogoFolder() {
+    if (LogoFolder() == shownLogoFolder_) return;
+    shownLogoFolder_ = LogoFolder();
+    const std::string shown = NameLogoSet.Text();
+    ListNames();
+    NameLogoSet.SetText(shown);
+    LoadedSet.clear();
+    LoadedIndex = -1;
+    EnableControls(false, OkButton[1], EliminaSetBtn);
+    CheckBtnStatus();
+    if (type_ == SetType::DefaultScreens) OptDefShut_Click();
+}
+
+}  // namespace vistrel

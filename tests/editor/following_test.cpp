@@ -1,0 +1,276 @@
+// What a session of the Logo browser names by path or by set when that is renamed or deleted: slots,
+// preview, the browsed folder, the names of sets.
+#include "tests/editor/editor_fixture.h"
+#include "tests/support/seen.h"
+
+namespace vistrel::test {
+namespace {
+
+using Following = LogoBrowser;
+using Names = std::vector<std::string>;
+
+Names NamesOffered(SelPictureForm& editor) {
+    Names names;
+    for (int i = 0; i < editor.NameLogoSet.Count(); ++i)
+        names.push_back(editor.NameLogoSet.Item(i));
+    return names;
+}
+
+TEST_F(Following, BlanksAndDotsAtTheEndOfATypedNameAreCut) {
+    Put(pictures + "old.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        RenameItem(editor, "old.sys", "new.sys . ");
+        Await([&] { return Listed(editor) == Names{"..", "new.sys"}; }, "listed");
+        EXPECT_TRUE(Exists(pictures + "new.sys"));
+        EXPECT_EQ(editor.LogoList.ItemText(editor.LogoList.SelectedItem()), "new.sys");
+    });
+}
+
+TEST_F(Following, ANameThatLeadsElsewhereIsRefused) {
+    MakeFolders(pictures + "zoo\\");
+    Put(pictures + "old.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        for (const char* name : {"..\\out.sys", "zoo/in.sys", "NUL", "a*b.sys", "..."}) {
+            RenameItem(editor, "old.sys", name);
+            const user::Box box = user::AnswerBox(IDOK);
+            EXPECT_EQ(box.text, std::string("Cannot rename old.sys. A file or folder named ") +
+                                    name + " already exists or the name is not valid.");
+            Settle(editor);
+            EXPECT_EQ(Listed(editor), (Names{"..", "zoo", "old.sys"}));
+        }
+        EXPECT_EQ(NamesIn(pictures + "zoo\\"), Names{});
+        EXPECT_FALSE(Exists(root + "out.sys"));
+    });
+}
+
+TEST_F(Following, AChangeOfCaseReachesDiskAndList) {
+    Put(pictures + "old.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        RenameItem(editor, "old.sys", "OLD.sys");
+        Await([&] { return Listed(editor) == Names{"..", "OLD.sys"}; }, "listed");
+        EXPECT_EQ(NamesIn(pictures), (Names{"OLD.sys"}));
+    });
+}
+
+TEST_F(Following, SlotsOfARenamedFolderFollowAndThoseOfALongerNameStay) {
+    Put(pictures + "zoo.sys", ScreenFile(1, 2, 3));
+    Put(pictures + "zoo.sys2.sys", ScreenFile(1, 2, 3));
+    MakeFolders(pictures + "ark\\");
+    MakeFolders(pictures + "ark2\\");
+    Put(pictures + "ark\\a.sys", ScreenFile(1, 2, 3));
+    Put(pictures + "ark2\\a.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Fill(editor, "zoo.sys2.sys", 0);
+        BrowseInto(editor, "ark");
+        Fill(editor, "a.sys", 1);
+        BrowseInto(editor, "..");
+        BrowseInto(editor, "ark2");
+        Fill(editor, "a.sys", 2);
+        BrowseInto(editor, "..");
+        RenameItem(editor, "ark", "boat");
+        Await([&] { return Exists(pictures + "boat"); }, "folder renamed");
+        RenameItem(editor, "zoo.sys", "garden.sys");
+        Await([&] { return Exists(pictures + "garden.sys"); }, "file renamed");
+        Settle(editor);
+        EXPECT_EQ(editor.ImgPreview[0].Tag(), pictures + "zoo.sys2.sys");
+        EXPECT_EQ(editor.ImgPreview[1].Tag(), pictures + "boat\\a.sys");
+        EXPECT_EQ(editor.ImgPreview[2].Tag(), pictures + "ark2\\a.sys");
+    });
+}
+
+TEST_F(Following, TheSelectedPictureOfARenamedFolderCanStillBePutIntoASlot) {
+    MakeFolders(pictures + "ark\\");
+    Put(pictures + "ark\\a.sys", ScreenFile(255, 0, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        BrowseInto(editor, "ark");
+        Pick(editor, "a.sys");
+        BrowseInto(editor, "..");
+        RenameItem(editor, "ark", "boat");
+        Await([&] { return Exists(pictures + "boat"); }, "folder renamed");
+        Settle(editor);
+        EXPECT_EQ(editor.CurView.Tag(), pictures + "boat\\a.sys");
+        Press(editor.AddButton[0]);
+        EXPECT_EQ(editor.ImgPreview[0].Tag(), pictures + "boat\\a.sys");
+        EXPECT_EQ(MiddleOf(editor.ImgPreview[0]), kRed);
+    });
+}
+
+TEST_F(Following, ADeletedPictureIsSelectedNoMore) {
+    Put(pictures + "a.sys", ScreenFile(255, 0, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Pick(editor, "a.sys");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(editor.ImageInfo.Text(), "No logo selected");
+        EXPECT_FALSE(editor.CurView.HasPicture());
+        EXPECT_FALSE(IsWindowEnabled(editor.AddButton[0].handle()));
+    });
+}
+
+TEST_F(Following, ARenamedSetIsRenamedInTheSessionAndInTheMainWindow) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        ChooseSet(editor, "Blue");
+        RenameItem(editor, "Blue", "Navy");
+        Await([&] { return Exists(logos + "Navy"); }, "renamed");
+        Settle(editor);
+        EXPECT_EQ(editor.NameLogoSet.Text(), "Navy");
+        EXPECT_EQ(NamesOffered(editor), (Names{"Green.SLS", "Red", "Navy"}));
+        Run(editor, ID_OkButton + 1);  // an update would say so if it did not find the set
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        Press(editor.CloseButton);
+        Await([&] { return !editor.IsOpen(); }, "closed");
+        EXPECT_EQ(main.DefaultLogo.Text(), "Navy");
+        EXPECT_EQ(main.SetNames(), (Names{"Green.SLS", "Navy", "Red"}));
+    });
+}
+
+TEST_F(Following, ASetThatIsNotLoadedKeepsTheLoadedOneInItsPlace) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        RenameItem(editor, "Blue", "Navy");
+        Await([&] { return Exists(logos + "Navy"); }, "renamed");
+        Settle(editor);
+        EXPECT_EQ(editor.NameLogoSet.Text(), "Red");
+        TypeName(editor, "Crimson");
+        Run(editor, ID_OkButton + 1);
+        EXPECT_EQ(NamesIn(logos),
+                  (Names{"Crimson", "Green.SLS", "LOGOS.SYS", "LOGOW.SYS", "Navy"}));
+    });
+}
+
+TEST_F(Following, ASetDeletedInTheListIsForgottenAndLeavesTheMainWindow) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        Pick(editor, "Red");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(NamesOffered(editor), (Names{"Blue", "Green.SLS"}));
+        EXPECT_EQ(editor.NameLogoSet.Text(), "");
+        EXPECT_FALSE(editor.ImgPreview[0].HasPicture());
+        Press(editor.CloseButton);
+        Await([&] { return !editor.IsOpen(); }, "closed without a question");
+        EXPECT_EQ(main.SetNames(), (Names{"Blue", "Green.SLS"}));
+    });
+}
+
+TEST_F(Following, AScreenDeletedInTheListIsGoneFromTheMainWindowToo) {
+    Store("SearchLogoPath", TextValue(logos + "Blue\\"));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        Pick(editor, "LOGO.SYS");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        Press(editor.CloseButton);
+        Await([&] { return !editor.IsOpen(); }, "closed");
+        EXPECT_FALSE(main.Imag[0].HasPicture());
+        EXPECT_TRUE(main.Imag[1].HasPicture());
+    });
+}
+
+TEST_F(Following, TheBrowserFollowsTheRenamedFolderThatItShows) {
+    Store("SearchLogoPath", TextValue(logos + "Red\\"));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        Pick(editor, "LOGO.SYS");
+        TypeName(editor, "Crimson");
+        Run(editor, ID_OkButton + 1);
+        EXPECT_EQ(editor.CurPath.Text(), logos + "Crimson\\");
+        EXPECT_EQ(Listed(editor), (Names{"..", "LOGO.SYS", "LOGOS.SYS", "LOGOW.SYS"}));
+        EXPECT_EQ(editor.CurView.Tag(), logos + "Crimson\\LOGO.SYS");
+        Press(editor.CloseButton);
+        Await([&] { return !editor.IsOpen(); }, "closed");
+        EXPECT_EQ(main.Preferences().searchLogoPath, logos + "Crimson\\");
+    });
+}
+
+TEST_F(Following, TheBrowserGoesUpWhenItsFolderIsDeleted) {
+    Store("SearchLogoPath", TextValue(logos + "Red\\"));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        main.Preferences().deleteInTheRecycleBin = 0;
+        ChooseSet(editor, "Red");
+        Run(editor, ID_EliminaSetBtn);
+        EXPECT_EQ(editor.CurPath.Text(), logos);
+        EXPECT_EQ(Listed(editor), (Names{"..", "Blue", "Green.SLS", "LOGOS.SYS", "LOGOW.SYS"}));
+    });
+}
+
+TEST_F(Following, AFolderThatWentBehindTheBrowsersBackIsNotKeptForTheNextSession) {
+    MakeFolders(pictures + "gone\\deep\\");
+    Store("SearchLogoPath", TextValue(pictures + "gone\\deep\\"));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        RemoveTree(pictures + "gone");
+        Press(editor.CloseButton);
+        Await([&] { return !editor.IsOpen(); }, "closed");
+        EXPECT_EQ(main.Preferences().searchLogoPath, pictures);
+    });
+}
+
+TEST_F(Following, TheInstalledSetStaysKnownWhenItIsRenamedBehindTheInstalledView) {
+    PutScreens(boot, "installed");
+    Store("DefaultLogoSet", TextValue("Blue"));
+    WithEditor(
+        [&](Principale& main, SelPictureForm& editor) {
+            ChooseSet(editor, "Blue");
+            TypeName(editor, "Navy");
+            Run(editor, ID_OkButton + 1);
+            Press(editor.CloseButton);
+            Await([&] { return !editor.IsOpen(); }, "closed");
+            Command(main, ID_ToolShowCurrent);
+            EXPECT_EQ(main.DefaultLogo.Text(), "Navy");
+        },
+        [&](Principale& main) { Command(main, ID_ToolShowCurrent); });
+}
+
+TEST_F(Following, AnUpdateOfAnotherSetLeavesTheInstalledOneAsItIs) {
+    WithEditor(
+        [&](Principale& main, SelPictureForm& editor) {
+            ChooseSet(editor, "Red");
+            TypeName(editor, "Crimson");
+            Run(editor, ID_OkButton + 1);
+            EXPECT_TRUE(Exists(logos + "Crimson"));
+            EXPECT_EQ(main.CurrentSet(), "Blue");
+        },
+        [&](Principale& main) { main.SelItem("Red"); });
+}
+
+TEST_F(Following, ANameTypedAgainAndDeletedIsOfferedNoMore) {
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        main.Preferences().deleteInTheRecycleBin = 0;
+        ChooseSet(editor, "Red");
+        TypeName(editor, "Re");
+        TypeName(editor, "Red");
+        Run(editor, ID_OkButton + 1);
+        Run(editor, ID_EliminaSetBtn);
+        EXPECT_FALSE(Exists(logos + "Red"));
+        EXPECT_EQ(NamesOffered(editor), (Names{"Blue", "Green.SLS"}));
+    });
+}
+
+TEST_F(Following, AnotherLogoFolderChosenMeanwhileIsTheOneThatTheSessionIsAbout) {
+    const std::string others = root + "others\\";
+    MakeFolders(others + "Oak\\");
+    Put(pictures + "new.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        main.Preferences().defaultAction = 2;
+        ChooseSet(editor, "Red");
+        Pick(editor, "new.sys");
+        // A custom program that is not set offers the preferences.
+        EXPECT_TRUE(user::Click(editor.CurView.handle()));
+        user::AnswerBox(IDYES);
+        const HWND preferences = user::WaitForTop("FrmOptions");
+        EXPECT_NE(preferences, nullptr);
+        SetWindowTextA(user::Control(preferences, ID_TxtLogoPath), others.c_str());
+        SendMessageA(preferences, WM_COMMAND, IDOK, 0);
+        EXPECT_TRUE(user::WaitUntilGone(preferences));
+        Settle(editor);
+        EXPECT_EQ(NamesOffered(editor), (Names{"Oak"}));
+        EXPECT_EQ(editor.NameLogoSet.Text(), "Red");
+        EXPECT_FALSE(seen::RowOf(ActionMenu(editor), ID_OkButton + 1).enabled);
+        EXPECT_FALSE(seen::RowOf(ActionMenu(editor), ID_EliminaSetBtn).enabled);
+        Run(editor, ID_OkButton);
+        EXPECT_EQ(NamesIn(others), (Names{"Oak", "Red"}));
+        EXPECT_EQ(Contents(others + "Red\\LOGO.SYS"), ScreenFile(255, 0, 0));
+    });
+}
+
+}  // namespace
+}  // namespace vistrel::test

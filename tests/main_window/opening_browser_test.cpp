@@ -1,0 +1,89 @@
+// The Logo browser opens a moment after its command: what may come between, and what is seen.
+#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/seen.h"
+
+namespace vistrel::test {
+namespace {
+
+bool pointerWasHourglass = false;
+int ticks = 0;
+
+LRESULT CALLBACK LookAtPointer(int code, WPARAM wide, LPARAM data) {
+    if (code == HCBT_CREATEWND && user::ClassOf(reinterpret_cast<HWND>(wide)) == "SelPictureForm")
+        pointerWasHourglass = seen::PointerIsHourglass();
+    return CallNextHookEx(nullptr, code, wide, data);
+}
+
+LRESULT CALLBACK CountTicks(int code, WPARAM wide, LPARAM data) {
+    const auto& message = *reinterpret_cast<const MSG*>(data);
+    if (message.message == WM_TIMER && user::ClassOf(message.hwnd) == "Principale") ++ticks;
+    return CallNextHookEx(nullptr, code, wide, data);
+}
+
+/// Sees what happens to the thread that made it while it lives.
+class Hook {
+ public:
+    Hook(int kind, HOOKPROC procedure)
+        : hook_(SetWindowsHookExA(kind, procedure, nullptr, GetCurrentThreadId())) {}
+    ~Hook() { UnhookWindowsHookEx(hook_); }
+    Hook(const Hook&) = delete;
+    Hook& operator=(const Hook&) = delete;
+
+ private:
+    HHOOK hook_;
+};
+
+void Close(HWND browser) {
+    PostMessageA(browser, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(user::WaitUntilGone(browser));
+}
+
+using OpeningTheBrowser = MainWindow98;
+
+TEST_F(OpeningTheBrowser, WaitsUntilTheWindowInFrontIsClosed) {
+    WithMainWindow([&](Principale& main) {
+        StartCommand(main, ID_ToolBrowser);
+        StartCommand(main, ID_ToolAbout);
+        const HWND about = user::WaitForTop("FrmAboutReg");
+        ASSERT_NE(about, nullptr);
+        EXPECT_EQ(user::WaitForTop("SelPictureForm", "", 0, 500), nullptr);
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(user::WaitUntilGone(about));
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        ASSERT_NE(browser, nullptr);
+        Close(browser);
+        EXPECT_TRUE(IsWindowEnabled(main.handle()));
+    });
+}
+
+TEST_F(OpeningTheBrowser, ShowsTheHourglassWhileItIsMade) {
+    const Hook hook(WH_CBT, LookAtPointer);
+    pointerWasHourglass = false;
+    WithMainWindow([&](Principale& main) {
+        StartCommand(main, ID_ToolBrowser);
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        ASSERT_NE(browser, nullptr);
+        EXPECT_TRUE(pointerWasHourglass);
+        EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
+        Close(browser);
+        EXPECT_FALSE(seen::PointerIsHourglass());
+    });
+}
+
+TEST_F(OpeningTheBrowser, EndsTheWaitingForItOnceItIsOpen) {
+    const Hook hook(WH_GETMESSAGE, CountTicks);
+    ticks = 0;
+    WithMainWindow([&](Principale& main) {
+        StartCommand(main, ID_ToolBrowser);
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        ASSERT_NE(browser, nullptr);
+        EXPECT_TRUE(user::Activate(browser));
+        const int before = ticks;
+        EXPECT_GT(before, 0);
+        EXPECT_FALSE(WaitUntil([&] { return ticks > before + 1; }, 400));
+        Close(browser);
+    });
+}
+
+}  // namespace
+}  // namespace vistrel::test
