@@ -11,7 +11,6 @@ namespace vistrel {
 
 /// The pixels whose colours begin with the same bits.
 struct Cell {
-    std::uint32_t key = 0;
     std::uint32_t count = 0;
     std::uint32_t red = 0;  ///< sum over the pixels; green and blue likewise
     std::uint32_t green = 0;
@@ -23,7 +22,7 @@ struct Cell {
 struct Histogram {
     std::vector<Cell> cells;            ///< in the order in which the picture shows them first
     std::vector<std::uint16_t> cellOf;  ///< for each pixel the number of its cell
-    int bits = 0;                       ///< of each channel that make the key
+    int bits = 0;                       ///< of each channel that pixels of a cell share
 };
 
 /// Gathers `pixels` pixels (red, green, blue). The cells are as fine as keeps their number
