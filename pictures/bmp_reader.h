@@ -1,15 +1,18 @@
 // Reads Windows and OS/2 bitmaps of every kind that Windows 98 could show.
 #pragma once
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_rows.h"
 
 namespace vistrel {
 
-/// Decodes a bitmap file: 1, 2, 4, 8, 16, 24 and 32 bits a pixel, RLE4, RLE8, bit fields, OS/2
-/// headers, rows from the bottom or the top. Alpha bits are ignored. Empty when the file is no
+/// The rows of a bitmap file: 1, 2, 4, 8, 16, 24 and 32 bits a pixel, RLE4, RLE8, bit fields, OS/2
+/// headers, rows from the bottom or the top. Alpha bits are ignored. Null when the file is no
 /// bitmap, is damaged beyond use or is of a kind that is not read. Pixels that a run-length-encoded
 /// file skips have the colour of palette entry 0; a palette entry that the file does not have is
-/// black.
+/// black. `file` must outlive the rows.
+std::unique_ptr<PictureRows> OpenBmp(FileBytes file);
+
+/// All of them.
 std::optional<RgbPicture> ReadBmp(FileBytes file);
 
 }  // namespace vistrel

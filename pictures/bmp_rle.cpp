@@ -1,9 +1,9 @@
-// Decodes run-length-encoded bitmaps: runs of one colour (for RLE4 of two that alternate),
-// stretches of single pixels, and jumps.
+// Run-length-encoded bitmaps: runs of one colour (for RLE4 of two that alternate), stretches of
+// single pixels, and jumps. Where each row begins is found beforehand, since most files begin with
+// the lowest one.
 #include "pictures/bmp_rle.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "pictures/enough_bytes.h"
 
@@ -16,90 +16,119 @@ constexpr int kEndOfRow = 0;
 constexpr int kEndOfPicture = 1;
 constexpr int kJump = 2;
 
-class RleDecoder {
- public:
-    RleDecoder(FileBytes data, const BmpHeader& header) : data_(data), header_(header) {
-        picture_.width = header.width;
-        picture_.height = header.height;
-        picture_.pixels.resize(std::size_t{3} * header.width * header.height);
-        for (std::size_t i = 0; i < picture_.pixels.size(); i += 3) {
-            std::copy_n(header.palette[0].begin(), 3, &picture_.pixels[i]);
-        }
-    }
+// Where the commands for the pixels from a column of a row on begin.
+struct RowStart {
+    std::uint32_t offset = 0;
+    std::int32_t column = -1;  // -1: the file has nothing of the row
+};
 
-    RgbPicture Decode() {
-        while (row_ < header_.height && data_.size() >= 2) {
-            const int count = TakeByte();
-            const int value = TakeByte();
+// The commands of a file one after the other.
+class RleCommands {
+ public:
+    RleCommands(FileBytes data, bool fourBits, int width)
+        : data_(data), fourBits_(fourBits), width_(width) {}
+
+    // Goes through the commands from `start` on that belong to one row. `put(column, count,
+    // pixelAt)` is called for each of its runs: pixelAt(i) is the palette entry of the i-th pixel.
+    // Returns by how many rows the file then goes down, 0 at the end of the picture; `start` is
+    // where it goes on.
+    template <class Put>
+    int WalkRow(RowStart& start, Put put) const {
+        std::size_t at = start.offset;
+        int column = start.column;
+        int down = 0;
+        while (down == 0 && at + 2 <= data_.size()) {
+            const int count = data_[at];
+            const int value = data_[at + 1];
+            at += 2;
             if (count > 0) {
-                Run(count, value);
-            } else if (!Escape(value)) {
+                const auto runPixel = [&](int i) { return fourBits_ ? Half(value, i) : value; };
+                column += Fill(column, count, runPixel, put);
+            } else if (value == kEndOfRow) {
+                column = 0;
+                down = 1;
+            } else if (value == kJump) {
+                if (at + 2 > data_.size()) break;
+                column = std::min(width_, column + data_[at]);
+                down = data_[at + 1];
+                at += 2;
+            } else if (value == kEndOfPicture) {
                 break;
+            } else {
+                column += Single(at, column, value, put);
             }
         }
-        return std::move(picture_);
+        start = {static_cast<std::uint32_t>(at), column};
+        return down;
     }
 
  private:
-    bool FourBits() const { return header_.compression == BmpCompression::Rle4; }
-
-    int TakeByte() {
-        const int byte = data_.front();
-        data_ = data_.subspan(1);
-        return byte;
-    }
-
-    // False at the end of the picture.
-    bool Escape(int code) {
-        switch (code) {
-            case kEndOfRow:
-                column_ = 0;
-                ++row_;
-                return true;
-            case kEndOfPicture:
-                return false;
-            case kJump:
-                if (data_.size() < 2) return false;
-                column_ = std::min(header_.width, column_ + TakeByte());
-                row_ += TakeByte();
-                return true;
-            default:
-                SinglePixels(code);
-                return true;
-        }
-    }
-
-    void Run(int count, int value) {
-        for (int i = 0; i < count; ++i) Put(FourBits() ? Half(value, i) : value);
-    }
-
-    void SinglePixels(int count) {
-        const int bytes = FourBits() ? (count + 1) / 2 : count;
-        for (int i = 0; i < count; ++i) {
-            const std::size_t at = FourBits() ? i / 2 : i;
-            if (at >= data_.size()) break;
-            Put(FourBits() ? Half(data_[at], i) : data_[at]);
-        }
-        // A stretch takes a whole number of 16-bit words.
-        data_ = data_.subspan(std::min<std::size_t>(data_.size(), (bytes + 1) / 2 * 2));
-    }
-
     static int Half(int byte, int pixel) { return pixel % 2 == 0 ? byte >> 4 : byte & 15; }
 
     // What would run out of its row on the right is left out.
-    void Put(int index) {
-        if (column_ == header_.width) return;
-        const int y = header_.topDown ? row_ : header_.height - 1 - row_;
-        const std::size_t pixel = std::size_t(y) * header_.width + column_;
-        std::copy_n(header_.palette[index].begin(), 3, &picture_.pixels[pixel * 3]);
-        ++column_;
+    template <class PixelAt, class Put>
+    int Fill(int column, int count, PixelAt pixelAt, Put put) const {
+        const int now = std::min(count, width_ - column);
+        put(column, now, pixelAt);
+        return now;
+    }
+
+    // A stretch of single pixels, which takes a whole number of 16-bit words; the file may end in
+    // it.
+    template <class Put>
+    int Single(std::size_t& at, int column, int count, Put put) const {
+        const std::size_t bytes = fourBits_ ? (count + 1) / 2 : count;
+        const std::uint8_t* const pixels = data_.data() + at;
+        const std::size_t there = std::min(bytes, data_.size() - at);
+        const int pixelsThere = std::min(count, static_cast<int>(fourBits_ ? there * 2 : there));
+        at += std::min((bytes + 1) / 2 * 2, data_.size() - at);
+        const auto pixelAt = [&](int i) {
+            return fourBits_ ? Half(pixels[i / 2], i) : int{pixels[i]};
+        };
+        return Fill(column, pixelsThere, pixelAt, put);
     }
 
     FileBytes data_;
-    const BmpHeader& header_;
-    RgbPicture picture_;
-    int column_ = 0;
-    int row_ = 0;  // counted in the order of the file
+    bool fourBits_;
+    int width_;
+};
+
+class RleRows : public PictureRows {
+ public:
+    RleRows(FileBytes data, const BmpHeader& header)
+        : PictureRows(header.width, header.height),
+          header_(header),
+          commands_(data, header.compression == BmpCompression::Rle4, header.width),
+          starts_(header.height) {
+        RowStart next{0, 0};
+        for (int row = 0; row < height();) {
+            starts_[row] = next;
+            const int down = commands_.WalkRow(next, [](int, int, const auto&) {});
+            if (down == 0) break;
+            row += down;
+        }
+    }
+
+    void ReadNext(std::uint8_t* rgb) override {
+        const int row = header_.topDown ? y_ : height() - 1 - y_;
+        ++y_;
+        for (int x = 0; x < width(); ++x) Paint(rgb, x, 0);
+        RowStart start = starts_[row];
+        if (start.column < 0) return;
+        commands_.WalkRow(start, [&](int column, int count, const auto& pixelAt) {
+            for (int i = 0; i < count; ++i) Paint(rgb, column + i, pixelAt(i));
+        });
+    }
+
+ private:
+    void Paint(std::uint8_t* rgb, int column, int index) const {
+        std::copy_n(header_.palette[index].begin(), 3, rgb + 3 * column);
+    }
+
+    const BmpHeader header_;
+    const RleCommands commands_;
+    std::vector<RowStart> starts_;  // in the order of the file
+    int y_ = 0;                     // of the next row
 };
 
 // A run of 255 pixels in two bytes is the shortest code.
@@ -107,11 +136,11 @@ constexpr std::int64_t kMostPixelsInAByte = 128;
 
 }  // namespace
 
-std::optional<RgbPicture> DecodeBmpRle(FileBytes file, const BmpHeader& header) {
+std::unique_ptr<PictureRows> OpenBmpRle(FileBytes file, const BmpHeader& header) {
     const FileBytes data = file.subspan(std::min(header.pixelOffset, file.size()));
     const std::int64_t pixels = std::int64_t{header.width} * header.height;
-    if (!EnoughBytes(data.size(), pixels, kMostPixelsInAByte)) return std::nullopt;
-    return RleDecoder(data, header).Decode();
+    if (!EnoughBytes(data.size(), pixels, kMostPixelsInAByte)) return nullptr;
+    return std::make_unique<RleRows>(data, header);
 }
 
 }  // namespace vistrel

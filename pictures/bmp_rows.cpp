@@ -5,16 +5,19 @@
 #include <bit>
 
 namespace vistrel {
+namespace {
 
-BmpRows::BmpRows(FileBytes file, const BmpHeader& header)
-    : header_(header), pixels_(file.subspan(std::min(header.pixelOffset, file.size()))) {
-    for (int i = 0; i < 3; ++i) channels_[i] = MakeChannel(header.masks[i]);
-}
+// One colour of a 16- or 32-bit pixel: full[(pixel & mask) >> shift] is its value up to 255.
+struct Channel {
+    std::uint32_t mask = 0;
+    int shift = 0;
+    std::array<std::uint8_t, 256> full{};
+};
 
 // A value of fewer than 8 bits is spread over 8 by repeating its bits (5 bits abcde become
 // abcdeabc), so that all bits set is 255; of more than 8 bits the highest 8 are taken. Only values
 // of 4 bits are not spread: that is how the programs people look at such pictures with show them.
-BmpRows::Channel BmpRows::MakeChannel(std::uint32_t mask) {
+Channel MakeChannel(std::uint32_t mask) {
     Channel channel;
     if (mask == 0) return channel;
     const int low = std::countr_zero(mask);
@@ -30,11 +33,27 @@ BmpRows::Channel BmpRows::MakeChannel(std::uint32_t mask) {
     return channel;
 }
 
-bool BmpRows::HopelesslyShort() const {
-    return pixels_.size() < header_.RowBytes() * header_.height / 10;
-}
+class BmpRows : public PictureRows {
+ public:
+    BmpRows(FileBytes pixels, const BmpHeader& header)
+        : PictureRows(header.width, header.height), header_(header), pixels_(pixels) {
+        for (int i = 0; i < 3; ++i) channels_[i] = MakeChannel(header.masks[i]);
+    }
 
-void BmpRows::Read(int y, std::uint8_t* rgb) { Unpack(Row(y), rgb); }
+    void ReadNext(std::uint8_t* rgb) override { Unpack(Row(y_++), rgb); }
+
+ private:
+    const std::uint8_t* Row(int y);
+    void Unpack(const std::uint8_t* row, std::uint8_t* rgb) const;
+    void UnpackIndices(const std::uint8_t* row, std::uint8_t* rgb) const;
+    void UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const;
+
+    const BmpHeader header_;
+    FileBytes pixels_;
+    std::array<Channel, 3> channels_;
+    std::vector<std::uint8_t> cutRow_;  // the row in which the file ends, made up with zeros
+    int y_ = 0;                         // of the next row
+};
 
 const std::uint8_t* BmpRows::Row(int y) {
     const std::size_t bytes = header_.RowBytes();
@@ -84,6 +103,14 @@ void BmpRows::UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const {
             rgb[i] = channel.full[(pixel & channel.mask) >> channel.shift];
         }
     }
+}
+
+}  // namespace
+
+std::unique_ptr<PictureRows> OpenBmpRows(FileBytes file, const BmpHeader& header) {
+    const FileBytes pixels = file.subspan(std::min(header.pixelOffset, file.size()));
+    if (pixels.size() < header.RowBytes() * header.height / 10) return nullptr;
+    return std::make_unique<BmpRows>(pixels, header);
 }
 
 }  // namespace vistrel

@@ -8,7 +8,6 @@
 #include "pictures/gif_reader.h"
 #include "pictures/jpg_reader.h"
 #include "pictures/quantize.h"
-#include "pictures/resize.h"
 #include "pictures/screen_preview.h"
 #include "pictures/whole_file.h"
 
@@ -19,24 +18,23 @@ char Upper(char letter) {
     return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
+std::unique_ptr<PictureRows> OpenRows(PictureFormat format, FileBytes file) {
+    return format == PictureFormat::Gif ? OpenGif(file) : OpenBmp(file);
+}
+
 std::optional<RgbPicture> Decode(PictureFormat format, FileBytes file) {
-    switch (format) {
-        case PictureFormat::Gif:
-            return ReadGif(file);
-        case PictureFormat::Jpg:
-            return ReadJpg(file);
-        case PictureFormat::Bmp:
-            break;
-    }
-    return ReadBmp(file);
+    if (format == PictureFormat::Jpg) return ReadJpg(file);
+    const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
+    if (!rows) return std::nullopt;
+    return ReadAll(*rows);
 }
 
 std::optional<ScaledPicture> DecodeScaled(PictureFormat format, FileBytes file, int width,
                                           int height) {
     if (format == PictureFormat::Jpg) return ReadJpgScaled(file, width, height);
-    const std::optional<RgbPicture> whole = Decode(format, file);
-    if (!whole) return std::nullopt;
-    return ScaledPicture{Resize(*whole, width, height), whole->width, whole->height};
+    const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
+    if (!rows) return std::nullopt;
+    return ReadScaled(*rows, width, height);
 }
 
 }  // namespace

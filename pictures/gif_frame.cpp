@@ -1,42 +1,49 @@
-// Draws one picture of a GIF file.
+// An interlaced frame has every eighth row first, then those in the middle between them, and so on:
+// its rows in order come from four places of its data, each with a decoder of its own.
 #include "pictures/gif_frame.h"
 
 #include <algorithm>
 
 namespace vistrel {
+namespace {
 
-bool GifFrameWriter::Draw(std::span<const std::uint8_t> colors) {
-    while (!colors.empty() && y_ < frame_.height) {
-        const std::size_t room = frame_.width - x_;
-        const std::span<const std::uint8_t> now = colors.first(std::min(colors.size(), room));
-        Put(now);
-        colors = colors.subspan(now.size());
-        x_ += static_cast<int>(now.size());
-        if (x_ == frame_.width) NextRow();
-    }
-    return y_ < frame_.height;
+constexpr int kFirst[] = {0, 4, 2, 1};
+constexpr int kStep[] = {8, 8, 4, 2};
+
+int RowsOfPass(int pass, int height) {
+    return std::max(0, (height - kFirst[pass] + kStep[pass] - 1) / kStep[pass]);
 }
 
-// Draws colour numbers that lie in one row.
-void GifFrameWriter::Put(std::span<const std::uint8_t> colors) {
-    const int y = frame_.top + y_;
-    const int left = frame_.left + x_;
-    if (y >= screen_.height || left >= screen_.width) return;
-    const std::size_t room = screen_.width - left;
-    std::uint8_t* rgb = &screen_.pixels[3 * (std::size_t(y) * screen_.width + left)];
-    for (const std::uint8_t color : colors.first(std::min(colors.size(), room))) {
+int PassOfRow(int y) {
+    if (y % 8 == 0) return 0;
+    if (y % 4 == 0) return 1;
+    return y % 2 == 0 ? 2 : 3;
+}
+
+}  // namespace
+
+GifFrameRows::GifFrameRows(const GifFrame& frame, const GifLzw& decoder)
+    : frame_(frame), colors_(frame.width) {
+    decoders_.reserve(4);
+    decoders_.push_back(decoder);
+    for (int pass = 0; frame.interlaced && pass < 3; ++pass) {
+        decoders_.push_back(decoders_.back());
+        decoders_.back().Skip(std::size_t(RowsOfPass(pass, frame.height)) * frame.width);
+    }
+}
+
+GifLzw& GifFrameRows::DecoderOfNext() { return decoders_[frame_.interlaced ? PassOfRow(y_) : 0]; }
+
+void GifFrameRows::DrawNext(std::uint8_t* rgb, int screenWidth) {
+    const std::size_t read = DecoderOfNext().Read(colors_.data(), colors_.size());
+    ++y_;
+    const std::size_t room = std::max(0, screenWidth - frame_.left);
+    const std::size_t count = std::min(read, room);
+    rgb += std::size_t{3} * frame_.left;
+    for (std::size_t x = 0; x < count; ++x, rgb += 3) {
+        const GifColor color = colors_[x];
         if (color != frame_.transparent) std::copy_n(frame_.palette[color].begin(), 3, rgb);
-        rgb += 3;
     }
-}
-
-// An interlaced frame has every eighth row first, then those in the middle between them, and so on.
-void GifFrameWriter::NextRow() {
-    constexpr int kFirst[] = {0, 4, 2, 1};
-    constexpr int kStep[] = {8, 8, 4, 2};
-    x_ = 0;
-    y_ += frame_.interlaced ? kStep[pass_] : 1;
-    while (frame_.interlaced && y_ >= frame_.height && pass_ < 3) y_ = kFirst[++pass_];
 }
 
 }  // namespace vistrel

@@ -1,11 +1,15 @@
-// Puts the decoded colour numbers of one GIF picture onto its screen.
+// Reads the rows of one GIF picture.
 #pragma once
 
 #include <array>
+#include <vector>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/gif_lzw.h"
 
 namespace vistrel {
+
+/// Red, green and blue of each colour number, black where the file has no entry.
+using GifPalette = std::array<std::array<std::uint8_t, 3>, 1 << GifLzw::kMostLiteralBits>;
 
 /// Where a picture of a GIF file lies on the logical screen and how it is drawn.
 struct GifFrame {
@@ -15,27 +19,25 @@ struct GifFrame {
     int height = 0;
     bool interlaced = false;
     int transparent = -1;  ///< the colour number that is not drawn; -1 for none
-    std::array<std::array<std::uint8_t, 3>, 256> palette{};  ///< red, green, blue
+    GifPalette palette{};
 };
 
-/// Draws a frame's colour numbers in the order in which the file has them. What lies outside the
-/// screen is left out.
-class GifFrameWriter {
+/// Draws the rows of a frame one after the other from the top, over what is there.
+class GifFrameRows {
  public:
-    GifFrameWriter(const GifFrame& frame, RgbPicture& screen) : frame_(frame), screen_(screen) {}
+    GifFrameRows(const GifFrame& frame, const GifLzw& decoder);
 
-    /// Draws the next colour numbers; false when the frame is complete.
-    bool Draw(std::span<const std::uint8_t> colors);
+    /// Draws the next row of the frame into a row of the screen of `screenWidth` pixels, as far as
+    /// the file has it. What lies outside the screen is left out.
+    void DrawNext(std::uint8_t* rgb, int screenWidth);
 
  private:
-    void Put(std::span<const std::uint8_t> colors);
-    void NextRow();
+    GifLzw& DecoderOfNext();
 
     const GifFrame& frame_;
-    RgbPicture& screen_;
-    int x_ = 0;     // within the frame
-    int y_ = 0;     // within the frame
-    int pass_ = 0;  // of an interlaced frame, 0 to 3
+    int y_ = 0;  // of the next row, within the frame
+    std::vector<GifLzw> decoders_;
+    std::vector<GifColor> colors_;  // of one row
 };
 
 }  // namespace vistrel

@@ -5,7 +5,6 @@
 
 #include "pictures/enough_bytes.h"
 #include "pictures/gif_frame.h"
-#include "pictures/gif_lzw.h"
 #include "pictures/little_endian.h"
 
 namespace vistrel {
@@ -30,19 +29,38 @@ constexpr std::uint8_t kPlainText = 0x01;
 // Codes have up to 12 bits and stand for up to 4,093 pixels: three bytes give twice as many.
 constexpr std::int64_t kMostPixelsInAByte = 2729;
 
+// The picture over its screen.
+class GifRows : public PictureRows {
+ public:
+    GifRows(int width, int height, const GifFrame& frame, const Color& ground,
+            const GifLzw& decoder)
+        : PictureRows(width, height), frame_(frame), ground_(ground), rows_(frame_, decoder) {}
+
+    void ReadNext(std::uint8_t* rgb) override {
+        for (int x = 0; x < width(); ++x) std::copy_n(ground_.begin(), 3, rgb + 3 * x);
+        if (y_ >= frame_.top && y_ - frame_.top < frame_.height) rows_.DrawNext(rgb, width());
+        ++y_;
+    }
+
+ private:
+    const GifFrame frame_;
+    const Color ground_;
+    GifFrameRows rows_;
+    int y_ = 0;
+};
+
 class GifFile {
  public:
     explicit GifFile(FileBytes file) : file_(file) {}
 
-    std::optional<RgbPicture> FirstPicture() {
-        if (!IsGif()) return std::nullopt;
+    std::unique_ptr<PictureRows> FirstPicture() {
+        if (!IsGif()) return nullptr;
         width_ = static_cast<int>(Word(file_, 6));
         height_ = static_cast<int>(Word(file_, 8));
         offset_ = kScreenHeader;
         UseGreys();
-        ReadBackground(ReadPalette(Byte(file_, 10)));
-        if (!FindFrame()) return std::nullopt;
-        return Decode();
+        ReadBackground(ReadPalette(Byte(file_, 10), globalPalette_));
+        return FindFrame() ? Open() : nullptr;
     }
 
  private:
@@ -55,29 +73,29 @@ class GifFile {
 
     // A file without any palette leaves the colours to whoever shows it.
     void UseGreys() {
-        for (int i = 0; i < 256; ++i) frame_.palette[i].fill(static_cast<std::uint8_t>(i));
+        for (int i = 0; i < 256; ++i) globalPalette_[i].fill(static_cast<std::uint8_t>(i));
     }
 
     // A background that the palette does not have is left white.
     void ReadBackground(std::size_t paletteEntries) {
         const std::uint32_t color = Byte(file_, 11);
-        if (color < paletteEntries) background_ = frame_.palette[color];
+        if (color < paletteEntries) background_ = globalPalette_[color];
     }
 
     // Reads the palette that a flags byte announces and returns its size, 0 for none. Colour
     // numbers beyond its end are black.
-    std::size_t ReadPalette(std::uint32_t flags) {
+    std::size_t ReadPalette(std::uint32_t flags, GifPalette& palette) {
         if ((flags & 0x80) == 0) return 0;
         const std::size_t entries = std::size_t{2} << (flags & 7);
-        frame_.palette = {};
+        palette = {};
         for (std::size_t i = 0; i < entries * 3; ++i) {
-            frame_.palette[i / 3][i % 3] = static_cast<std::uint8_t>(Byte(file_, offset_ + i));
+            palette[i / 3][i % 3] = static_cast<std::uint8_t>(Byte(file_, offset_ + i));
         }
         offset_ += entries * 3;
         return entries;
     }
 
-    // Goes to the first picture and reads its descriptor. Bytes that begin no block are passed
+    // Goes to the data of the first picture with an extent. Bytes that begin no block are passed
     // over: other programs do so too, and there are files with stray zeros between blocks.
     bool FindFrame() {
         while (offset_ < file_.size()) {
@@ -86,7 +104,10 @@ class GifFile {
                     ReadExtension();
                     break;
                 case kFrameBlock:
-                    return ReadFrame();
+                    if (!ReadFrame()) return false;
+                    if (frame_.width > 0 && frame_.height > 0) return true;
+                    PassOverFrame();
+                    break;
                 case kTrailer:
                     return false;
             }
@@ -102,66 +123,54 @@ class GifFile {
         } else if (kind == kPlainText) {
             frame_.transparent = -1;  // the graphic control before a text is the text's
         }
-        ForEachSubBlock([](FileBytes) {});
+        PassOverSubBlocks();
     }
 
+    // Reads where the picture lies; offset_ stays.
     bool ReadFrame() {
         if (file_.size() - offset_ < kFrameHeader) return false;
         frame_.left = static_cast<int>(Word(file_, offset_));
         frame_.top = static_cast<int>(Word(file_, offset_ + 2));
         frame_.width = static_cast<int>(Word(file_, offset_ + 4));
         frame_.height = static_cast<int>(Word(file_, offset_ + 6));
+        frame_.interlaced = (Byte(file_, offset_ + 8) & 0x40) != 0;
+        return true;
+    }
+
+    void PassOverFrame() {
         const std::uint32_t flags = Byte(file_, offset_ + 8);
-        frame_.interlaced = (flags & 0x40) != 0;
-        offset_ += kFrameHeader;
-        ReadPalette(flags);
-        return IsPlausibleSize(frame_.width, frame_.height);
+        const std::size_t palette = (flags & 0x80) != 0 ? std::size_t{6} << (flags & 7) : 0;
+        offset_ += kFrameHeader + palette + 1;  // the last one: how many bits its codes have
+        PassOverSubBlocks();
+        frame_.transparent = -1;
     }
 
     // A screen without an extent is as large as its picture.
-    std::optional<RgbPicture> Decode() {
+    std::unique_ptr<PictureRows> Open() {
+        frame_.palette = globalPalette_;
+        const std::uint32_t flags = Byte(file_, offset_ + 8);
+        offset_ += kFrameHeader;
+        ReadPalette(flags, frame_.palette);
         if (width_ == 0) width_ = frame_.left + frame_.width;
         if (height_ == 0) height_ = frame_.top + frame_.height;
         const std::size_t bytesLeft = file_.size() - std::min(file_.size(), offset_);
-        if (!IsPlausibleSize(width_, height_) ||
+        if (!IsPlausibleSize(frame_.width, frame_.height) || !IsPlausibleSize(width_, height_) ||
             !EnoughBytes(bytesLeft, std::int64_t{width_} * height_, kMostPixelsInAByte)) {
-            return std::nullopt;
+            return nullptr;
         }
         const int literalBits = static_cast<int>(Byte(file_, offset_++));
-        if (literalBits < 1 || literalBits > 8) return std::nullopt;
-        std::vector<std::uint8_t> data;
-        ForEachSubBlock(
-            [&](FileBytes block) { data.insert(data.end(), block.begin(), block.end()); });
-
-        RgbPicture screen = BlankScreen();
-        GifFrameWriter writer(frame_, screen);
-        bool drawn = false;
-        GifLzw(literalBits).Decode(data, [&](std::span<const std::uint8_t> colors) {
-            drawn = true;
-            return writer.Draw(colors);
-        });
-        if (!drawn) return std::nullopt;
-        return screen;
+        if (literalBits < 1 || literalBits > GifLzw::kMostLiteralBits) return nullptr;
+        GifLzw decoder(GifData(file_, offset_), literalBits);
+        if (decoder.IsAtEnd()) return nullptr;
+        const Color ground = frame_.transparent >= 0 ? kWhite : background_;
+        return std::make_unique<GifRows>(width_, height_, frame_, ground, decoder);
     }
 
-    RgbPicture BlankScreen() const {
-        const Color color = frame_.transparent >= 0 ? kWhite : background_;
-        RgbPicture screen{width_, height_, {}};
-        screen.pixels.resize(std::size_t{3} * width_ * height_);
-        for (std::size_t i = 0; i < screen.pixels.size(); i += 3) {
-            std::copy_n(color.begin(), 3, &screen.pixels[i]);
-        }
-        return screen;
-    }
-
-    // Hands over the sub-blocks from offset_ on and leaves offset_ behind the empty one that ends
-    // them. The last one may be cut short.
-    template <typename Take>
-    void ForEachSubBlock(Take take) {
+    // Leaves offset_ behind the empty sub-block that ends them.
+    void PassOverSubBlocks() {
         while (offset_ < file_.size()) {
             const std::size_t size = file_[offset_++];
             if (size == 0) return;
-            take(file_.subspan(offset_, std::min(size, file_.size() - offset_)));
             offset_ += std::min(size, file_.size() - offset_);
         }
     }
@@ -171,11 +180,18 @@ class GifFile {
     int width_ = 0;  // of the logical screen
     int height_ = 0;
     Color background_ = kWhite;
+    GifPalette globalPalette_{};
     GifFrame frame_;
 };
 
 }  // namespace
 
-std::optional<RgbPicture> ReadGif(FileBytes file) { return GifFile(file).FirstPicture(); }
+std::unique_ptr<PictureRows> OpenGif(FileBytes file) { return GifFile(file).FirstPicture(); }
+
+std::optional<RgbPicture> ReadGif(FileBytes file) {
+    const std::unique_ptr<PictureRows> rows = OpenGif(file);
+    if (!rows) return std::nullopt;
+    return ReadAll(*rows);
+}
 
 }  // namespace vistrel

@@ -3,6 +3,7 @@
 #include "pictures/resize.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "pictures/resize_passes.h"
 #include "pictures/resize_weights.h"
@@ -36,6 +37,63 @@ void RoundToBytes(const std::int16_t* samples, std::size_t count, std::uint8_t* 
     }
 }
 
+/// Makes target rows of source rows.
+class RgbPasses {
+ public:
+    RgbPasses(int sourceWidth, int sourceHeight, int width, int height)
+        : down(MakeFilterAxis(WholeAxis(sourceHeight, height))),
+          rows(down.mostTaps + 1),
+          across_(MakeFilterAxis(WholeAxis(sourceWidth, width))),
+          sourceWidth_(sourceWidth),
+          apart_(std::size_t(sourceWidth) + kTapGroup),
+          mixed_(std::size_t(sourceWidth) * 3),
+          channels_(kRowsAtOnce * 3 * apart_),
+          scaled_(kRowsAtOnce * std::size_t(width) * 3),
+          result_{width, height, {}} {
+        result_.pixels.resize(std::size_t(width) * height * 3);
+    }
+
+    bool IsComplete() const { return made_ == result_.height; }
+    const FilterTaps& NextTaps() const { return down.taps[made_]; }
+
+    /// Makes the next target row of the source rows in `rows`, which are those of NextTaps().
+    void MakeNext() {
+        const FilterTaps& taps = NextTaps();
+        // The inner loop may look at one row more, with a weight of 0.
+        rows[taps.count] = rows[0];
+        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, sourceWidth_ * 3,
+                  down.shift - kFractionBits, mixed_.data());
+        const int inGroup = made_ % kRowsAtOnce;
+        SplitChannels(mixed_.data(), sourceWidth_, apart_, &channels_[inGroup * 3 * apart_]);
+        ++made_;
+        if (inGroup == kRowsAtOnce - 1 || IsComplete()) FinishGroup(inGroup + 1);
+    }
+
+    RgbPicture TakeResult() { return std::move(result_); }
+
+    const FilterAxis down;
+    std::vector<const std::uint8_t*> rows;
+
+ private:
+    void FinishGroup(int count) {
+        const std::size_t scaledRow = std::size_t(result_.width) * 3;
+        for (int c = 0; c < 3; ++c) {
+            WeighAlong(across_, {&channels_[c * apart_], 3 * apart_}, {&scaled_[c], scaledRow}, 3);
+        }
+        RoundToBytes(scaled_.data(), scaledRow * count,
+                     &result_.pixels[scaledRow * (made_ - count)]);
+    }
+
+    const FilterAxis across_;
+    const int sourceWidth_;
+    const std::size_t apart_;  ///< samples from one channel of a row to the next
+    std::vector<std::int16_t> mixed_;
+    std::vector<std::int16_t> channels_;  ///< of the target rows that wait for being weighed along
+    std::vector<std::int16_t> scaled_;
+    RgbPicture result_;
+    int made_ = 0;
+};
+
 }  // namespace
 
 RgbPicture Resize(const RgbPicture& source, int width, int height) {
@@ -45,37 +103,53 @@ RgbPicture Resize(const RgbPicture& source, int width, int height) {
 RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
                   int height) {
     const std::size_t rowBytes = std::size_t(sourceWidth) * 3;
-    RgbPicture result{width, height, {}};
-    result.pixels.resize(std::size_t(width) * height * 3);
-    if (width == sourceWidth && height == sourceHeight) {
-        std::copy_n(rgb, rowBytes * height, result.pixels.begin());
-        return result;
+    if (width == sourceWidth && height == sourceHeight)
+        return {width, height, std::vector<std::uint8_t>(rgb, rgb + rowBytes * height)};
+    RgbPasses passes(sourceWidth, sourceHeight, width, height);
+    while (!passes.IsComplete()) {
+        const FilterTaps& taps = passes.NextTaps();
+        for (int k = 0; k < taps.count; ++k) passes.rows[k] = rgb + rowBytes * (taps.first + k);
+        passes.MakeNext();
+    }
+    return passes.TakeResult();
+}
+
+struct RgbScaler::State {
+    State(int sourceWidth, int sourceHeight, int width, int height)
+        : passes(sourceWidth, sourceHeight, width, height),
+          rowBytes(std::size_t(sourceWidth) * 3),
+          kept(rowBytes * passes.down.mostTaps) {}
+
+    std::uint8_t* KeptRow(int y) { return &kept[rowBytes * (y % passes.down.mostTaps)]; }
+
+    void MakeWhatIsComplete() {
+        while (!passes.IsComplete()) {
+            const FilterTaps& taps = passes.NextTaps();
+            if (taps.first + taps.count > taken) return;
+            for (int k = 0; k < taps.count; ++k) passes.rows[k] = KeptRow(taps.first + k);
+            passes.MakeNext();
+        }
     }
 
-    const FilterAxis across = MakeFilterAxis(WholeAxis(sourceWidth, width));
-    const FilterAxis down = MakeFilterAxis(WholeAxis(sourceHeight, height));
-    const std::size_t apart = std::size_t(sourceWidth) + kTapGroup;
-    std::vector<const std::uint8_t*> rows(down.mostTaps + 1, rgb);
-    std::vector<std::int16_t> mixed(rowBytes);
-    std::vector<std::int16_t> channels(kRowsAtOnce * 3 * apart);
-    const std::size_t scaledRow = std::size_t(width) * 3;
-    std::vector<std::int16_t> scaled(kRowsAtOnce * scaledRow);
-    for (int y = 0; y < height; y += kRowsAtOnce) {
-        const int count = std::min(kRowsAtOnce, height - y);
-        for (int i = 0; i < count; ++i) {
-            const FilterTaps& taps = down.taps[y + i];
-            for (int k = 0; k < taps.count; ++k) rows[k] = rgb + rowBytes * (taps.first + k);
-            WeighRows(rows.data(), down.WeightsOf(taps), taps.count, static_cast<int>(rowBytes),
-                      down.shift - kFractionBits, mixed.data());
-            SplitChannels(mixed.data(), sourceWidth, apart, &channels[i * 3 * apart]);
-        }
-        for (int c = 0; c < 3; ++c) {
-            WeighAlong(across, {&channels[c * apart], 3 * apart}, {&scaled[c], scaledRow}, 3);
-        }
-        RoundToBytes(scaled.data(), scaledRow * count, &result.pixels[scaledRow * y]);
-    }
-    return result;
+    RgbPasses passes;
+    const std::size_t rowBytes;
+    std::vector<std::uint8_t> kept;  ///< the last source rows, each at its number modulo mostTaps
+    int taken = 0;
+};
+
+RgbScaler::RgbScaler(int sourceWidth, int sourceHeight, int width, int height)
+    : state_(std::make_unique<State>(sourceWidth, sourceHeight, width, height)) {}
+
+RgbScaler::~RgbScaler() = default;
+
+std::uint8_t* RgbScaler::NextRow() { return state_->KeptRow(state_->taken); }
+
+void RgbScaler::EndRow() {
+    ++state_->taken;
+    state_->MakeWhatIsComplete();
 }
+
+RgbPicture RgbScaler::TakePicture() { return state_->passes.TakeResult(); }
 
 struct PlaneScaler::State {
     State(const ScaleAxis& acrossAxis, const ScaleAxis& downAxis)

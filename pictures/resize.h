@@ -15,6 +15,29 @@ RgbPicture Resize(const RgbPicture& source, int width, int height);
 RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
                   int height);
 
+/// Scales a picture that comes row by row, keeping only as many rows as the filter reaches over.
+/// The result is that of Resize.
+class RgbScaler {
+ public:
+    RgbScaler(int sourceWidth, int sourceHeight, int width, int height);
+    ~RgbScaler();
+    RgbScaler(const RgbScaler&) = delete;
+    RgbScaler& operator=(const RgbScaler&) = delete;
+
+    /// Where to write the next source row, from the top: sourceWidth pixels of 3 bytes.
+    std::uint8_t* NextRow();
+
+    /// Takes the row that was written there.
+    void EndRow();
+
+    /// The finished picture: to be called once, when all source rows have been taken.
+    RgbPicture TakePicture();
+
+ private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
 /// One axis of a scaling. Target sample i covers source positions (i*extent/target ..
 /// (i+1)*extent/target); `extent` may be a fraction of a sample less than the number of samples,
 /// as for the colour planes of a JPEG, whose last sample may lie half outside the picture.

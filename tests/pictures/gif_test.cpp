@@ -252,6 +252,27 @@ TEST(GifTest, ShortDataLeaveTheBackground) {
     ExpectPicture(file.Encode(), Colored(expected, 6, 5, file.palette));
 }
 
+TEST(GifTest, ShortDataOfAnInterlacedPictureLeaveTheBackgroundBetweenItsRows) {
+    GifFile file = MakeGif(6, 21, 4);
+    file.images[0].interlaced = true;
+    const Bytes indices = file.images[0].indices;
+    // Rows 0, 8, 16, 4, 12, 20 and a part of row 2: the others have not come.
+    file.images[0].interlaced = false;
+    Bytes stored;
+    for (const int y : {0, 8, 16, 4, 12, 20, 2})
+        stored.insert(stored.end(), indices.begin() + y * 6, indices.begin() + (y + 1) * 6);
+    stored.pop_back();
+    stored.pop_back();
+    file.images[0].indices = stored;
+    file.background = 3;
+    Bytes cut = file.Encode();
+    cut[13 + 4 * 3 + 9] |= 0x40;  // interlaced after all
+    Bytes expected(6 * 21, 3);
+    for (const int y : {0, 8, 16, 4, 12, 20, 2})
+        std::copy_n(indices.begin() + y * 6, y == 2 ? 4 : 6, expected.begin() + y * 6);
+    ExpectPicture(cut, Colored(expected, 6, 21, file.palette));
+}
+
 TEST(GifTest, FileCutAnywhereDoesNoHarm) {
     GifFile file = MakeGif(30, 20, 16);
     file.images[0].interlaced = true;
@@ -291,8 +312,32 @@ TEST(GifTest, DecodingStopsAtAnImpossibleCode) {
     EXPECT_FALSE(ReadGif(WithData(2, {})).has_value());
 }
 
+/// Codes of `bits` bits, lowest bits first.
+Bytes PackCodes(const std::vector<int>& codes, int bits) {
+    Bytes bytes((codes.size() * bits + 7) / 8);
+    for (std::size_t i = 0; i < codes.size() * bits; ++i)
+        bytes[i / 8] |= (codes[i / bits] >> i % bits & 1) << i % 8;
+    return bytes;
+}
+
+TEST(GifTest, CodesForMoreColoursThanAPaletteHoldsAreRead) {
+    for (int literalBits = 9; literalBits <= 11; ++literalBits) {
+        SCOPED_TRACE(literalBits);
+        GifFile file = MakeGif(100, 150, 256);
+        file.images[0].lzw.literalBits = literalBits;
+        ExpectPicture(file.Encode(), PictureOf(file));
+
+        // 257 is not 1, nor is the last colour number any of those that the palette has.
+        const int clear = 1 << literalBits;
+        const Bytes data = PackCodes({clear, 1, 257, clear - 1, 2, clear + 1}, literalBits + 1);
+        const std::optional<RgbPicture> read = ReadGif(WithData(literalBits, data));
+        ASSERT_TRUE(read.has_value());
+        EXPECT_EQ(read->pixels, (Bytes{10, 10, 10, 0, 0, 0, 0, 0, 0, 20, 20, 20}));
+    }
+}
+
 TEST(GifTest, LiteralsOfAnImpossibleLengthAreRefused) {
-    for (const int literalBits : {0, 9, 11, 12, 16, 255}) {
+    for (const int literalBits : {0, 12, 16, 255}) {
         EXPECT_FALSE(ReadGif(WithData(literalBits, {0x44, 0x01, 0x44})).has_value()) << literalBits;
     }
 }
@@ -329,6 +374,21 @@ TEST(GifTest, ImpossibleSizesAreRefused) {
         picture.images[0].width = width;
         picture.images[0].height = height;
         EXPECT_FALSE(ReadGif(picture.Encode()).has_value()) << width << " x " << height;
+    }
+}
+
+TEST(GifTest, PicturesWithoutAnExtentArePassedOver) {
+    const GifFile sound = MakeGif(6, 5, 4);
+    GifImage empty = sound.images[0];
+    empty.transparent = 1;
+    empty.palette = MakeGifColors(8);
+    std::reverse(empty.palette.begin(), empty.palette.end());
+    for (const auto& [width, height] : {std::pair{0, 5}, {6, 0}, {0, 0}}) {
+        GifFile file = sound;
+        empty.width = width;
+        empty.height = height;
+        file.images = {empty, empty, sound.images[0]};
+        ExpectPicture(file.Encode(), PictureOf(sound));
     }
 }
 

@@ -1,0 +1,35 @@
+// Pictures that are read row by row, so that no more of them is in memory than somebody needs.
+#pragma once
+
+#include <memory>
+
+#include "pictures/rgb_picture.h"
+
+namespace vistrel {
+
+/// A picture whose rows are read one after the other. What it reads from must outlive it.
+class PictureRows {
+ public:
+    PictureRows(int width, int height) : width_(width), height_(height) {}
+    virtual ~PictureRows() = default;
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+    /// Writes the next row, from the top, to `rgb`: 3 bytes a pixel. To be called up to height()
+    /// times.
+    virtual void ReadNext(std::uint8_t* rgb) = 0;
+
+ private:
+    int width_;
+    int height_;
+};
+
+/// The whole picture.
+RgbPicture ReadAll(PictureRows& rows);
+
+/// The picture scaled to `width` x `height` pixels; of its rows only those are kept that a row of
+/// the result is made of.
+ScaledPicture ReadScaled(PictureRows& rows, int width, int height);
+
+}  // namespace vistrel
