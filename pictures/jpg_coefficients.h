@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "pictures/jpg_tables.h"
+#include "pictures/jpg_frame.h"
 
 namespace vistrel {
 
@@ -61,6 +61,11 @@ struct KeptFrequencies {
         return kept;
     }
 };
+
+/// Blocks with those that fill up the interleaved units.
+inline std::int64_t BlocksOf(const JpgComponent& component) {
+    return static_cast<std::int64_t>(component.paddedAcross) * component.paddedDown;
+}
 
 /// Rows of blocks of one component.
 struct BlockRows {

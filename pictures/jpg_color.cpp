@@ -2,6 +2,7 @@
 #include "pictures/jpg_color.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #ifdef __SSE2__
@@ -192,14 +193,38 @@ void ConvertRow(const JpgColorKind& kind, const std::uint8_t* const* rows, int w
     }
 }
 
-void ConvertFineRow(JpgColor color, const std::int16_t* const* rows, int width, std::uint8_t* rgb) {
-    switch (color) {
+namespace {
+
+void ConvertFineInks(const JpgColorKind& kind, const std::int16_t* const* rows, int width,
+                     std::uint8_t* rgb) {
+    constexpr int kAtOnce = 64;
+    std::array<std::array<std::uint8_t, kAtOnce>, 4> inks;
+    const std::array<const std::uint8_t*, 4> samples = {inks[0].data(), inks[1].data(),
+                                                        inks[2].data(), inks[3].data()};
+    for (int x = 0; x < width; x += kAtOnce) {
+        const int count = std::min(kAtOnce, width - x);
+        for (int i = 0; i < 4; ++i) {
+            for (int k = 0; k < count; ++k)
+                inks[i][k] = static_cast<std::uint8_t>(Clamp(ToSample(rows[i][x + k])));
+        }
+        ConvertRow(kind, samples.data(), count, rgb + 3 * x);
+    }
+}
+
+}  // namespace
+
+void ConvertFineRow(const JpgColorKind& kind, const std::int16_t* const* rows, int width,
+                    std::uint8_t* rgb) {
+    switch (kind.color) {
         case JpgColor::Grey:
             return ConvertFine<JpgColor::Grey>(rows, width, rgb);
         case JpgColor::Ycc:
             return ConvertFine<JpgColor::Ycc>(rows, width, rgb);
-        default:
+        case JpgColor::Rgb:
             return ConvertFine<JpgColor::Rgb>(rows, width, rgb);
+        case JpgColor::Cmyk:
+        case JpgColor::Ycck:
+            return ConvertFineInks(kind, rows, width, rgb);
     }
 }
 

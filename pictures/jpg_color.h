@@ -19,8 +19,9 @@ void ConvertRow(const JpgColorKind& kind, const std::uint8_t* const* rows, int w
 /// Samples with a fraction, as scaling gives them: 64 times a sample's distance from 128.
 inline constexpr int kFineBits = 6;
 
-/// The same for rows of fine samples, which may overshoot the range of bytes. `color` is Grey, Ycc
-/// or Rgb: inks make colours by multiplying, which has to be done before scaling.
-void ConvertFineRow(JpgColor color, const std::int16_t* const* rows, int width, std::uint8_t* rgb);
+/// The same for rows of fine samples, which may overshoot the range of bytes. Inks make colours by
+/// multiplying, which should be done before scaling, or at least before most of it.
+void ConvertFineRow(const JpgColorKind& kind, const std::int16_t* const* rows, int width,
+                    std::uint8_t* rgb);
 
 }  // namespace vistrel

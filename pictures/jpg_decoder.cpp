@@ -26,14 +26,12 @@ bool HasFirstComponent(const JpgScan& scan) {
     return false;
 }
 
-std::int64_t BlocksOf(const JpgComponent& component) {
-    return static_cast<std::int64_t>(component.paddedAcross) * component.paddedDown;
-}
-
 // Every block takes a bit of the file at least, so that a short file cannot have a large picture.
 bool CanHoldEnough(FileBytes file, const JpgFrame& frame) {
-    const JpgComponent& first = frame.components[0];
-    const std::int64_t blocks = static_cast<std::int64_t>(first.blocksAcross) * first.blocksDown;
+    std::int64_t blocks = 0;
+    for (const JpgComponent& component : frame.components) {
+        blocks += static_cast<std::int64_t>(component.blocksAcross) * component.blocksDown;
+    }
     return static_cast<std::int64_t>(file.size()) * 8 * kLeastPart >= blocks;
 }
 
@@ -50,6 +48,7 @@ bool ReadSequential(FileBytes file, JpgMarkers& markers, std::span<const KeptFre
             isNew = isNew && !taken[static_cast<std::size_t>(part.component)];
         }
         if (!isNew) continue;
+        if (!markers.BuildTables()) break;
         for (const JpgScanPart& part : scan.parts) {
             taken[static_cast<std::size_t>(part.component)] = true;
         }
@@ -85,7 +84,8 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
     std::size_t number = 0;
     do {
         const JpgScan& scan = markers.scan();
-        if (number >= chosen.size() || !chosen[number++]) continue;
+        if (!chosen[number++]) continue;
+        if (!markers.BuildTables()) break;
         for (const JpgScanPart& part : scan.parts) {
             visitsLeft -= BlocksOf(frame.components[static_cast<std::size_t>(part.component)]);
         }
@@ -94,7 +94,7 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
             ReadProgressiveScan(file, frame, scan, markers.tables(), components);
         if (scan.isDc() && HasFirstComponent(scan)) isEnough = isEnough || IsEnough(outcome);
         markers.ContinueAt(outcome.end);
-    } while (markers.NextScan());
+    } while (number < chosen.size() && markers.NextScan());
     for (std::size_t i = 0; i < components.size() && isEnough; ++i) {
         for (int row = 0; row < frame.components[i].blocksDown; ++row) {
             taker.TakeBlockRow(static_cast<int>(i), row, components[i].blocks.Block(0, row));
@@ -107,6 +107,25 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
 }
 
 }  // namespace
+
+std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept) {
+    std::int64_t bytes = 0;
+    for (std::size_t i = 0; frame.progressive && i < kept.size(); ++i) {
+        bytes += ProgressiveComponent::BytesFor(frame.components[i], kept[i]);
+    }
+    return bytes;
+}
+
+bool HasEnough(FileBytes file) {
+    struct PassOver : BlockRowTaker {
+        void TakeBlockRow(int, int, const std::int16_t*) override {}
+    } passOver;
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return false;
+    const std::vector<KeptFrequencies> means(markers.frame().components.size(),
+                                             KeptFrequencies::Of(1, 1));
+    return ReadCoefficients(file, markers, means, passOver);
+}
 
 bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
                       BlockRowTaker& taker) {

@@ -11,13 +11,27 @@ constexpr int kRunOfSixteen = 0xF0;
 
 }  // namespace
 
-bool HuffmanTable::Build(const HuffmanCode& code, bool isDc) {
-    built_ = false;
+void HuffmanTable::Define(const HuffmanCode& code, bool isDc) {
+    code_ = code;
+    isDc_ = isDc;
+    isDefined_ = true;
+    isBuilt_ = false;
+}
+
+bool HuffmanTable::Build() {
+    if (isBuilt_) return true;
     skipping_.clear();
-    const int total = std::accumulate(code.counts.begin(), code.counts.end(), 0);
-    if (total > 256 || static_cast<std::size_t>(total) > code.symbols.size()) return false;
-    const auto symbols = code.symbols.first(static_cast<std::size_t>(total));
-    if (isDc && std::any_of(symbols.begin(), symbols.end(), [](int s) { return s > 15; })) {
+    isBuilt_ = isDefined_ && FillShort();
+    if (isBuilt_) FillQuick();
+    return isBuilt_;
+}
+
+// False when there is no such code.
+bool HuffmanTable::FillShort() {
+    const int total = std::accumulate(code_.counts.begin(), code_.counts.end(), 0);
+    if (total > 256 || static_cast<std::size_t>(total) > code_.symbols.size()) return false;
+    const auto symbols = code_.symbols.first(static_cast<std::size_t>(total));
+    if (isDc_ && std::any_of(symbols.begin(), symbols.end(), [](int s) { return s > 15; })) {
         return false;
     }
     std::copy(symbols.begin(), symbols.end(), symbols_.begin());
@@ -25,7 +39,7 @@ bool HuffmanTable::Build(const HuffmanCode& code, bool isDc) {
     std::uint32_t next = 0;  // the next code of the length
     int index = 0;
     for (int length = 1; length <= kLongestCode; ++length) {
-        const int count = code.counts[static_cast<std::size_t>(length - 1)];
+        const int count = code_.counts[static_cast<std::size_t>(length - 1)];
         offset_[static_cast<std::size_t>(length)] = index - static_cast<int>(next);
         for (int i = 0; i < count && length <= kQuickBits; ++i) {
             const int symbol = symbols_[static_cast<std::size_t>(index + i)];
@@ -41,18 +55,16 @@ bool HuffmanTable::Build(const HuffmanCode& code, bool isDc) {
         limit_[static_cast<std::size_t>(length)] = next << (kLongestCode - length);
         next <<= 1;
     }
-    FillQuick(isDc);
-    built_ = true;
     return true;
 }
 
-void HuffmanTable::FillQuick(bool isDc) {
+void HuffmanTable::FillQuick() {
     for (unsigned window = 0; window < quick_.size(); ++window) {
         QuickEntry& entry = quick_[window];
         entry = {};
         const int length = short_[window] >> 8;
         if (length == 0) continue;
-        const int run = isDc ? 0 : (short_[window] & 0xFF) >> 4;
+        const int run = isDc_ ? 0 : (short_[window] & 0xFF) >> 4;
         const int size = short_[window] & 0x0F;
         if (length + size > kQuickBits) continue;
         entry.bits = static_cast<std::uint8_t>(length + size);
@@ -60,7 +72,7 @@ void HuffmanTable::FillQuick(bool isDc) {
             const unsigned value = window >> (kQuickBits - length - size) & ((1u << size) - 1);
             entry.value = static_cast<std::int16_t>(ExtendSign(value, size));
         }
-        const bool ends = !isDc && size == 0 && run != 15;
+        const bool ends = !isDc_ && size == 0 && run != 15;
         entry.advance = static_cast<std::uint8_t>(ends ? kBlockEnd : run + 1);
     }
 }

@@ -36,11 +36,15 @@ class HuffmanTable {
     /// Bits that one entry for skipping may pass: a 32-bit reader is sure of no more.
     static constexpr int kMostSkipped = 24;
 
-    /// Builds the table. False when no such code exists: too many symbols or codes of a length.
-    /// For a DC table no symbol may exceed 15.
-    bool Build(const HuffmanCode& code, bool isDc);
+    /// Notes which code is to be read; what `code` points to must outlive the table. Nothing is
+    /// built yet: a file may define codes without end that no scan reads by.
+    void Define(const HuffmanCode& code, bool isDc);
 
-    bool isBuilt() const { return built_; }
+    bool isDefined() const { return isDefined_; }
+
+    /// Builds the table if that has not been done. False when no such code exists: too many symbols
+    /// or codes of a length. For a DC table no symbol may exceed 15.
+    bool Build();
 
     /// The code and value that the next kQuickBits bits begin with.
     const QuickEntry& Quick(unsigned window) const { return quick_[window]; }
@@ -63,9 +67,13 @@ class HuffmanTable {
     static constexpr int kLongestCode = kMostSymbolBits - 1;
 
     unsigned LongSymbol(unsigned window) const;
-    void FillQuick(bool isDc);
+    bool FillShort();
+    void FillQuick();
 
-    bool built_ = false;
+    HuffmanCode code_;
+    bool isDc_ = false;
+    bool isDefined_ = false;
+    bool isBuilt_ = false;
     std::array<std::uint32_t, 17> limit_ = {};  // by length: first 16-bit window of longer codes
     std::array<std::int32_t, 17> offset_ = {};  // by length: index of a code's symbol less the code
     std::array<std::uint8_t, 256> symbols_ = {};

@@ -13,7 +13,7 @@ constexpr int kArithmeticLater = 0xC8;
 constexpr int kArithmeticTables = 0xCC;
 constexpr int kFirstRestart = 0xD0, kStart = 0xD8, kEnd = 0xD9, kScan = 0xDA;
 constexpr int kQuantTables = 0xDB, kLines = 0xDC, kRestartInterval = 0xDD;
-constexpr int kJfif = 0xE0, kExif = 0xE1, kAdobe = 0xEE;
+constexpr int kJfif = 0xE0, kExif = 0xE1, kAdobe = 0xEE, kComment = 0xFE;
 constexpr int kTemporary = 0x01;
 
 int Word(FileBytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
@@ -27,6 +27,11 @@ bool IsFrame(int marker) {
 
 bool StandsAlone(int marker) {
     return marker == kTemporary || (marker >= kFirstRestart && marker < kStart);
+}
+
+// What applications write for themselves, and comments.
+bool IsNeedless(int marker) {
+    return (marker >= kJfif && marker < kJfif + 16) || marker == kComment;
 }
 
 }  // namespace
@@ -44,8 +49,12 @@ bool JpgMarkers::NextScan() {
         position_ = at + 2;
         if (StandsAlone(marker)) continue;
         if (marker == kStart || marker == kEnd) return false;
-        const std::size_t length = static_cast<std::size_t>(Word(file_, position_));
-        if (length < 2 || position_ + length > file_.size()) return false;
+        // A length counts its own two bytes. Segments that nobody needs are passed over even where
+        // it says less, as other programs do.
+        const std::size_t given = static_cast<std::size_t>(Word(file_, position_));
+        if (given < 2 && !IsNeedless(marker)) return false;
+        const std::size_t length = std::max<std::size_t>(given, 2);
+        if (position_ + length > file_.size()) return false;
         const FileBytes content = file_.subspan(position_ + 2, length - 2);
         position_ += length;
         if (!ReadSegment(marker, content)) return false;
@@ -150,16 +159,21 @@ bool JpgMarkers::ReadScan(FileBytes content) {
         if (!LayOut()) return false;
     }
     SupplyUsualTables();
-    return HasItsTables();
+    return ForEachTable([](const HuffmanTable& table) { return table.isDefined(); });
 }
 
-// True when every Huffman table that the scan reads by has been defined.
-bool JpgMarkers::HasItsTables() const {
+bool JpgMarkers::BuildTables() {
+    return ForEachTable([](HuffmanTable& table) { return table.Build(); });
+}
+
+// True when `use` is true of every Huffman table that the scan reads by.
+template <class UseTable>
+bool JpgMarkers::ForEachTable(UseTable use) {
     const bool readsDc = scan_.isDc() && !scan_.isRefinement();
     const bool readsAc = scan_.last > 0;
     for (const JpgScanPart& part : scan_.parts) {
-        if (readsDc && !tables_->dc[static_cast<std::size_t>(part.dcTable)].isBuilt()) return false;
-        if (readsAc && !tables_->ac[static_cast<std::size_t>(part.acTable)].isBuilt()) return false;
+        if (readsDc && !use(tables_->dc[static_cast<std::size_t>(part.dcTable)])) return false;
+        if (readsAc && !use(tables_->ac[static_cast<std::size_t>(part.acTable)])) return false;
     }
     return true;
 }
@@ -197,7 +211,7 @@ bool JpgMarkers::ReadHuffmanTables(FileBytes content) {
         for (const std::uint8_t count : counts) symbols += count;
         if (index > 3 || content.size() < 1 + kLengths + symbols) return false;
         HuffmanTable& table = isAc ? tables_->ac[index] : tables_->dc[index];
-        if (!table.Build({counts, content.subspan(1 + kLengths, symbols)}, !isAc)) return false;
+        table.Define({counts, content.subspan(1 + kLengths, symbols)}, !isAc);
         content = content.subspan(1 + kLengths + symbols);
     }
     return true;
@@ -216,8 +230,8 @@ void JpgMarkers::ReadApplication(int marker, FileBytes content) {
 // Frames taken out of a video come without Huffman tables and mean the usual ones.
 void JpgMarkers::SupplyUsualTables() {
     for (std::size_t i = 0; i < 2; ++i) {
-        if (!tables_->dc[i].isBuilt()) tables_->dc[i].Build(UsualDcCode(i == 1), true);
-        if (!tables_->ac[i].isBuilt()) tables_->ac[i].Build(UsualAcCode(i == 1), false);
+        if (!tables_->dc[i].isDefined()) tables_->dc[i].Define(UsualDcCode(i == 1), true);
+        if (!tables_->ac[i].isDefined()) tables_->ac[i].Define(UsualAcCode(i == 1), false);
     }
 }
 

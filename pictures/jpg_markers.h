@@ -18,6 +18,10 @@ class JpgMarkers {
     /// understood. The frame is there when this has been true once.
     bool NextScan();
 
+    /// Makes the Huffman tables that the scan is read by. False when one of them is of no code that
+    /// there can be.
+    bool BuildTables();
+
     /// Goes on reading markers at `position`.
     void ContinueAt(std::size_t position) { position_ = position; }
 
@@ -41,7 +45,8 @@ class JpgMarkers {
     bool ReadHuffmanTables(FileBytes content);
     void ReadApplication(int marker, FileBytes content);
     void SupplyUsualTables();
-    bool HasItsTables() const;
+    template <class UseTable>
+    bool ForEachTable(UseTable use);
     int HeightBehindScan() const;
 
     FileBytes file_;

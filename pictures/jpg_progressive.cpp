@@ -220,14 +220,22 @@ class AcRefinementReader : public AcReader {
     const std::uint64_t kept_;
 };
 
+// No scan but those of the constant terms is read where nothing else is kept.
+bool NeedsNonZero(const KeptFrequencies& kept) { return kept.last > 0; }
+
 }  // namespace
 
 ProgressiveComponent::ProgressiveComponent(const JpgComponent& component,
                                            const KeptFrequencies& keptFrequencies)
     : kept(keptFrequencies),
       blocks(component.paddedAcross, component.paddedDown, keptFrequencies.stride),
-      nonZero(static_cast<std::size_t>(component.paddedAcross) *
-              static_cast<std::size_t>(component.paddedDown)) {}
+      nonZero(NeedsNonZero(keptFrequencies) ? static_cast<std::size_t>(BlocksOf(component)) : 0) {}
+
+std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
+                                            const KeptFrequencies& kept) {
+    constexpr std::int64_t kNumber = sizeof(std::int16_t), kBits = sizeof(std::uint64_t);
+    return BlocksOf(component) * (kept.stride * kNumber + (NeedsNonZero(kept) ? kBits : 0));
+}
 
 ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                                 const JpgTables& tables,

@@ -19,6 +19,9 @@ struct ProgressiveComponent {
         nonZero;  ///< a bit per position in the file's order, a number a block
 
     ProgressiveComponent(const JpgComponent& component, const KeptFrequencies& keptFrequencies);
+
+    /// The memory that the coefficients of a component take.
+    static std::int64_t BytesFor(const JpgComponent& component, const KeptFrequencies& kept);
 };
 
 /// Reads one scan into `components`, which has an entry per component of the frame.

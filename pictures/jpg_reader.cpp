@@ -1,11 +1,15 @@
 // Decodes whole JPEG files.
 #include "pictures/jpg_reader.h"
 
+#include <algorithm>
+
+#include "pictures/enough_bytes.h"
 #include "pictures/exif_orientation.h"
 #include "pictures/jpg_color.h"
 #include "pictures/jpg_decoder.h"
 #include "pictures/jpg_inverse_full.h"
 #include "pictures/jpg_upsample.h"
+#include "pictures/jpg_whole.h"
 
 namespace vistrel {
 namespace {
@@ -64,13 +68,37 @@ RgbPicture MakePicture(const JpgMarkers& markers, const std::vector<SamplePlane>
     return picture;
 }
 
+std::vector<KeptFrequencies> AllFrequencies(const JpgFrame& frame) {
+    return std::vector<KeptFrequencies>(frame.components.size(), KeptFrequencies::Of(8, 8));
+}
+
+// True of a large picture with less than a byte a block: before memory is asked for it, a look is
+// taken whether it is there.
+bool IsSuspect(FileBytes file, const JpgFrame& frame) {
+    const std::int64_t pixels = std::int64_t{frame.width} * frame.height;
+    const std::int64_t blocks = pixels / kBlockSize;
+    return pixels > kDecodedAnyway && static_cast<std::int64_t>(file.size()) < blocks;
+}
+
 }  // namespace
+
+std::int64_t BytesToReadWhole(const JpgFrame& frame) {
+    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
+    std::int64_t planes = 0;
+    for (const JpgComponent& component : frame.components) {
+        planes += BlocksOf(component) * kBlockSize;
+    }
+    const std::int64_t picture = std::int64_t{frame.width} * frame.height * 3;
+    const std::int64_t firstPlane = BlocksOf(frame.components[0]) * kBlockSize;
+    return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
+}
 
 std::optional<RgbPicture> ReadJpg(FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();
-    const std::vector<KeptFrequencies> all(frame.components.size(), KeptFrequencies::Of(8, 8));
+    if (IsSuspect(file, frame) && !HasEnough(file)) return std::nullopt;
+    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
     PlaneMaker maker(frame);
     if (!ReadCoefficients(file, markers, all, maker)) return std::nullopt;
     return MakePicture(markers, maker.planes());

@@ -8,6 +8,7 @@
 #include "pictures/jpg_decoder.h"
 #include "pictures/jpg_inverse_reduced.h"
 #include "pictures/jpg_reader.h"
+#include "pictures/jpg_whole.h"
 #include "pictures/resize.h"
 
 namespace vistrel {
@@ -132,12 +133,43 @@ class ComponentScalers : public BlockRowTaker {
     std::vector<Channel> channels_;
 };
 
+// The most memory that a file may take beside the scaled picture; a file that would take more is
+// read less finely.
+constexpr std::int64_t kMostBytes = 20 * 1024 * 1024;
+constexpr std::int64_t kMostCoefficientBytes = 16 * 1024 * 1024;
+
 // True when nothing is gained by scaling components one by one: a picture that does not become
-// smaller needs all frequencies, and inks make colours by multiplying, which has to come before
+// smaller needs all frequencies, and inks make colours by multiplying, which should come before
 // scaling.
 bool IsBetterReadWhole(const JpgFrame& frame, Size target) {
-    return frame.width <= target.width || frame.height <= target.height ||
-           frame.components.size() == 4;
+    const bool needsAll = frame.width <= target.width || frame.height <= target.height ||
+                          frame.components.size() == 4;
+    return needsAll && BytesToReadWhole(frame) <= kMostBytes;
+}
+
+// Inks that are too large to be read whole become colours at twice the target's size: what is lost
+// by multiplying means is then too fine to be seen.
+Size SizeOfColors(const JpgFrame& frame, Size target) {
+    if (frame.components.size() != 4) return target;
+    return {std::min(frame.width, target.width * 2), std::min(frame.height, target.height * 2)};
+}
+
+KeptFrequencies WithFewer(const KeptFrequencies& kept) {
+    const auto fewer = [](int count) { return count == 8 ? kMostReduced : count - 1; };
+    if (kept.across == 1 && kept.down == 1) return kept;
+    return kept.across >= kept.down ? KeptFrequencies::Of(fewer(kept.across), kept.down)
+                                    : KeptFrequencies::Of(kept.across, fewer(kept.down));
+}
+
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size target) {
+    std::vector<KeptFrequencies> kept;
+    for (const JpgComponent& component : frame.components) {
+        kept.push_back(FrequenciesOf(frame, component, target));
+    }
+    for (int i = 0; i < 2 * 8 && CoefficientBytes(frame, kept) > kMostCoefficientBytes; ++i) {
+        for (KeptFrequencies& each : kept) each = WithFewer(each);
+    }
+    return kept;
 }
 
 std::optional<ScaledPicture> ReadWhole(FileBytes file, int width, int height) {
@@ -153,10 +185,10 @@ RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scaler
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(stored.width) *
                           static_cast<std::size_t>(stored.height) * 3);
-    const JpgColor color = markers.Color();
+    const JpgColorKind kind{markers.Color(), markers.InksAreInverted()};
     std::vector<std::uint8_t> row(static_cast<std::size_t>(stored.width) * 3);
     for (int y = 0; y < stored.height; ++y) {
-        ConvertFineRow(color, scalers.Row(y).data(), stored.width, row.data());
+        ConvertFineRow(kind, scalers.Row(y).data(), stored.width, row.data());
         place.PutRow(row.data(), y, picture.pixels.data());
     }
     return picture;
@@ -172,14 +204,15 @@ std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height
     const bool isTurned = TurningOf(markers.orientation()).swapSides;
     const Size target = isTurned ? Size{height, width} : Size{width, height};
     if (IsBetterReadWhole(frame, target)) return ReadWhole(file, width, height);
-    std::vector<KeptFrequencies> kept;
-    for (const JpgComponent& component : frame.components) {
-        kept.push_back(FrequenciesOf(frame, component, target));
-    }
-    ComponentScalers scalers(frame, kept, target);
+    const Size colors = SizeOfColors(frame, target);
+    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, colors);
+    ComponentScalers scalers(frame, kept, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
     ScaledPicture result;
-    result.picture = MakePicture(markers, scalers, target);
+    result.picture = MakePicture(markers, scalers, colors);
+    if (colors.width != target.width || colors.height != target.height) {
+        result.picture = Resize(result.picture, width, height);
+    }
     result.fileWidth = isTurned ? frame.height : frame.width;
     result.fileHeight = isTurned ? frame.width : frame.height;
     return result;

@@ -4,11 +4,20 @@
 #include "pictures/jpg_markers.h"
 
 namespace vistrel {
+namespace {
+
+// Each scan brings one bit at least of one of the 64 coefficients of a component, of which the
+// lowest 14 may come by themselves. No file needs more scans.
+std::size_t MostScans(std::size_t components) { return components * kBlockSize * 14; }
+
+}  // namespace
 
 std::vector<bool> ChooseScans(FileBytes file, std::span<const KeptFrequencies> kept) {
     std::vector<JpgScan> scans;
     JpgMarkers markers(file);
-    while (markers.NextScan()) scans.push_back(markers.scan());
+    while (scans.size() < MostScans(kept.size()) && markers.NextScan()) {
+        scans.push_back(markers.scan());
+    }
 
     std::vector<std::uint64_t> needed;  // by component, a bit per position in the file's order
     for (const KeptFrequencies& each : kept) needed.push_back(each.Positions());

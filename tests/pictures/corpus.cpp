@@ -72,10 +72,29 @@ std::vector<CorpusFile> ReadCorpus(const std::string& folder, const std::string&
     return files;
 }
 
+namespace {
+
+bool IsJpg(FileBytes file) { return file.size() >= 2 && file[0] == 0xFF && file[1] == 0xD8; }
+
+std::unique_ptr<PictureRows> OpenByContent(FileBytes file) {
+    const bool isGif = file.size() >= 2 && file[0] == 'G' && file[1] == 'I';
+    return isGif ? OpenGif(file) : OpenBmp(file);
+}
+
+}  // namespace
+
 std::optional<RgbPicture> ReadByContent(FileBytes file) {
-    if (file.size() >= 2 && file[0] == 'G' && file[1] == 'I') return ReadGif(file);
-    if (file.size() >= 2 && file[0] == 0xFF && file[1] == 0xD8) return ReadJpg(file);
-    return ReadBmp(file);
+    if (IsJpg(file)) return ReadJpg(file);
+    const std::unique_ptr<PictureRows> rows = OpenByContent(file);
+    if (!rows) return std::nullopt;
+    return ReadAll(*rows);
+}
+
+std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int height) {
+    if (IsJpg(file)) return ReadJpgScaled(file, width, height);
+    const std::unique_ptr<PictureRows> rows = OpenByContent(file);
+    if (!rows) return std::nullopt;
+    return ReadScaled(*rows, width, height);
 }
 
 }  // namespace vistrel::test

@@ -34,4 +34,7 @@ std::vector<CorpusFile> ReadCorpus(const std::string& folder, const std::string&
 /// Reads a file in the format that its first bytes stand for: names may mislead.
 std::optional<RgbPicture> ReadByContent(FileBytes file);
 
+/// The same, scaled to a size.
+std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int height);
+
 }  // namespace vistrel::test

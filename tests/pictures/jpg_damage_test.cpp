@@ -161,6 +161,45 @@ TEST(JpgDamageTest, SizesThatAreTooLargeAreRefused) {
     EXPECT_FALSE(ReadJpg(large).has_value());
 }
 
+// Its length counts its own two bytes, and cannot be less.
+TEST(JpgDamageTest, SegmentsThatSayTheyHaveNoLengthArePassedOver) {
+    const Bytes file = MakeJpg(MakePicture(40, 30), {});
+    const std::optional<RgbPicture> sound = ReadJpg(file);
+    ASSERT_TRUE(sound.has_value());
+    const std::size_t frame = MarkerAt(file, 0xC0);
+    for (const int marker : {0xE0, 0xE1, 0xE5, 0xEE, 0xEF, 0xFE}) {
+        for (const int length : {0, 1}) {
+            SCOPED_TRACE(testing::Message() << marker << ", " << length);
+            const Bytes segment = {0xFF, static_cast<std::uint8_t>(marker), 0,
+                                   static_cast<std::uint8_t>(length)};
+            const Bytes with = WithInserted(file, frame, segment);
+            EXPECT_TRUE(DecodeByLibrary(with).pixels == DecodeByLibrary(file).pixels);
+            const std::optional<RgbPicture> picture = ReadJpg(with);
+            ASSERT_TRUE(picture.has_value());
+            EXPECT_TRUE(picture->pixels == sound->pixels);
+        }
+    }
+    for (const int marker : {0xC4, 0xDB, 0xDD}) {
+        const Bytes segment = {0xFF, static_cast<std::uint8_t>(marker), 0, 0};
+        EXPECT_FALSE(ReadJpg(WithInserted(file, frame, segment)).has_value()) << marker;
+    }
+}
+
+TEST(JpgDamageTest, TablesThatNoScanReadsByMayBeOfNoCode) {
+    const Bytes file = MakeJpg(MakePicture(40, 30), {});
+    Bytes table = {0xFF, 0xC4, 0, 23, 0x13, 4};  // table 3: four codes of one bit
+    table.resize(4 + 17);
+    table.insert(table.end(), {0, 1, 2, 3});
+    const Bytes with = WithInserted(file, MarkerAt(file, 0xC0), table);
+    const std::optional<RgbPicture> picture = ReadJpg(with);
+    ASSERT_TRUE(picture.has_value());
+    EXPECT_TRUE(picture->pixels == ReadJpg(file)->pixels);
+    EXPECT_TRUE(DecodeByLibrary(with).pixels == DecodeByLibrary(file).pixels);
+    // One that is needed cannot be.
+    table[4] = 0x10;
+    EXPECT_FALSE(ReadJpg(WithInserted(file, MarkerAt(file, 0xDA), table)).has_value());
+}
+
 TEST(JpgDamageTest, ScansWithoutEndAreCutShort) {
     JpgOptions options;
     options.progressive = true;

@@ -168,7 +168,7 @@ TEST(JpgInverse, ColorsOfAnySamplesAreThoseOfTheFormulas) {
                           std::clamp((wanted[c] + 8192 + 32) >> kFineBits, 0, 255));
             }
         };
-        ConvertFineRow(JpgColor::Ycc, starts, kWidth, rgb.data());
+        ConvertFineRow({JpgColor::Ycc}, starts, kWidth, rgb.data());
         for (int x = 0; x < kWidth; ++x) {
             const int y = starts[0][x], cb = starts[1][x], cr = starts[2][x];
             const auto part = [](std::int64_t sum) {
@@ -178,9 +178,9 @@ TEST(JpgInverse, ColorsOfAnySamplesAreThoseOfTheFormulas) {
                    y + part(std::int64_t{-22554} * cb - std::int64_t{46802} * cr),
                    y + part(std::int64_t{116130} * cb));
         }
-        ConvertFineRow(JpgColor::Rgb, starts, kWidth, rgb.data());
+        ConvertFineRow({JpgColor::Rgb}, starts, kWidth, rgb.data());
         for (int x = 0; x < kWidth; ++x) expect(x, starts[0][x], starts[1][x], starts[2][x]);
-        ConvertFineRow(JpgColor::Grey, starts, kWidth, rgb.data());
+        ConvertFineRow({JpgColor::Grey}, starts, kWidth, rgb.data());
         for (int x = 0; x < kWidth; ++x) expect(x, starts[0][x], starts[0][x], starts[0][x]);
     }
 }

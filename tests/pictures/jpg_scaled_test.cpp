@@ -98,6 +98,20 @@ TEST(JpgScaledTest, EveryColor) {
     }
 }
 
+// More would be asked of the memory than it should be to read these whole.
+TEST(JpgScaledTest, LargePicturesOfInks) {
+    const RgbPicture scene = MakeScene(2100, 1700);
+    for (const J_COLOR_SPACE color : {JCS_CMYK, JCS_YCCK}) {
+        for (const bool progressive : {false, true}) {
+            JpgOptions options;
+            options.color = color;
+            options.progressive = progressive;
+            const Bytes file = WithOrientation(MakeJpg(scene, options), 6, false);
+            EXPECT_GE(Nearness(file, 320, 400), 48) << color << progressive;
+        }
+    }
+}
+
 TEST(JpgScaledTest, NoSmallerThanThePictureIsTheWholeOneScaled) {
     JpgOptions options;
     options.sampling = {{2, 2}};

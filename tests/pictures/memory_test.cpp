@@ -1,5 +1,6 @@
-// No file makes a reader ask for more memory than its picture can need. This program counts what
-// is asked for, and so is built without the checks of the other tests.
+// No file makes a reader ask for much memory: 24 MB at most where a picture is read at a screen's
+// size, and where it is read whole, that and what its pixels take. This program counts what is
+// asked for, and so is built without the checks of the other tests.
 #include <gtest/gtest.h>
 #include <malloc.h>
 
@@ -11,6 +12,7 @@
 #include "tests/pictures/bmp_file.h"
 #include "tests/pictures/corpus.h"
 #include "tests/pictures/gif_file.h"
+#include "tests/pictures/jpg_maker.h"
 
 namespace {
 
@@ -38,10 +40,20 @@ void operator delete(void* block, std::size_t) noexcept { operator delete(block)
 namespace vistrel::test {
 namespace {
 
-constexpr std::size_t kAnyFile = 64 * 1024 * 1024;
+constexpr std::size_t kAnyFile = 24 * 1024 * 1024;
 constexpr std::size_t kEachPixel = 12;
 
+void ExpectModestMemoryScaled(const Bytes& file) {
+    for (const auto& [width, height] : {std::pair{320, 400}, {152, 190}}) {
+        const std::size_t before = used;
+        mostUsed = used;
+        ReadScaledByContent(file, width, height);
+        EXPECT_LE(mostUsed - before, kAnyFile);
+    }
+}
+
 void ExpectModestMemory(const Bytes& file) {
+    ExpectModestMemoryScaled(file);
     const std::size_t before = used;
     mostUsed = used;
     const std::optional<RgbPicture> picture = ReadByContent(file);
@@ -85,6 +97,97 @@ TEST(MemoryTest, LongCodesForALargeGif) {
     file.images[0].indices.assign(3'000'000, 1);  // enough to be shown
     file.images[0].lzw.clearWhenFull = false;
     ExpectModestMemory(file.Encode());
+}
+
+TEST(MemoryTest, TinyGifsThatHoldNoPicture) {
+    GifFile file = MakeGif(4, 4, 4);
+    file.width = file.height = 8000;
+    file.images[0].lzw.end = false;
+    Bytes bytes = file.Encode();
+    // An end code at once, then enough bytes for any picture.
+    const std::size_t data = bytes.size() - 1;
+    bytes.resize(data);
+    bytes.insert(bytes.end(), 3400, 0xFF);
+    file.images[0].indices.clear();
+    Bytes ended = file.Encode();
+    ended.pop_back();
+    ended.insert(ended.end(), 3400, 0xFF);
+    for (const Bytes& each : {bytes, ended}) ExpectModestMemory(each);
+}
+
+TEST(MemoryTest, LargeInterlacedGif) {
+    GifFile file = MakeGif(8000, 4000, 2);
+    file.images[0].interlaced = true;
+    ExpectModestMemoryScaled(file.Encode());
+}
+
+TEST(MemoryTest, SmallRunLengthFilesOfLargePictures) {
+    for (const std::uint32_t compression : {kBmpRle8, kBmpRle4}) {
+        BmpFile file;
+        file.width = file.height = 8000;
+        file.bitsPerPixel = compression == kBmpRle8 ? 8 : 4;
+        file.compression = compression;
+        file.pixels.assign(53'000, 255);
+        ExpectModestMemoryScaled(file.Encode());
+    }
+}
+
+/// A file that claims to be of another size, with `zeros` bytes of zeros behind its coded data.
+Bytes Claiming(Bytes file, int width, int height, std::size_t zeros, bool progressive) {
+    const std::size_t frame = MarkerAt(file, progressive ? 0xC2 : 0xC0);
+    file[frame + 5] = static_cast<std::uint8_t>(height >> 8);
+    file[frame + 6] = static_cast<std::uint8_t>(height);
+    file[frame + 7] = static_cast<std::uint8_t>(width >> 8);
+    file[frame + 8] = static_cast<std::uint8_t>(width);
+    const std::size_t data = MarkerAt(file, 0xDA);
+    const std::size_t header = static_cast<std::size_t>(file[data + 2] << 8 | file[data + 3]);
+    return WithInserted(file, data + 2 + header, Bytes(zeros));
+}
+
+TEST(MemoryTest, SmallJpgsOfEveryClaimedSize) {
+    const std::pair<int, int> sizes[] = {{100, 100},   {1500, 1900}, {2000, 1500},  {4000, 3000},
+                                         {8191, 8191}, {32767, 300}, {32767, 2047}, {3, 32767}};
+    for (const J_COLOR_SPACE color : {JCS_YCbCr, JCS_GRAYSCALE, JCS_CMYK, JCS_YCCK}) {
+        for (const bool progressive : {false, true}) {
+            JpgOptions options;
+            options.color = color;
+            options.progressive = progressive;
+            options.sampling = {{1, 1}, {2, 2}};
+            const Bytes small = MakeJpg(MakePicture(16, 16), options);
+            for (const auto& [width, height] : sizes) {
+                for (const std::size_t zeros : {0, 13'000, 300'000}) {
+                    SCOPED_TRACE(testing::Message() << color << progressive << " " << width << " x "
+                                                    << height << ", " << zeros);
+                    const Bytes file = Claiming(small, width, height, zeros, progressive);
+                    ExpectModestMemoryScaled(file);
+                    if (width * height < 4'000'000) ExpectModestMemory(file);
+                }
+            }
+        }
+    }
+}
+
+TEST(MemoryTest, LargeJpgsThatAreNotThere) {
+    for (const bool progressive : {false, true}) {
+        JpgOptions options;
+        options.color = JCS_CMYK;
+        options.progressive = progressive;
+        Bytes file = MakeJpg(MakePicture(16, 16), options);
+        file.insert(file.end() - 2, 14'000, 0);  // behind the last scan: of no use
+        file = Claiming(file, 4000, 3000, 0, progressive);
+        ExpectModestMemory(file);
+    }
+}
+
+TEST(MemoryTest, AMillionScanHeaders) {
+    JpgOptions options;
+    options.progressive = true;
+    Bytes file = MakeJpg(MakePicture(16, 16), options);
+    const std::size_t end = file.size() - 2;
+    const Bytes scan = {0xFF, 0xDA, 0, 8, 1, 1, 0, 1, 63, 0x10};
+    Bytes scans;
+    for (int i = 0; i < 1'000'000; ++i) scans.insert(scans.end(), scan.begin(), scan.end());
+    ExpectModestMemory(WithInserted(file, end, scans));
 }
 
 #ifdef PICTURE_CORPUS

@@ -4,8 +4,9 @@
 
 #include <algorithm>
 
+#include "pictures/jpg_reader.h"
 #include "pictures/quantize.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/pictures/jpg_maker.h"
 
 namespace {
 
@@ -70,6 +71,39 @@ TEST(StepsTest, ColoursChosenToCollideAreReducedAsQuicklyAsOthers) {
             return product(product(a)) < product(product(b));
         }));
     EXPECT_LT(chosen, 2 * others);
+}
+
+std::uint64_t StepsOfReading(const Bytes& file) {
+    return StepsOf([&] { EXPECT_TRUE(ReadJpgScaled(file, kWidth, kHeight).has_value()); });
+}
+
+TEST(StepsTest, HuffmanTablesThatNoScanReadsByAreNotBuilt) {
+    constexpr std::uint64_t kTables = 100'000;
+    const Bytes file = MakeJpg(MakePicture(16, 16), {});
+    Bytes table = {0xFF, 0xC4, 0, 20, 0x13, 1};
+    table.resize(4 + 18);
+    Bytes tables;
+    for (std::uint64_t i = 0; i < kTables; ++i)
+        tables.insert(tables.end(), table.begin(), table.end());
+    const Bytes bomb = WithInserted(file, MarkerAt(file, 0xC0), tables);
+    EXPECT_LT(StepsOfReading(bomb) - StepsOfReading(file), 100 * kTables);
+}
+
+// With a table each, all the scans of which the coefficients of a component can need no more.
+TEST(StepsTest, ScansBeyondWhatCoefficientsCanNeedAreNotRead) {
+    JpgOptions options;
+    options.progressive = true;
+    const Bytes file = MakeJpg(MakePicture(16, 16), options);
+    Bytes scan = {0xFF, 0xC4, 0, 20, 0x10, 1};
+    scan.resize(4 + 18);
+    scan.insert(scan.end(), {0xFF, 0xDA, 0, 8, 1, 1, 0, 1, 63, 0x10});
+    const auto withScans = [&](int count) {
+        Bytes scans;
+        for (int i = 0; i < count; ++i) scans.insert(scans.end(), scan.begin(), scan.end());
+        return WithInserted(file, file.size() - 2, scans);
+    };
+    const std::uint64_t all = StepsOfReading(withScans(100'000));
+    EXPECT_LT(all, 2 * StepsOfReading(withScans(5'000)));
 }
 
 }  // namespace
