@@ -28,7 +28,7 @@ std::string WithoutBackslash(std::string folder) {
 void SelPictureForm::ItmRename_Click() { LogoList.StartLabelEdit(); }
 
 bool SelPictureForm::LogoList_BeforeLabelEdit() {
-    oldName_ = SelectedName();
+    oldName_ = LogoList.ItemText(LogoList.EditedItem());
     return oldName_ != kParentFolder;
 }
 

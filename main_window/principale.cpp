@@ -61,7 +61,7 @@ Principale::Principale(SystemLocations locations)
         if (byKeyboard && !savedView_) ActiveBar1.PopUp("LogoBand", screen);
     };
     for (int i = 0; i < 3; ++i)
-        Imag[i].MouseUp = [this, i](int button, Point) { Imag_MouseUp(i, button); };
+        Imag[i].MouseUp = [this, i](int button, Point at) { Imag_MouseUp(i, button, at); };
     Timer1.Tick = [this] { Timer1_Timer(); };
 }
 

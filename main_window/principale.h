@@ -88,11 +88,12 @@ class Principale : public Window, public MainWindow {
     void MyList_MouseDown(Point at);
     void MyList_MouseUp(int button);
     void MyList_DblClick();
+    void InstallOrBrowse();
     void MyList_KeyUp(int key);
     bool MyList_BeforeLabelEdit();
     bool MyList_AfterLabelEdit(const std::string& newName);
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
-    void Imag_MouseUp(int index, int button);
+    void Imag_MouseUp(int index, int button, Point at);
     void MnuListLogo_Click();
     void ShowDrives(MenuHandle menu);
     void ItmDriveList_Click(int index);

@@ -65,6 +65,7 @@ void Principale::ActiveBar1_Click(const Tool& tool) {
 void Principale::MenuCommand(int id) {
     if (ActiveBar1.OnCommand(id)) return;
     if (OpenWithCommand(id, handle())) return;
+    if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected()) InstallOrBrowse();
     const struct {
         int id;
         void (Principale::*run)();
@@ -143,7 +144,11 @@ void Principale::FollowDeselection() {
 }
 
 void Principale::MyList_DblClick() {
-    if (MyList.HitTest(lastMouseDown_) < 0) return;
+    if (MyList.HitTest(lastMouseDown_) >= 0) InstallOrBrowse();
+}
+
+// What a double click on a set does, and Enter.
+void Principale::InstallOrBrowse() {
     if (settings_.actionOnDoubleClick == 0)
         ItmSetDefault_Click();
     else

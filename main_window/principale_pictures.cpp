@@ -1,6 +1,5 @@
 // Clicks on the screens, and what is done with the picture that was clicked.
 #include "controls/menu.h"
-#include "controls/screen_metrics.h"
 #include "core/generali.h"
 #include "main_window/frm_view.h"
 #include "main_window/principale.h"
@@ -11,13 +10,13 @@
 
 namespace vistrel {
 
-void Principale::Imag_MouseUp(int index, int button) {
+void Principale::Imag_MouseUp(int index, int button, Point at) {
     if (!Imag[index].HasPicture()) return;
     SetCurrentPicture(Imag[index].Tag());
     if (button == kLeftButton)
         AzioneSuImmagine(settings_.defaultAction, handle());
     else if (button == kRightButton)
-        PopUpMenu(OpenWithMenu(), PointerPosition(), DefaultOpenWithItem());
+        PopUpMenu(OpenWithMenu(), Imag[index].OnScreen(at), DefaultOpenWithItem());
 }
 
 MenuHandle Principale::OpenWithMenu() { return ClassicMenu(kMenuOpenWith); }

@@ -1,5 +1,9 @@
 // What a session of the Logo browser names by path or by set when that is renamed or deleted: slots,
 // preview, the browsed folder, the names of sets.
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
 #include "tests/editor/editor_fixture.h"
 #include "tests/support/seen.h"
 
@@ -49,6 +53,51 @@ TEST_F(Following, AChangeOfCaseReachesDiskAndList) {
         RenameItem(editor, "old.sys", "OLD.sys");
         Await([&] { return Listed(editor) == Names{"..", "OLD.sys"}; }, "listed");
         EXPECT_EQ(NamesIn(pictures), (Names{"OLD.sys"}));
+    });
+}
+
+/// Begins to rename an item and types, without Enter.
+void BeginRenaming(SelPictureForm& editor, const std::string& typed) {
+    SendMessageA(editor.handle(), WM_COMMAND, ID_BrowserRename, 0);
+    EXPECT_TRUE(WaitUntil([&] { return editor.LogoList.EditingLabel(); }));
+    user::Type(typed);
+    const auto edit =
+        reinterpret_cast<HWND>(SendMessageA(editor.LogoList.handle(), LVM_GETEDITCONTROL, 0, 0));
+    EXPECT_TRUE(WaitUntil([&] { return user::TextOf(edit) == typed; }));
+}
+
+TEST_F(Following, ACommandTakesTheNameThatIsBeingTyped) {
+    Put(pictures + "old.sys", ScreenFile(255, 0, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Pick(editor, "old.sys");
+        BeginRenaming(editor, "new.sys");
+        Run(editor, ID_ItmSetLogo);
+        EXPECT_EQ(NamesIn(pictures), (Names{"new.sys"}));
+        EXPECT_EQ(editor.ImgPreview[0].Tag(), pictures + "new.sys");
+    });
+}
+
+TEST_F(Following, TheItemIsRenamedWhoseLabelIsEditedAndNotTheSelectedOne) {
+    Put(pictures + "a.sys", ScreenFile(255, 0, 0));
+    Put(pictures + "b.sys", ScreenFile(0, 255, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Pick(editor, "a.sys");
+        BeginRenaming(editor, "c.sys");
+        Pick(editor, "b.sys");
+        Run(editor, ID_BrowserRefresh);
+        EXPECT_EQ(Contents(pictures + "c.sys"), ScreenFile(255, 0, 0));
+        EXPECT_EQ(NamesIn(pictures), (Names{"b.sys", "c.sys"}));
+    });
+}
+
+TEST_F(Following, ClosingTakesTheNameThatIsBeingTyped) {
+    Put(pictures + "old.sys", ScreenFile(255, 0, 0));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Pick(editor, "old.sys");
+        BeginRenaming(editor, "new.sys");
+        PostMessageA(editor.handle(), WM_CLOSE, 0, 0);
+        Await([&] { return !editor.IsOpen(); }, "closed");
+        EXPECT_EQ(NamesIn(pictures), (Names{"new.sys"}));
     });
 }
 
