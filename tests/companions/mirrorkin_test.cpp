@@ -334,6 +334,15 @@ TEST_F(MirrorScreensTest, NobodyIsAskedForADisk) {
     EXPECT_NE(SetErrorMode(0) & SEM_FAILCRITICALERRORS, 0u);
 }
 
+TEST_F(MirrorScreensTest, AnOldFileThatACutLeftBesideTheNewOneIsNotInTheWay) {
+    Prepare();
+    Put(windows + "~LOGOW.OLD", "older LOGOW.SYS");
+    GiveAttributes(windows + "~LOGOW.OLD", FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(Mirror(), Outcome::Done);
+    EXPECT_EQ(Contents(windows + "LOGOW.SYS"), "Blue LOGOW.SYS");
+    EXPECT_EQ(NamesIn(windows), (Names{"LOGOS.SYS", "LOGOW.SYS"}));
+}
+
 TEST_F(MirrorScreensTest, HalfAFileThatACutLeftIsThrownAway) {
     Prepare();
     Put(windows + "~LOGOW.NEW", "Blue LO");
