@@ -57,7 +57,7 @@ TEST_F(Following, AChangeOfCaseReachesDiskAndList) {
 }
 
 /// Begins to rename an item and types, without Enter.
-void BeginRenaming(SelPictureForm& editor, const std::string& typed) {
+void TypeOverLabel(SelPictureForm& editor, const std::string& typed) {
     SendMessageA(editor.handle(), WM_COMMAND, ID_BrowserRename, 0);
     EXPECT_TRUE(WaitUntil([&] { return editor.LogoList.EditingLabel(); }));
     user::Type(typed);
@@ -70,7 +70,7 @@ TEST_F(Following, ACommandTakesTheNameThatIsBeingTyped) {
     Put(pictures + "old.sys", ScreenFile(255, 0, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "old.sys");
-        BeginRenaming(editor, "new.sys");
+        TypeOverLabel(editor, "new.sys");
         Run(editor, ID_ItmSetLogo);
         EXPECT_EQ(NamesIn(pictures), (Names{"new.sys"}));
         EXPECT_EQ(editor.ImgPreview[0].Tag(), pictures + "new.sys");
@@ -82,7 +82,7 @@ TEST_F(Following, TheItemIsRenamedWhoseLabelIsEditedAndNotTheSelectedOne) {
     Put(pictures + "b.sys", ScreenFile(0, 255, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "a.sys");
-        BeginRenaming(editor, "c.sys");
+        TypeOverLabel(editor, "c.sys");
         Pick(editor, "b.sys");
         Run(editor, ID_BrowserRefresh);
         EXPECT_EQ(Contents(pictures + "c.sys"), ScreenFile(255, 0, 0));
@@ -94,7 +94,7 @@ TEST_F(Following, ClosingTakesTheNameThatIsBeingTyped) {
     Put(pictures + "old.sys", ScreenFile(255, 0, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "old.sys");
-        BeginRenaming(editor, "new.sys");
+        TypeOverLabel(editor, "new.sys");
         PostMessageA(editor.handle(), WM_CLOSE, 0, 0);
         Await([&] { return !editor.IsOpen(); }, "closed");
         EXPECT_EQ(NamesIn(pictures), (Names{"new.sys"}));
