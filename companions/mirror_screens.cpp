@@ -10,6 +10,7 @@ namespace vistrel {
 
 Outcome MirrorScreens(const std::string& folder, const std::string& windowsDirectory) {
     if (folder.empty()) return Outcome::NoFolderNamed;
+    FailOnDrivesNotReady();
     if (!IsFolder(folder)) return Outcome::FolderNotThere;
     bool mirroredAll = true;
     for (const LogoScreen screen : {LogoScreen::Wait, LogoScreen::Shutdown}) {

@@ -8,7 +8,7 @@
 namespace vistrel {
 
 /// Makes both installed screens equal to those of `folder` (with or without a trailing backslash),
-/// each by ReplaceScreen. `windowsDirectory` ends in a backslash.
+/// each by ReplaceScreen, without ever asking for a disk. `windowsDirectory` ends in a backslash.
 Outcome MirrorScreens(const std::string& folder, const std::string& windowsDirectory);
 
 }  // namespace vistrel

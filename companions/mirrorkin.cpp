@@ -6,7 +6,6 @@
 #include "core/generali.h"
 #include "core/locations.h"
 #include "core/synchronizing.h"
-#include "platform/files.h"
 #include "platform/message_box.h"
 
 int main(int count, char** arguments) {
@@ -21,7 +20,6 @@ int main(int count, char** arguments) {
             kInformationOk, "Mirrorkin");
         return static_cast<int>(Outcome::Done);
     }
-    FailOnDrivesNotReady();
     const SystemLocations locations = FindSystemLocations();
     return static_cast<int>(
         MirrorScreens(ReadSynchronizedPath(locations.programFolder), locations.windowsDirectory));

@@ -95,8 +95,12 @@ DeviceContext PictureBox::Canvas() {
     canvas_ = CreateCompatibleDC(screen);
     bitmap_ = HasPalette(screen) ? DisplayPaletteBitmap(size.width, size.height)
                                  : CreateCompatibleBitmap(screen, size.width, size.height);
-    formerBitmap_ = SelectObject(canvas_, bitmap_);
     ReleaseDC(handle(), screen);
+    if (!bitmap_) {
+        DeleteDC(canvas_);
+        return canvas_ = nullptr;
+    }
+    formerBitmap_ = SelectObject(canvas_, bitmap_);
     canvasSize_ = size;
     const RECT all{0, 0, size.width, size.height};
     FillRect(canvas_, &all, GetSysColorBrush(COLOR_BTNFACE));
@@ -104,7 +108,7 @@ DeviceContext PictureBox::Canvas() {
 }
 
 void PictureBox::Keep() {
-    hasPicture_ = true;
+    hasPicture_ = canvas_ != nullptr;
     LetTabStop();
     // Every pixel is painted over: erasing first would only flicker.
     InvalidateRect(handle(), nullptr, FALSE);

@@ -23,7 +23,8 @@ class PictureBox : public Control {
     /// that is not there, or one that could not be shown.
     void Clear();
     /// A device context of the drawing area's size to draw the next picture into; empty at first.
-    /// What is drawn is seen after Keep.
+    /// What is drawn is seen after Keep. Null when the system has no room for so large a picture:
+    /// the box then stays empty.
     DeviceContext Canvas();
     /// Makes what was drawn into the canvas the picture.
     void Keep();

@@ -42,12 +42,10 @@ inline constexpr unsigned long ActButton = 74;
 inline constexpr unsigned long CloseButton = 75;
 inline constexpr unsigned long LblWritten = 76;
 
-// The main window.
-inline constexpr unsigned long MyList = 80;
-inline constexpr unsigned long Imag[] = {81, 82, 83};
+// The main window. Its list, pictures and toolbar ask for none: a click with the right mouse button
+// has another meaning there.
 inline constexpr unsigned long DefaultLogo = 84;
 inline constexpr unsigned long LogoType = 85;
 inline constexpr unsigned long NumLogo = 86;
-inline constexpr unsigned long ActiveBar1 = 87;
 
 }  // namespace vistrel::help_number

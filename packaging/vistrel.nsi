@@ -2,6 +2,7 @@
 ; usage: makensis -DFILES=folder -DICON=file -DVERSION=text -DVERSION_NUMBERS=a.b.c.d
 ;        -DSIZE=kilobytes -DOUTPUT=file vistrel.nsi
 Unicode false
+!include LogicLib.nsh
 !define SETTINGS_KEY "SOFTWARE\Tarnwick\Vistrel"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Vistrel"
 !define RUN_KEY "SOFTWARE\Microsoft\Windows\CurrentVersion\Run"
@@ -15,6 +16,8 @@ InstallDir "$PROGRAMFILES\Vistrel"
 ; A second installation goes where the first one went.
 InstallDirRegKey HKLM "${UNINSTALL_KEY}" "InstallLocation"
 RequestExecutionLevel admin
+; A file that cannot be written ends a run without windows, with a status that is not 0.
+AllowSkipFiles off
 BrandingText "Vistrel ${VERSION}"
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
@@ -44,7 +47,86 @@ UninstPage instfiles
     go_on:
 !macroend
 
+; Nothing is changed while one of the files to be replaced or removed is in use: half a program would
+; be left. A run without windows ends with status 2.
+!macro StopIfInUse FILE
+    ${Do}
+        ${IfNot} ${FileExists} "$INSTDIR\${FILE}"
+            ${ExitDo}
+        ${EndIf}
+        SetFileAttributes "$INSTDIR\${FILE}" NORMAL
+        ClearErrors
+        FileOpen $0 "$INSTDIR\${FILE}" a
+        ${IfNot} ${Errors}
+            FileClose $0
+            ${ExitDo}
+        ${EndIf}
+        ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
+            "$INSTDIR\${FILE} is in use. Close the program that uses it and try again." \
+            /SD IDCANCEL IDCANCEL`
+            SetErrorLevel 2
+            Abort
+        ${EndIf}
+    ${Loop}
+!macroend
+
+!macro StopIfAnyInUse
+    !insertmacro StopIfInUse "vistrel.exe"
+    !insertmacro StopIfInUse "vistrl.hlp"
+    !insertmacro StopIfInUse "Rotaline.exe"
+    !insertmacro StopIfInUse "Shufflet.exe"
+    !insertmacro StopIfInUse "Mirrorkin.exe"
+!macroend
+
+; $9 becomes the first line of FOLDER's readme.txt; that of ours where there is none. The folder may
+; be one that other programs share.
+!define FIRST_LINE "Vistrel$\r$\n"
+!macro ReadFirstLine FOLDER
+    StrCpy $9 "${FIRST_LINE}"
+    ${If} ${FileExists} "${FOLDER}\readme.txt"
+        StrCpy $9 ""
+        FileOpen $0 "${FOLDER}\readme.txt" r
+        FileRead $0 $9
+        FileClose $0
+    ${EndIf}
+!macroend
+
+; Takes our files out of a folder, and the folder itself when nothing is left in it: logo sets may
+; lie there.
+!macro RemoveFilesOf FOLDER
+    Delete "${FOLDER}\vistrel.exe"
+    Delete "${FOLDER}\vistrl.hlp"
+    ; The help viewer keeps lists of what it showed.
+    Delete "${FOLDER}\vistrl.gid"
+    Delete "${FOLDER}\vistrl.fts"
+    Delete "${FOLDER}\Rotaline.exe"
+    Delete "${FOLDER}\Shufflet.exe"
+    Delete "${FOLDER}\Mirrorkin.exe"
+    Delete "${FOLDER}\Mirrorkin.ini"
+    Delete "${FOLDER}\Rotaline.lnk"
+    Delete "${FOLDER}\Shufflet.lnk"
+    !insertmacro ReadFirstLine "${FOLDER}"
+    ${If} $9 == "${FIRST_LINE}"
+        Delete "${FOLDER}\readme.txt"
+    ${EndIf}
+    Delete "${FOLDER}\uninst.exe"
+    RMDir "${FOLDER}"
+!macroend
+
+!macro RemoveStartMenuEntries
+    Delete "$SMPROGRAMS\Vistrel\Vistrel.lnk"
+    Delete "$SMPROGRAMS\Vistrel\Vistrel Help.lnk"
+    Delete "$SMPROGRAMS\Vistrel\Read me.lnk"
+    RMDir "$SMPROGRAMS\Vistrel"
+!macroend
+
 Function .onInit
+    ${IfNot} ${FileExists} "$SYSDIR\msvcrt.dll"
+        MessageBox MB_OK|MB_ICONEXCLAMATION "Vistrel needs the file MSVCRT.DLL, which this \
+            Windows does not have. It comes with Windows 95 OSR2, with Windows 98 and with \
+            Internet Explorer 4.$\n$\nNothing has been installed." /SD IDOK
+        Abort
+    ${EndIf}
     !insertmacro StopWhileRunning
 FunctionEnd
 
@@ -52,60 +134,115 @@ Function un.onInit
     !insertmacro StopWhileRunning
 FunctionEnd
 
+; What started from the former folder $1 starts from this one, and the former one is cleared.
+Function LeaveFormerFolder
+    ReadRegStr $2 HKLM "${RUN_KEY}" "Mirrorkin"
+    ${If} $2 != ""
+        Delete "$INSTDIR\Mirrorkin.ini"
+        Rename "$1\Mirrorkin.ini" "$INSTDIR\Mirrorkin.ini"
+        WriteRegStr HKLM "${RUN_KEY}" "Mirrorkin" "$INSTDIR\Mirrorkin.exe /auto"
+    ${EndIf}
+    ${If} ${FileExists} "$SMSTARTUP\Rotaline.lnk"
+        CreateShortCut "$SMSTARTUP\Rotaline.lnk" "$INSTDIR\Rotaline.exe"
+    ${EndIf}
+    ${If} ${FileExists} "$SMSTARTUP\Shufflet.lnk"
+        CreateShortCut "$SMSTARTUP\Shufflet.lnk" "$INSTDIR\Shufflet.exe"
+    ${EndIf}
+    !insertmacro RemoveStartMenuEntries
+    !insertmacro RemoveFilesOf "$1"
+FunctionEnd
+
 Section "Vistrel"
     SectionIn RO
+    !insertmacro StopIfAnyInUse
     SetOutPath "$INSTDIR"
     File "${FILES}\vistrel.exe"
     File "${FILES}\vistrl.hlp"
     File "${FILES}\Rotaline.exe"
     File "${FILES}\Shufflet.exe"
     File "${FILES}\Mirrorkin.exe"
-    File "${FILES}\readme.txt"
+    !insertmacro ReadFirstLine "$INSTDIR"
+    ${If} $9 == "${FIRST_LINE}"
+        File "${FILES}\readme.txt"
+    ${EndIf}
     ; Vistrel copies one of these into the Startup folder when it is told to.
     CreateShortCut "$INSTDIR\Rotaline.lnk" "$INSTDIR\Rotaline.exe"
     CreateShortCut "$INSTDIR\Shufflet.lnk" "$INSTDIR\Shufflet.exe"
+
+    ReadRegStr $1 HKLM "${UNINSTALL_KEY}" "InstallLocation"
+    GetFullPathName /SHORT $2 "$1"
+    GetFullPathName /SHORT $3 "$INSTDIR"
+    ${If} ${FileExists} "$1\uninst.exe"
+    ${AndIf} $2 != $3
+        Call LeaveFormerFolder
+    ${EndIf}
 
     WriteUninstaller "$INSTDIR\uninst.exe"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayName" "Vistrel ${VERSION}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
     WriteRegStr HKLM "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninst.exe"'
+    WriteRegStr HKLM "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\vistrel.exe"
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" "EstimatedSize" ${SIZE}
+    WriteRegDWORD HKLM "${UNINSTALL_KEY}" "NoModify" 1
+    WriteRegDWORD HKLM "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
 Section "Start menu entries"
     CreateDirectory "$SMPROGRAMS\Vistrel"
     CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel.lnk" "$INSTDIR\vistrel.exe"
     CreateShortCut "$SMPROGRAMS\Vistrel\Vistrel Help.lnk" "$INSTDIR\vistrl.hlp"
-    CreateShortCut "$SMPROGRAMS\Vistrel\Read me.lnk" "$INSTDIR\readme.txt"
+    !insertmacro ReadFirstLine "$INSTDIR"
+    ${If} $9 == "${FIRST_LINE}"
+        CreateShortCut "$SMPROGRAMS\Vistrel\Read me.lnk" "$INSTDIR\readme.txt"
+    ${EndIf}
 SectionEnd
 
+!macro RemoveStartupLinksOf FOLDER
+    Delete "${FOLDER}\Rotaline.lnk"
+    Delete "${FOLDER}\Shufflet.lnk"
+!macroend
+
+; The companions' links go from the Startup folders of all users: this one's, that of everybody, and
+; where users have profiles those under Profiles. They have the names that this user's has.
+Function un.RemoveStartupLinks
+    !insertmacro RemoveStartupLinksOf "$SMSTARTUP"
+    ; The last three names of the path, such as Start Menu\Programs\StartUp.
+    StrCpy $1 0
+    StrCpy $2 0
+    ${DoUntil} $1 < -260
+        IntOp $1 $1 - 1
+        StrCpy $3 $SMSTARTUP 1 $1
+        ${If} $3 == "\"
+            IntOp $2 $2 + 1
+            ${If} $2 = 3
+                ${ExitDo}
+            ${EndIf}
+        ${EndIf}
+    ${Loop}
+    StrCpy $4 $SMSTARTUP "" $1
+
+    SetShellVarContext all
+    !insertmacro RemoveStartupLinksOf "$SMSTARTUP"
+    SetShellVarContext current
+    !insertmacro RemoveStartupLinksOf "$WINDIR$4"
+    !insertmacro RemoveStartupLinksOf "$WINDIR\All Users$4"
+    FindFirst $0 $1 "$WINDIR\Profiles\*"
+    ${DoWhile} $1 != ""
+        !insertmacro RemoveStartupLinksOf "$WINDIR\Profiles\$1$4"
+        FindNext $0 $1
+    ${Loop}
+    FindClose $0
+FunctionEnd
+
 Section Uninstall
+    !insertmacro StopIfAnyInUse
     ; What changes screens at the next start goes first.
     DeleteRegValue HKLM "${RUN_KEY}" "Mirrorkin"
-    Delete "$SMSTARTUP\Rotaline.lnk"
-    Delete "$SMSTARTUP\Shufflet.lnk"
+    Call un.RemoveStartupLinks
 
-    Delete "$INSTDIR\vistrel.exe"
-    Delete "$INSTDIR\vistrl.hlp"
-    ; The help viewer keeps lists of what it showed.
-    Delete "$INSTDIR\vistrl.gid"
-    Delete "$INSTDIR\vistrl.fts"
-    Delete "$INSTDIR\Rotaline.exe"
-    Delete "$INSTDIR\Shufflet.exe"
-    Delete "$INSTDIR\Mirrorkin.exe"
-    Delete "$INSTDIR\Mirrorkin.ini"
-    Delete "$INSTDIR\readme.txt"
-    Delete "$INSTDIR\Rotaline.lnk"
-    Delete "$INSTDIR\Shufflet.lnk"
-    Delete "$INSTDIR\uninst.exe"
-    ; Logo sets may lie in the program's folder: it goes only when nothing is left in it.
-    RMDir "$INSTDIR"
-
-    Delete "$SMPROGRAMS\Vistrel\Vistrel.lnk"
-    Delete "$SMPROGRAMS\Vistrel\Vistrel Help.lnk"
-    Delete "$SMPROGRAMS\Vistrel\Read me.lnk"
-    RMDir "$SMPROGRAMS\Vistrel"
+    !insertmacro RemoveFilesOf "$INSTDIR"
+    !insertmacro RemoveStartMenuEntries
 
     DeleteRegKey HKLM "${SETTINGS_KEY}"
     DeleteRegKey /ifempty HKLM "SOFTWARE\Tarnwick"

@@ -2,6 +2,8 @@
 #include "pictures/bmp_writer.h"
 
 #include <cstdio>
+#include <memory>
+#include <utility>
 
 namespace vistrel {
 namespace {
@@ -21,43 +23,65 @@ void Put32(std::vector<std::uint8_t>& bytes, std::uint32_t value) {
     Put16(bytes, value >> 16);
 }
 
-bool FileExistsAt(const std::string& path) {
-    std::FILE* const file = std::fopen(path.c_str(), "rb");
-    if (file != nullptr) std::fclose(file);
-    return file != nullptr;
-}
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
 
-/// A name in the folder of `path` that no file has; short enough for every file system.
-std::string UnusedNameBeside(const std::string& path) {
+File Open(const std::string& path, const char* how) { return File(std::fopen(path.c_str(), how)); }
+
+/// A file beside `path` that is new. What already has its name, a file or something that cannot be
+/// opened, is left alone; of so many names one is free where files can be made at all.
+struct NewFile {
+    std::string path;
+    File file;
+};
+
+NewFile MakeFileBeside(const std::string& path) {
+    constexpr unsigned kNames = 50;
     const std::size_t slash = path.find_last_of("\\/:");
     const std::string folder = slash == std::string::npos ? "" : path.substr(0, slash + 1);
-    std::string name;
-    unsigned number = 0;
-    do {
-        char digits[16];
-        std::snprintf(digits, sizeof digits, "~vs%05u.tmp", number++);
-        name = folder + digits;
-    } while (FileExistsAt(name));
-    return name;
+    for (unsigned number = 0; number < kNames; ++number) {
+        char name[16];  // short enough for every file system
+        std::snprintf(name, sizeof name, "~vs%05u.tmp", number);
+        if (Open(folder + name, "rb")) continue;
+        if (File file = Open(folder + name, "wb")) return {folder + name, std::move(file)};
+    }
+    return {};
 }
 
-bool WriteNewFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
-    std::FILE* const file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) return false;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+bool WriteInto(File file, const std::vector<std::uint8_t>& bytes) {
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     // Closing writes what is still buffered: the disk may turn out to be full only here.
-    return (std::fclose(file) == 0) && written;
+    return std::fclose(file.release()) == 0 && written;
 }
 
-bool MoveOver(const std::string& from, const std::string& to) {
-    if (std::rename(from.c_str(), to.c_str()) == 0) return true;
-#ifdef _WIN32
-    // There the C library does not rename onto a file that exists.
-    return std::remove(to.c_str()) == 0 && std::rename(from.c_str(), to.c_str()) == 0;
-#else
-    return false;
-#endif
+bool Rename(const std::string& from, const std::string& to) {
+    return std::rename(from.c_str(), to.c_str()) == 0;
 }
+
+#ifdef _WIN32
+// There the C library does not rename onto a file that exists: the former one steps aside, and
+// comes back if the new one cannot take its place.
+bool MoveOver(const std::string& from, const std::string& to) {
+    if (Rename(from, to)) return true;
+    // A folder, or a file that must not be written to, would step aside as readily.
+    if (!Open(to, "r+b")) return false;
+    const std::string aside = MakeFileBeside(to).path;
+    if (aside.empty()) return false;
+    std::remove(aside.c_str());
+    if (!Rename(to, aside)) return false;
+    const bool moved = Rename(from, to);
+    if (moved) {
+        std::remove(aside.c_str());
+    } else {
+        Rename(aside, to);
+    }
+    return moved;
+}
+#else
+bool MoveOver(const std::string& from, const std::string& to) { return Rename(from, to); }
+#endif
 
 }  // namespace
 
@@ -93,9 +117,10 @@ std::vector<std::uint8_t> ColormappedBmp(const std::uint8_t* indices, int width,
 }
 
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
-    const std::string temporary = UnusedNameBeside(path);
-    if (WriteNewFile(temporary, bytes) && MoveOver(temporary, path)) return true;
-    std::remove(temporary.c_str());
+    NewFile temporary = MakeFileBeside(path);
+    if (!temporary.file) return false;
+    if (WriteInto(std::move(temporary.file), bytes) && MoveOver(temporary.path, path)) return true;
+    std::remove(temporary.path.c_str());
     return false;
 }
 

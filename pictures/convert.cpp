@@ -55,6 +55,14 @@ std::optional<RgbPicture> ReadPicture(const std::string& path) try {
     return std::nullopt;
 }
 
+bool IsToBeTurned(const std::string& path) try {
+    if (FormatOfName(path) != PictureFormat::Jpg) return false;
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    return file && IsJpgToBeTurned(*file);
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
 std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int width, int height) try {
     if (!IsPlausibleSize(width, height)) return std::nullopt;
     const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);

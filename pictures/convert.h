@@ -21,12 +21,15 @@ PictureFormat FormatOfName(const std::string& path);
 /// Reads a picture file in the format that its name stands for. Empty when it cannot be read.
 std::optional<RgbPicture> ReadPicture(const std::string& path);
 
+/// True of a photograph that lies in its file on its side, upside down or mirrored, and says so.
+bool IsToBeTurned(const std::string& path);
+
 /// Reads a picture file scaled to `width` x `height` pixels: the fast way for whoever does not
 /// need the picture itself. Empty when it cannot be read or the size is out of range.
 std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int width, int height);
 
-/// The same for a picture that is only looked at: a screen file is shrunk by averaging, which takes a
-/// tenth of the time.
+/// The same for a picture that is only looked at: a screen file is shrunk by averaging, which takes
+/// a tenth of the time.
 std::optional<ScaledPicture> ReadPicturePreview(const std::string& path, int width, int height);
 
 enum class ConversionResult { Written, NotRead, NotReduced, NotWritten };

@@ -1,5 +1,6 @@
 #include "pictures/draw_preview.h"
 
+#include <array>
 #include <cstdio>
 #include <optional>
 
@@ -48,19 +49,44 @@ bool ShowByReaders(const std::string& path, PictureBox& box) {
     return true;
 }
 
+using HeaderBytes = std::array<std::uint8_t, 30>;
+
+std::optional<HeaderBytes> ReadHeaderBytes(const std::string& path) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (!file) return std::nullopt;
+    HeaderBytes header;
+    const std::size_t size = std::fread(header.data(), 1, header.size(), file);
+    std::fclose(file);
+    if (size < header.size()) return std::nullopt;
+    return header;
+}
+
+/// An OS/2 1.x header has its numbers elsewhere: where the file has one, they are taken from there.
+/// Unless they are a screen's: the system could not show such a file, and nobody is to take it for
+/// a finished screen.
+void ReadOs2Header(const std::string& path, std::int32_t& width, std::int32_t& height,
+                   std::int16_t& depth) {
+    constexpr std::uint32_t kOs2HeaderSize = 12;
+    const auto header = ReadHeaderBytes(path);
+    if (!header || DoubleWord(*header, 14) != kOs2HeaderSize) return;
+    const std::uint32_t across = Word(*header, 18);
+    const std::uint32_t down = Word(*header, 20);
+    const std::uint32_t bits = Word(*header, 24);
+    if (across == kLogoWidth && down == kLogoHeight && bits == 8) return;
+    width = static_cast<std::int32_t>(across);
+    height = static_cast<std::int32_t>(down);
+    depth = static_cast<std::int16_t>(bits);
+}
+
 }  // namespace
 
 void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
                       std::int16_t& depth) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (!file) return;
-    std::uint8_t header[30];
-    const std::size_t size = std::fread(header, 1, sizeof header, file);
-    std::fclose(file);
-    if (size < sizeof header) return;
-    width = static_cast<std::int32_t>(DoubleWord(header, 18));
-    height = static_cast<std::int32_t>(DoubleWord(header, 22));
-    depth = static_cast<std::int16_t>(Word(header, 28));
+    const auto header = ReadHeaderBytes(path);
+    if (!header) return;
+    width = static_cast<std::int32_t>(DoubleWord(*header, 18));
+    height = static_cast<std::int32_t>(DoubleWord(*header, 22));
+    depth = static_cast<std::int16_t>(Word(*header, 28));
 }
 
 void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
@@ -70,6 +96,7 @@ void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& widt
     if (format == PictureFormat::Bmp) {
         // The header tells the size even where the pixels cannot be read.
         ReadBitmapHeader(path, width, height, depth);
+        if (size) ReadOs2Header(path, width, height, depth);
         return;
     }
     depth = format == PictureFormat::Gif ? kGifDepth : kJpgDepth;
@@ -84,8 +111,9 @@ void DrawPreview(const std::string& path, PictureBox& target) { DrawScaled(path,
 void ShowPictureInBox(const std::string& path, PictureBox& box) {
     box.Clear();
     // Where the display has a palette, the system's loader brings a picture down to colours that
-    // are there already, undithered: it is left what our own readers do not know.
-    if (DisplayHasPalette())
+    // are there already, undithered; and a photograph it shows as it lies in the file, on its side
+    // if the camera was. There it is left what our own readers do not know.
+    if (DisplayHasPalette() || IsToBeTurned(path))
         ShowByReaders(path, box) || ShowByLoader(path, box);
     else
         ShowByLoader(path, box) || ShowByReaders(path, box);

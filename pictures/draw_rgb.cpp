@@ -1,6 +1,8 @@
-// Drawing of 24-bit pixels on a device context: the image library's one operation that needs Windows.
+// Drawing of 24-bit pixels on a device context: the image library's one operation that needs
+// Windows.
 #include <windows.h>
 
+#include <new>
 #include <vector>
 
 #include "controls/display_palette.h"
@@ -42,7 +44,7 @@ std::vector<std::uint8_t> BlueGreenRedRows(const std::uint8_t* rgb, int width, i
 }  // namespace
 
 void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth, int pixelHeight,
-                   int x, int y, int width, int height, int) {
+                   int x, int y, int width, int height, int) try {
     SetStretchBltMode(target, COLORONCOLOR);
     if (HasPalette(target)) {
         // The display holds 256 colours: without dithering a sky would turn to bands.
@@ -60,6 +62,8 @@ void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth
     const auto rows = BlueGreenRedRows(rgb, pixelWidth, pixelHeight);
     StretchDIBits(target, x, y, width, height, 0, 0, pixelWidth, pixelHeight, rows.data(),
                   header.info(), DIB_RGB_COLORS, SRCCOPY);
+} catch (const std::bad_alloc&) {
+    // Without memory nothing is drawn.
 }
 
 }  // namespace vistrel

@@ -93,6 +93,13 @@ std::int64_t BytesToReadWhole(const JpgFrame& frame) {
     return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
 }
 
+bool IsJpgToBeTurned(FileBytes file) {
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return false;
+    const Turning turning = TurningOf(markers.orientation());
+    return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
+}
+
 std::optional<RgbPicture> ReadJpg(FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;

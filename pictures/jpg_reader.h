@@ -11,6 +11,9 @@ namespace vistrel {
 /// least a tenth of the picture is there.
 std::optional<RgbPicture> ReadJpg(FileBytes file);
 
+/// True when ReadJpg would turn the picture or mirror it.
+bool IsJpgToBeTurned(FileBytes file);
+
 /// Decodes a JPEG file straight to `width` x `height` pixels, reading no more of it than the
 /// result needs. fileWidth and fileHeight of the result are those of the upright picture.
 /// Empty as for ReadJpg.

@@ -5,7 +5,7 @@
 #include <ocidl.h>
 #include <olectl.h>
 
-#include <cstdio>
+#include <new>
 
 #include "platform/fault.h"
 
@@ -48,6 +48,26 @@ IStream* StreamOf(const std::string& path) {
     return stream;
 }
 
+/// Takes the pixels of a 24-bit bitmap whose rows come from the top. False when there is no memory.
+bool TakePixels(const void* bits, LONG across, LONG down, StandardPicture& picture) try {
+    picture.pixels.resize(static_cast<std::size_t>(across) * down * 3);
+    picture.width = static_cast<int>(across);
+    picture.height = static_cast<int>(down);
+    const std::size_t stride = (static_cast<std::size_t>(across) * 3 + 3) & ~std::size_t{3};
+    std::uint8_t* out = picture.pixels.data();
+    for (LONG y = 0; y < down; ++y) {
+        const std::uint8_t* row = static_cast<const std::uint8_t*>(bits) + y * stride;
+        for (LONG x = 0; x < across; ++x, row += 3, out += 3) {
+            out[0] = row[2];
+            out[1] = row[1];
+            out[2] = row[0];
+        }
+    }
+    return true;
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
 /// Draws the picture into a 24-bit bitmap of its own size in pixels and takes its pixels.
 bool Render(IPicture* source, StandardPicture& picture) {
     OLE_XSIZE_HIMETRIC width = 0;
@@ -73,24 +93,10 @@ bool Render(IPicture* source, StandardPicture& picture) {
     if (bitmap) {
         const HGDIOBJ former = SelectObject(memory, bitmap);
         // A picture's own coordinates have their origin at the bottom.
-        drawn = source->Render(memory, 0, 0, across, down, 0, height, width, -height, nullptr) ==
-                S_OK;
+        drawn =
+            source->Render(memory, 0, 0, across, down, 0, height, width, -height, nullptr) == S_OK;
         GdiFlush();
-        if (drawn) {
-            picture.width = static_cast<int>(across);
-            picture.height = static_cast<int>(down);
-            picture.pixels.resize(static_cast<std::size_t>(across) * down * 3);
-            const std::size_t stride = (static_cast<std::size_t>(across) * 3 + 3) & ~std::size_t{3};
-            std::uint8_t* out = picture.pixels.data();
-            for (LONG y = 0; y < down; ++y) {
-                const std::uint8_t* row = static_cast<const std::uint8_t*>(bits) + y * stride;
-                for (LONG x = 0; x < across; ++x, row += 3, out += 3) {
-                    out[0] = row[2];
-                    out[1] = row[1];
-                    out[2] = row[0];
-                }
-            }
-        }
+        drawn = drawn && TakePixels(bits, across, down, picture);
         SelectObject(memory, former);
         DeleteObject(bitmap);
     }

@@ -15,7 +15,7 @@ struct StandardPicture {
 };
 
 /// Loads a bitmap, GIF, JPEG, icon or metafile with OleLoadPicture. False when the system has no
-/// loader or refuses the file.
+/// loader or refuses the file, and when there is not enough memory.
 bool LoadStandardPicture(const std::string& path, StandardPicture& picture);
 
 }  // namespace vistrel

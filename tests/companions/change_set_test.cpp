@@ -344,6 +344,43 @@ class ChangeSetHardshipTest : public Boot {
     const Screens blue_ = {"Blue LOGO.SYS", "Blue LOGOW.SYS", "Blue LOGOS.SYS"};
 };
 
+TEST(OutcomeTest, TheNumbersThatACompanionReturnsStay) {
+    const std::vector<Outcome> outcomes = {Outcome::Done,
+                                           Outcome::VistrelRuns,
+                                           Outcome::NoSets,
+                                           Outcome::ScreenNotCopied,
+                                           Outcome::SetNotRecorded,
+                                           Outcome::NotRegistered,
+                                           Outcome::NoFolderNamed,
+                                           Outcome::FolderNotThere,
+                                           Outcome::LogoFolderNotThere};
+    for (std::size_t i = 0; i < outcomes.size(); ++i)
+        EXPECT_EQ(static_cast<std::size_t>(outcomes[i]), i);
+}
+
+TEST_F(ChangeSetHardshipTest, NobodyIsAskedForADisk) {
+    Prepare();
+    SetErrorMode(0);
+    EXPECT_EQ(Change(), Outcome::Done);
+    EXPECT_NE(SetErrorMode(0) & SEM_FAILCRITICALERRORS, 0u);
+}
+
+TEST_F(ChangeSetHardshipTest, WhatFailedIsTold) {
+    int notRecorded = 0;
+    Outcome outcome = Outcome::Done;
+    WithEachOperationFailing([&] { Prepare(); }, [&] { outcome = Change(); },
+                             [&](int) {
+                                 const bool copied = Installed() == blue_;
+                                 const bool recorded = InstalledSet() == "Blue";
+                                 EXPECT_TRUE(outcome != Outcome::Done || (copied && recorded));
+                                 if (outcome != Outcome::SetNotRecorded) return;
+                                 ++notRecorded;
+                                 EXPECT_TRUE(copied);
+                                 EXPECT_FALSE(recorded);
+                             });
+    EXPECT_EQ(notRecorded, 2);  // opening the key, writing the value
+}
+
 TEST_F(ChangeSetHardshipTest, OneFailureLosesNoScreen) {
     WithEachOperationFailing([&] { Prepare(); }, [] { Change(); },
                              [&](int) {

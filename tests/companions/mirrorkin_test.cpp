@@ -229,7 +229,10 @@ TEST_F(MirrorkinTest, WithoutAutoItSaysWhatItIsAndChangesNothing) {
     EXPECT_TRUE(start.ended);
     EXPECT_EQ(start.exitCode, 0u);
     EXPECT_EQ(box.title, "Mirrorkin");
-    EXPECT_NE(box.text.find("wait and shutdown screens"), std::string::npos) << box.text;
+    EXPECT_EQ(
+        box.text,
+        "Mirrorkin brings the wait and shutdown screens of your logo set into place each "
+        "time Windows starts. Vistrel starts it by itself while \"Synchronize logos\" is on.");
     EXPECT_EQ(box.buttons, std::vector<int>{IDOK});
     EXPECT_EQ(Installed(), old);
 }
@@ -322,6 +325,22 @@ TEST_F(MirrorScreensTest, AnOldFileThatACutLeftAsideComesBackWhereTheNewOneCanno
     MakeFolders(logos + "Blue\\LOGOW.SYS\\");  // cannot be read
     EXPECT_EQ(Mirror(), Outcome::ScreenNotCopied);
     EXPECT_EQ(Contents(windows + "LOGOW.SYS"), "old LOGOW.SYS");
+}
+
+TEST_F(MirrorScreensTest, NobodyIsAskedForADisk) {
+    Prepare();
+    SetErrorMode(0);
+    EXPECT_EQ(Mirror(), Outcome::Done);
+    EXPECT_NE(SetErrorMode(0) & SEM_FAILCRITICALERRORS, 0u);
+}
+
+TEST_F(MirrorScreensTest, AnOldFileThatACutLeftBesideTheNewOneIsNotInTheWay) {
+    Prepare();
+    Put(windows + "~LOGOW.OLD", "older LOGOW.SYS");
+    GiveAttributes(windows + "~LOGOW.OLD", FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(Mirror(), Outcome::Done);
+    EXPECT_EQ(Contents(windows + "LOGOW.SYS"), "Blue LOGOW.SYS");
+    EXPECT_EQ(NamesIn(windows), (Names{"LOGOS.SYS", "LOGOW.SYS"}));
 }
 
 TEST_F(MirrorScreensTest, HalfAFileThatACutLeftIsThrownAway) {

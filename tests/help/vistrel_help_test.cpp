@@ -136,9 +136,9 @@ INSTANTIATE_TEST_SUITE_P(
                     ControlTitle{help_number::ImgPreview[2], "Slot of the shutdown screen"},
                     ControlTitle{help_number::OptDefShut, "Default wait/shutdown screens"},
                     ControlTitle{help_number::CloseButton, "Finish"},
-                    ControlTitle{help_number::MyList, "List of logo sets"},
-                    ControlTitle{help_number::Imag[0], "Startup screen"},
-                    ControlTitle{help_number::ActiveBar1, "Menus and toolbar"}));
+                    ControlTitle{help_number::DefaultLogo, "Default logo set"},
+                    ControlTitle{help_number::LogoType, "Type of the set"},
+                    ControlTitle{help_number::NumLogo, "Number of sets"}));
 
 TEST(VistrelHelp, EveryTopicIsReachedFromTheContentsOrByANumber) {
     const ReadHelp& help = VistrelHelp();
@@ -168,6 +168,31 @@ TEST(VistrelHelp, BrowsingFromTheContentsPassesEveryTopicThatIsNoPopup) {
         ++passed;
     }
     EXPECT_EQ(passed, topics);
+}
+
+std::string TextOf(const std::string& title) {
+    std::string text;
+    for (const ReadTopic& topic : VistrelHelp().topics)
+        if (topic.title == title)
+            for (const ReadParagraph& paragraph : topic.paragraphs) text += paragraph.text + "\n";
+    return text;
+}
+
+bool Tells(const std::string& title, const std::string& words) {
+    return TextOf(title).find(words) != std::string::npos;
+}
+
+TEST(VistrelHelp, TellsWhatSurprisesAUser) {
+    EXPECT_TRUE(Tells("Deleting a set", "It shows up again after a Refresh"));
+    EXPECT_TRUE(Tells("Deleting a set", "Into the Recycle Bin such a folder goes with the files"));
+    EXPECT_TRUE(Tells("The companion programs",
+                      "starting and closing Vistrel once without putting a set in place ends it"));
+    EXPECT_TRUE(Tells("Troubleshooting", "Cannot rename folder. The folder already exists or has"));
+    EXPECT_TRUE(Tells("Finding pictures", "already exists or the name is not valid."));
+    EXPECT_TRUE(Tells("The main window", "StartUp logo in"));
+    EXPECT_TRUE(Tells("Tutorial: your first logo set", "The first place is often empty"));
+    EXPECT_TRUE(Tells("Removing Vistrel", "Add/Remove Programs"));
+    EXPECT_TRUE(Tells("What Vistrel does", "MSDOS.SYS"));
 }
 
 TEST(VistrelHelp, EveryTopicThatIsNoPopupHasAKeyword) {

@@ -153,7 +153,7 @@ TEST_F(HelpViewing, NumbersOfControlsShowTheirTopics) {
         {help_number::StartUpAction[1], "Every time Windows starts, Shufflet"},
         {help_number::ImgPreview[2], "The shutdown screen of the set, LOGOS.SYS"},
         {help_number::CloseButton, "Closes the Logo browser."},
-        {help_number::MyList, "Your logo sets."},
+        {help_number::DefaultLogo, "The logo set that was last put in place."},
         {help_number::NumLogo, "The number of logo sets"}};
     for (const NumberedHelp& help : numbers)
         ShowAndWait(HelpCommand::Context, help.number, help.start);

@@ -158,6 +158,25 @@ class Layout : public MainWindow98 {
     }
 };
 
+/// The dots of an inch that the machine is set to.
+int PixelsPerInchInTheRegistry() {
+    HKEY desktop = nullptr;
+    DWORD pixels = 0;
+    DWORD size = sizeof pixels;
+    RegOpenKeyExA(HKEY_CURRENT_USER, "Control Panel\\Desktop", 0, KEY_READ, &desktop);
+    RegQueryValueExA(desktop, "LogPixels", nullptr, nullptr, reinterpret_cast<BYTE*>(&pixels),
+                     &size);
+    RegCloseKey(desktop);
+    return pixels ? static_cast<int>(pixels) : 96;
+}
+
+// Where a program is shown another screen than there is, as newer systems do unless told not to, the
+// other tests would look at the wrong thing.
+TEST_F(Layout, IsSeenOnTheScreenThatThereIs) {
+    EXPECT_EQ(PixelsPerInch(), PixelsPerInchInTheRegistry());
+    EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), PixelsPerInch() == 96 ? 640 : 800);
+}
+
 TEST_F(Layout, OfTheMainWindow) {
     Principale main(locations);
     Open(main);

@@ -117,6 +117,32 @@ TEST_F(Clicking, TheDoubleClickThatOpensTheActualSizeDoesNotCloseIt) {
     });
 }
 
+TEST_F(Clicking, APictureWithoutACustomProgramLeadsToWhereThatIsSet) {
+    Store("DefaultAction", TextValue("2"));
+    WithMainWindow([&](Principale& main) {
+        ASSERT_TRUE(user::Click(main.Imag[0].handle()));
+        user::AnswerBox(IDYES);
+        const HWND options = user::WaitForTop("FrmOptions");
+        ASSERT_NE(options, nullptr);
+        // All pages are there until the first is chosen, before anything is painted.
+        EXPECT_TRUE(
+            WaitUntil([&] { return !IsWindowVisible(GetDlgItem(options, ID_TxtLogoPath)); }));
+        EXPECT_TRUE(
+            WaitUntil([&] { return IsWindowVisible(GetDlgItem(options, ID_CustProg)) != 0; }));
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(user::WaitUntilGone(options));
+        // By its own command it opens with the first page.
+        StartCommand(main, ID_ToolPrefer);
+        const HWND again = user::WaitForTop("FrmOptions");
+        ASSERT_NE(again, nullptr);
+        EXPECT_TRUE(WaitUntil([&] { return !IsWindowVisible(GetDlgItem(again, ID_CustProg)); }));
+        EXPECT_TRUE(
+            WaitUntil([&] { return IsWindowVisible(GetDlgItem(again, ID_TxtLogoPath)) != 0; }));
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(user::WaitUntilGone(again));
+    });
+}
+
 TEST_F(Clicking, TheRightButtonOnTheTitleBarGivesTheSystemsMenu) {
     WithMainWindow([&](Principale& main) {
         user::RightClickAt(OnTitleBar(main));

@@ -31,13 +31,25 @@ std::string TextIn(const std::string& key, const std::string& name) {
     return value ? std::string(value->bytes.c_str()) : "(none)";
 }
 
+/// The last three names of a folder's path, such as "Start Menu\Programs\StartUp\".
+std::string LastNamesOf(const std::string& folder) {
+    std::size_t at = folder.size() - 1;
+    for (int i = 0; i < 3; ++i) at = folder.rfind('\\', at - 1);
+    return folder.substr(at + 1);
+}
+
 /// A machine without the program.
 class Installer : public testing::Test {
  protected:
     Installer() {
         if (Exists(kProgramFolder + "uninst.exe")) UninstallSilently();
         RemoveTree(kProgramFolder);
+        RemoveTree("C:\\Tools\\");
         ForgetSettings();
+    }
+    static void PutSet(const std::string& folder) {
+        MakeFolders(folder);
+        for (const char* name : {"LOGO.SYS", "LOGOW.SYS", "LOGOS.SYS"}) Put(folder + name, name);
     }
 
     const std::string menu = ShellFolder(CSIDL_PROGRAMS) + "Vistrel\\";
@@ -60,6 +72,10 @@ TEST_F(Installer, MakesStartMenuEntriesAndAnEntryAmongTheInstalledPrograms) {
     EXPECT_EQ(TextIn(kUninstallKey, "DisplayName"),
               "Vistrel " + TextIn(kUninstallKey, "DisplayVersion"));
     EXPECT_EQ(TextIn(kUninstallKey, "UninstallString"), "\"" + kProgramFolder + "uninst.exe\"");
+    EXPECT_EQ(TextIn(kUninstallKey, "DisplayIcon"), kProgramFolder + "vistrel.exe");
+    const StoredValue one = {REG_DWORD, std::string("\1\0\0\0", 4)};
+    EXPECT_EQ(StoredIn(kUninstallKey, "NoModify"), one);
+    EXPECT_EQ(StoredIn(kUninstallKey, "NoRepair"), one);
 }
 
 TEST_F(Installer, PutsEverythingIntoTheFolderThatTheUserChooses) {
@@ -79,6 +95,88 @@ TEST_F(Installer, PutsEverythingIntoTheFolderThatTheUserChooses) {
     EXPECT_TRUE(UninstallSilently(chosen));
     EXPECT_FALSE(Exists(chosen));
     RemoveTree("C:\\My Tools\\");
+}
+
+TEST_F(Installer, ANewerVersionInAnotherFolderTakesTheFormerOneAway) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put(kProgramFolder + "Mirrorkin.ini", "[Settings]\r\nPath=C:\\Logos\\Blue\r\n");
+    StoreIn(kRunKey, "Mirrorkin", TextValue(kProgramFolder + "Mirrorkin.exe /auto"));
+    CopyFileA((kProgramFolder + "Rotaline.lnk").c_str(), (startup + "Rotaline.lnk").c_str(), FALSE);
+    PutSet(kProgramFolder + "Original Logos\\");
+    Store("LogoPath", TextValue(kProgramFolder));
+
+    const std::string chosen = "C:\\Tools\\";
+    ASSERT_EQ(InstallSilently("/D=C:\\Tools"), 0u);
+    EXPECT_EQ(NamesIn(kProgramFolder), Names{"Original Logos"});
+    EXPECT_TRUE(Exists(kProgramFolder + "Original Logos\\LOGO.SYS"));
+    EXPECT_EQ(Stored("LogoPath"), TextValue(kProgramFolder));
+    // What starts by itself starts from the new folder.
+    EXPECT_EQ(TextIn(kRunKey, "Mirrorkin"), chosen + "Mirrorkin.exe /auto");
+    EXPECT_EQ(Contents(chosen + "Mirrorkin.ini"), "[Settings]\r\nPath=C:\\Logos\\Blue\r\n");
+    EXPECT_EQ(TargetOf(startup + "Rotaline.lnk"), chosen + "Rotaline.exe");
+    EXPECT_EQ(NamesIn(startup), Names{"Rotaline.lnk"});
+    EXPECT_EQ(TargetOf(menu + "Vistrel.lnk"), chosen + "vistrel.exe");
+    EXPECT_EQ(TextIn(kUninstallKey, "InstallLocation"), "C:\\Tools");
+
+    EXPECT_TRUE(UninstallSilently(chosen));
+    EXPECT_FALSE(Exists(chosen));
+    EXPECT_FALSE(Exists(menu));
+}
+
+TEST_F(Installer, AFileInUseEndsARunWithoutWindowsBeforeAnythingIsChanged) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put(kProgramFolder + "vistrel.exe", "an older program");
+    HANDLE inUse = CreateFileA((kProgramFolder + "Mirrorkin.exe").c_str(), GENERIC_READ,
+                               FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(InstallSilently(), 2u);
+    EXPECT_EQ(Contents(kProgramFolder + "vistrel.exe"), "an older program");
+    EXPECT_FALSE(UninstallSilently());
+    EXPECT_EQ(NamesIn(kProgramFolder), kFiles);
+    CloseHandle(inUse);
+    EXPECT_EQ(InstallSilently(), 0u);
+    EXPECT_NE(Contents(kProgramFolder + "vistrel.exe"), "an older program");
+}
+
+TEST_F(Installer, ReadOnlyFilesOfAnOlderVersionAreReplaced) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put(kProgramFolder + "vistrl.hlp", "an older help");
+    GiveAttributes(kProgramFolder + "vistrl.hlp", FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(InstallSilently(), 0u);
+    EXPECT_NE(Contents(kProgramFolder + "vistrl.hlp"), "an older help");
+}
+
+TEST_F(Installer, AReadMeOfAnotherProgramIsNeitherOverwrittenNorDeleted) {
+    MakeFolders("C:\\Tools\\");
+    Put("C:\\Tools\\readme.txt", "About other tools\r\n");
+    ASSERT_EQ(InstallSilently("/D=C:\\Tools"), 0u);
+    EXPECT_EQ(Contents("C:\\Tools\\readme.txt"), "About other tools\r\n");
+    EXPECT_FALSE(Exists(menu + "Read me.lnk"));
+    EXPECT_TRUE(UninstallSilently("C:\\Tools\\"));
+    EXPECT_EQ(NamesIn("C:\\Tools\\"), Names{"readme.txt"});
+    EXPECT_EQ(Contents("C:\\Tools\\readme.txt"), "About other tools\r\n");
+    RemoveTree("C:\\Tools\\");
+}
+
+TEST_F(Installer, CleansTheStartupFoldersOfAllUsersWhenUninstalled) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    // As Windows 98 has them: of everybody, of a machine without profiles, of another user.
+    std::vector<std::string> folders;
+    for (const char* whose : {"All Users\\", "", "Profiles\\Anna\\"})
+        folders.push_back("C:\\windows\\" + std::string(whose) + LastNamesOf(startup));
+    folders.push_back(ShellFolder(CSIDL_COMMON_STARTUP));
+    for (const std::string& folder : folders) {
+        MakeFolders(folder);
+        Put(folder + "Rotaline.lnk", "a link");
+        Put(folder + "Shufflet.lnk", "a link");
+        Put(folder + "Clock.lnk", "somebody else's");
+    }
+    EXPECT_TRUE(UninstallSilently());
+    for (const std::string& folder : folders) {
+        EXPECT_EQ(NamesIn(folder), Names{"Clock.lnk"}) << folder;
+        RemoveTree(folder + "Clock.lnk");
+    }
+    for (const char* left : {"All Users", "Profiles", "Start Menu"})
+        RemoveTree(std::string("C:\\windows\\") + left);
 }
 
 TEST_F(Installer, LeavesNothingBehindWhenUninstalled) {
@@ -184,6 +282,44 @@ class InstallersWindows : public Installer {
                user::Click(button);
     }
 };
+
+/// Takes the system's MSVCRT.DLL away for as long as it lives. It is in use, so that this happens
+/// below Wine, whose own libraries then find it beside the installer.
+class WithoutMsvcrt {
+ public:
+    WithoutMsvcrt() {
+        CopyFileA(inUse_.c_str(), beside_.c_str(), FALSE);
+        Move("msvcrt.dll", "msvcrt.away");
+        gone_ = WaitUntil([&] { return !Exists(inUse_); });
+    }
+    ~WithoutMsvcrt() {
+        Move("msvcrt.away", "msvcrt.dll");
+        WaitUntil([&] { return Exists(inUse_); });
+        RemoveTree(beside_);
+    }
+    bool IsGone() const { return gone_; }
+
+ private:
+    /// Nothing tells when a program below Wine has ended.
+    static void Move(const std::string& from, const std::string& to) {
+        const std::string folder = "../windows/system32/";
+        StartedProgram("Z:\\bin\\mv " + folder + from + " " + folder + to);
+    }
+
+    const std::string inUse_ = ShellFolder(CSIDL_SYSTEM) + "msvcrt.dll";
+    const std::string beside_ = "C:\\test\\msvcrt.dll";
+    bool gone_ = false;
+};
+
+TEST_F(InstallersWindows, SayInWordsThatMsvcrtIsMissing) {
+    const WithoutMsvcrt machine;
+    ASSERT_TRUE(machine.IsGone());
+    const StartedProgram setup("C:\\test\\vistrel-setup.exe");
+    const user::Box box = user::AnswerBox(IDOK, setup.id());
+    EXPECT_NE(box.text.find("MSVCRT.DLL"), std::string::npos) << box.text;
+    EXPECT_NE(setup.WaitForEnd().value_or(0), 0u);
+    EXPECT_FALSE(Exists(kProgramFolder));
+}
 
 TEST_F(InstallersWindows, OfferAFolderAndStartMenuEntriesAndTakeTheProgramAwayAgain) {
     HWND window = Open("C:\\test\\vistrel-setup.exe", "Vistrel Setup: Installation Options");

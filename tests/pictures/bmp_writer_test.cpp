@@ -101,6 +101,15 @@ TEST_F(WriterTest, LeavesAFileThatHasTheTemporaryNameAlone) {
     EXPECT_EQ(Files(), 2u);
 }
 
+// As a folder of that name is on Windows: it cannot be opened at all.
+TEST_F(WriterTest, PassesOverATemporaryNameThatCannotBeOpened) {
+    fs::create_symlink(PathOf("none") + "/file", PathOf("~vs00000.tmp"));
+    fs::create_directory(PathOf("~vs00001.tmp"));
+    ASSERT_TRUE(WriteWholeFile(PathOf("a.sys"), Bytes(3, 2)));
+    EXPECT_EQ(ReadWholeFile(PathOf("a.sys")), Bytes(3, 2));
+    EXPECT_EQ(Files(), 3u);
+}
+
 TEST_F(WriterTest, FailsWithoutAFolder) {
     EXPECT_FALSE(WriteWholeFile(PathOf("none/a.sys"), Bytes(3, 2)));
     EXPECT_EQ(Files(), 0u);

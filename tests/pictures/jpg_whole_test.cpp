@@ -234,6 +234,17 @@ TEST(JpgWholeTest, UpsideDownAndOnItsSide) {
     }
 }
 
+TEST(JpgWholeTest, TellsWhetherAPictureIsToBeTurned) {
+    const Bytes file = MakeJpg(MakePicture(40, 30), {});
+    EXPECT_FALSE(IsJpgToBeTurned(file));
+    EXPECT_FALSE(IsJpgToBeTurned({}));
+    for (int orientation = 0; orientation <= 9; ++orientation) {
+        EXPECT_EQ(IsJpgToBeTurned(WithOrientation(file, orientation, true)),
+                  orientation >= 2 && orientation <= 8)
+            << orientation;
+    }
+}
+
 TEST(JpgWholeTest, OrientationsThatAreNoneLeaveThePicture) {
     const Bytes file = MakeJpg(MakePicture(37, 21), {});
     for (const int orientation : {0, 9, 65535}) {
