@@ -114,9 +114,9 @@ void Principale::PutBackWindow() {
 // What a window cannot do before it is shown. One that has the focus while it is hidden counts as
 // active already, and showing it does not bring it to the front.
 void Principale::Form_Activate() {
+    if (std::exchange(hasBeenShown_, true)) return;
     MyList.Focus();
-    // The first time only.
-    if (std::exchange(settings_.windowMaximized, std::int16_t{0})) Maximize(handle());
+    if (settings_.windowMaximized) Maximize(handle());
 }
 
 bool Principale::Form_Unload() {

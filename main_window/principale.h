@@ -158,6 +158,7 @@ class Principale : public Window, public MainWindow {
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;
+    bool hasBeenShown_ = false;
     std::string currentPicture_;
     std::string oldName_;
     Point lastMouseDown_;

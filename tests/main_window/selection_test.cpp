@@ -94,6 +94,13 @@ TEST_F(Selection, OfTheSameSetByAnotherClickShowsItsScreensAnew) {
         EXPECT_EQ(MiddleOf(main.Imag[0]), kRed);
         user::ClickAt(PointOfSet(main, "Red"));
         EXPECT_TRUE(WaitUntil([&] { return MiddleOf(main.Imag[0]) == kGreenScreen; }));
+    });
+}
+
+// A second left click would begin to edit the label, where the right button has another menu.
+TEST_F(Selection, OfTheSameSetByTheRightButtonShowsItsScreensAnew) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
         DeleteFileA((logos + "Red\\LOGO.SYS").c_str());
         user::RightClickAt(PointOfSet(main, "Red"));
         EXPECT_NE(user::WaitForPopUp(), nullptr);
