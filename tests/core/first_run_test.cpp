@@ -92,9 +92,9 @@ TEST_F(FirstRunTest, AKnownSetMakesNoFirstRun) {
 
 TEST_F(FirstRunTest, AStepThatFailsIsPassedOver) {
     Settings settings;
-    // Reading the values: 14 keys that do not open. Then the question for the folder, making it and
+    // Reading the values: 20 keys that do not open. Then the question for the folder, making it and
     // three copies.
-    const int reading = 14;
+    const int reading = 20;
     WithEachOperationFailing(
         [&] {
             RemoveTree(program);

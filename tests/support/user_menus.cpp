@@ -38,6 +38,18 @@ int MarkedItem(HMENU menu) {
     return -1;
 }
 
+BOOL CALLBACK CountPopUp(HWND window, LPARAM count) {
+    if (IsWindowVisible(window) && ClassOf(window) == "#32768") ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+/// How many pop-up menus are open, one out of the other.
+int OpenPopUps() {
+    int count = 0;
+    EnumWindows(CountPopUp, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
 /// Presses a key and looks at what comes of it; presses it again when nothing does.
 template <typename Condition>
 bool PressUntil(WORD key, Condition condition) {
@@ -47,6 +59,12 @@ bool PressUntil(WORD key, Condition condition) {
         if (WaitUntil(condition, 3000)) return true;
     }
     return false;
+}
+
+/// Opens the pop-up of the marked item. A menu keeps its mark while it is closed.
+bool OpenInner(HMENU inner, WORD key) {
+    const int open = OpenPopUps();
+    return PressUntil(key, [&] { return OpenPopUps() > open && MarkedItem(inner) >= 0; });
 }
 
 /// Marks an item of an open menu by going from one to the next.
@@ -63,12 +81,9 @@ bool GoTo(const Step& step, WORD key) {
 /// Goes the rest of the way in an open pop-up.
 bool WalkDown(MenuPath::const_iterator step, MenuPath::const_iterator end) {
     for (; step + 1 != end; ++step) {
-        const HMENU inner = (step + 1)->menu;
-        if (!GoTo(*step, VK_DOWN) || !PressUntil(VK_RIGHT, [&] { return MarkedItem(inner) >= 0; }))
-            return false;
+        if (!GoTo(*step, VK_DOWN) || !OpenInner((step + 1)->menu, VK_RIGHT)) return false;
     }
-    return GoTo(*step, VK_DOWN) &&
-           PressUntil(VK_RETURN, [&] { return MarkedItem(step->menu) != step->position; });
+    return GoTo(*step, VK_DOWN) && PressUntil(VK_RETURN, [] { return OpenPopUps() == 0; });
 }
 
 BOOL CALLBACK CollectChild(HWND window, LPARAM children) {
@@ -133,8 +148,7 @@ bool ChooseFromMenuBar(HWND window, unsigned command) {
     const HMENU bar = GetMenu(window);
     if (!FindCommand(bar, command, &path)) return false;
     return PressUntil(VK_F10, [&] { return MarkedItem(bar) >= 0; }) && GoTo(path[0], VK_RIGHT) &&
-           PressUntil(VK_DOWN, [&] { return MarkedItem(path[1].menu) >= 0; }) &&
-           WalkDown(path.begin() + 1, path.end());
+           OpenInner(path[1].menu, VK_DOWN) && WalkDown(path.begin() + 1, path.end());
 }
 
 HMENU WaitForPopUp() {
