@@ -113,7 +113,8 @@ TEST_F(Appearance, TheVerdictsColorCanBeReadOnItsGround) {
             RECT r{};
             GetWindowRect(label, &r);
             const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
-            // No ground does better for the green: black gives it 4.09, and yellow wants a dark one.
+            // No ground does better for the green: black gives it 4.09, and yellow wants a dark
+            // one.
             EXPECT_GE(Contrast(static_cast<COLORREF>(color), ground), 4.0) << color;
         };
         expectLegible(255);
@@ -168,8 +169,7 @@ TEST_F(Appearance, TheHourglassShowsWhileTheBrowserWorks) {
         EXPECT_TRUE(hourglassDuring([&] { ChooseSet(editor, "Red"); }));
         // While the shell asks, the deletion goes on.
         main.Preferences().deleteInTheRecycleBin = 1;
-        EXPECT_TRUE(
-            hourglassDuring([&] { RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES); }));
+        EXPECT_TRUE(hourglassDuring([&] { RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES); }));
     });
 }
 
@@ -179,8 +179,8 @@ TEST_F(Appearance, TheRoomOfALargeScreenGoesToThePictures) {
         Settle(editor);
         const Size client = editor.ClientSize();
         int pictures = 0;
-        for (const PictureBox* box : {&editor.CurView, &editor.ImgPreview[0],
-                                      &editor.ImgPreview[1], &editor.ImgPreview[2]})
+        for (const PictureBox* box :
+             {&editor.CurView, &editor.ImgPreview[0], &editor.ImgPreview[1], &editor.ImgPreview[2]})
             pictures += box->Bounds().width * box->Bounds().height;
         EXPECT_GE(pictures, client.width * client.height * 9 / 20);
     });
