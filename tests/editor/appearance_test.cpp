@@ -112,10 +112,12 @@ TEST_F(Appearance, TheVerdictsColorCanBeReadOnItsGround) {
             EXPECT_TRUE(seen::ShowsColor(label, static_cast<COLORREF>(color))) << color;
             RECT r{};
             GetWindowRect(label, &r);
-            const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
             // No ground does better for the green: black gives it 4.09, and yellow wants a dark
-            // one.
-            EXPECT_GE(Contrast(static_cast<COLORREF>(color), ground), 4.0) << color;
+            // one. What is painted reaches the screen a moment later.
+            EXPECT_TRUE(WaitUntil([&] {
+                const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
+                return Contrast(static_cast<COLORREF>(color), ground) >= 4.0;
+            })) << color;
         };
         expectLegible(255);
         Pick(editor, "ready.sys");
