@@ -112,11 +112,10 @@ TEST_F(Appearance, TheVerdictsColorCanBeReadOnItsGround) {
             EXPECT_TRUE(seen::ShowsColor(label, static_cast<COLORREF>(color))) << color;
             RECT r{};
             GetWindowRect(label, &r);
-            // No ground does better for the green: black gives it 4.09, and yellow wants a dark
-            // one. What is painted reaches the screen a moment later.
+            // What is painted reaches the screen a moment later.
             EXPECT_TRUE(WaitUntil([&] {
                 const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
-                return Contrast(static_cast<COLORREF>(color), ground) >= 4.0;
+                return Contrast(static_cast<COLORREF>(color), ground) >= 4.5;
             })) << color;
         };
         expectLegible(255);
