@@ -60,7 +60,8 @@ void SelPictureForm::Form_Resize(Size client) {
     PlacePreview({preview, gap, columns.preview, height});
     PlaceTypeAndName({preview, gap, columns.preview, height});
     PlaceSlots({slots, gap, client.width - gap - slots, height}, columns);
-    LblWritten.MoveTo({gap, client.height - gap + 2 - line, client.width - 2 * gap, line});
+    // Along the window's edge, as a status bar.
+    LblWritten.MoveTo({2, client.height - line - 2, client.width - 4, line});
     RedrawPictures();
     // Controls that were moved over each other have copied what stood there.
     RepaintAll();

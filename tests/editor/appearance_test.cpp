@@ -79,6 +79,15 @@ TEST_F(Appearance, MenusAndButtonsShowWhatIsPossible) {
     });
 }
 
+TEST_F(Appearance, EmptySlotsSaySoFromTheBeginning) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
+        for (const PictureBox& slot : editor.ImgPreview)
+            EXPECT_TRUE(seen::ShowsColor(slot.handle(), grey));
+        EXPECT_TRUE(seen::ShowsColor(editor.CurView.handle(), grey));
+    });
+}
+
 TEST_F(Appearance, TipsNameTheSlots) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         const char* tips[] = {"LOGO.SYS: startup screen", "LOGOW.SYS: wait screen",
@@ -136,11 +145,15 @@ TEST_F(Appearance, ThePointerShowsWhatIsDragged) {
         for (const POINT from :
              {user::CentreOf(editor.CurView.handle()), PointOfItem(editor, "new.sys")}) {
             EXPECT_NE(seen::Pointer(), dragIcon);
-            user::MoveTo(from);
-            mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-            for (int step = 4; step <= 40; step += 4) user::MoveTo({from.x + step, from.y + step});
-            Await([&] { return seen::Pointer() == dragIcon; }, "drag icon");
-            mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+            std::atomic<bool> shown = false;
+            std::atomic<bool> done = false;
+            user::Meanwhile watching([&] {
+                while (!done && !shown) shown = seen::Pointer() == dragIcon;
+            });
+            user::Drag(from, {from.x + 40, from.y + 40});
+            done = true;
+            watching.Finish();
+            EXPECT_TRUE(shown);
             Await([&] { return seen::Pointer() != dragIcon; }, "arrow again");
         }
     });
