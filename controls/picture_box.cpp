@@ -81,7 +81,7 @@ void PictureBox::SetTag(const std::string& tag) {
 void PictureBox::FindWhyEmpty() {
     const std::string path = Tag();
     if (path.empty())
-        whyEmpty_ = "no picture";
+        whyEmpty_ = kNoPicture;
     else
         whyEmpty_ = FileAttributes(path) ? "cannot be read as a picture" : "no file";
 }

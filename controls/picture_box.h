@@ -57,8 +57,10 @@ class PictureBox : public Control {
     void PaintEmpty(DeviceContext target) const;
     void FindWhyEmpty();
 
+    static constexpr const char* kNoPicture = "no picture";
+
     bool hasPicture_ = false;
-    const char* whyEmpty_ = "";
+    const char* whyEmpty_ = kNoPicture;
     bool tabStop_ = false;    ///< its template lets Tab stop here
     bool spaceDown_ = false;  ///< and not up again, with the focus here all the time
     DeviceContext canvas_ = nullptr;

@@ -40,7 +40,9 @@ struct WindowProcedure {
     static INT_PTR CALLBACK Run(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
         if (message == WM_INITDIALOG) {
             SetWindowLongPtrA(handle, DWLP_USER, lParam);
-            return TRUE;
+            // The program's first window takes the focus when it is shown. Given it now, while the
+            // program is not in front, it would count as active and keep an inactive title.
+            return GetWindow(handle, GW_OWNER) != nullptr;
         }
         auto* window = reinterpret_cast<Window*>(GetWindowLongPtrA(handle, DWLP_USER));
         if (!window || window->handle_ != handle) return FALSE;

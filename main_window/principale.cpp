@@ -111,8 +111,7 @@ void Principale::PutBackWindow() {
         FitInto(WorkArea());
 }
 
-// What a window cannot do before it is shown. One that has the focus while it is hidden counts as
-// active already, and showing it does not bring it to the front.
+// Neither the focus nor the whole screen is for a window that is not shown yet.
 void Principale::Form_Activate() {
     if (std::exchange(hasBeenShown_, true)) return;
     MyList.Focus();
