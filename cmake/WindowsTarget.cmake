@@ -13,7 +13,9 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # The same bytes wherever the tree lies.
     add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
     # Debian's own run-time libraries need a Pentium Pro; packaging/build_p5_runtime makes others.
-    set(VISTREL_RUNTIME_DIR "" CACHE PATH "Folder of run-time libraries for a Pentium")
+    # The linker puts imports into the order of the libraries' paths: for the same bytes everywhere this
+    # one is relative to the folder in which it links, the build folder.
+    set(VISTREL_RUNTIME_DIR "" CACHE STRING "Folder of run-time libraries for a Pentium")
     if(VISTREL_RUNTIME_DIR)
         add_link_options(-B${VISTREL_RUNTIME_DIR}/ -L${VISTREL_RUNTIME_DIR})
     endif()

@@ -1,7 +1,7 @@
-// Stands in for five functions that the compiler's run-time library asks of the system and that
-// Windows 95 and 98 do not have, or have only as a stub that fails. The linker looks for a
-// function's import pointer (__imp_...) in our objects before it looks into the import libraries;
-// so with these pointers defined here the program imports none of the five.
+// Stands in for functions that the compiler's run-time library asks of the system and that Windows
+// 95 and 98 do not have, or have only as a stub that fails. The linker looks for a function's
+// import pointer (__imp_...) in our objects before it looks into the import libraries; so with
+// these pointers defined here the program imports none of them.
 #include <sys/stat.h>
 #include <windows.h>
 
@@ -67,6 +67,16 @@ FILE* __cdecl OpenByWideName(const wchar_t* wideName, const wchar_t* wideMode) {
     return name.OrNull() && mode.OrNull() ? std::fopen(name.OrNull(), mode.OrNull()) : nullptr;
 }
 
+// What the locks of newer libraries ask for. The program has one thread and starts no other: nobody
+// else is in a section, there is nobody to wait for or to wake, and a thread's number is not asked.
+BOOL WINAPI EnterAsNobodyElseIsThere(CRITICAL_SECTION* section) {
+    EnterCriticalSection(section);
+    return TRUE;
+}
+DWORD WINAPI NoThreadNumber(HANDLE) { return 0; }
+void WINAPI NobodyWaits(void*) {}
+BOOL WINAPI WaitForNobody(void*, CRITICAL_SECTION*, DWORD) { return TRUE; }
+
 }  // namespace
 
 #define VISTREL_IMPORT_POINTER(variable, importName, function)            \
@@ -80,3 +90,11 @@ VISTREL_IMPORT_POINTER(getModuleHandlePointer, "__imp__GetModuleHandleW@4", Modu
 VISTREL_IMPORT_POINTER(loadLibraryPointer, "__imp__LoadLibraryW@4", LibraryByWideName)
 VISTREL_IMPORT_POINTER(fstatPointer, "__imp___fstat64", StatWithLongTimes)
 VISTREL_IMPORT_POINTER(wfopenPointer, "__imp___wfopen", OpenByWideName)
+VISTREL_IMPORT_POINTER(tryEnterPointer, "__imp__TryEnterCriticalSection@4",
+                       EnterAsNobodyElseIsThere)
+VISTREL_IMPORT_POINTER(getThreadIdPointer, "__imp__GetThreadId@4", NoThreadNumber)
+VISTREL_IMPORT_POINTER(initializeConditionPointer, "__imp__InitializeConditionVariable@4",
+                       NobodyWaits)
+VISTREL_IMPORT_POINTER(wakePointer, "__imp__WakeConditionVariable@4", NobodyWaits)
+VISTREL_IMPORT_POINTER(wakeAllPointer, "__imp__WakeAllConditionVariable@4", NobodyWaits)
+VISTREL_IMPORT_POINTER(sleepConditionPointer, "__imp__SleepConditionVariableCS@12", WaitForNobody)
