@@ -1,5 +1,5 @@
-// A picture box with the keyboard: Space is the left button, the context-menu key the right one, and
-// a dotted frame shows that the keys go here.
+// A picture box with the keyboard: Space is the left button, the context-menu key the right one,
+// and a dotted frame shows that the keys go here.
 #include <windows.h>
 
 #include "controls/picture_box.h"
@@ -52,7 +52,8 @@ bool PictureBox::OnKeyboard(unsigned message, std::uintptr_t key) {
             spaceDown_ = key == VK_SPACE;
             return false;
         case WM_KEYUP: {
-            // A key that went down in a window in front, which it has closed, is not meant for here.
+            // A key that went down in a window in front, which it has closed, is not meant for
+            // here.
             const bool pressed = spaceDown_ && key == VK_SPACE;
             spaceDown_ = false;
             if (pressed && MouseUp) MouseUp(kLeftButton, middle);

@@ -215,12 +215,12 @@ class SelPictureForm : public Window {
     MenuHandle menus_ = nullptr;
     IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
-    Size smallest_;         ///< of the whole window: what fits a screen of 640 x 480
-    Point pressedAt_;       ///< where the left button went down over CurView
-    std::string oldName_;   ///< of the item whose label is edited
+    Size smallest_;                ///< of the whole window: what fits a screen of 640 x 480
+    Point pressedAt_;              ///< where the left button went down over CurView
+    std::string oldName_;          ///< of the item whose label is edited
     std::string setsOwnTag_[3];    ///< of slots 1 and 2 while they show the shared screens
     std::string shownLogoFolder_;  ///< whose sets the session is about
-    std::string lastRead_;  ///< the last text that a save command read from a control
+    std::string lastRead_;         ///< the last text that a save command read from a control
 };
 
 }  // namespace vistrel

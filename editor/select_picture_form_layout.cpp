@@ -85,9 +85,9 @@ SelPictureForm::Columns SelPictureForm::ColumnsFor(int width, int height) const 
         slots = columns.slot + gap + caption.width;
     }
     const int previewHeight = height - RoomAbovePreview() - RoomBelowPreview();
-    columns.preview = std::min(ScreenWidth(previewHeight),
-                               columns.captionsBeneath ? width - leastList - slots
-                                                       : 2 * columns.slot);
+    columns.preview =
+        std::min(ScreenWidth(previewHeight),
+                 columns.captionsBeneath ? width - leastList - slots : 2 * columns.slot);
     columns.list = width - slots - columns.preview;
     return columns;
 }

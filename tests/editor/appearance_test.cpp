@@ -112,8 +112,11 @@ TEST_F(Appearance, TheVerdictsColorCanBeReadOnItsGround) {
             EXPECT_TRUE(seen::ShowsColor(label, static_cast<COLORREF>(color))) << color;
             RECT r{};
             GetWindowRect(label, &r);
-            const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
-            EXPECT_GE(Contrast(static_cast<COLORREF>(color), ground), 4.5) << color;
+            // What is painted reaches the screen a moment later.
+            EXPECT_TRUE(WaitUntil([&] {
+                const COLORREF ground = seen::PixelAt({r.left + 4, r.top + 4});
+                return Contrast(static_cast<COLORREF>(color), ground) >= 4.5;
+            })) << color;
         };
         expectLegible(255);
         Pick(editor, "ready.sys");
@@ -167,8 +170,7 @@ TEST_F(Appearance, TheHourglassShowsWhileTheBrowserWorks) {
         EXPECT_TRUE(hourglassDuring([&] { ChooseSet(editor, "Red"); }));
         // While the shell asks, the deletion goes on.
         main.Preferences().deleteInTheRecycleBin = 1;
-        EXPECT_TRUE(
-            hourglassDuring([&] { RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES); }));
+        EXPECT_TRUE(hourglassDuring([&] { RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES); }));
     });
 }
 
@@ -178,8 +180,8 @@ TEST_F(Appearance, TheRoomOfALargeScreenGoesToThePictures) {
         Settle(editor);
         const Size client = editor.ClientSize();
         int pictures = 0;
-        for (const PictureBox* box : {&editor.CurView, &editor.ImgPreview[0],
-                                      &editor.ImgPreview[1], &editor.ImgPreview[2]})
+        for (const PictureBox* box :
+             {&editor.CurView, &editor.ImgPreview[0], &editor.ImgPreview[1], &editor.ImgPreview[2]})
             pictures += box->Bounds().width * box->Bounds().height;
         EXPECT_GE(pictures, client.width * client.height * 9 / 20);
     });

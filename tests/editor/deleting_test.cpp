@@ -7,12 +7,6 @@ namespace {
 using Deleting = LogoBrowser;
 using Names = std::vector<std::string>;
 
-/// Whether the shell's question is about its bin, from which things come back.
-bool OffersTheBin(const std::string& question) {
-    return question.find("Trash") != std::string::npos ||
-           question.find("Recycle") != std::string::npos;
-}
-
 TEST_F(Deleting, AsksBeforeASetIsDeletedAndDoesNothingOnNo) {
     WithEditor([&](Principale& main, SelPictureForm& editor) {
         main.Preferences().confirmLogosetDelete = 1;
@@ -36,7 +30,9 @@ TEST_F(Deleting, DeletesASetForGoodAndForgetsIt) {
         main.Preferences().confirmLogosetDelete = 1;
         main.Preferences().deleteInTheRecycleBin = 0;
         ChooseSet(editor, "Blue");
+        const Names before = InTheBin();
         RunAndAnswer(editor, ID_EliminaSetBtn, IDYES);
+        EXPECT_EQ(InTheBin(), before);
         EXPECT_FALSE(Exists(logos + "Blue"));
         EXPECT_EQ(main.CurrentSet(), "<Don't know>");  // it was the installed one
         EXPECT_EQ(editor.NameLogoSet.Count(), 2);
@@ -81,7 +77,9 @@ TEST_F(Deleting, MovesASetIntoTheRecycleBinWhenTheShellMay) {
         main.Preferences().confirmLogosetDelete = 0;
         main.Preferences().deleteInTheRecycleBin = 1;
         ChooseSet(editor, "Red");
-        EXPECT_TRUE(OffersTheBin(RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES)));
+        const std::size_t before = InTheBin().size();
+        RunAndAnswerShell(editor, ID_EliminaSetBtn, IDYES);
+        EXPECT_EQ(InTheBin().size(), before + 3);
         EXPECT_FALSE(Exists(logos + "Red"));
         EXPECT_EQ(editor.NameLogoSet.FindItem("Red"), -1);
     });
@@ -153,7 +151,9 @@ TEST_F(Deleting, DeletesAFileOfTheBrowserIntoTheRecycleBin) {
     Put(pictures + "b.sys", "");
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "a.sys");
-        EXPECT_TRUE(OffersTheBin(RunAndAnswerShell(editor, ID_BrowserDelete, IDYES)));
+        const std::size_t before = InTheBin().size();
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(InTheBin().size(), before + 1);
         EXPECT_EQ(Listed(editor), (Names{"..", "b.sys"}));
         EXPECT_FALSE(Exists(pictures + "a.sys"));
         Pick(editor, "b.sys");

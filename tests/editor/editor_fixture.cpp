@@ -17,6 +17,14 @@ void Append(std::string& file, long number, int bytes) {
     for (int i = 0; i < bytes; ++i) file += static_cast<char>(number >> (8 * i) & 0xFF);
 }
 
+/// Where Wine keeps the recycle bin, if there is such a folder when it is used first.
+std::string BinFolder() {
+    char home[MAX_PATH] = "";
+    GetEnvironmentVariableA("WINEHOMEDIR", home, sizeof home);
+    // It begins with "\\??\\".
+    return std::string(home).substr(4) + "\\.local\\share\\";
+}
+
 }  // namespace
 
 RgbPicture TestPicture(int width, int height) {
@@ -61,6 +69,7 @@ std::string BmpOf(const RgbPicture& picture) {
 }
 
 LogoBrowser::LogoBrowser() {
+    MakeFolders(BinFolder());
     MakeFolders(pictures);
     Store("SearchLogoPath", TextValue(pictures));
     // Questions are asked by those tests that are about them.
@@ -204,19 +213,17 @@ void LogoBrowser::Fill(SelPictureForm& editor, const std::string& name, int slot
     Press(editor.AddButton[slot]);
 }
 
-std::string LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
+void LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
     PostMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
     const HWND question = user::WaitForTop("#32770");
     EXPECT_NE(question, nullptr);
-    std::string text;
-    for (HWND part = GetWindow(question, GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT))
-        text += user::TextOf(part) + '\n';
     user::Activate(question);
     EXPECT_TRUE(user::Click(GetDlgItem(question, answer)));
     EXPECT_TRUE(user::WaitUntilGone(question));
     Settle(editor);
-    return text;
 }
+
+std::vector<std::string> LogoBrowser::InTheBin() { return NamesIn(BinFolder() + "Trash\\files\\"); }
 
 void LogoBrowser::DismissMenu() {
     user::Press(VK_ESCAPE);

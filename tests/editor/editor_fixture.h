@@ -68,9 +68,11 @@ class LogoBrowser : public MainWindow98 {
     static void DismissMenu();
     /// Opens the Action menu, closes it again and returns it, to be read as it was.
     static HMENU ActionMenu(SelPictureForm& editor);
-    /// Runs a command that deletes into the recycle bin and answers the shell's own question,
-    /// whose text it returns.
-    static std::string RunAndAnswerShell(SelPictureForm& editor, int command, int answer);
+    /// Runs a command that deletes into the recycle bin and answers the shell's own question.
+    static void RunAndAnswerShell(SelPictureForm& editor, int command, int answer);
+
+    /// The names of what lies in the recycle bin.
+    static std::vector<std::string> InTheBin();
 
     /// Puts a picture of the browser into a slot.
     static void Fill(SelPictureForm& editor, const std::string& name, int slot);

@@ -1,5 +1,5 @@
-// Every command of the Logo browser with each of its operations made to fail in turn: whatever fails,
-// no screen and no picture is lost that the command was not asked to replace or delete.
+// Every command of the Logo browser with each of its operations made to fail in turn: whatever
+// fails, no screen and no picture is lost that the command was not asked to replace or delete.
 #include <windows.h>
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
@@ -107,7 +107,8 @@ class Faults : public LogoBrowser {
             }
             EXPECT_TRUE(editor.IsOpen());
         };
-        WithEachOperationFailing(start, [&] { Answering(command); }, check);
+        WithEachOperationFailing(
+            start, [&] { Answering(command); }, check);
     }
 
     static bool MayChange(const std::string& path, const std::vector<std::string>& changeable) {

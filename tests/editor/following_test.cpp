@@ -1,5 +1,5 @@
-// What a session of the Logo browser names by path or by set when that is renamed or deleted: slots,
-// preview, the browsed folder, the names of sets.
+// What a session of the Logo browser names by path or by set when that is renamed or deleted:
+// slots, preview, the browsed folder, the names of sets.
 #include <windows.h>
 // commctrl.h needs windows.h first.
 #include <commctrl.h>

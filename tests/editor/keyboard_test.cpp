@@ -183,6 +183,7 @@ TEST_F(Keyboard, SpaceAndTheMenuKeyAreThePicturesButtons) {
             EXPECT_TRUE(ViewOpensAndCloses(VK_SPACE));
             Settle(editor);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);  // the key that closed it opens none
+            Await([&] { return FocusIn(editor) == box->handle(); }, "focus back");
             user::Press(VK_APPS);
             const HMENU menu = user::WaitForPopUp();
             EXPECT_EQ(menu, main.OpenWithMenu());

@@ -52,8 +52,8 @@ TEST_F(Slots, ThatNameAMissingFileEndTheUpdate) {
         DeleteFileA((logos + "LOGOS.SYS").c_str());
         Press(editor.OptDefShut);
         const user::Box shared = PressAndAnswer(editor.ActButton, IDOK);
-        EXPECT_EQ(shared.text, "A directory named " + logos +
-                                   "LOGOS.SYS already exist or bad directory name!");
+        EXPECT_EQ(shared.text,
+                  "A directory named " + logos + "LOGOS.SYS already exist or bad directory name!");
     });
 }
 

@@ -50,7 +50,7 @@ bool IsPopup(const ReadTopic& topic) { return topic.band.empty(); }
 const std::set<std::uint32_t> kTopicNumbers = {30, 90, 91};
 const std::set<std::uint32_t> kPopupNumbers = {32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44,
                                                54, 55, 60, 61, 62, 63, 64, 65, 66, 67, 68, 69, 70,
-                                               71, 72, 73, 74, 75, 80, 81, 82, 83, 84, 85, 86, 87};
+                                               71, 72, 73, 74, 75, 76, 84, 85, 86};
 
 // Every number that context_numbers.h gives to something: those behind a '='.
 std::set<std::uint32_t> NumbersOfTheProgram() {

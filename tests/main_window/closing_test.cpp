@@ -64,9 +64,9 @@ TEST_F(Closing, OfTheWindowBehindAModalOneIsPassedOver) {
         PostMessageA(main.handle(), WM_CLOSE, 0, 0);
         // What is seen of the next message tells that this one has been dealt with.
         StartCommand(main, ID_ToolReportView);
-        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
+        ASSERT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
         EXPECT_TRUE(IsWindowVisible(about));
-        EXPECT_TRUE(IsWindowVisible(main.handle()));
+        ASSERT_TRUE(IsWindowVisible(main.handle()));
         user::Press(VK_ESCAPE);
         EXPECT_TRUE(user::WaitUntilGone(about));
         ClickSet(main, "Red");

@@ -238,7 +238,11 @@ TEST_F(InstalledView, LeavesTheBoxesEmptyAfterwardsWhereNothingWasSelected) {
 
 TEST_F(InstalledView, KeepsTheStateOfTheSetToolsWhichThenDoNothing) {
     WithMainWindow([&](Principale& main) {
-        ClickSet(main, "Red");
+        // By a key: the release of a click, where it came late, would look at the tools anew.
+        main.MyList.Focus();
+        user::Press(VK_END);
+        EXPECT_TRUE(WaitUntil([&] { return Selected(main) == "Red"; }));
+        Settle(main);
         Command(main, ID_ToolShowCurrent);
         EXPECT_TRUE(SetToolsEnabled(main));
         for (const int id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault}) Command(main, id);

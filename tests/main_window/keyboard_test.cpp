@@ -42,6 +42,7 @@ TEST_F(Keyboard, TabReachesTheScreensWhereSpaceAndTheMenuKeyAreTheButtons) {
             EXPECT_TRUE(user::WaitUntilGone(view));
             Settle(main);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);
+            EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == box.handle(); }));
             user::Press(VK_APPS);
             EXPECT_EQ(user::WaitForPopUp(), main.OpenWithMenu());
             user::Press(VK_ESCAPE);

@@ -104,6 +104,24 @@ void MainWindow98::PutSingleSet(const std::string& name, unsigned char red, unsi
     Put(logos + name + "\\LOGO.SYS", ScreenFile(red, green, blue));
 }
 
+namespace {
+
+/// Closes what a test that failed has left open in front of the main window, which would not close
+/// behind it.
+void CloseWhatIsInFrontOf(HWND main) {
+    WaitUntil(
+        [&] {
+            if (!IsWindow(main) || IsWindowEnabled(main)) return true;
+            const HWND front = GetLastActivePopup(main);
+            PostMessageA(front, WM_COMMAND, IDNO, 0);  // a question
+            PostMessageA(front, WM_CLOSE, 0, 0);
+            return false;
+        },
+        5000);
+}
+
+}  // namespace
+
 void MainWindow98::WithMainWindow(const std::function<void(Principale&)>& user) {
     OleInitialize(nullptr);
     {
@@ -113,8 +131,10 @@ void MainWindow98::WithMainWindow(const std::function<void(Principale&)>& user) 
         main.Show();
         user::Meanwhile acting([&] {
             user::Activate(main.handle());
+            const HWND window = main.handle();
             user(main);
-            PostMessageA(main.handle(), WM_CLOSE, 0, 0);
+            CloseWhatIsInFrontOf(window);
+            PostMessageA(window, WM_CLOSE, 0, 0);
         });
         RunLoopWhileOpen(main);
         acting.Finish();

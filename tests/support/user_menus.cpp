@@ -31,6 +31,20 @@ bool FindCommand(HMENU menu, unsigned command, MenuPath* path) {
     return false;
 }
 
+/// Takes the marks away that menus have kept from an earlier time, so that the next one is told.
+void ForgetMarks(const MenuPath& path) {
+    for (const Step& step : path) {
+        for (int i = 0; i < GetMenuItemCount(step.menu); ++i) {
+            MENUITEMINFOA item = {};
+            item.cbSize = sizeof item;
+            item.fMask = MIIM_STATE;
+            GetMenuItemInfoA(step.menu, i, TRUE, &item);
+            item.fState &= ~MFS_HILITE;
+            SetMenuItemInfoA(step.menu, i, TRUE, &item);
+        }
+    }
+}
+
 /// The item that a user sees marked, or -1.
 int MarkedItem(HMENU menu) {
     for (int i = IsMenu(menu) ? GetMenuItemCount(menu) - 1 : -1; i >= 0; --i)
@@ -65,6 +79,16 @@ bool PressUntil(WORD key, Condition condition) {
 bool OpenInner(HMENU inner, WORD key) {
     const int open = OpenPopUps();
     return PressUntil(key, [&] { return OpenPopUps() > open && MarkedItem(inner) >= 0; });
+}
+
+/// Leaves all menus. Returns false, as whoever could not choose does.
+bool LeaveMenus() {
+    for (int tries = 5; tries > 0 && OpenPopUps() > 0; --tries) {
+        const int open = OpenPopUps();
+        Press(VK_ESCAPE);
+        WaitUntil([&] { return OpenPopUps() < open; }, 1000);
+    }
+    return false;
 }
 
 /// Marks an item of an open menu by going from one to the next.
@@ -147,8 +171,10 @@ bool ChooseFromMenuBar(HWND window, unsigned command) {
     MenuPath path;
     const HMENU bar = GetMenu(window);
     if (!FindCommand(bar, command, &path)) return false;
-    return PressUntil(VK_F10, [&] { return MarkedItem(bar) >= 0; }) && GoTo(path[0], VK_RIGHT) &&
-           OpenInner(path[1].menu, VK_DOWN) && WalkDown(path.begin() + 1, path.end());
+    ForgetMarks(path);
+    return (PressUntil(VK_F10, [&] { return MarkedItem(bar) >= 0; }) && GoTo(path[0], VK_RIGHT) &&
+            OpenInner(path[1].menu, VK_DOWN) && WalkDown(path.begin() + 1, path.end())) ||
+           LeaveMenus();
 }
 
 HMENU WaitForPopUp() {
@@ -162,11 +188,9 @@ bool ChooseFromPopUp(unsigned command) {
     const HMENU menu = WaitForPopUp();
     MenuPath path;
     if (menu == nullptr) return false;
-    if (!FindCommand(menu, command, &path)) {
-        Press(VK_ESCAPE);
-        return false;
-    }
-    return WalkDown(path.begin(), path.end());
+    if (!FindCommand(menu, command, &path)) return LeaveMenus();
+    ForgetMarks(path);
+    return WalkDown(path.begin(), path.end()) || LeaveMenus();
 }
 
 Box WaitForBox(DWORD process, DWORD milliseconds) {

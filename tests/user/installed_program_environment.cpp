@@ -25,12 +25,14 @@ class ProgramOnTheMachine : public testing::Environment {
     void TearDown() override {
         if (!HasInstaller()) return;
         EXPECT_TRUE(UninstallSilently());
-        // The sets, the screens and the boot configuration file are the user's own.
+        // The sets, the screens and the boot configuration file are the user's own, and so is the
+        // mail program, which a story chooses.
         EXPECT_EQ(NamesIn(kProgramFolder), std::vector<std::string>{"Original Logos"});
         RemoveTree(kProgramFolder);
         std::vector<std::string> ignored = NotOurs();
         ignored.insert(ignored.end(),
-                       {"C:\\Logos\\", "C:\\LOGO.SYS", "C:\\msdos.sys", "C:\\windows\\LOGO"});
+                       {"C:\\Logos\\", "C:\\LOGO.SYS", "C:\\msdos.sys", "C:\\windows\\LOGO",
+                        "HKLM\\Software\\Classes\\mailto\\", "C:\\opening.txt"});
         EXPECT_EQ(Differences(before_, TakeSnapshot(), ignored), std::vector<std::string>{});
     }
 
