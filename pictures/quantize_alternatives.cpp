@@ -12,7 +12,7 @@ Alternatives::Alternatives(const Palette& palette) : changes_(palette.size) {
         changes.color = list.color;
         changes.harmless = list.count == 0 ? UINT32_MAX : std::uint32_t(list.squared[0]) / 4;
         for (int k = 0; k < list.count; ++k) {
-            const Point d = palette.colors[list.color[k]] - palette.colors[i];
+            const ColorPoint d = palette.colors[list.color[k]] - palette.colors[i];
             changes.xy[2 * k] = d.x;
             changes.xy[2 * k + 1] = d.y;
             changes.z[2 * k] = d.z;

@@ -22,7 +22,7 @@ class Alternatives {
     /// The colour that a pixel should have which now has `own` and whose place in the error field
     /// holds `field`: changing a pixel's colour by d changes the sum that is made small by
     /// c * (|d|^2 + 2 d * field), see ErrorField. `own` when no neighbour would make it less.
-    int Better(int own, const Point& field) const;
+    int Better(int own, const ColorPoint& field) const;
 
  private:
     struct alignas(16) Changes {
@@ -40,7 +40,7 @@ class Alternatives {
 // Where the compiler has SSE2, all neighbours are weighed at once; else one after the other, as far
 // as they can matter. The choice is the same. It is made for every pixel several times: inline.
 #ifdef __SSE2__
-inline int Alternatives::Better(int own, const Point& field) const {
+inline int Alternatives::Better(int own, const ColorPoint& field) const {
     static_assert(Neighbors::kMost == 8);
     const Changes& changes = changes_[own];
     const __m128i whole = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&field));
@@ -75,7 +75,7 @@ inline int Alternatives::Better(int own, const Point& field) const {
     return best;
 }
 #else
-inline int Alternatives::Better(int own, const Point& field) const {
+inline int Alternatives::Better(int own, const ColorPoint& field) const {
     const Changes& changes = changes_[own];
     const auto square = [](std::int32_t value) {
         return static_cast<std::uint32_t>(value * value);

@@ -16,8 +16,10 @@ constexpr std::array<int, 3> kGauss = {78, 60, 29};
 constexpr int kDownBits = 12;
 
 #ifdef __SSE2__
-__m128i Load(const Point* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
-void Store(Point* at, __m128i value) { _mm_storeu_si128(reinterpret_cast<__m128i*>(at), value); }
+__m128i Load(const ColorPoint* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
+void Store(ColorPoint* at, __m128i value) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(at), value);
+}
 __m128i Pair(int low, int high) { return _mm_set1_epi32((low & 0xFFFF) | (high << 16)); }
 
 /// (a * low of ab + b * high of ab + c * low of cd + d * high of cd + half) >> bits, eight times.
@@ -63,8 +65,8 @@ ErrorField::ErrorField(int width, int height, int lambda)
     along_.resize(std::size_t(kSide) * stride_);
 }
 
-void ErrorField::Add(int x, int y, const Point& change) {
-    Point* at = &field_[Place(x - kReach, y - kReach)];
+void ErrorField::Add(int x, int y, const ColorPoint& change) {
+    ColorPoint* at = &field_[Place(x - kReach, y - kReach)];
 #ifdef __SSE2__
     const __m128i one = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&change));
     const __m128i twice = _mm_slli_epi16(_mm_unpacklo_epi64(one, one), 1);
@@ -99,11 +101,11 @@ void ErrorField::Add(int x, int y, const Point& change) {
     at->z = static_cast<std::int16_t>(at->z + change.z);
 }
 
-void ErrorField::ClearRow(int y) { std::fill_n(AlongAt(y), width_, Point{}); }
+void ErrorField::ClearRow(int y) { std::fill_n(AlongAt(y), width_, ColorPoint{}); }
 
 void ErrorField::BlurAlong(int y) {
-    const Point* const e = ErrorsAt(y);
-    Point* const result = AlongAt(y);
+    const ColorPoint* const e = ErrorsAt(y);
+    ColorPoint* const result = AlongAt(y);
 #ifdef __SSE2__
     const __m128i outer = Pair(kGauss[2], kGauss[1]);
     const __m128i inner = Pair(kGauss[0], 0);
@@ -118,7 +120,7 @@ void ErrorField::BlurAlong(int y) {
         return static_cast<std::int16_t>((sum + 128) >> 8);
     };
     for (int x = 0; x < width_; ++x) {
-        const Point* const at = e + x;
+        const ColorPoint* const at = e + x;
         result[x] = {blur(at[-2].x + at[2].x, at[-1].x + at[1].x, at->x),
                      blur(at[-2].y + at[2].y, at[-1].y + at[1].y, at->y),
                      blur(at[-2].z + at[2].z, at[-1].z + at[1].z, at->z), 0};
@@ -127,13 +129,13 @@ void ErrorField::BlurAlong(int y) {
 }
 
 void ErrorField::BlurDown(int y) {
-    const Point* const a = AlongAt(y - 2);
-    const Point* const b = AlongAt(y - 1);
-    const Point* const c = AlongAt(y);
-    const Point* const d = AlongAt(y + 1);
-    const Point* const f = AlongAt(y + 2);
-    const Point* const e = ErrorsAt(y);
-    Point* const result = &field_[Place(0, y)];
+    const ColorPoint* const a = AlongAt(y - 2);
+    const ColorPoint* const b = AlongAt(y - 1);
+    const ColorPoint* const c = AlongAt(y);
+    const ColorPoint* const d = AlongAt(y + 1);
+    const ColorPoint* const f = AlongAt(y + 2);
+    const ColorPoint* const e = ErrorsAt(y);
+    ColorPoint* const result = &field_[Place(0, y)];
 #ifdef __SSE2__
     const __m128i outer = Pair(down_[0], down_[1]);
     const __m128i inner = Pair(down_[2], down_[3]);

@@ -18,11 +18,11 @@ class ErrorField {
     /// `lambda` in 1/256, at least 16.
     ErrorField(int width, int height, int lambda);
 
-    const Point& At(int x, int y) const { return field_[Place(x, y)]; }
-    const Point* Row(int y) const { return &field_[Place(0, y)]; }
+    const ColorPoint& At(int x, int y) const { return field_[Place(x, y)]; }
+    const ColorPoint* Row(int y) const { return &field_[Place(0, y)]; }
 
     /// Tells the field that the error at (x, y) has grown by `change`.
-    void Add(int x, int y, const Point& change);
+    void Add(int x, int y, const ColorPoint& change);
 
     /// Computes the field from the errors that `errorsOfRow(y, errors)` writes for each row.
     template <class ErrorsOfRow>
@@ -53,8 +53,10 @@ class ErrorField {
     std::size_t Place(int x, int y) const {
         return std::size_t(y + kReach) * stride_ + kMargin + x;
     }
-    Point* ErrorsAt(int y) { return &errors_[std::size_t(y % kSide) * stride_ + kMargin]; }
-    Point* AlongAt(int y) { return &along_[std::size_t((y + kSide) % kSide) * stride_ + kMargin]; }
+    ColorPoint* ErrorsAt(int y) { return &errors_[std::size_t(y % kSide) * stride_ + kMargin]; }
+    ColorPoint* AlongAt(int y) {
+        return &along_[std::size_t((y + kSide) % kSide) * stride_ + kMargin];
+    }
     void ClearRow(int y);
     void BlurAlong(int y);
     void BlurDown(int y);
@@ -65,9 +67,9 @@ class ErrorField {
     std::int32_t step_;
     std::array<std::int16_t, 4> down_{};  ///< weights of rows at distance 2, 1, 0 and of the error
     std::array<std::array<std::int16_t, 24>, kSide> spread_{};  ///< of a change, four to a point
-    std::vector<Point> field_;
-    std::vector<Point> errors_;  ///< the last rows of errors
-    std::vector<Point> along_;   ///< and the same, blurred along the row
+    std::vector<ColorPoint> field_;
+    std::vector<ColorPoint> errors_;  ///< the last rows of errors
+    std::vector<ColorPoint> along_;   ///< and the same, blurred along the row
 };
 
 }  // namespace vistrel

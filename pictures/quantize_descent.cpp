@@ -39,7 +39,7 @@ class Descent {
 };
 
 void Descent::FillField() {
-    field_.Fill([this](int y, Point* errors) {
+    field_.Fill([this](int y, ColorPoint* errors) {
         const std::uint8_t* rgb = rgb_ + std::size_t(y) * width_ * 3;
         const std::uint8_t* indices = indices_ + std::size_t(y) * width_;
         for (int x = 0; x < width_; ++x, rgb += 3) {
@@ -52,7 +52,7 @@ void Descent::ChooseIndices() {
     const Alternatives alternatives(palette_);
     std::uint8_t* index = indices_;
     for (int y = 0; y < height_; ++y) {
-        const Point* const row = field_.Row(y);
+        const ColorPoint* const row = field_.Row(y);
         for (int x = 0; x < width_; ++x, ++index) {
             const int better = alternatives.Better(*index, row[x]);
             if (better == *index) continue;
@@ -69,7 +69,7 @@ void Descent::MoveColors() {
     std::array<Sum, kMostColors> sums{};
     const std::uint8_t* index = indices_;
     for (int y = 0; y < height_; ++y) {
-        const Point* const row = field_.Row(y);
+        const ColorPoint* const row = field_.Row(y);
         for (int x = 0; x < width_; ++x) {
             Sum& sum = sums[*index++];
             ++sum.pixels;
@@ -79,7 +79,7 @@ void Descent::MoveColors() {
         }
     }
     // White has the largest coordinates of all colours, black is the origin.
-    const Point white = space_.FromRgb(255, 255, 255);
+    const ColorPoint white = space_.FromRgb(255, 255, 255);
     for (int i = 0; i < palette_.size; ++i) {
         const Sum& sum = sums[i];
         if (sum.pixels == 0) continue;
@@ -87,7 +87,7 @@ void Descent::MoveColors() {
             const std::int64_t step = total * field_.step() / (sum.pixels * 65536);
             return static_cast<std::int16_t>(std::clamp<std::int64_t>(from - step, 0, most));
         };
-        Point& color = palette_.colors[i];
+        ColorPoint& color = palette_.colors[i];
         color = {moved(color.x, sum.x, white.x), moved(color.y, sum.y, white.y),
                  moved(color.z, sum.z, white.z), 0};
     }

@@ -15,7 +15,7 @@ struct Cell {
     std::uint32_t red = 0;  ///< sum over the pixels; green and blue likewise
     std::uint32_t green = 0;
     std::uint32_t blue = 0;
-    Point mean;               ///< see SetMeans
+    ColorPoint mean;          ///< see SetMeans
     std::uint16_t color = 0;  ///< the palette entry that stands for the cell
 };
 

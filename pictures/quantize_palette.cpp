@@ -38,10 +38,10 @@ NeighborTable::NeighborTable(const Palette& palette) : table_(palette.size) {
         return first != second ? first < second : a < b;
     });
     for (int place = 0; place < palette.size; ++place) {
-        const Point& from = palette.colors[order[place]];
+        const ColorPoint& from = palette.colors[order[place]];
         Neighbors& list = table_[order[place]];
         const auto visit = [&](int at) {
-            const Point& to = palette.colors[order[at]];
+            const ColorPoint& to = palette.colors[order[at]];
             const std::int32_t distance = to.y - from.y;
             if (list.count == Neighbors::kMost &&
                 distance * distance >= list.squared[Neighbors::kMost - 1]) {
@@ -67,7 +67,7 @@ NeighborTable::NeighborTable(const Palette& palette) : table_(palette.size) {
     }
 }
 
-int NeighborTable::Nearest(const Palette& palette, const Point& point, int start) const {
+int NeighborTable::Nearest(const Palette& palette, const ColorPoint& point, int start) const {
     int best = start;
     const std::int32_t own = SquaredDistance(palette.colors[start], point);
     std::int32_t least = own;

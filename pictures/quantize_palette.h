@@ -12,7 +12,7 @@ namespace vistrel {
 inline constexpr int kMostColors = 256;
 
 struct Palette {
-    std::array<Point, kMostColors> colors{};
+    std::array<ColorPoint, kMostColors> colors{};
     int size = 0;
 };
 
@@ -34,7 +34,7 @@ class NeighborTable {
 
     /// The palette entry nearest to `point` among `start` and its neighbours. `start` itself wins a
     /// tie, then the neighbour that is nearer to it.
-    int Nearest(const Palette& palette, const Point& point, int start) const;
+    int Nearest(const Palette& palette, const ColorPoint& point, int start) const;
 
  private:
     std::vector<Neighbors> table_;

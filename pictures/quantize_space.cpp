@@ -50,13 +50,13 @@ WorkingSpace::WorkingSpace(const DistanceWeights& weights) {
     for (int level = 0; level < 256; ++level) {
         for (int channel = 0; channel < 3; ++channel) {
             parts_[channel][level] = std::bit_cast<std::uint64_t>(
-                Point{Times(matrix_[0][channel], level), Times(matrix_[1][channel], level),
-                      Times(matrix_[2][channel], level), 0});
+                ColorPoint{Times(matrix_[0][channel], level), Times(matrix_[1][channel], level),
+                           Times(matrix_[2][channel], level), 0});
         }
     }
 }
 
-Rgb WorkingSpace::ToRgb(const Point& point) const {
+Rgb WorkingSpace::ToRgb(const ColorPoint& point) const {
     const std::int32_t blue = Divide(point.z, matrix_[2][2]);
     const std::int64_t yRest = point.y - ((std::int64_t{matrix_[1][2]} * blue) >> kBits);
     const std::int32_t green = Divide(yRest, matrix_[1][1]);

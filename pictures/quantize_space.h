@@ -9,7 +9,7 @@ namespace vistrel {
 
 /// A colour or a difference of colours in the working space, in sixteenths of a level. `w` is 0: it
 /// is there so that a point has the size of a machine word.
-struct alignas(8) Point {
+struct alignas(8) ColorPoint {
     std::int16_t x = 0;
     std::int16_t y = 0;
     std::int16_t z = 0;
@@ -18,17 +18,17 @@ struct alignas(8) Point {
 
 /// The difference of two points whose coordinates are not negative, in one subtraction: with the
 /// sign bits set in `a` nothing is borrowed from one coordinate to the next.
-inline Point operator-(const Point& a, const Point& b) {
+inline ColorPoint operator-(const ColorPoint& a, const ColorPoint& b) {
     constexpr std::uint64_t kSigns = 0x8000800080008000u;
     const std::uint64_t biased = std::bit_cast<std::uint64_t>(a) | kSigns;
-    return std::bit_cast<Point>((biased - std::bit_cast<std::uint64_t>(b)) ^ kSigns);
+    return std::bit_cast<ColorPoint>((biased - std::bit_cast<std::uint64_t>(b)) ^ kSigns);
 }
 
 inline std::int32_t SquaredLength(std::int32_t x, std::int32_t y, std::int32_t z) {
     return x * x + y * y + z * z;
 }
 
-inline std::int32_t SquaredDistance(const Point& a, const Point& b) {
+inline std::int32_t SquaredDistance(const ColorPoint& a, const ColorPoint& b) {
     return SquaredLength(a.x - b.x, a.y - b.y, a.z - b.z);
 }
 
@@ -54,14 +54,14 @@ class WorkingSpace {
     /// Weights of up to 1,024 each keep points within 0..16,383.
     explicit WorkingSpace(const DistanceWeights& weights);
 
-    Point FromRgb(int red, int green, int blue) const {
+    ColorPoint FromRgb(int red, int green, int blue) const {
         // No part and no sum is negative: four 16-bit sums can be had by one addition.
-        return std::bit_cast<Point>(parts_[0][red] + parts_[1][green] + parts_[2][blue]);
+        return std::bit_cast<ColorPoint>(parts_[0][red] + parts_[1][green] + parts_[2][blue]);
     }
-    Point FromRgb(const std::uint8_t* rgb) const { return FromRgb(rgb[0], rgb[1], rgb[2]); }
+    ColorPoint FromRgb(const std::uint8_t* rgb) const { return FromRgb(rgb[0], rgb[1], rgb[2]); }
 
     /// The nearest colour in bytes, each channel rounded and clipped by itself.
-    Rgb ToRgb(const Point& point) const;
+    Rgb ToRgb(const ColorPoint& point) const;
 
  private:
     std::array<std::array<std::int32_t, 3>, 3> matrix_{};  ///< 16 fraction bits, upper triangle
