@@ -7,7 +7,7 @@
 #include "controls/drawing.h"
 #include "controls/screen_metrics.h"
 #include "help/context_numbers.h"
-#include "pictures/draw_resource.h"
+#include "pictures/preview/draw_resource.h"
 #include "platform/message_box.h"
 #include "resources/ids.h"
 

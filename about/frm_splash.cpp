@@ -1,7 +1,7 @@
 #include "about/frm_splash.h"
 
-#include "pictures/draw_resource.h"
 #include "controls/screen_metrics.h"
+#include "pictures/preview/draw_resource.h"
 #include "resources/ids.h"
 
 namespace vistrel {

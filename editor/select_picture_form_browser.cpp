@@ -4,7 +4,7 @@
 #include "core/generali.h"
 #include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"

@@ -4,7 +4,7 @@
 
 #include "controls/screen_metrics.h"
 #include "editor/select_picture_form.h"
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 
 namespace vistrel {
 namespace {

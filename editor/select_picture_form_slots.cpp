@@ -3,7 +3,7 @@
 #include "core/library.h"
 #include "editor/select_picture_form.h"
 #include "pictures/convert.h"
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 #include "platform/pointer.h"
 
 namespace vistrel {

@@ -4,7 +4,7 @@
 
 #include "controls/screen_metrics.h"
 #include "help/context_numbers.h"
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 #include "resources/ids.h"
 
 namespace vistrel {

@@ -7,7 +7,7 @@
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
-#include "pictures/draw_animation.h"
+#include "pictures/preview/draw_animation.h"
 
 namespace vistrel {
 

@@ -5,7 +5,7 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "main_window/principale.h"
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"

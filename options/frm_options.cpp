@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "about/cm_dialog.h"
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "core/cm_dialog.h"
 #include "core/fixed_drives.h"
 #include "core/generali.h"
 #include "core/startup_action.h"

@@ -1,5 +1,5 @@
 // Picture files in picture boxes: what is shown, and what is told of them.
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

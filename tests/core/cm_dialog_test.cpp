@@ -1,5 +1,5 @@
 // The open-file dialog: what it is asked for, and what it gives.
-#include "about/cm_dialog.h"
+#include "core/cm_dialog.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -1,4 +1,4 @@
-#include "pictures/draw_resource.h"
+#include "pictures/preview/draw_resource.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "pictures/draw_animation.h"
+#include "pictures/preview/draw_animation.h"
 
 #include <windows.h>
 

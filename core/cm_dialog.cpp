@@ -1,4 +1,4 @@
-#include "about/cm_dialog.h"
+#include "core/cm_dialog.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "pictures/draw_preview.h"
+#include "pictures/preview/draw_preview.h"
 
 #include <array>
 #include <cstdio>
