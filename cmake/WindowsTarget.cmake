@@ -27,4 +27,8 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 else()
     # Undefined behaviour ends the program at once: no run-time library is needed for that.
     add_compile_options(-fsanitize=undefined -fno-sanitize=vptr -fsanitize-undefined-trap-on-error -O1)
+    # Beside the code objects hold what the compiler knows of it, which tests/house links; programs
+    # are linked of the code.
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-flto -ffat-lto-objects>")
+    add_link_options(-fno-lto)
 endif()
