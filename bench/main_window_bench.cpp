@@ -11,7 +11,7 @@
 #include "bench/side_by_side.h"
 #include "core/locations.h"
 #include "main_window/principale.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "bench/picture_whole_way.h"
 #include "bench/processor_time.h"
 #include "pictures/convert.h"
-#include "pictures/quantize.h"
+#include "pictures/reduce/quantize.h"
 
 namespace vistrel {
 namespace {

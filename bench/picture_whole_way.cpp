@@ -10,10 +10,10 @@
 
 #include "bench/picture_imagequant.h"
 #include "bench/processor_time.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
-#include "pictures/jpg_reader.h"
-#include "pictures/resize.h"
+#include "pictures/jpg/reader.h"
+#include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 
 namespace vistrel {

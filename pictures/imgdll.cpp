@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <new>
 
-#include "pictures/bmp_reader.h"
-#include "pictures/bmp_writer.h"
-#include "pictures/gif_reader.h"
-#include "pictures/jpg_reader.h"
-#include "pictures/quantize.h"
-#include "pictures/resize.h"
+#include "pictures/bmp/reader.h"
+#include "pictures/bmp/writer.h"
+#include "pictures/gif/reader.h"
+#include "pictures/jpg/reader.h"
+#include "pictures/reduce/quantize.h"
+#include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 
 namespace vistrel {

@@ -1,7 +1,7 @@
 // Gathers the rows of a picture.
 #include "pictures/picture_rows.h"
 
-#include "pictures/resize.h"
+#include "pictures/scale/resize.h"
 
 namespace vistrel {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "samples/gif_writer.h"
 #include "samples/jpg_writer.h"
 #include "samples/scene.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <map>
 
-#include "pictures/quantize.h"
+#include "pictures/reduce/quantize.h"
 
 namespace vistrel::samples {
 namespace {

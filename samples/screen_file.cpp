@@ -1,9 +1,9 @@
 // Scaling, colour reduction and the header of the sample screens.
 #include "samples/screen_file.h"
 
-#include "pictures/bmp_writer.h"
-#include "pictures/quantize.h"
-#include "pictures/resize.h"
+#include "pictures/bmp/writer.h"
+#include "pictures/reduce/quantize.h"
+#include "pictures/scale/resize.h"
 
 namespace vistrel::samples {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "pictures/bmp_header.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/header.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/whole_file.h"
 

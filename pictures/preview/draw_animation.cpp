@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "controls/display_palette.h"
-#include "pictures/indexed_screen.h"
+#include "pictures/screen/indexed_screen.h"
 #include "pictures/whole_file.h"
 
 namespace vistrel {

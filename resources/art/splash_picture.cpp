@@ -1,8 +1,8 @@
 // The splash screen: dawn over the sea, with the program's name in the sky.
 #include <cmath>
 
-#include "pictures/quantize.h"
-#include "pictures/resize.h"
+#include "pictures/reduce/quantize.h"
+#include "pictures/scale/resize.h"
 #include "resources/art/kestrel.h"
 #include "resources/art/lettering.h"
 #include "resources/art/noise.h"

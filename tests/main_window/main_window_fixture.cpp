@@ -4,7 +4,7 @@
 #include <ole2.h>
 
 #include "core/settings.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "tests/support/seen.h"
 
 namespace vistrel::test {

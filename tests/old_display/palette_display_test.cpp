@@ -7,7 +7,7 @@
 #include "about/frm_splash.h"
 #include "controls/display_palette.h"
 #include "main_window/frm_view.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
 #include "tests/main_window/main_window_fixture.h"

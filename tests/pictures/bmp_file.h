@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "pictures/bmp_header.h"
+#include "pictures/bmp/header.h"
 #include "tests/pictures/test_picture.h"
 
 namespace vistrel::test {

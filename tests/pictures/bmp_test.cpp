@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "pictures/bmp_reader.h"
+#include "pictures/bmp/reader.h"
 #include "tests/pictures/bmp_file.h"
 
 namespace vistrel::test {

@@ -1,6 +1,4 @@
 // What a screen file holds, byte by byte, and that writing leaves either all of it or nothing.
-#include "pictures/bmp_writer.h"
-
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
@@ -9,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "pictures/bmp/writer.h"
 #include "pictures/whole_file.h"
 #include "tests/pictures/test_picture.h"
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "pictures/resize.h"
+#include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 #include "tests/pictures/bmp_file.h"
 #include "tests/pictures/gif_file.h"

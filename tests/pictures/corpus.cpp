@@ -5,9 +5,9 @@
 #include <map>
 #include <sstream>
 
-#include "pictures/bmp_reader.h"
-#include "pictures/gif_reader.h"
-#include "pictures/jpg_reader.h"
+#include "pictures/bmp/reader.h"
+#include "pictures/gif/reader.h"
+#include "pictures/jpg/reader.h"
 
 namespace vistrel::test {
 

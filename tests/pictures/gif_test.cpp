@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "pictures/gif_reader.h"
+#include "pictures/gif/reader.h"
 #include "tests/pictures/gif_file.h"
 
 namespace vistrel::test {

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "pictures/bmp_reader.h"
+#include "pictures/bmp/reader.h"
 #include "pictures/whole_file.h"
 #include "tests/pictures/bmp_file.h"
 #include "tests/pictures/gif_file.h"

@@ -1,7 +1,7 @@
 // Damaged, cut and unreadable JPEG files: what is there is shown, and nothing does any harm.
 #include <algorithm>
 
-#include "pictures/jpg_reader.h"
+#include "pictures/jpg/reader.h"
 #include "tests/pictures/jpg_maker.h"
 
 namespace vistrel::test {

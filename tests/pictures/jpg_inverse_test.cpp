@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <random>
 
-#include "pictures/jpg_color.h"
-#include "pictures/jpg_inverse_block.h"
-#include "pictures/jpg_inverse_full.h"
-#include "pictures/jpg_inverse_reduced.h"
+#include "pictures/jpg/color.h"
+#include "pictures/jpg/idct/block.h"
+#include "pictures/jpg/idct/full.h"
+#include "pictures/jpg/idct/reduced.h"
 
 namespace vistrel::test {
 namespace {

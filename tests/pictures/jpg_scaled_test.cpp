@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "pictures/jpg_reader.h"
-#include "pictures/resize.h"
+#include "pictures/jpg/reader.h"
+#include "pictures/scale/resize.h"
 #include "tests/pictures/jpg_maker.h"
 
 namespace vistrel::test {

@@ -1,7 +1,7 @@
 // Whole JPEG files come out as libjpeg decodes them, byte for byte, whatever their kind.
 #include <algorithm>
 
-#include "pictures/jpg_reader.h"
+#include "pictures/jpg/reader.h"
 #include "tests/pictures/jpg_maker.h"
 
 namespace vistrel::test {

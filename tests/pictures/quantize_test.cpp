@@ -1,5 +1,5 @@
 // Colour reduction: what it must keep, and how near it must come.
-#include "pictures/quantize.h"
+#include "pictures/reduce/quantize.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <set>
 
-#include "pictures/quantize_palette.h"
+#include "pictures/reduce/palette.h"
 #include "tests/pictures/test_picture.h"
 
 namespace vistrel::test {

@@ -1,12 +1,12 @@
 // Scaling against the same filter in double precision.
-#include "pictures/resize.h"
+#include "pictures/scale/resize.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 
-#include "pictures/resize_weights.h"
+#include "pictures/scale/weights.h"
 #include "tests/pictures/test_picture.h"
 
 namespace vistrel::test {

@@ -1,12 +1,12 @@
 // Fast previews of screen files.
-#include "pictures/screen_preview.h"
+#include "pictures/screen/screen_preview.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "pictures/bmp_reader.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/reader.h"
+#include "pictures/bmp/writer.h"
 
 namespace vistrel {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "pictures/jpg_reader.h"
-#include "pictures/quantize.h"
+#include "pictures/jpg/reader.h"
+#include "pictures/reduce/quantize.h"
 #include "tests/pictures/jpg_maker.h"
 
 namespace {

@@ -9,7 +9,7 @@
 
 #include "controls/display_palette.h"
 #include "main_window/frm_view.h"
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/whole_file.h"
 #include "platform/fault.h"

@@ -1,5 +1,5 @@
 // Any bytes as a bitmap.
-#include "pictures/bmp_reader.h"
+#include "pictures/bmp/reader.h"
 #include "tests/pictures/fuzz/harmless.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

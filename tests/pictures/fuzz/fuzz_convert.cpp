@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "pictures/bmp_reader.h"
+#include "pictures/bmp/reader.h"
 #include "pictures/convert.h"
 #include "pictures/whole_file.h"
 

@@ -1,5 +1,5 @@
 // Any bytes as a GIF file.
-#include "pictures/gif_reader.h"
+#include "pictures/gif/reader.h"
 #include "tests/pictures/fuzz/harmless.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

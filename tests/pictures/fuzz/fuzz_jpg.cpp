@@ -1,5 +1,5 @@
 // Any bytes as a JPEG file, read whole.
-#include "pictures/jpg_reader.h"
+#include "pictures/jpg/reader.h"
 #include "tests/pictures/fuzz/harmless.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,10 +6,10 @@
 #include <cstdio>
 #include <string>
 
-#include "pictures/bmp_writer.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
-#include "pictures/quantize.h"
-#include "pictures/resize.h"
+#include "pictures/reduce/quantize.h"
+#include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 #include "tests/pictures/bmp_file.h"
 #include "tests/pictures/gif_file.h"

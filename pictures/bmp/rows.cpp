@@ -1,0 +1,116 @@
+// Unpacks the rows of uncompressed bitmaps.
+#include "pictures/bmp/rows.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace vistrel {
+namespace {
+
+// One colour of a 16- or 32-bit pixel: full[(pixel & mask) >> shift] is its value up to 255.
+struct Channel {
+    std::uint32_t mask = 0;
+    int shift = 0;
+    std::array<std::uint8_t, 256> full{};
+};
+
+// A value of fewer than 8 bits is spread over 8 by repeating its bits (5 bits abcde become
+// abcdeabc), so that all bits set is 255; of more than 8 bits the highest 8 are taken. Only values
+// of 4 bits are not spread: that is how the programs people look at such pictures with show them.
+Channel MakeChannel(std::uint32_t mask) {
+    Channel channel;
+    if (mask == 0) return channel;
+    const int low = std::countr_zero(mask);
+    const int bits = 32 - std::countl_zero(mask) - low;
+    const int kept = std::min(bits, 8);
+    channel.shift = low + bits - kept;
+    channel.mask = mask;
+    for (int value = 0; value < 1 << kept; ++value) {
+        int full = value << (8 - kept);
+        for (int filled = kept; filled < 8 && kept != 4; filled *= 2) full |= full >> filled;
+        channel.full[value] = static_cast<std::uint8_t>(full);
+    }
+    return channel;
+}
+
+class BmpRows : public PictureRows {
+ public:
+    BmpRows(FileBytes pixels, const BmpHeader& header)
+        : PictureRows(header.width, header.height), header_(header), pixels_(pixels) {
+        for (int i = 0; i < 3; ++i) channels_[i] = MakeChannel(header.masks[i]);
+    }
+
+    void ReadNext(std::uint8_t* rgb) override { Unpack(Row(y_++), rgb); }
+
+ private:
+    const std::uint8_t* Row(int y);
+    void Unpack(const std::uint8_t* row, std::uint8_t* rgb) const;
+    void UnpackIndices(const std::uint8_t* row, std::uint8_t* rgb) const;
+    void UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const;
+
+    const BmpHeader header_;
+    FileBytes pixels_;
+    std::array<Channel, 3> channels_;
+    std::vector<std::uint8_t> cutRow_;  // the row in which the file ends, made up with zeros
+    int y_ = 0;                         // of the next row
+};
+
+const std::uint8_t* BmpRows::Row(int y) {
+    const std::size_t bytes = header_.RowBytes();
+    const std::size_t stored = header_.topDown ? y : header_.height - 1 - y;
+    const std::size_t offset = stored * bytes;
+    if (offset + bytes <= pixels_.size()) return pixels_.data() + offset;
+    cutRow_.assign(bytes, 0);
+    if (offset < pixels_.size()) {
+        std::copy(pixels_.begin() + static_cast<std::ptrdiff_t>(offset), pixels_.end(),
+                  cutRow_.begin());
+    }
+    return cutRow_.data();
+}
+
+void BmpRows::Unpack(const std::uint8_t* row, std::uint8_t* rgb) const {
+    if (header_.bitsPerPixel <= 8) return UnpackIndices(row, rgb);
+    if (header_.bitsPerPixel != 24) return UnpackChannels(row, rgb);
+    for (int x = 0; x < header_.width; ++x, row += 3, rgb += 3) {
+        rgb[0] = row[2];
+        rgb[1] = row[1];
+        rgb[2] = row[0];
+    }
+}
+
+// The leftmost pixel lies in the highest bits of the first byte.
+void BmpRows::UnpackIndices(const std::uint8_t* row, std::uint8_t* rgb) const {
+    const int bits = header_.bitsPerPixel;
+    const int mask = (1 << bits) - 1;
+    int shift = 8;
+    for (int x = 0; x < header_.width; ++x, rgb += 3) {
+        shift -= bits;
+        std::copy_n(header_.palette[*row >> shift & mask].begin(), 3, rgb);
+        if (shift == 0) {
+            shift = 8;
+            ++row;
+        }
+    }
+}
+
+void BmpRows::UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const {
+    const int bytes = header_.bitsPerPixel / 8;
+    for (int x = 0; x < header_.width; ++x, row += bytes, rgb += 3) {
+        std::uint32_t pixel = row[0] | row[1] << 8;
+        if (bytes == 4) pixel |= row[2] << 16 | static_cast<std::uint32_t>(row[3]) << 24;
+        for (int i = 0; i < 3; ++i) {
+            const Channel& channel = channels_[i];
+            rgb[i] = channel.full[(pixel & channel.mask) >> channel.shift];
+        }
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<PictureRows> OpenBmpRows(FileBytes file, const BmpHeader& header) {
+    const FileBytes pixels = file.subspan(std::min(header.pixelOffset, file.size()));
+    if (pixels.size() < header.RowBytes() * header.height / 10) return nullptr;
+    return std::make_unique<BmpRows>(pixels, header);
+}
+
+}  // namespace vistrel

@@ -1,0 +1,137 @@
+// Reads scan after scan, within bounds that a sound file never meets.
+#include "pictures/jpg/decoder.h"
+
+#include "pictures/jpg/scan/choice.h"
+#include "pictures/jpg/scan/progressive.h"
+#include "pictures/jpg/scan/sequential.h"
+
+namespace vistrel {
+namespace {
+
+// A picture is shown when this part of it is there.
+constexpr std::int64_t kLeastPart = 10;
+
+// Scans of a few bytes can ask for work on the whole picture, time and again. Sound files have some
+// ten scans, of which a component takes part in about six.
+constexpr std::int64_t kMostVisits = 32;
+
+bool IsEnough(const ScanOutcome& outcome) {
+    return outcome.unitsRead * kLeastPart >= outcome.units;
+}
+
+bool HasFirstComponent(const JpgScan& scan) {
+    for (const JpgScanPart& part : scan.parts) {
+        if (part.component == 0) return true;
+    }
+    return false;
+}
+
+// Every block takes a bit of the file at least, so that a short file cannot have a large picture.
+bool CanHoldEnough(FileBytes file, const JpgFrame& frame) {
+    std::int64_t blocks = 0;
+    for (const JpgComponent& component : frame.components) {
+        blocks += static_cast<std::int64_t>(component.blocksAcross) * component.blocksDown;
+    }
+    return static_cast<std::int64_t>(file.size()) * 8 * kLeastPart >= blocks;
+}
+
+bool ReadSequential(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
+                    BlockRowTaker& taker) {
+    const JpgFrame& frame = markers.frame();
+    std::vector<bool> taken(frame.components.size());
+    std::size_t left = taken.size();
+    bool isEnough = false;
+    do {
+        const JpgScan& scan = markers.scan();
+        bool isNew = true;
+        for (const JpgScanPart& part : scan.parts) {
+            isNew = isNew && !taken[static_cast<std::size_t>(part.component)];
+        }
+        if (!isNew) continue;
+        if (!markers.BuildTables()) break;
+        for (const JpgScanPart& part : scan.parts) {
+            taken[static_cast<std::size_t>(part.component)] = true;
+        }
+        left -= scan.parts.size();
+        const ScanOutcome outcome =
+            ReadSequentialScan(file, frame, scan, markers.tables(), kept, taker);
+        if (HasFirstComponent(scan)) isEnough = IsEnough(outcome);
+        if (HasFirstComponent(scan) && !isEnough) return false;
+        markers.ContinueAt(outcome.end);
+    } while (left > 0 && markers.NextScan());
+    for (std::size_t i = 0; i < taken.size(); ++i) {
+        if (taken[i]) continue;
+        const JpgComponent& component = frame.components[i];
+        BlockRows zeros(component.paddedAcross, 1, kept[i].stride);
+        for (int row = 0; row < component.blocksDown; ++row) {
+            taker.TakeBlockRow(static_cast<int>(i), row, zeros.Block(0, 0));
+        }
+    }
+    return isEnough;
+}
+
+bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
+                     BlockRowTaker& taker) {
+    const JpgFrame& frame = markers.frame();
+    std::vector<ProgressiveComponent> components;
+    std::int64_t visitsLeft = static_cast<std::int64_t>(file.size()) * kMostVisits;
+    for (std::size_t i = 0; i < frame.components.size(); ++i) {
+        components.emplace_back(frame.components[i], kept[i]);
+        visitsLeft += BlocksOf(frame.components[i]) * kMostVisits;
+    }
+    const std::vector<bool> chosen = ChooseScans(file, kept);
+    bool isEnough = false;
+    std::size_t number = 0;
+    do {
+        const JpgScan& scan = markers.scan();
+        if (!chosen[number++]) continue;
+        if (!markers.BuildTables()) break;
+        for (const JpgScanPart& part : scan.parts) {
+            visitsLeft -= BlocksOf(frame.components[static_cast<std::size_t>(part.component)]);
+        }
+        if (visitsLeft < 0) break;
+        const ScanOutcome outcome =
+            ReadProgressiveScan(file, frame, scan, markers.tables(), components);
+        if (scan.isDc() && HasFirstComponent(scan)) isEnough = isEnough || IsEnough(outcome);
+        markers.ContinueAt(outcome.end);
+    } while (number < chosen.size() && markers.NextScan());
+    for (std::size_t i = 0; i < components.size() && isEnough; ++i) {
+        for (int row = 0; row < frame.components[i].blocksDown; ++row) {
+            taker.TakeBlockRow(static_cast<int>(i), row, components[i].blocks.Block(0, row));
+        }
+        // The taker may need the memory for what it makes of the next component.
+        components[i].blocks.numbers = {};
+        components[i].nonZero = {};
+    }
+    return isEnough;
+}
+
+}  // namespace
+
+std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept) {
+    std::int64_t bytes = 0;
+    for (std::size_t i = 0; frame.progressive && i < kept.size(); ++i) {
+        bytes += ProgressiveComponent::BytesFor(frame.components[i], kept[i]);
+    }
+    return bytes;
+}
+
+bool HasEnough(FileBytes file) {
+    struct PassOver : BlockRowTaker {
+        void TakeBlockRow(int, int, const std::int16_t*) override {}
+    } passOver;
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return false;
+    const std::vector<KeptFrequencies> means(markers.frame().components.size(),
+                                             KeptFrequencies::Of(1, 1));
+    return ReadCoefficients(file, markers, means, passOver);
+}
+
+bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
+                      BlockRowTaker& taker) {
+    if (!CanHoldEnough(file, markers.frame())) return false;
+    return markers.frame().progressive ? ReadProgressive(file, markers, kept, taker)
+                                       : ReadSequential(file, markers, kept, taker);
+}
+
+}  // namespace vistrel

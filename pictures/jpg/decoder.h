@@ -1,0 +1,26 @@
+// Brings the coefficients of a JPEG file, of whatever kind it is, row by row to whoever needs them.
+#pragma once
+
+#include <span>
+
+#include "pictures/jpg/markers.h"
+#include "pictures/jpg/scan/coefficients.h"
+
+namespace vistrel {
+
+/// The memory that ReadCoefficients takes for what it has to keep: nothing to speak of unless the
+/// file is progressive.
+std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept);
+
+/// Reads the scans of the file from the one on at which `markers` stands, and hands over every row
+/// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
+/// which stand for grey. False when the file has not even a tenth of the picture; `taker` has then
+/// had some rows or none.
+bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
+                      BlockRowTaker& taker);
+
+/// Whether ReadCoefficients would find a tenth of the picture in a file: told without the memory
+/// for all of it.
+bool HasEnough(FileBytes file);
+
+}  // namespace vistrel

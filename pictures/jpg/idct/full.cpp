@@ -1,0 +1,36 @@
+// The exact 8 x 8 inverse transform.
+#include "pictures/jpg/idct/full.h"
+
+#include <algorithm>
+
+#include "pictures/jpg/idct/block.h"
+
+namespace vistrel {
+
+BlockSteps StepsOf(const QuantTable& quant) {
+    BlockSteps steps;
+    for (std::size_t k = 0; k < quant.size(); ++k) steps.numbers[kZigzag[k]] = quant[k];
+    steps.forVectors = VectorSteps(steps.numbers);
+    return steps;
+}
+
+void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_t* samples,
+                 std::ptrdiff_t stride) {
+    if (InverseFullByVectors(steps.forVectors, block, samples, stride)) return;
+    constexpr std::int32_t kMiddle = 128, kHighest = 255;
+    InverseBlock(block, steps.numbers.data(), [=](int row, const Wrapping* sums) {
+        std::uint8_t* to = samples + row * stride;
+        std::int32_t values[8], all = 0;
+        for (int x = 0; x < 8; ++x) {
+            values[x] = Descale(sums[x], kSumBits) + kMiddle;
+            all |= values[x];
+        }
+        // Bits outside of a byte mean that some value is outside of its range.
+        if ((all & ~kHighest) != 0) {
+            for (std::int32_t& value : values) value = std::clamp(value, 0, kHighest);
+        }
+        for (int x = 0; x < 8; ++x) to[x] = static_cast<std::uint8_t>(values[x]);
+    });
+}
+
+}  // namespace vistrel

@@ -1,0 +1,114 @@
+// Decodes whole JPEG files.
+#include "pictures/jpg/reader.h"
+
+#include <algorithm>
+
+#include "pictures/enough_bytes.h"
+#include "pictures/jpg/color.h"
+#include "pictures/jpg/decoder.h"
+#include "pictures/jpg/exif_orientation.h"
+#include "pictures/jpg/idct/full.h"
+#include "pictures/jpg/upsample.h"
+#include "pictures/jpg/whole.h"
+
+namespace vistrel {
+namespace {
+
+// Makes a plane of samples of each component.
+class PlaneMaker : public BlockRowTaker {
+ public:
+    explicit PlaneMaker(const JpgFrame& frame)
+        : frame_(frame), planes_(frame.components.size()), steps_(frame.components.size()) {}
+
+    void TakeBlockRow(int index, int row, const std::int16_t* blocks) override {
+        const std::size_t at = static_cast<std::size_t>(index);
+        const JpgComponent& component = frame_.components[at];
+        SamplePlane& plane = planes_[at];
+        if (row == 0) {
+            plane.stride = component.blocksAcross * 8;
+            plane.samples.resize(static_cast<std::size_t>(plane.stride) *
+                                 static_cast<std::size_t>(component.blocksDown) * 8);
+            steps_[at] = StepsOf(component.quant);
+        }
+        std::uint8_t* to =
+            plane.samples.data() + static_cast<std::ptrdiff_t>(row) * 8 * plane.stride;
+        for (int column = 0; column < component.blocksAcross; ++column) {
+            InverseFull(blocks + column * kBlockSize, steps_[at], to + column * 8, plane.stride);
+        }
+    }
+
+    const std::vector<SamplePlane>& planes() const { return planes_; }
+
+ private:
+    const JpgFrame& frame_;
+    std::vector<SamplePlane> planes_;
+    std::vector<BlockSteps> steps_;
+};
+
+RgbPicture MakePicture(const JpgMarkers& markers, const std::vector<SamplePlane>& planes) {
+    const JpgFrame& frame = markers.frame();
+    const UprightPlace place(TurningOf(markers.orientation()), frame.width, frame.height);
+    RgbPicture picture;
+    picture.width = place.width();
+    picture.height = place.height();
+    picture.pixels.resize(static_cast<std::size_t>(frame.width) *
+                          static_cast<std::size_t>(frame.height) * 3);
+    std::vector<Upsampler> upsamplers;
+    for (std::size_t i = 0; i < planes.size(); ++i) {
+        upsamplers.emplace_back(frame, frame.components[i], planes[i]);
+    }
+    const JpgColorKind kind{markers.Color(), markers.InksAreInverted()};
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(frame.width) * 3);
+    for (int y = 0; y < frame.height; ++y) {
+        std::array<const std::uint8_t*, 4> samples = {};
+        for (std::size_t i = 0; i < upsamplers.size(); ++i) samples[i] = upsamplers[i].Row(y);
+        ConvertRow(kind, samples.data(), frame.width, row.data());
+        place.PutRow(row.data(), y, picture.pixels.data());
+    }
+    return picture;
+}
+
+std::vector<KeptFrequencies> AllFrequencies(const JpgFrame& frame) {
+    return std::vector<KeptFrequencies>(frame.components.size(), KeptFrequencies::Of(8, 8));
+}
+
+// True of a large picture with less than a byte a block: before memory is asked for it, a look is
+// taken whether it is there.
+bool IsSuspect(FileBytes file, const JpgFrame& frame) {
+    const std::int64_t pixels = std::int64_t{frame.width} * frame.height;
+    const std::int64_t blocks = pixels / kBlockSize;
+    return pixels > kDecodedAnyway && static_cast<std::int64_t>(file.size()) < blocks;
+}
+
+}  // namespace
+
+std::int64_t BytesToReadWhole(const JpgFrame& frame) {
+    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
+    std::int64_t planes = 0;
+    for (const JpgComponent& component : frame.components) {
+        planes += BlocksOf(component) * kBlockSize;
+    }
+    const std::int64_t picture = std::int64_t{frame.width} * frame.height * 3;
+    const std::int64_t firstPlane = BlocksOf(frame.components[0]) * kBlockSize;
+    return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
+}
+
+bool IsJpgToBeTurned(FileBytes file) {
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return false;
+    const Turning turning = TurningOf(markers.orientation());
+    return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
+}
+
+std::optional<RgbPicture> ReadJpg(FileBytes file) {
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return std::nullopt;
+    const JpgFrame& frame = markers.frame();
+    if (IsSuspect(file, frame) && !HasEnough(file)) return std::nullopt;
+    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
+    PlaneMaker maker(frame);
+    if (!ReadCoefficients(file, markers, all, maker)) return std::nullopt;
+    return MakePicture(markers, maker.planes());
+}
+
+}  // namespace vistrel

@@ -1,0 +1,120 @@
+// Takes the escape bytes out of a scan's coded data and finds the markers between them.
+#include "pictures/jpg/scan/bits.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace vistrel {
+namespace {
+
+constexpr std::uint8_t kEscape = 0xFF;
+constexpr std::uint8_t kFirstRestart = 0xD0;
+constexpr std::uint8_t kFirstFrame = 0xC0;
+
+bool IsRestart(std::uint8_t marker) {
+    return marker >= kFirstRestart && marker < kFirstRestart + 8;
+}
+
+}  // namespace
+
+std::size_t FindMarker(FileBytes file, std::size_t from) {
+    while (from < file.size()) {
+        const void* found = std::memchr(file.data() + from, kEscape, file.size() - from);
+        if (!found) break;
+        const std::size_t at =
+            static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - file.data());
+        if (at + 1 >= file.size()) break;
+        if (file[at + 1] != 0 && file[at + 1] != kEscape) return at;
+        from = at + 1;
+    }
+    return file.size();
+}
+
+ScanBytes::ScanBytes(FileBytes file, std::size_t start)
+    : file_(file), filePosition_(std::min(start, file.size())) {
+    Fill();
+}
+
+BitReader ScanBytes::Reader() const { return {0, 0, buffer_.data()}; }
+
+BitReader ScanBytes::More(BitReader bits) {
+    const std::ptrdiff_t read = bits.next - buffer_.data();
+    const std::ptrdiff_t left = std::max<std::ptrdiff_t>(dataEnd_ - read, 0);
+    std::memmove(buffer_.data(), bits.next, static_cast<std::size_t>(left));
+    dataEnd_ -= read;
+    bits.next = buffer_.data();
+    Fill();
+    return bits;
+}
+
+// Copies the runs between escapes; behind the last byte before a marker come zeros for one block.
+void ScanBytes::Fill() {
+    std::ptrdiff_t at = std::max<std::ptrdiff_t>(dataEnd_, 0);
+    while (!atMarker_ && at < kWindow) {
+        const std::size_t most =
+            std::min(static_cast<std::size_t>(kWindow - at), file_.size() - filePosition_);
+        const std::uint8_t* from = file_.data() + filePosition_;
+        const void* escape = most ? std::memchr(from, kEscape, most) : nullptr;
+        const std::size_t run =
+            escape ? static_cast<std::size_t>(static_cast<const std::uint8_t*>(escape) - from)
+                   : most;
+        if (run) std::memcpy(buffer_.data() + at, from, run);
+        at += static_cast<std::ptrdiff_t>(run);
+        filePosition_ += run;
+        if (escape) {
+            TakeEscape(at);
+        } else {
+            atMarker_ = filePosition_ == file_.size();
+        }
+    }
+    if (!atMarker_) {
+        dataEnd_ = at;
+        refillFrom_ = buffer_.data() + kWindow - kBlockBytes;
+        return;
+    }
+    // A reader that has overrun stays overrun: its end lies before the buffer.
+    if (dataEnd_ >= 0) dataEnd_ = at;
+    std::memset(buffer_.data() + at, 0, kBlockBytes);
+    refillFrom_ = buffer_.data() + at;
+}
+
+// An escape is followed by a zero where it stands for itself, perhaps after more of its kind;
+// anything else is a marker.
+void ScanBytes::TakeEscape(std::ptrdiff_t& at) {
+    std::size_t next = filePosition_ + 1;
+    while (next < file_.size() && file_[next] == kEscape) ++next;
+    if (next == file_.size() || file_[next] != 0) {
+        atMarker_ = true;
+        return;
+    }
+    buffer_[static_cast<std::size_t>(at++)] = kEscape;
+    filePosition_ = next + 1;
+}
+
+std::size_t ScanBytes::FindEnd() {
+    if (!atMarker_) filePosition_ = FindMarker(file_, filePosition_);
+    return filePosition_;
+}
+
+void ScanBytes::Restart(int expected) {
+    std::size_t at = FindEnd();
+    bool found = false;
+    while (at < file_.size()) {
+        at = FindMarker(file_, at);
+        if (at + 1 >= file_.size()) break;
+        const std::uint8_t marker = file_[at + 1];
+        const int ahead = IsRestart(marker) ? (marker - kFirstRestart - expected) & 7 : -1;
+        if (ahead == 1 || ahead == 2) break;  // a later one: this interval's data are lost
+        if (ahead == -1 && marker >= kFirstFrame) break;
+        at += 2;
+        // One or two too low is left over from before; anything else is taken as the right one.
+        found = ahead >= 0 && ahead < 6;
+        if (found) break;
+    }
+    filePosition_ = std::min(at, file_.size());
+    atMarker_ = !found;
+    dataEnd_ = found ? 0 : -1;
+    Fill();
+}
+
+}  // namespace vistrel

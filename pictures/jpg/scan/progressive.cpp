@@ -1,0 +1,255 @@
+// Decodes the scans of progressive files (ITU-T T.81, annex G).
+#include "pictures/jpg/scan/progressive.h"
+
+#include <bit>
+
+namespace vistrel {
+namespace {
+
+// Constant terms, first the upper bits of all.
+class DcFirstReader {
+ public:
+    DcFirstReader(const JpgScan& scan, const JpgTables& tables,
+                  std::span<ProgressiveComponent> components)
+        : scan_(scan), tables_(tables), components_(components) {}
+
+    void Restart() { predictions_ = {}; }
+
+    BitReader ReadBlock(BitReader bits, std::size_t index, int column, int row) {
+        const JpgScanPart& part = scan_.parts[index];
+        bits.Refill();
+        const HuffmanTable& table = tables_.dc[static_cast<std::size_t>(part.dcTable)];
+        const int size = table.Symbol(bits);
+        if (size > 0) {
+            bits.Refill();
+            predictions_[index] =
+                static_cast<std::int16_t>(predictions_[index] + ExtendSign(bits.Take(size), size));
+        }
+        *components_[static_cast<std::size_t>(part.component)].blocks.Block(column, row) =
+            static_cast<std::int16_t>(predictions_[index] * (1 << scan_.low));
+        return bits;
+    }
+
+    void EndUnitRow() {}
+
+ private:
+    const JpgScan& scan_;
+    const JpgTables& tables_;
+    std::span<ProgressiveComponent> components_;
+    std::array<std::int16_t, 4> predictions_ = {};
+};
+
+// Constant terms, one further bit of each.
+class DcRefinementReader {
+ public:
+    DcRefinementReader(const JpgScan& scan, std::span<ProgressiveComponent> components)
+        : scan_(scan), components_(components) {}
+
+    void Restart() {}
+
+    BitReader ReadBlock(BitReader bits, std::size_t index, int column, int row) {
+        if (bits.count < 1) bits.Refill();
+        const std::size_t component = static_cast<std::size_t>(scan_.parts[index].component);
+        std::int16_t& constant = *components_[component].blocks.Block(column, row);
+        constant = static_cast<std::int16_t>(constant | bits.Take(1) << scan_.low);
+        return bits;
+    }
+
+    void EndUnitRow() {}
+
+ private:
+    const JpgScan& scan_;
+    std::span<ProgressiveComponent> components_;
+};
+
+// What both kinds of scan with other coefficients share: one component, and runs of blocks that
+// have nothing more to read.
+class AcReader {
+ public:
+    AcReader(const JpgScan& scan, const JpgTables& tables, ProgressiveComponent& component)
+        : first_(scan.first),
+          last_(scan.last),
+          unit_(1 << scan.low),
+          table_(tables.ac[static_cast<std::size_t>(scan.parts[0].acTable)]),
+          component_(component) {}
+
+    void Restart() { endedBlocks_ = 0; }
+    void EndUnitRow() {}
+
+ protected:
+    std::uint64_t& NonZero(int column, int row) {
+        return component_.nonZero[static_cast<std::size_t>(row) *
+                                      static_cast<std::size_t>(component_.blocks.across) +
+                                  static_cast<std::size_t>(column)];
+    }
+
+    // The number of blocks, this one included, that a symbol with run `run` (0 to 14) ends.
+    static int ReadEndedBlocks(BitReader& bits, int run) {
+        if (run == 0) return 1;
+        bits.Refill();
+        return (1 << run) + static_cast<int>(bits.Take(run));
+    }
+
+    const int first_;
+    const int last_;
+    const int unit_;  // what the scan's lowest bit is worth
+    const HuffmanTable& table_;
+    ProgressiveComponent& component_;
+    int endedBlocks_ = 0;
+};
+
+// Other coefficients, first their upper bits.
+class AcFirstReader : public AcReader {
+ public:
+    using AcReader::AcReader;
+
+    BitReader ReadBlock(BitReader bits, std::size_t, int column, int row) {
+        if (endedBlocks_ > 0) {
+            --endedBlocks_;
+            return bits;
+        }
+        const KeptFrequencies& kept = component_.kept;
+        std::int16_t* block = component_.blocks.Block(column, row);
+        std::uint64_t found = 0;
+        int k = first_;
+        while (k <= last_) {
+            bits.Refill();
+            int value;
+            const QuickEntry entry = table_.Quick(bits.Peek(HuffmanTable::kQuickBits));
+            if (entry.value) {
+                bits.Skip(entry.bits);
+                k += entry.advance;
+                value = entry.value;
+            } else {
+                const int symbol = table_.Symbol(bits);
+                const int run = symbol >> 4, size = symbol & 15;
+                if (size == 0 && run != 15) {
+                    endedBlocks_ = ReadEndedBlocks(bits, run) - 1;
+                    break;
+                }
+                k += run + 1;
+                if (size == 0) continue;
+                bits.Refill();
+                value = ExtendSign(bits.Take(size), size);
+            }
+            if (k > kBlockSize) break;
+            block[kept.slot[static_cast<std::size_t>(k - 1)]] =
+                static_cast<std::int16_t>(value * unit_);
+            found |= std::uint64_t{1} << (k - 1);
+        }
+        NonZero(column, row) |= found;
+        return bits;
+    }
+};
+
+// Other coefficients, one further bit of each: a correction of those that are not zero yet, and new
+// ones between them.
+class AcRefinementReader : public AcReader {
+ public:
+    AcRefinementReader(const JpgScan& scan, const JpgTables& tables,
+                       ProgressiveComponent& component)
+        : AcReader(scan, tables, component), kept_(component.kept.Positions()) {}
+
+    BitReader ReadBlock(BitReader bits, std::size_t, int column, int row) {
+        std::int16_t* block = component_.blocks.Block(column, row);
+        std::uint64_t& nonZero = NonZero(column, row);
+        const std::uint64_t old = nonZero;
+        int k = first_;
+        while (endedBlocks_ == 0 && k <= last_) {
+            bits.Refill();
+            int run, value = 0;
+            const QuickEntry entry = table_.Quick(bits.Peek(HuffmanTable::kQuickBits));
+            if (entry.value == 1 || entry.value == -1) {
+                bits.Skip(entry.bits);
+                run = entry.advance - 1;
+                value = entry.value * unit_;
+            } else {
+                const int symbol = table_.Symbol(bits);
+                run = symbol >> 4;
+                if ((symbol & 15) != 0) {
+                    value = bits.Take(1) ? unit_ : -unit_;
+                } else if (run != 15) {
+                    endedBlocks_ = ReadEndedBlocks(bits, run);
+                    break;
+                }
+            }
+            int at = k + run;
+            if ((old >> k & ((std::uint64_t{2} << run) - 1)) != 0) {
+                at = PositionBehind(old, k, run);
+                if (at > k) bits = Correct(bits, old & PositionBand(k, at - 1), block);
+            }
+            if (at <= last_ && value != 0) {
+                block[component_.kept.slot[static_cast<std::size_t>(at)]] =
+                    static_cast<std::int16_t>(value);
+                nonZero |= std::uint64_t{1} << at;
+            }
+            k = at + 1;
+        }
+        if (endedBlocks_ > 0) {
+            --endedBlocks_;
+            if (k <= last_) bits = Correct(bits, old & PositionBand(k, last_), block);
+        }
+        return bits;
+    }
+
+ private:
+    // The position of the zero coefficient that comes behind `run` others from `k` on, last_ + 1
+    // when there are too few.
+    int PositionBehind(std::uint64_t nonZero, int k, int run) const {
+        std::uint64_t zeros = ~nonZero & PositionBand(k, last_);
+        for (; run > 0 && zeros != 0; --run) zeros &= zeros - 1;
+        return zeros == 0 ? last_ + 1 : std::countr_zero(zeros);
+    }
+
+    // Reads a bit for each of the coefficients in `set` and grows those that are kept by it.
+    BitReader Correct(BitReader bits, std::uint64_t set, std::int16_t* block) const {
+        for (std::uint64_t wanted = set & kept_; wanted != 0; wanted &= wanted - 1) {
+            if (bits.count < 1) bits.Refill();
+            if (!bits.Take(1)) continue;
+            const std::size_t k = static_cast<std::size_t>(std::countr_zero(wanted));
+            std::int16_t& number = block[component_.kept.slot[k]];
+            number = static_cast<std::int16_t>(number + (number < 0 ? -unit_ : unit_));
+        }
+        for (int needless = std::popcount(set & ~kept_); needless > 0; needless -= 16) {
+            bits.Refill();
+            bits.Skip(needless < 16 ? needless : 16);
+        }
+        return bits;
+    }
+
+    const std::uint64_t kept_;
+};
+
+// No scan but those of the constant terms is read where nothing else is kept.
+bool NeedsNonZero(const KeptFrequencies& kept) { return kept.last > 0; }
+
+}  // namespace
+
+ProgressiveComponent::ProgressiveComponent(const JpgComponent& component,
+                                           const KeptFrequencies& keptFrequencies)
+    : kept(keptFrequencies),
+      blocks(component.paddedAcross, component.paddedDown, keptFrequencies.stride),
+      nonZero(NeedsNonZero(keptFrequencies) ? static_cast<std::size_t>(BlocksOf(component)) : 0) {}
+
+std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
+                                            const KeptFrequencies& kept) {
+    constexpr std::int64_t kNumber = sizeof(std::int16_t), kBits = sizeof(std::uint64_t);
+    return BlocksOf(component) * (kept.stride * kNumber + (NeedsNonZero(kept) ? kBits : 0));
+}
+
+ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+                                const JpgTables& tables,
+                                std::span<ProgressiveComponent> components) {
+    const auto walk = [&](auto reader) {
+        return WalkScan(file, frame, scan, tables.restartInterval, reader);
+    };
+    if (scan.isDc()) {
+        if (scan.isRefinement()) return walk(DcRefinementReader(scan, components));
+        return walk(DcFirstReader(scan, tables, components));
+    }
+    ProgressiveComponent& component = components[static_cast<std::size_t>(scan.parts[0].component)];
+    if (scan.isRefinement()) return walk(AcRefinementReader(scan, tables, component));
+    return walk(AcFirstReader(scan, tables, component));
+}
+
+}  // namespace vistrel

@@ -1,0 +1,75 @@
+// The order in which a scan holds its blocks, with the restarts between them.
+#pragma once
+
+#include <cstdint>
+
+#include "pictures/jpg/frame.h"
+#include "pictures/jpg/scan/bits.h"
+
+namespace vistrel {
+
+/// How much of a scan was there.
+struct ScanOutcome {
+    std::int64_t unitsRead = 0;
+    std::int64_t units = 0;
+    std::size_t end = 0;  ///< where the file goes on with a marker
+};
+
+/// The units of a scan: one block each where the scan has one component, else all blocks of a part
+/// of the picture, sampling factors across and down of each component.
+struct ScanUnits {
+    int across = 0;
+    int down = 0;
+    bool interleaved = false;
+
+    ScanUnits(const JpgFrame& frame, const JpgScan& scan) : interleaved(scan.parts.size() > 1) {
+        const JpgComponent& only =
+            frame.components[static_cast<std::size_t>(scan.parts[0].component)];
+        across = interleaved ? frame.unitsAcross : only.blocksAcross;
+        down = interleaved ? frame.unitsDown : only.blocksDown;
+    }
+};
+
+/// Calls `Reader::Restart()` at each beginning and restart, `bits = Reader::ReadBlock(bits, part,
+/// column, row)` for each block of a scan in the file's order and `Reader::EndUnitRow()` at the
+/// end of each row of units. Units that the file lacks are passed over in silence.
+template <class Reader>
+ScanOutcome WalkScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+                     int restartInterval, Reader& reader) {
+    const ScanUnits units(frame, scan);
+    ScanBytes bytes(file, scan.dataStart);
+    BitReader bits = bytes.Reader();
+    ScanOutcome outcome;
+    outcome.units = static_cast<std::int64_t>(units.across) * units.down;
+    reader.Restart();
+    int untilRestart = restartInterval, restarts = 0;
+    for (int row = 0; row < units.down; ++row) {
+        for (int column = 0; column < units.across; ++column) {
+            if (restartInterval > 0 && untilRestart-- == 0) {
+                bytes.Restart(restarts++ & 7);
+                bits = bytes.Reader();
+                reader.Restart();
+                untilRestart = restartInterval - 1;
+            }
+            if (bytes.IsOverrun(bits)) continue;
+            ++outcome.unitsRead;
+            for (std::size_t part = 0; part < scan.parts.size(); ++part) {
+                const JpgComponent& component =
+                    frame.components[static_cast<std::size_t>(scan.parts[part].component)];
+                const int wide = units.interleaved ? component.across : 1;
+                const int high = units.interleaved ? component.down : 1;
+                for (int y = 0; y < high; ++y) {
+                    for (int x = 0; x < wide; ++x) {
+                        if (bytes.NeedsMore(bits)) bits = bytes.More(bits);
+                        bits = reader.ReadBlock(bits, part, column * wide + x, row * high + y);
+                    }
+                }
+            }
+        }
+        reader.EndUnitRow();
+    }
+    outcome.end = bytes.FindEnd();
+    return outcome;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,204 @@
+// Variance-based cutting (after Wan, Wong and Prusinkiewicz 1988, with principal axes as in Wu
+// 1991), in integers.
+#include "pictures/reduce/boxes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vistrel {
+namespace {
+
+using Number = std::int64_t;
+using Vector = std::array<Number, 3>;
+
+/// A run of cell numbers in the common order, and what is known of them.
+struct Box {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    Number pixels = 0;
+    Vector mean{};
+    std::array<Number, 6> spread{};  ///< sums of the products xx yy zz xy xz yz about the mean
+
+    Number error() const { return spread[0] + spread[1] + spread[2]; }
+};
+
+class Cutter {
+ public:
+    explicit Cutter(Histogram& histogram) : cells_(histogram.cells), order_(cells_.size()) {
+        for (std::size_t i = 0; i < order_.size(); ++i) order_[i] = static_cast<std::uint16_t>(i);
+        sides_.resize(order_.size());
+        boxes_.push_back(Measured(0, order_.size()));
+    }
+
+    /// Cuts the worst box in two, or finds that its cells are too alike for that. False when no box
+    /// is left that can be cut.
+    bool CutWorst() {
+        const auto worst =
+            std::max_element(boxes_.begin(), boxes_.end(),
+                             [](const Box& a, const Box& b) { return a.error() < b.error(); });
+        if (worst->error() == 0) return false;
+        const Box whole = *worst;
+        const std::size_t middle = PartAlong(whole, PrincipalAxis(whole));
+        if (middle == whole.end) {
+            worst->spread = {};
+            return true;
+        }
+        *worst = Measured(whole.begin, middle);
+        boxes_.push_back(Measured(middle, whole.end));
+        return true;
+    }
+
+    void NumberCells() {
+        for (std::size_t box = 0; box < boxes_.size(); ++box) {
+            for (std::size_t i = boxes_[box].begin; i < boxes_[box].end; ++i) {
+                cells_[order_[i]].color = static_cast<std::uint16_t>(box);
+            }
+        }
+    }
+
+    int size() const { return static_cast<int>(boxes_.size()); }
+
+ private:
+    Box Measured(std::size_t begin, std::size_t end) const;
+    static Vector PrincipalAxis(const Box& box);
+    std::size_t PartAlong(const Box& box, const Vector& axis);
+
+    std::vector<Cell>& cells_;
+    std::vector<std::uint16_t> order_;  ///< cell numbers; each box is a run of them
+    std::vector<std::uint8_t> sides_;   ///< for each place in the order: the slice of its cell
+    std::vector<Box> boxes_;
+};
+
+Box Cutter::Measured(std::size_t begin, std::size_t end) const {
+    Box box{.begin = begin, .end = end};
+    Vector sum{};
+    for (std::size_t i = begin; i < end; ++i) {
+        const Cell& cell = cells_[order_[i]];
+        const Number count = cell.count;
+        box.pixels += count;
+        sum[0] += count * cell.mean.x;
+        sum[1] += count * cell.mean.y;
+        sum[2] += count * cell.mean.z;
+    }
+    for (int k = 0; k < 3; ++k) box.mean[k] = (sum[k] + box.pixels / 2) / box.pixels;
+    if (end - begin == 1) return box;
+    for (std::size_t i = begin; i < end; ++i) {
+        const Cell& cell = cells_[order_[i]];
+        const Number count = cell.count;
+        const Number x = cell.mean.x - box.mean[0];
+        const Number y = cell.mean.y - box.mean[1];
+        const Number z = cell.mean.z - box.mean[2];
+        box.spread[0] += count * (x * x);
+        box.spread[1] += count * (y * y);
+        box.spread[2] += count * (z * z);
+        box.spread[3] += count * (x * y);
+        box.spread[4] += count * (x * z);
+        box.spread[5] += count * (y * z);
+    }
+    return box;
+}
+
+/// The direction of the largest spread, largest component 1 << 12, by power iteration.
+Vector Cutter::PrincipalAxis(const Box& box) {
+    constexpr int kBits = 12;
+    constexpr int kIterations = 8;
+    std::array<Number, 6> s = box.spread;
+    while (std::max({s[0], s[1], s[2]}) >= (Number{1} << 30)) {
+        for (Number& value : s) value /= 16;
+    }
+    const std::array<Vector, 3> matrix = {
+        {{s[0], s[3], s[4]}, {s[3], s[1], s[5]}, {s[4], s[5], s[2]}}};
+    const int largest = static_cast<int>(std::max_element(s.begin(), s.begin() + 3) - s.begin());
+    Vector axis = matrix[largest];
+    for (int round = 0;; ++round) {
+        Number top = 1;
+        for (const Number value : axis) top = std::max(top, value < 0 ? -value : value);
+        for (Number& value : axis) value = (value << kBits) / top;
+        if (round == kIterations) return axis;
+        Vector next{};
+        for (int row = 0; row < 3; ++row) {
+            for (int k = 0; k < 3; ++k) next[row] += matrix[row][k] * axis[k];
+        }
+        axis = next;
+    }
+}
+
+/// Slices the box across the axis, finds the best plane between two slices and moves the cells of
+/// the lower side to the front. Returns where the upper side begins.
+std::size_t Cutter::PartAlong(const Box& box, const Vector& axis) {
+    constexpr int kSlices = 64;
+    const auto offset = [&](const Cell& cell) {
+        return ((cell.mean.x - box.mean[0]) * axis[0] + (cell.mean.y - box.mean[1]) * axis[1] +
+                (cell.mean.z - box.mean[2]) * axis[2]) >>
+               8;
+    };
+    Number low = INT64_MAX;
+    Number high = INT64_MIN;
+    for (std::size_t i = box.begin; i < box.end; ++i) {
+        const Number at = offset(cells_[order_[i]]);
+        low = std::min(low, at);
+        high = std::max(high, at);
+    }
+    struct Slice {
+        Number pixels = 0;
+        Number distance = 0;
+    };
+    std::array<Slice, kSlices> slices{};
+    const Number factor = (Number{kSlices} << 32) / (high - low + 1);
+    for (std::size_t i = box.begin; i < box.end; ++i) {
+        const Cell& cell = cells_[order_[i]];
+        const Number at = offset(cell);
+        const int slice = static_cast<int>(((at - low) * factor) >> 32);
+        sides_[i] = static_cast<std::uint8_t>(slice);
+        slices[slice].pixels += cell.count;
+        slices[slice].distance += cell.count * at;
+    }
+    // Parting into n and m pixels whose offsets sum to s and t takes s*s/n + t*t/m - (s+t)^2/(n+m)
+    // from the squared error along the axis; the sum of all offsets is nearly 0 here.
+    Number total = 0;
+    Number largest = 1;
+    for (const Slice& slice : slices) {
+        total += slice.distance;
+        largest = std::max(largest, total < 0 ? -total : total);
+    }
+    int shift = 0;
+    while ((largest >> shift) >= (Number{1} << 30)) ++shift;
+    Number best = -1;
+    int bestCut = 0;
+    Number pixels = 0;
+    Number distance = 0;
+    for (int slice = 0; slice + 1 < kSlices; ++slice) {
+        pixels += slices[slice].pixels;
+        distance += slices[slice].distance;
+        if (slices[slice].pixels == 0) continue;
+        const Number rest = box.pixels - pixels;
+        if (rest == 0) break;
+        const Number lower = distance >> shift;
+        const Number upper = (total - distance) >> shift;
+        const Number gain = lower * lower / pixels + upper * upper / rest;
+        if (gain > best) {
+            best = gain;
+            bestCut = slice;
+        }
+    }
+    std::size_t middle = box.begin;
+    for (std::size_t i = box.begin; i < box.end; ++i) {
+        if (sides_[i] > bestCut) continue;
+        std::swap(order_[i], order_[middle]);
+        std::swap(sides_[i], sides_[middle]);
+        ++middle;
+    }
+    return middle;
+}
+
+}  // namespace
+
+int PartIntoBoxes(Histogram& histogram, int colors) {
+    Cutter cutter(histogram);
+    while (cutter.size() < colors && cutter.CutWorst()) {
+    }
+    cutter.NumberCells();
+    return cutter.size();
+}
+
+}  // namespace vistrel

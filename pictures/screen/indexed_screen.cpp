@@ -1,0 +1,48 @@
+#include "pictures/screen/indexed_screen.h"
+
+#include <algorithm>
+
+#include "pictures/bmp/header.h"
+#include "pictures/little_endian.h"
+
+namespace vistrel {
+namespace {
+
+constexpr std::size_t kImportantColorsOffset = 50;
+constexpr std::uint32_t kWindowsHeaderSize = 40;
+
+}  // namespace
+
+std::optional<IndexedScreen> ReadIndexedScreen(FileBytes file) {
+    const auto header = ReadBmpHeader(file);
+    if (!header || header->bitsPerPixel != 8 || header->compression != BmpCompression::None)
+        return std::nullopt;
+    const std::size_t needed = header->RowBytes() * static_cast<std::size_t>(header->height);
+    if (header->pixelOffset > file.size() || file.size() - header->pixelOffset < needed)
+        return std::nullopt;
+
+    IndexedScreen screen;
+    screen.width = header->width;
+    screen.height = header->height;
+    screen.palette = header->palette;
+    for (int y = 0; y < screen.height; ++y) {
+        const int row = header->topDown ? y : screen.height - 1 - y;
+        const auto pixels = file.subspan(header->pixelOffset + header->RowBytes() * row,
+                                         static_cast<std::size_t>(screen.width));
+        screen.indices.insert(screen.indices.end(), pixels.begin(), pixels.end());
+    }
+    // Older headers have no such field.
+    if (DoubleWord(file, 14) >= kWindowsHeaderSize) {
+        const std::uint32_t first = DoubleWord(file, kImportantColorsOffset);
+        screen.firstAnimated = first <= 255 ? static_cast<int>(first) : 0;
+    }
+    return screen;
+}
+
+void RotateColors(IndexedScreen& screen) {
+    if (!screen.IsAnimated()) return;
+    std::rotate(screen.palette.begin() + screen.firstAnimated,
+                screen.palette.begin() + screen.firstAnimated + 1, screen.palette.end());
+}
+
+}  // namespace vistrel
