@@ -1,9 +1,6 @@
 // The colours of a display that shows no more than 256 of them at once.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "platform/handles.h"
 
 struct HPALETTE__;
@@ -17,15 +14,9 @@ bool HasPalette(DeviceContext device);
 /// The same of the screen.
 bool DisplayHasPalette();
 
-/// The one palette that all pictures share on such a display, so that none takes another's colours.
+/// The palette of DisplayColors, which all pictures share on such a display, so that none takes
+/// another's colours.
 PaletteHandle DisplayPalette();
-
-/// Number of entries of that palette.
-inline constexpr int kDisplayColors = 240;
-
-/// Dithers 24-bit pixels (red, green, blue, rows from the top, no padding) to numbers of
-/// DisplayPalette's entries; rows from the top, padded to multiples of four.
-std::vector<std::uint8_t> DitherToDisplayPalette(const std::uint8_t* rgb, int width, int height);
 
 /// A bitmap whose pixels are numbers of DisplayPalette's entries. It keeps its colours whatever
 /// becomes of the display's: one of the display's own kind would hold places of the display's

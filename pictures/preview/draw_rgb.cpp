@@ -7,6 +7,7 @@
 
 #include "controls/display_palette.h"
 #include "pictures/imgdll.h"
+#include "pictures/screen/display_dither.h"
 
 namespace vistrel {
 namespace {
@@ -53,7 +54,7 @@ void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth
         const UINT count = GetPaletteEntries(DisplayPalette(), 0, 256, entries);
         for (UINT i = 0; i < count; ++i)
             header.colors[i] = {entries[i].peBlue, entries[i].peGreen, entries[i].peRed, 0};
-        const auto rows = DitherToDisplayPalette(rgb, pixelWidth, pixelHeight);
+        const auto rows = DitherToDisplayColors(rgb, pixelWidth, pixelHeight);
         StretchDIBits(target, x, y, width, height, 0, 0, pixelWidth, pixelHeight, rows.data(),
                       header.info(), DIB_RGB_COLORS, SRCCOPY);
         return;
