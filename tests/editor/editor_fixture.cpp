@@ -3,8 +3,8 @@
 #include <commctrl.h>
 #include <ole2.h>
 
-#include "samples/gif_writer.h"
-#include "samples/jpg_writer.h"
+#include "art/files/gif_writer.h"
+#include "art/files/jpg_writer.h"
 
 namespace vistrel::test {
 namespace {
