@@ -22,13 +22,14 @@ target_include_directories(windows_test SYSTEM
 target_link_libraries(windows_test PUBLIC gdi32)
 
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
-set(RUN_IN_WINE ${CMAKE_CURRENT_LIST_DIR}/run_in_wine)
-set(MAKE_PREFIX ${CMAKE_CURRENT_LIST_DIR}/make_prefix)
+set(scripts ${CMAKE_SOURCE_DIR}/scripts)
+set(RUN_IN_WINE ${scripts}/run_in_wine)
+set(MAKE_PREFIX ${scripts}/make_prefix)
 set(wine_properties)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # 32-bit programs show windows in a 32-bit Debian only, which need not be where they are built: so
     # the prefix is made when the tests run.
-    set(debian12 ${CMAKE_SOURCE_DIR}/packaging/debian12 wine32)
+    set(debian12 ${scripts}/debian12 wine32)
     list(PREPEND RUN_IN_WINE ${debian12})
     add_test(NAME wine_prefix COMMAND ${debian12} ${MAKE_PREFIX} --if-older ${WINE_TEMPLATE})
     set_tests_properties(wine_prefix PROPERTIES FIXTURES_SETUP wine_prefix)
@@ -38,8 +39,7 @@ else()
     add_custom_command(
         OUTPUT ${WINE_TEMPLATE}/system.reg
         COMMAND ${MAKE_PREFIX} ${WINE_TEMPLATE}
-        DEPENDS ${CMAKE_CURRENT_LIST_DIR}/make_prefix ${CMAKE_CURRENT_LIST_DIR}/windows98.reg
-                ${CMAKE_CURRENT_LIST_DIR}/wine_user.sh
+        DEPENDS ${scripts}/make_prefix ${scripts}/windows98.reg ${scripts}/wine_user.sh
         COMMENT "Wine prefix for tests"
         VERBATIM)
     add_custom_target(wine_template ALL DEPENDS ${WINE_TEMPLATE}/system.reg)

@@ -6,7 +6,7 @@ make_machine() {
     local folder=$1 samples=$2/samples drive=$1/prefix/drive_c padding
     rm -rf "$folder"
     mkdir -p "$folder/home"
-    tests/support/make_prefix "$folder/prefix" || return 1
+    scripts/make_prefix "$folder/prefix" || return 1
 
     cp "$samples/installed/LOGO.SYS" "$drive/"
     cp "$samples/installed/LOGOW.SYS" "$samples/installed/LOGOS.SYS" "$drive/windows/"
