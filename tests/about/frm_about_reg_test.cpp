@@ -13,10 +13,10 @@
 #include "controls/screen_metrics.h"
 #include "help/context_numbers.h"
 #include "resources/ids.h"
-#include "tests/support/help_requests.h"
-#include "tests/support/openings.h"
-#include "tests/support/seen.h"
-#include "tests/support/user.h"
+#include "tests/support/user/help_requests.h"
+#include "tests/support/user/openings.h"
+#include "tests/support/user/seen.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel {
 namespace {

@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "core/generali.h"
-#include "tests/support/started_program.h"
+#include "tests/support/user/started_program.h"
 
 namespace vistrel::test {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 

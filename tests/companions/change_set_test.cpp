@@ -9,7 +9,7 @@
 #include "core/startup_action.h"
 #include "platform/fault.h"
 #include "tests/companions/boot.h"
-#include "tests/support/poll.h"
+#include "tests/support/user/poll.h"
 
 namespace vistrel::test {
 namespace {

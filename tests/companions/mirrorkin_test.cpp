@@ -5,7 +5,7 @@
 #include "core/synchronizing.h"
 #include "platform/fault.h"
 #include "tests/companions/boot.h"
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::test {
 namespace {

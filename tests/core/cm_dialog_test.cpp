@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel {
 namespace {

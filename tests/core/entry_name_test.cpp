@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

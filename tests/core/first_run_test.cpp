@@ -3,7 +3,7 @@
 
 #include "core/settings.h"
 #include "platform/fault.h"
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

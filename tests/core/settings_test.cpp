@@ -5,7 +5,7 @@
 
 #include "core/library.h"
 #include "platform/fault.h"
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "platform/shell.h"
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

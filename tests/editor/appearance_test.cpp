@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "editor/select_picture_form.h"
 #include "pictures/rgb_picture.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 

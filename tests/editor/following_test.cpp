@@ -5,7 +5,7 @@
 #include <commctrl.h>
 
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

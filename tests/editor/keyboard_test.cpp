@@ -1,6 +1,6 @@
 // The Logo browser by keyboard: where the keys go at first, and what each does.
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

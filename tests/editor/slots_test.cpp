@@ -1,6 +1,6 @@
 // What the slots keep, and which file of a set each of them is written from and to.
 #include "tests/editor/editor_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

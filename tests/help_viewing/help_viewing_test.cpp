@@ -6,7 +6,7 @@
 
 #include "help/context_numbers.h"
 #include "platform/help_viewer.h"
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel {
 namespace {

@@ -10,7 +10,7 @@
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,7 +1,7 @@
 // Where a mouse button goes down and where it comes up: what counts as a click, and on what.
 #include "editor/select_picture_form.h"
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,7 +1,7 @@
 // The end of windows: closed from outside, destroyed by the system, and with the session.
 #include "about/frm_about_reg.h"
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,6 +1,6 @@
 // The command layer: what is enabled when, keys, menus, views, and pictures that are clicked.
 #include "controls/menu.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

@@ -3,9 +3,9 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/help_requests.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/help_requests.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

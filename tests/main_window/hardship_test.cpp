@@ -8,7 +8,7 @@
 
 #include "platform/fault.h"
 #include "tests/main_window/file_drag_source.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <ole2.h>
 
 #include "tests/main_window/file_drag_source.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

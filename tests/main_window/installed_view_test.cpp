@@ -1,6 +1,6 @@
 // The view of the screens that are installed now, and the preview in actual size.
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,6 +1,6 @@
 // Making a set the installed one, from each place where the command stands.
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,5 +1,5 @@
 // The main window by keyboard: the list and the three screens.
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,7 +1,7 @@
 // A label that is being edited while something else begins: the edit is taken as typed first.
-#include "tests/core/machine.h"
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

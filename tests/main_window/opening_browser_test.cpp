@@ -1,6 +1,6 @@
 // The Logo browser opens a moment after its command: what may come between, and what is seen.
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -4,8 +4,8 @@
 #include <commctrl.h>
 
 #include "controls/screen_metrics.h"
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

@@ -4,7 +4,7 @@
 #include <commctrl.h>
 
 #include "platform/fault.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

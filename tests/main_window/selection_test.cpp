@@ -3,8 +3,8 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

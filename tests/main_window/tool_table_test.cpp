@@ -1,8 +1,8 @@
 // The menus, the bar of buttons and their words, against a table of this test's own.
 #include <gmock/gmock.h>
 
-#include "tests/main_window/main_window_fixture.h"
-#include "tests/support/seen.h"
+#include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {

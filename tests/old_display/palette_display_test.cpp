@@ -11,7 +11,7 @@
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
 #include "pictures/screen/display_dither.h"
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
 namespace {

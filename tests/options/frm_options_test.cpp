@@ -13,10 +13,10 @@
 #include "core/library.h"
 #include "core/startup_action.h"
 #include "resources/ids.h"
-#include "tests/core/machine.h"
-#include "tests/support/help_requests.h"
-#include "tests/support/seen.h"
-#include "tests/support/user.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/help_requests.h"
+#include "tests/support/user/seen.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::test {
 namespace {

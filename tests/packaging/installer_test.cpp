@@ -4,9 +4,9 @@
 // The shell's headers need windows.h first.
 #include <shlobj.h>
 
-#include "tests/core/machine.h"
-#include "tests/support/started_program.h"
-#include "tests/support/user.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/started_program.h"
+#include "tests/support/user/user.h"
 #include "tests/user/installed_program.h"
 
 namespace vistrel::test {

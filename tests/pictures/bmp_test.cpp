@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "pictures/bmp/reader.h"
-#include "tests/pictures/bmp_file.h"
+#include "tests/support/picture_files/bmp_file.h"
 
 namespace vistrel::test {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "pictures/bmp/writer.h"
 #include "pictures/whole_file.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 namespace {

@@ -8,7 +8,7 @@
 #include <set>
 
 #include "pictures/whole_file.h"
-#include "tests/pictures/md5.h"
+#include "tests/support/picture_files/md5.h"
 
 namespace vistrel::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "pictures/gif/reader.h"
-#include "tests/pictures/gif_file.h"
+#include "tests/support/picture_files/gif_file.h"
 
 namespace vistrel::test {
 namespace {

@@ -10,8 +10,8 @@
 
 #include "pictures/bmp/reader.h"
 #include "pictures/whole_file.h"
-#include "tests/pictures/bmp_file.h"
-#include "tests/pictures/gif_file.h"
+#include "tests/support/picture_files/bmp_file.h"
+#include "tests/support/picture_files/gif_file.h"
 
 namespace vistrel::test {
 namespace {

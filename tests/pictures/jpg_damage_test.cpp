@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "pictures/jpg/reader.h"
-#include "tests/pictures/jpg_maker.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
 namespace {

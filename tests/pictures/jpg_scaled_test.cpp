@@ -4,7 +4,7 @@
 
 #include "pictures/jpg/reader.h"
 #include "pictures/scale/resize.h"
-#include "tests/pictures/jpg_maker.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
 namespace {

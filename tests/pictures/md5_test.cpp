@@ -1,5 +1,5 @@
 // The digest that the corpus is judged by is the right one.
-#include "tests/pictures/md5.h"
+#include "tests/support/picture_files/md5.h"
 
 #include <gtest/gtest.h>
 

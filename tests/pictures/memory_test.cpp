@@ -9,10 +9,10 @@
 #include <new>
 
 #include "pictures/whole_file.h"
-#include "tests/pictures/bmp_file.h"
 #include "tests/pictures/corpus.h"
-#include "tests/pictures/gif_file.h"
-#include "tests/pictures/jpg_maker.h"
+#include "tests/support/picture_files/bmp_file.h"
+#include "tests/support/picture_files/gif_file.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace {
 

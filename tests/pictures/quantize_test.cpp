@@ -8,7 +8,7 @@
 #include <set>
 
 #include "pictures/reduce/palette.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 namespace {

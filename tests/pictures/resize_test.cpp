@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "pictures/scale/weights.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "pictures/jpg/reader.h"
 #include "pictures/reduce/quantize.h"
-#include "tests/pictures/jpg_maker.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace {
 

@@ -14,9 +14,9 @@
 #include "pictures/whole_file.h"
 #include "platform/fault.h"
 #include "platform/standard_picture.h"
-#include "tests/core/machine.h"
-#include "tests/pictures/bmp_file.h"
-#include "tests/pictures/gif_file.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/picture_files/bmp_file.h"
+#include "tests/support/picture_files/gif_file.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "platform/fault.h"
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

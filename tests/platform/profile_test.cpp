@@ -2,7 +2,7 @@
 #include "platform/profile.h"
 
 #include "platform/fault.h"
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

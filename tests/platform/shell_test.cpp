@@ -12,8 +12,8 @@
 #include "platform/message_box.h"
 #include "platform/open_dialog.h"
 #include "platform/running_window.h"
-#include "tests/core/machine.h"
-#include "tests/support/user.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::test {
 namespace {

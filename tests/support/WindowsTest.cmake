@@ -4,16 +4,16 @@ set(GOOGLETEST_SOURCES /usr/src/googletest)
 add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/user.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/clean_start.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/user_menus.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/seen.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/screen_shot.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/help_requests.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/openings.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/snapshot.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/started_program.cpp)
-add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/record_opening.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/user/user.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/clean_start.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/user_menus.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/seen.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/screen_shot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/help_requests.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/openings.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/snapshot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/started_program.cpp)
+add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/user/record_opening.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
 target_include_directories(windows_test SYSTEM

@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-#include "tests/support/clean_start.h"
+#include "tests/support/user/clean_start.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What a user gets who asks for help: each way to the help file, and to the program's makers.
 #include "help/context_numbers.h"
 #include "resources/ids.h"
-#include "tests/support/help_requests.h"
-#include "tests/support/openings.h"
+#include "tests/support/user/help_requests.h"
+#include "tests/support/user/openings.h"
 #include "tests/user/running_program.h"
 
 namespace vistrel::test {

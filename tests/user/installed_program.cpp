@@ -6,9 +6,9 @@
 #include <shlobj.h>
 #include <tlhelp32.h>
 
-#include "tests/core/machine.h"
-#include "tests/support/poll.h"
-#include "tests/support/started_program.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/poll.h"
+#include "tests/support/user/started_program.h"
 
 namespace vistrel::test {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "tests/support/snapshot.h"
+#include "tests/support/user/snapshot.h"
 
 namespace vistrel::test {
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 #include "tests/user/installed_program.h"
 
 namespace vistrel::test {

@@ -10,9 +10,9 @@
 #include <optional>
 #include <string>
 
-#include "tests/core/machine.h"
-#include "tests/support/started_program.h"
-#include "tests/support/user.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/started_program.h"
+#include "tests/support/user/user.h"
 #include "tests/user/installed_program.h"
 
 namespace vistrel::test {

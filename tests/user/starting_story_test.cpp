@@ -1,6 +1,6 @@
 // How the program comes up.
 #include "resources/ids.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 #include "tests/user/running_program.h"
 
 namespace vistrel::test {

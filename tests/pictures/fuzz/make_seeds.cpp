@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/pictures/bmp_file.h"
-#include "tests/pictures/gif_file.h"
-#include "tests/pictures/jpg_maker.h"
+#include "tests/support/picture_files/bmp_file.h"
+#include "tests/support/picture_files/gif_file.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace {
 

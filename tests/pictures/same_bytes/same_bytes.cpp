@@ -11,9 +11,9 @@
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
-#include "tests/pictures/bmp_file.h"
-#include "tests/pictures/gif_file.h"
-#include "tests/pictures/md5.h"
+#include "tests/support/picture_files/bmp_file.h"
+#include "tests/support/picture_files/gif_file.h"
+#include "tests/support/picture_files/md5.h"
 
 namespace vistrel::test {
 namespace {

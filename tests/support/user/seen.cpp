@@ -1,9 +1,9 @@
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 #include <commctrl.h>
 
-#include "tests/support/poll.h"
-#include "tests/support/user.h"
+#include "tests/support/user/poll.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::seen {
 

@@ -11,8 +11,8 @@
 #include "controls/message_loop.h"
 #include "main_window/principale.h"
 #include "resources/ids.h"
-#include "tests/core/machine.h"
-#include "tests/support/user.h"
+#include "tests/support/machine/machine.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::test {
 

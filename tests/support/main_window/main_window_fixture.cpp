@@ -1,11 +1,11 @@
-#include "tests/main_window/main_window_fixture.h"
+#include "tests/support/main_window/main_window_fixture.h"
 
 #include <commctrl.h>
 #include <ole2.h>
 
 #include "core/settings.h"
 #include "pictures/bmp/writer.h"
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 

@@ -1,12 +1,12 @@
 // A small machine for tests.
-#include "tests/core/machine.h"
+#include "tests/support/machine/machine.h"
 
 #include <windows.h>
 
 #include <algorithm>
 
 #include "platform/fault.h"
-#include "tests/support/poll.h"
+#include "tests/support/user/poll.h"
 
 namespace vistrel::test {
 

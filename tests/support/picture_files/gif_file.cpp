@@ -1,5 +1,5 @@
 // Makes GIF files.
-#include "tests/pictures/gif_file.h"
+#include "tests/support/picture_files/gif_file.h"
 
 #include <algorithm>
 #include <map>

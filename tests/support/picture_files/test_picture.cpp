@@ -1,5 +1,5 @@
 // Makes up pictures for tests.
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 #include <algorithm>
 

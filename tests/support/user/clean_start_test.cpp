@@ -1,11 +1,11 @@
 // Each of these tests leaves something behind that would spoil the next one; each begins by looking
 // whether it finds nothing.
-#include "tests/support/clean_start.h"
+#include "tests/support/user/clean_start.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/support/started_program.h"
-#include "tests/support/user.h"
+#include "tests/support/user/started_program.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel {
 namespace {

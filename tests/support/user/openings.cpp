@@ -1,12 +1,12 @@
 // What the shell opens, as the program that it starts for it sees that.
-#include "tests/support/openings.h"
+#include "tests/support/user/openings.h"
 
 #include <windows.h>
 
 #include <cstdlib>
 #include <sstream>
 
-#include "tests/support/poll.h"
+#include "tests/support/user/poll.h"
 
 namespace vistrel::user {
 

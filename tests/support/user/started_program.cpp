@@ -1,4 +1,4 @@
-#include "tests/support/started_program.h"
+#include "tests/support/user/started_program.h"
 
 namespace vistrel::test {
 

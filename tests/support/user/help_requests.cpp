@@ -1,10 +1,10 @@
 // A help viewer for tests: it shows nothing and notes what it is asked for, by whatever program.
-#include "tests/support/help_requests.h"
+#include "tests/support/user/help_requests.h"
 
 #include <cstring>
 #include <utility>
 
-#include "tests/support/poll.h"
+#include "tests/support/user/poll.h"
 
 namespace vistrel::user {
 

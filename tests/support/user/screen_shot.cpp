@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::user {
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "pictures/bmp/header.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/poll.h"
+#include "tests/support/user/poll.h"
 
 namespace vistrel::user {
 

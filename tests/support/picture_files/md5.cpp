@@ -1,5 +1,5 @@
 // The MD5 digest, RFC 1321.
-#include "tests/pictures/md5.h"
+#include "tests/support/picture_files/md5.h"
 
 #include <array>
 #include <bit>

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "pictures/rgb_picture.h"
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 

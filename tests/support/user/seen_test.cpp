@@ -1,12 +1,12 @@
 // What the tests' user sees is what real windows show.
-#include "tests/support/seen.h"
+#include "tests/support/user/seen.h"
 
 #include <commctrl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/poll.h"
-#include "tests/support/user.h"
+#include "tests/support/user/poll.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel {
 namespace {

@@ -1,6 +1,6 @@
 // Waits until a program's window is open and has painted itself.
 // usage: wait_for_window CLASS       returns 0, or 1 when it did not come within two minutes
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/support/snapshot.h"
+#include "tests/support/user/snapshot.h"
 
 #include <windows.h>
 

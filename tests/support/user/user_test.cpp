@@ -1,5 +1,5 @@
 // The tests' user works: what it does reaches real windows, and what it reads is what they show.
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

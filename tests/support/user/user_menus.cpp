@@ -1,7 +1,7 @@
 // Menus and message boxes as the tests' user sees and answers them.
 #include <algorithm>
 
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::user {
 

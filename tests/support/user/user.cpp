@@ -1,7 +1,7 @@
 // Finding windows, reading them, mouse and keyboard of the tests' user.
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
-#include "tests/support/clean_start.h"
+#include "tests/support/user/clean_start.h"
 
 namespace vistrel::user {
 

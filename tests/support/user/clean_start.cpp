@@ -1,9 +1,9 @@
 // Takes away what a test has left behind, as far as a user at this screen meets it.
-#include "tests/support/clean_start.h"
+#include "tests/support/user/clean_start.h"
 
 #include <vector>
 
-#include "tests/support/user.h"
+#include "tests/support/user/user.h"
 
 namespace vistrel::user {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "tests/pictures/test_picture.h"
+#include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
 

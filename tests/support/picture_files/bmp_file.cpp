@@ -1,5 +1,5 @@
 // Makes bitmap files.
-#include "tests/pictures/bmp_file.h"
+#include "tests/support/picture_files/bmp_file.h"
 
 #include <algorithm>
 #include <bit>
