@@ -1,5 +1,5 @@
 // Each step of the other way is the quickest there is at its quality.
-#include "bench/picture_whole_way.h"
+#include "bench/pictures/whole_way.h"
 
 #include <cstdio>
 // Needs FILE from <cstdio>.
@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "bench/picture_imagequant.h"
-#include "bench/processor_time.h"
+#include "bench/pictures/imagequant.h"
+#include "bench/pictures/processor_time.h"
 #include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/jpg/reader.h"

@@ -1,5 +1,5 @@
 // Blurring and halving of planes.
-#include "bench/picture_planes.h"
+#include "bench/pictures/planes.h"
 
 #include <algorithm>
 

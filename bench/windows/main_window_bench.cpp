@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/side_by_side.h"
+#include "bench/windows/side_by_side.h"
 #include "core/locations.h"
 #include "main_window/principale.h"
 #include "pictures/bmp/writer.h"

@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <string>
 
-#include "bench/side_by_side.h"
+#include "bench/windows/side_by_side.h"
 #include "core/locations.h"
 #include "editor/select_picture_form.h"
 #include "main_window/principale.h"

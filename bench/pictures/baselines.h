@@ -1,7 +1,7 @@
 // Slow, plain colour reductions that others are measured against.
 #pragma once
 
-#include "bench/picture_metrics.h"
+#include "bench/pictures/metrics.h"
 
 namespace vistrel {
 

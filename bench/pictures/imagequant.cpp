@@ -1,5 +1,5 @@
 // The calls in the order of libimagequant's manual.
-#include "bench/picture_imagequant.h"
+#include "bench/pictures/imagequant.h"
 
 #include <libimagequant.h>
 

@@ -9,11 +9,11 @@
 #include <functional>
 #include <string>
 
-#include "bench/picture_baselines.h"
-#include "bench/picture_imagequant.h"
-#include "bench/picture_metrics.h"
-#include "bench/picture_whole_way.h"
-#include "bench/processor_time.h"
+#include "bench/pictures/baselines.h"
+#include "bench/pictures/imagequant.h"
+#include "bench/pictures/metrics.h"
+#include "bench/pictures/processor_time.h"
+#include "bench/pictures/whole_way.h"
 #include "pictures/convert.h"
 #include "pictures/reduce/quantize.h"
 

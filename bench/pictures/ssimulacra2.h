@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "bench/picture_planes.h"
+#include "bench/pictures/planes.h"
 
 namespace vistrel {
 

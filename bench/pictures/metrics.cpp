@@ -1,11 +1,11 @@
 // The measures, on 8-bit sRGB values.
-#include "bench/picture_metrics.h"
+#include "bench/pictures/metrics.h"
 
 #include <algorithm>
 #include <array>
 
-#include "bench/picture_planes.h"
-#include "bench/picture_ssimulacra2.h"
+#include "bench/pictures/planes.h"
+#include "bench/pictures/ssimulacra2.h"
 
 namespace vistrel {
 namespace {

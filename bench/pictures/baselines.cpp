@@ -1,5 +1,5 @@
 // K-means from a variance cut, and error diffusion.
-#include "bench/picture_baselines.h"
+#include "bench/pictures/baselines.h"
 
 #include <algorithm>
 #include <array>

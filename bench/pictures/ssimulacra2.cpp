@@ -1,6 +1,6 @@
 // The measure as Jon Sneyers published it in version 2.1 (April 2023): three kinds of error maps in
 // the XYB colour space, at six scales, each as its mean and as its 4-norm.
-#include "bench/picture_ssimulacra2.h"
+#include "bench/pictures/ssimulacra2.h"
 
 #include <algorithm>
 

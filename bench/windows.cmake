@@ -1,3 +1,0 @@
-include(companions.cmake)
-include(main_window.cmake)
-include(editor.cmake)
