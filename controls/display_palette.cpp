@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "pictures/screen/display_dither.h"
+#include "platform/display_colors.h"
 
 namespace vistrel {
 namespace {
@@ -14,8 +14,11 @@ struct Colors {
 
     Colors() {
         PALETTEENTRY* next = entries;
-        for (const DisplayColor& color : DisplayColors())
-            *next++ = {color.red, color.green, color.blue, 0};
+        for (int red = 0; red < kDisplayLevels[0]; ++red)
+            for (int green = 0; green < kDisplayLevels[1]; ++green)
+                for (int blue = 0; blue < kDisplayLevels[2]; ++blue)
+                    *next++ = {DisplayLevel(0, red), DisplayLevel(1, green), DisplayLevel(2, blue),
+                               0};
     }
 };
 

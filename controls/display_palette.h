@@ -14,7 +14,7 @@ bool HasPalette(DeviceContext device);
 /// The same of the screen.
 bool DisplayHasPalette();
 
-/// The palette of DisplayColors, which all pictures share on such a display, so that none takes
+/// The palette of the colours that all pictures share on such a display, so that none takes
 /// another's colours.
 PaletteHandle DisplayPalette();
 

@@ -2,43 +2,28 @@
 
 #include <algorithm>
 
+#include "platform/display_colors.h"
+
 namespace vistrel {
 namespace {
 
-// The system keeps 20 of the 256 colours and leaves 236. Of these 240, the 8 that have only the
-// channels' ends are among the system's, so that all find room. The eye tells green best and blue
-// worst; errors against the undithered picture, blurred, are a quarter smaller in brightness than
-// with 6 levels of each and hardly larger in colour.
 constexpr int kChannels = 3;
-constexpr int kLevels[kChannels] = {6, 8, 5};
-static_assert(kLevels[0] * kLevels[1] * kLevels[2] == kDisplayColors);
 
 /// The values of a channel's levels, and the level that is nearest to each value.
 struct Channel {
     std::uint8_t values[8] = {};
     std::uint8_t nearest[256] = {};
 
-    constexpr explicit Channel(int levels) {
-        for (int i = 0; i < levels; ++i)
-            values[i] = static_cast<std::uint8_t>(i * 255 / (levels - 1));
+    constexpr explicit Channel(int channel) {
+        const int levels = kDisplayLevels[channel];
+        for (int i = 0; i < levels; ++i) values[i] = DisplayLevel(channel, i);
         for (int value = 0; value < 256; ++value)
             nearest[value] = static_cast<std::uint8_t>((value * (levels - 1) + 127) / 255);
     }
 };
-constexpr Channel kScales[kChannels] = {Channel(kLevels[0]), Channel(kLevels[1]),
-                                        Channel(kLevels[2])};
+constexpr Channel kScales[kChannels] = {Channel(0), Channel(1), Channel(2)};
 
 }  // namespace
-
-std::vector<DisplayColor> DisplayColors() {
-    std::vector<DisplayColor> colors;
-    for (int red = 0; red < kLevels[0]; ++red)
-        for (int green = 0; green < kLevels[1]; ++green)
-            for (int blue = 0; blue < kLevels[2]; ++blue)
-                colors.push_back(
-                    {kScales[0].values[red], kScales[1].values[green], kScales[2].values[blue]});
-    return colors;
-}
 
 // Error diffusion of Floyd and Steinberg (1976), each channel by itself: what a pixel is too bright
 // is taken from its neighbours, 7/16 from the next, 3, 5 and 1/16 from those below.
@@ -58,7 +43,7 @@ std::vector<std::uint8_t> DitherToDisplayColors(const std::uint8_t* rgb, int wid
                 const int wanted = *rgb + ((*error + next[c] + 8) >> 4);
                 const int level = kScales[c].nearest[std::clamp(wanted, 0, 255)];
                 const int off = wanted - kScales[c].values[level];
-                index = index * kLevels[c] + level;
+                index = index * kDisplayLevels[c] + level;
                 next[c] = 7 * off;
                 error[-kChannels] += 3 * off;
                 *error = corner[c] + 5 * off;

@@ -10,7 +10,7 @@
 #include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
-#include "pictures/screen/display_dither.h"
+#include "platform/display_colors.h"
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
