@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "pictures/jpg/scan/huffman.h"
+#include "pictures/jpg/entropy/huffman.h"
 
 namespace vistrel {
 

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "pictures/jpg/entropy/bits.h"
 #include "pictures/jpg/frame.h"
-#include "pictures/jpg/scan/bits.h"
 
 namespace vistrel {
 

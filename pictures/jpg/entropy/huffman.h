@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "pictures/jpg/scan/bits.h"
+#include "pictures/jpg/entropy/bits.h"
 #include "pictures/jpg/tables.h"
 
 namespace vistrel {

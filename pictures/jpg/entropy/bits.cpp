@@ -1,5 +1,5 @@
 // Takes the escape bytes out of a scan's coded data and finds the markers between them.
-#include "pictures/jpg/scan/bits.h"
+#include "pictures/jpg/entropy/bits.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,5 +1,5 @@
 // Builds the reading tables of a Huffman code.
-#include "pictures/jpg/scan/huffman.h"
+#include "pictures/jpg/entropy/huffman.h"
 
 #include <algorithm>
 #include <numeric>
