@@ -1,11 +1,11 @@
 // The image library's boundary: eight operations that take ANSI paths, plain pointers and handles
 // of global memory blocks. Whoever receives a handle frees it with FreeGlobal (GlobalFree on Windows).
+// The eighth draws on Windows: preview/draw_rgb.h.
 #pragma once
 
 #include <cstdint>
 
 #include "platform/global_memory.h"
-#include "platform/handles.h"
 
 namespace vistrel {
 
@@ -30,10 +30,5 @@ int ImgDLLQuantizeRGBTo8Bit(const std::uint8_t* rgb, std::uint8_t* indices, int 
 /// Writes a colour-mapped bitmap; bitsPerPixel must be 8. 1 on success.
 int ImgDLLSaveColormappedToBMP(const char* path, const std::uint8_t* indices, int width, int height,
                                int bitsPerPixel, int colors, const std::uint8_t* palette);
-
-/// Draws 24-bit pixels of pixelWidth x pixelHeight at (x, y) of a device context, stretched to
-/// width x height. `reserved` is always 0. Windows only.
-void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth, int pixelHeight,
-                   int x, int y, int width, int height, int reserved);
 
 }  // namespace vistrel

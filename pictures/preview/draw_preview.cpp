@@ -6,8 +6,8 @@
 
 #include "controls/display_palette.h"
 #include "pictures/convert.h"
-#include "pictures/imgdll.h"
 #include "pictures/little_endian.h"
+#include "pictures/preview/draw_rgb.h"
 #include "platform/standard_picture.h"
 
 namespace vistrel {

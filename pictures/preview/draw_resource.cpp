@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "pictures/imgdll.h"
+#include "pictures/preview/draw_rgb.h"
 #include "platform/instance.h"
 
 namespace vistrel {

@@ -1,12 +1,11 @@
-// Drawing of 24-bit pixels on a device context: the image library's one operation that needs
-// Windows.
+#include "pictures/preview/draw_rgb.h"
+
 #include <windows.h>
 
 #include <new>
 #include <vector>
 
 #include "controls/display_palette.h"
-#include "pictures/imgdll.h"
 #include "pictures/screen/display_dither.h"
 
 namespace vistrel {

@@ -1,9 +1,10 @@
 // Draws 24-bit pixels on a display of true colours.
+#include "pictures/preview/draw_rgb.h"
+
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include "controls/display_palette.h"
-#include "pictures/imgdll.h"
 
 namespace vistrel::test {
 namespace {
