@@ -1,7 +1,7 @@
 #include "editor/elimina_logo_set.h"
 
 #include "core/library.h"
-#include "editor/file_handling.h"
+#include "core/file_handling.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"

@@ -3,9 +3,9 @@
 #include "core/entry_name.h"
 #include "core/generali.h"
 #include "core/library.h"
-#include "editor/file_handling.h"
+#include "core/file_handling.h"
 #include "editor/select_picture_form.h"
-#include "editor/slot_file.h"
+#include "core/slot_file.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 

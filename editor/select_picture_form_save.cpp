@@ -5,7 +5,7 @@
 #include "core/library.h"
 #include "editor/elimina_logo_set.h"
 #include "editor/select_picture_form.h"
-#include "editor/slot_file.h"
+#include "core/slot_file.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
