@@ -26,7 +26,7 @@ bool LogoFolderIsThere() {
 }
 
 bool HasStartupScreen(const std::string& logoFolder, const std::string& setName) {
-    return FileExists(ScreenPathsOfSet(logoFolder, setName)[0], kHiddenFile | kSystemFile);
+    return FileExists(LogoSet{logoFolder, setName}.Screens()[0], kHiddenFile | kSystemFile);
 }
 
 /// Chooses again until it is a set that can be installed: one with a startup screen. Empty when
@@ -44,7 +44,7 @@ std::optional<std::string> ChooseUsable(const SetChooser& choose, const Settings
 /// Installs a set as InstallLogoSet does, but so that a power cut leaves no screen half written.
 bool InstallSafely(const std::string& setName, const Settings& settings,
                    const SystemLocations& locations) {
-    const auto from = ScreenPathsOfSet(settings.logoPath, setName);
+    const auto from = LogoSet{settings.logoPath, setName}.Screens();
     const auto to = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
     // While synchronizing, Mirrorkin brings the other two.
     const std::size_t count = settings.synchronizeLogos != 0 ? 1 : to.size();

@@ -1,8 +1,6 @@
 #include "editor/elimina_logo_set.h"
 
 #include "core/library.h"
-#include "core/file_handling.h"
-#include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
@@ -19,14 +17,9 @@ bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& Fol
             kQuestionYesNo, "Confirm deletions") != Answer::Yes)
         return false;
 
-    // Every step is done whether or not the ones before it succeeded.
     const BusyPointer busy;
-    const std::string everything = FolderToKill + "\\*.*";
-    if (settings.deleteInTheRecycleBin == 1)
-        DeleteToRecycleBin(owner, {everything});
-    else
-        RemoveMatching(everything);
-    RemoveFolder(FolderToKill);
+    DeleteSet(owner, FolderToKill,
+              settings.deleteInTheRecycleBin == 1 ? Bin::Recycle : Bin::Destroy);
     if (main.CurrentSet() == editorSetName) main.SetCurrentSet(kUnknownSet);
     return true;
 }
