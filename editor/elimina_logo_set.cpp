@@ -6,9 +6,9 @@
 
 namespace vistrel {
 
-bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& FolderToKill,
+bool EliminaLogoSet(WindowHandle owner, EditorHost& host, const std::string& FolderToKill,
                     const std::string& LogoName, const std::string& editorSetName) {
-    const Settings& settings = main.Preferences();
+    const Settings& settings = host.Preferences();
     if (settings.confirmLogosetDelete == 1 &&
         Ask(owner,
             "Are you sure you want to delete " + LogoName +
@@ -20,7 +20,7 @@ bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& Fol
     const BusyPointer busy;
     DeleteSet(owner, FolderToKill,
               settings.deleteInTheRecycleBin == 1 ? Bin::Recycle : Bin::Destroy);
-    if (main.CurrentSet() == editorSetName) main.SetCurrentSet(kUnknownSet);
+    if (host.InstalledSet() == editorSetName) host.SetInstalledSet(std::nullopt);
     return true;
 }
 

@@ -13,8 +13,8 @@
 #include "controls/menu_item.h"
 #include "controls/picture_box.h"
 #include "controls/window.h"
-#include "core/main_window.h"
 #include "core/save_set.h"
+#include "editor/host.h"
 
 namespace vistrel {
 
@@ -25,7 +25,7 @@ inline constexpr long kNoPictureColor = 255;
 
 class SelPictureForm : public Window {
  public:
-    explicit SelPictureForm(MainWindow& main);
+    explicit SelPictureForm(EditorHost& host);
     ~SelPictureForm() override;
 
     // The browser
@@ -209,9 +209,9 @@ class SelPictureForm : public Window {
     /// Files that are deleted when the session ends.
     NewSessionFile NewFileOfSession();
     void FinishSaving(const SaveResult& result, const std::string& what, const std::string& folder);
-    const std::string& LogoFolder() const { return main_.Preferences().logoPath; }
+    const std::string& LogoFolder() const { return host_.Preferences().logoPath; }
 
-    MainWindow& main_;
+    EditorHost& host_;
     MenuHandle menus_ = nullptr;
     IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;

@@ -86,11 +86,11 @@ SaveResult SelPictureForm::UpdateLoadedSet(const LogoSet& set) {
 // The set selected in the main window counts, whichever was loaded here: it is kept so. While the
 // installed screens are shown there, none is selected.
 void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::string& name) {
-    const std::string installed = main_.CurrentSet();
-    const int selected = main_.SelectedSet();
+    const auto installed = host_.InstalledSet();
+    const int selected = host_.SelectedSet();
     const bool installedSelected =
-        selected >= 0 && main_.SetNames()[static_cast<std::size_t>(selected)] == installed;
-    if (installedSelected || oldName == installed) main_.SetCurrentSet(name);
+        selected >= 0 && host_.SetNames()[static_cast<std::size_t>(selected)] == installed;
+    if (installedSelected || oldName == installed) host_.SetInstalledSet(name);
 }
 
 bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::string& name) {
@@ -158,7 +158,7 @@ void SelPictureForm::EliminaSetBtn_Click() {
     const std::string name = NameLogoSet.Text();
     // Without a name the folder would be the logo folder itself.
     if (name.empty()) return;
-    if (!EliminaLogoSet(handle(), main_, LogoSet{LogoFolder(), name}.Path(), name, name)) return;
+    if (!EliminaLogoSet(handle(), host_, LogoSet{LogoFolder(), name}.Path(), name, name)) return;
     LibraryChanged = true;
     ForgetLoadedSet(name);
     AggiornaDir();

@@ -17,35 +17,38 @@ std::vector<std::string> Principale::SetNames() const {
     return names;
 }
 
-std::string Principale::CurrentSet() const {
-    return savedView_ ? savedView_->currentSet : DefaultLogo.Text();
+std::optional<std::string> Principale::InstalledSet() const {
+    if (!installedSetListed_) return std::nullopt;
+    return settings_.defaultLogoSet;
 }
 
-void Principale::SetCurrentSet(const std::string& name) {
-    settings_.defaultLogoSet = name;
-    // While the installed screens are shown the label keeps saying so.
-    if (savedView_)
-        savedView_->currentSet = name;
-    else
-        DefaultLogo.SetText(name);
+void Principale::SetInstalledSet(const std::optional<std::string>& name) {
+    settings_.defaultLogoSet = name.value_or("");
+    installedSetListed_ = name.has_value();
+    ShowInstalledSet();
+}
+
+void Principale::ShowInstalledSet() {
+    // While the installed screens are shown the label says so.
+    if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(kUnknownSet));
 }
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
-    bool installedFound = false;
+    installedSetListed_ = false;
     MyList.SuspendPainting();
     MyList.Clear();
     ForEachLogoSet(AddBackslash(settings_.logoPath), [&](const std::string& name) {
-        if (name == settings_.defaultLogoSet) installedFound = true;
+        if (name == settings_.defaultLogoSet) installedSetListed_ = true;
         MyList.AddItem(name, IconKeyOfSet(name));
     });
     MyList.ResumePainting();
     ShowListaLogo();
     VisualizzaNumLogo();
-    if (installedFound) SelItem(settings_.defaultLogoSet);
-    DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : kUnknownSet);
+    if (installedSetListed_) SelItem(settings_.defaultLogoSet);
+    ShowInstalledSet();
 
     if (installedShown) ShowInstalledScreens();
 }
@@ -127,7 +130,7 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     }
     MyList.SetItemText(edited, newName);
     SelItem(newName);
-    if (CurrentSet() == oldName_) SetCurrentSet(newName);
+    if (InstalledSet() == oldName_) SetInstalledSet(newName);
     // The label shows the folder's name by now, which is not always the text as it was typed.
     return false;
 }

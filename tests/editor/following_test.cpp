@@ -276,7 +276,7 @@ TEST_F(Following, AnUpdateOfAnotherSetLeavesTheInstalledOneAsItIs) {
             TypeName(editor, "Crimson");
             Run(editor, ID_OkButton + 1);
             EXPECT_TRUE(Exists(logos + "Crimson"));
-            EXPECT_EQ(main.CurrentSet(), "Blue");
+            EXPECT_EQ(main.InstalledSet(), "Blue");
         },
         [&](Principale& main) { main.SelItem("Red"); });
 }

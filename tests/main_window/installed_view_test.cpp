@@ -259,7 +259,7 @@ TEST_F(InstalledView, KeepsTheStateOfTheSetToolsWhichThenDoNothing) {
 TEST_F(InstalledView, ComesBackWithASetThatBecameTheInstalledOneMeanwhile) {
     WithMainWindow([&](Principale& main) {
         Command(main, ID_ToolShowCurrent);
-        main.SetCurrentSet("Red");
+        main.SetInstalledSet("Red");
         EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
         Command(main, ID_ToolShowCurrent);
         EXPECT_EQ(main.DefaultLogo.Text(), "Red");
