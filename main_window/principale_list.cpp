@@ -47,6 +47,7 @@ void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
+    const BusyPointer busy;  // there may be thousands of sets
     bool installedFound = false;
     MyList.SuspendPainting();
     MyList.Clear();
