@@ -37,6 +37,7 @@ void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
+    const BusyPointer busy;  // there may be thousands of sets
     installedSetListed_ = false;
     MyList.SuspendPainting();
     MyList.Clear();
