@@ -178,5 +178,20 @@ TEST(SplashScreen, ShowsItsPictureAndVersion) {
     EXPECT_TRUE(splash.Unload());
 }
 
+TEST(SplashScreen, ShowsItsVersionInWhiteInItsLowerRightCorner) {
+    frmSplash splash;
+    ASSERT_TRUE(splash.Create(nullptr));
+    splash.Show();
+    splash.PaintAtOnce();
+    EXPECT_TRUE(seen::ShowsColor(splash.LblVersion.handle(), RGB(255, 255, 255)));
+    RECT whole{}, label{};
+    GetClientRect(splash.handle(), &whole);
+    GetWindowRect(splash.LblVersion.handle(), &label);
+    MapWindowPoints(nullptr, splash.handle(), reinterpret_cast<POINT*>(&label), 2);
+    EXPECT_EQ(whole.right - label.right, 12);
+    EXPECT_EQ(whole.bottom - label.bottom, 10);
+    EXPECT_TRUE(splash.Unload());
+}
+
 }  // namespace
 }  // namespace vistrel
