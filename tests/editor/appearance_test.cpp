@@ -97,6 +97,15 @@ TEST_F(Appearance, TipsNameTheSlots) {
     });
 }
 
+TEST_F(Appearance, TheWholePathOfTheFolderIsItsTip) {
+    MakeFolders(pictures + "zoo\\");
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        EXPECT_EQ(seen::TipOver(editor.CurPath.handle()), pictures);
+        BrowseInto(editor, "zoo");
+        EXPECT_EQ(seen::TipOver(editor.CurPath.handle()), pictures + "zoo\\");
+    });
+}
+
 /// How well a text is told from its ground: 1 not at all, 21 black on white.
 double Contrast(COLORREF text, COLORREF ground) {
     const auto light = [](COLORREF color) {
