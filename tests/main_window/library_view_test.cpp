@@ -121,6 +121,21 @@ TEST_F(LibraryView, StandsScreensThatAreBroken) {
     WithMainWindow([&](Principale& main) { ClickSet(main, "Red"); });
 }
 
+TEST_F(LibraryView, FillsABoxThatGrewUntilItsScreenIsDrawnAnew) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        const HWND box = main.Imag[1].handle();
+        RECT r{};
+        GetClientRect(box, &r);
+        SetWindowPos(box, HWND_TOP, 0, 0, r.right + 40, r.bottom + 40, SWP_NOMOVE);
+        Settle(main);
+        RedrawWindow(box, nullptr, nullptr, RDW_UPDATENOW);
+        const HDC dc = GetDC(box);
+        EXPECT_EQ(GetPixel(dc, r.right + 20, r.bottom + 20), kRed);
+        ReleaseDC(box, dc);
+    });
+}
+
 TEST_F(LibraryView, StandsAFolderWhereAScreenShouldBe) {
     DeleteFileA((logos + "Red\\LOGO.SYS").c_str());
     MakeFolders(logos + "Red\\LOGO.SYS\\");
