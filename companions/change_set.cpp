@@ -17,16 +17,23 @@ namespace vistrel {
 
 namespace {
 
-/// False when a logo folder is stored and is not there: the drive may be away for this one start.
-/// The settings then name the program's folder, which is right only where somebody can see it.
-bool LogoFolderIsThere() {
-    const std::string stored =
-        CutAtNul(TextOf(QueryValue(Hive::LocalMachine, kSettingsKey, "LogoPath")));
-    return stored.empty() || IsFolder(AddBackslash(stored));
+/// The logo folder that is stored, the program's own where none is. Nothing when one is stored that
+/// is not there or cannot be read: its drive may be away for this one start. The settings then name
+/// the program's folder, which is right only where somebody can see it.
+std::optional<std::string> LogoFolder(const SystemLocations& locations) {
+    RegistryKey key;
+    RegistryValue value;
+    RegistryStatus status = key.Open(Hive::LocalMachine, kSettingsKey);
+    if (status == 0) status = QueryValueEx(key, "LogoPath", value);
+    if (status > 0 && status != kRegistryNotThere) return std::nullopt;
+    const std::string stored = CutAtNul(TextOf(value));
+    if (stored.empty()) return locations.programFolder;
+    if (!IsFolder(AddBackslash(stored))) return std::nullopt;
+    return AddBackslash(stored);
 }
 
 bool HasStartupScreen(const std::string& logoFolder, const std::string& setName) {
-    return FileExists(ScreenPathsOfSet(logoFolder, setName)[0], kHiddenFile | kSystemFile);
+    return FileExists(LogoSet{logoFolder, setName}.Screens()[0], kHiddenFile | kSystemFile);
 }
 
 /// Chooses again until it is a set that can be installed: one with a startup screen. Empty when
@@ -44,7 +51,7 @@ std::optional<std::string> ChooseUsable(const SetChooser& choose, const Settings
 /// Installs a set as InstallLogoSet does, but so that a power cut leaves no screen half written.
 bool InstallSafely(const std::string& setName, const Settings& settings,
                    const SystemLocations& locations) {
-    const auto from = ScreenPathsOfSet(settings.logoPath, setName);
+    const auto from = LogoSet{settings.logoPath, setName}.Screens();
     const auto to = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
     // While synchronizing, Mirrorkin brings the other two.
     const std::size_t count = settings.synchronizeLogos != 0 ? 1 : to.size();
@@ -68,10 +75,12 @@ bool FollowSynchronizing(bool synchronize, const std::string& programFolder,
 Outcome ChangeLogoSet(const SetChooser& choose) {
     FailOnDrivesNotReady();
     if (VistrelIsRunning()) return Outcome::VistrelRuns;
-    if (!LogoFolderIsThere()) return Outcome::LogoFolderNotThere;
-
     const SystemLocations locations = FindSystemLocations();
-    const Settings settings = ReadSettings(locations);
+    const std::optional<std::string> logoFolder = LogoFolder(locations);
+    if (!logoFolder) return Outcome::LogoFolderNotThere;
+
+    Settings settings = ReadSettings(locations);
+    settings.logoPath = *logoFolder;
     const std::optional<std::string> chosen = ChooseUsable(choose, settings);
     if (!chosen) return Outcome::NoSets;
 

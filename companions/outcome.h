@@ -12,7 +12,8 @@ enum class Outcome {
     NotRegistered = 5,       ///< Mirrorkin's entry or its ini file could not be written
     NoFolderNamed = 6,       ///< Mirrorkin.ini is missing or names no folder
     FolderNotThere = 7,      ///< the folder that Mirrorkin.ini names is not there
-    LogoFolderNotThere = 8,  ///< nothing was changed: the stored logo folder is not there
+    LogoFolderNotThere = 8,  ///< nothing was changed: the stored logo folder is not there, or
+                             ///< which one it is cannot be read
 };
 
 }  // namespace vistrel

@@ -75,6 +75,8 @@ void ActiveBar::MakeButtons(const Band& band, int bitmapResource, long transpare
         }
         SendMessageA(bar_, TB_ADDBUTTONSA, 1, reinterpret_cast<LPARAM>(&button));
     }
+    // Some versions of the bar make its tips only when they are asked for.
+    SendMessageA(bar_, TB_GETTOOLTIPS, 0, 0);
     Resize();
 }
 

@@ -116,25 +116,26 @@ void ListView::SetItemIcon(int index, const std::string& iconKey) {
     SendPointer(LVM_SETITEMA, 0, &item);
 }
 
-int ListView::FindItem(const std::string& text) const {
+int ListView::NextItem(const std::string& text, int after) const {
+    // A list whose window is gone would answer 0, for ever.
+    if (!handle()) return -1;
     LVFINDINFOA find{};
     find.flags = LVFI_STRING;
     find.psz = text.c_str();
+    return static_cast<int>(SendPointer(LVM_FINDITEMA, static_cast<WPARAM>(after), &find));
+}
+
+int ListView::FindItem(const std::string& text) const {
     // The control's search ignores case; names that differ by case only are told apart here.
     int index = -1;
-    while ((index = static_cast<int>(
-                SendPointer(LVM_FINDITEMA, static_cast<WPARAM>(index), &find))) >= 0)
+    while ((index = NextItem(text, index)) >= 0)
         if (ItemText(index) == text) return index;
     return -1;
 }
 
 int ListView::FindItemOfAnyCase(const std::string& text) const {
     const int exact = FindItem(text);
-    if (exact >= 0) return exact;
-    LVFINDINFOA find{};
-    find.flags = LVFI_STRING;
-    find.psz = text.c_str();
-    return static_cast<int>(SendPointer(LVM_FINDITEMA, static_cast<WPARAM>(-1), &find));
+    return exact >= 0 ? exact : NextItem(text, -1);
 }
 
 int ListView::SelectedItem() const {

@@ -96,6 +96,8 @@ class ListView : public Control {
                    std::intptr_t& result) override;
 
  private:
+    /// Number of the first item behind `after` with this text, whatever the case; -1 for none.
+    int NextItem(const std::string& text, int after) const;
     int IconNumber(const std::string& key) const;
     void TellClick();
     bool OnEndLabelEdit(const char* text);

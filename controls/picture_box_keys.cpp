@@ -32,7 +32,7 @@ Point PictureBox::OnScreen(Point at) const {
 }
 
 void PictureBox::DrawFocusMark(DeviceContext target) const {
-    if (!HasFocus()) return;
+    if (!tabStop_ || !HasFocus()) return;  // alone in its window it is not one of several
     RECT mark{0, 0, ScaleWidth(), ScaleHeight()};
     InflateRect(&mark, -kMarkInset, -kMarkInset);
     SetTextColor(target, RGB(0, 0, 0));

@@ -9,6 +9,7 @@
 #include "controls/display_palette.h"
 #include "controls/message_loop.h"
 #include "controls/picture_box.h"
+#include "controls/stay_open.h"
 #include "controls/timer.h"
 #include "platform/instance.h"
 
@@ -94,6 +95,7 @@ bool Window::Create(WindowHandle owner) {
     EnterLoop(*this);
     Form_Load();
     Form_Resize(ClientSize());
+    LetHelpersStayOpen();
     return true;
 }
 

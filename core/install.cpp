@@ -15,7 +15,7 @@ void ToggleReadOnlyAttrib(const InstallTargets& targets) {
 
 void InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize) {
     ToggleReadOnlyAttrib(targets);
-    const auto [setStartup, setWait, setShutdown] = ScreenPathsOfSet(targets.logoFolder, setName);
+    const auto [setStartup, setWait, setShutdown] = LogoSet{targets.logoFolder, setName}.Screens();
     const auto [startup, wait, shutdown] =
         InstalledScreenPaths(targets.bootRoot, targets.windowsDirectory);
 

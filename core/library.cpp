@@ -1,4 +1,4 @@
-// The logo sets on disk.
+// The library of logo sets.
 #include "core/library.h"
 
 #include <algorithm>
@@ -8,24 +8,12 @@
 
 namespace vistrel {
 
-bool IsSingleLogoSet(const std::string& setName) {
-    return UpperEnding(setName) == kSingleLogoEnding;
-}
-
 const char* IconKeyOfSet(const std::string& setName) {
     return IsSingleLogoSet(setName) ? "singlelogo" : "multilogo";
 }
 
 const char* TypeCaptionOfSet(const std::string& setName) {
     return IsSingleLogoSet(setName) ? "Single logo" : "Multi logo";
-}
-
-std::array<std::string, 3> ScreenPathsOfSet(const std::string& logoFolder,
-                                            const std::string& setName) {
-    const std::string setFolder = logoFolder + setName + "\\";
-    const std::string& sharedOrOwn = IsSingleLogoSet(setName) ? logoFolder : setFolder;
-    return {setFolder + kScreenFileNames[0], sharedOrOwn + kScreenFileNames[1],
-            sharedOrOwn + kScreenFileNames[2]};
 }
 
 std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,

@@ -1,4 +1,4 @@
-// The logo sets on disk: what a set is, where its screens lie, and what the logo folder holds.
+// The library of logo sets: what the logo folder holds, and the screens that are installed.
 #pragma once
 
 #include <array>
@@ -7,27 +7,19 @@
 #include <string>
 #include <vector>
 
-#include "core/locations.h"
+#include "core/logo_set.h"
 
 namespace vistrel {
 
 /// What the label of the installed set shows when none is known.
 inline constexpr const char* kUnknownSet = "<Don't know>";
-inline constexpr const char* kSingleLogoEnding = ".SLS";
-
-/// True when a set of this name is a single-logo set: the name ends in ".SLS" in any case.
-bool IsSingleLogoSet(const std::string& setName);
 
 /// "singlelogo" or "multilogo": the key of the list icon of a set.
 const char* IconKeyOfSet(const std::string& setName);
 /// "Single logo" or "Multi logo".
 const char* TypeCaptionOfSet(const std::string& setName);
 
-/// The full paths of a set's three screens, in the order of LogoScreen. A single-logo set's wait
-/// and shutdown screens lie in the logo folder, which ends in a backslash.
-std::array<std::string, 3> ScreenPathsOfSet(const std::string& logoFolder,
-                                            const std::string& setName);
-/// The full paths of the three installed screens.
+/// The full paths of the three installed screens, in the order of LogoScreen.
 std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
                                                 const std::string& windowsDirectory);
 

@@ -131,7 +131,7 @@ std::string TextToStore(const SettingRow& row, const Settings& settings) {
     }
     const std::string& text = settings.*std::get<TextField>(row.field);
     if (row.rule == Rule::BootDrive) return text.substr(0, 1);
-    return text == kUnknownSet ? std::string() : text;
+    return text;
 }
 
 bool WriteRow(const SettingRow& row, const std::string& text) {

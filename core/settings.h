@@ -49,8 +49,7 @@ Settings ReadSettings(const SystemLocations& locations);
 Settings LoadSettings(const SystemLocations& locations);
 
 /// Writes all values as texts. It ends at the first that cannot be written.
-/// `view` and `defaultLogoSet` must hold what the main window shows; kUnknownSet is written as the
-/// empty text.
+/// `view` and `defaultLogoSet` must hold what the main window shows.
 void SaveSettings(const Settings& settings);
 
 /// Writes the name of the installed set alone, creating the key if it is absent. False when it

@@ -1,16 +1,14 @@
 #include "editor/elimina_logo_set.h"
 
 #include "core/library.h"
-#include "editor/file_handling.h"
-#include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
 namespace vistrel {
 
-bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& FolderToKill,
+bool EliminaLogoSet(WindowHandle owner, EditorHost& host, const std::string& FolderToKill,
                     const std::string& LogoName, const std::string& editorSetName) {
-    const Settings& settings = main.Preferences();
+    const Settings& settings = host.Preferences();
     if (settings.confirmLogosetDelete == 1 &&
         Ask(owner,
             "Are you sure you want to delete " + LogoName +
@@ -19,15 +17,10 @@ bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& Fol
             kQuestionYesNo, "Confirm deletions") != Answer::Yes)
         return false;
 
-    // Every step is done whether or not the ones before it succeeded.
     const BusyPointer busy;
-    const std::string everything = FolderToKill + "\\*.*";
-    if (settings.deleteInTheRecycleBin == 1)
-        DeleteToRecycleBin(owner, {everything});
-    else
-        RemoveMatching(everything);
-    RemoveFolder(FolderToKill);
-    if (main.CurrentSet() == editorSetName) main.SetCurrentSet(kUnknownSet);
+    DeleteSet(owner, FolderToKill,
+              settings.deleteInTheRecycleBin == 1 ? Bin::Recycle : Bin::Destroy);
+    if (host.InstalledSet() == editorSetName) host.SetInstalledSet(std::nullopt);
     return true;
 }
 

@@ -3,8 +3,7 @@
 
 #include <string>
 
-#include "core/main_window.h"
-#include "platform/handles.h"
+#include "editor/host.h"
 
 namespace vistrel {
 
@@ -12,7 +11,7 @@ namespace vistrel {
 /// `LogoName`, into the recycle bin or for good. Failures are passed over. `editorSetName` is the
 /// name that the editor shows: if that set is the installed one, none is known afterwards. True
 /// when the user agreed, whatever is left of the folder.
-bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& FolderToKill,
+bool EliminaLogoSet(WindowHandle owner, EditorHost& host, const std::string& FolderToKill,
                     const std::string& LogoName, const std::string& editorSetName);
 
 }  // namespace vistrel

@@ -18,8 +18,8 @@ constexpr long kIconTransparent = 0xFF00FF;
 
 }  // namespace
 
-SelPictureForm::SelPictureForm(MainWindow& main)
-    : Window("SelPictureForm", IDD_SelPictureForm), main_(main) {
+SelPictureForm::SelPictureForm(EditorHost& host)
+    : Window("SelPictureForm", IDD_SelPictureForm), host_(host) {
     AddControls();
     ConnectBrowser();
     ConnectSlots();
@@ -153,20 +153,20 @@ void SelPictureForm::Form_Activate() {
     }
     shownLogoFolder_ = LogoFolder();
     ListNames();
-    NameLogoSet.SetListIndex(main_.SelectedSet());
+    NameLogoSet.SetListIndex(host_.SelectedSet());
     NameLogoSet.SelectText();
     if (IsSingleLogoSet(NameLogoSet.Text())) ChooseByCode(SetType::OnlyStartup);
 
-    const std::string& lastBrowsed = main_.Preferences().searchLogoPath;
+    const std::string& lastBrowsed = host_.Preferences().searchLogoPath;
     const std::string folder =
-        AddBackslash(IsFolder(lastBrowsed) ? lastBrowsed : main_.Locations().programFolder);
+        AddBackslash(IsFolder(lastBrowsed) ? lastBrowsed : host_.Locations().programFolder);
     if (Drive1.SetDrive(folder)) Drive1_Change();
     BrowseTo(folder);
 }
 
 void SelPictureForm::ListNames() {
     NameLogoSet.Clear();
-    for (const std::string& name : main_.SetNames()) NameLogoSet.AddItem(name);
+    for (const std::string& name : host_.SetNames()) NameLogoSet.AddItem(name);
 }
 
 bool SelPictureForm::MayEndSession() {
@@ -178,19 +178,19 @@ bool SelPictureForm::MayEndSession() {
 // What the user was asked about is discarded; the list of sets is read at the next start.
 void SelPictureForm::SessionEnds() {
     GoWhereAFolderIs();
-    main_.Preferences().searchLogoPath = CurrentFolder;
+    host_.Preferences().searchLogoPath = CurrentFolder;
     // One that is gone already is passed over.
     for (int i = 0; i < List1.Count(); ++i) Remove(List1.Item(i));
 }
 
 bool SelPictureForm::Form_Unload() {
     GoWhereAFolderIs();
-    main_.Preferences().searchLogoPath = CurrentFolder;
+    host_.Preferences().searchLogoPath = CurrentFolder;
     if (!MayEndSession()) return false;
     SessionEnds();
     if (LibraryChanged) {
-        main_.LeggiDatiDisco();
-        main_.VisualizzaNumLogo();
+        host_.LeggiDatiDisco();
+        host_.VisualizzaNumLogo();
     }
     return true;
 }

@@ -13,7 +13,8 @@
 #include "controls/menu_item.h"
 #include "controls/picture_box.h"
 #include "controls/window.h"
-#include "core/main_window.h"
+#include "core/save_set.h"
+#include "editor/host.h"
 
 namespace vistrel {
 
@@ -24,7 +25,7 @@ inline constexpr long kNoPictureColor = 255;
 
 class SelPictureForm : public Window {
  public:
-    explicit SelPictureForm(MainWindow& main);
+    explicit SelPictureForm(EditorHost& host);
     ~SelPictureForm() override;
 
     // The browser
@@ -197,21 +198,20 @@ class SelPictureForm : public Window {
     void OkButton_Click(int index);
     void EliminaSetBtn_Click();
     std::string NameToSave();
-    bool UpdateSet(const std::string& name);
+    SetKind KindToSave() const;
+    SaveResult UpdateLoadedSet(const LogoSet& set);
     bool RenameLoadedSet(const std::string& oldName, const std::string& name);
-    bool CreateSet(const std::string& name);
+    SaveResult CreateNewSet(const LogoSet& set);
     void SaveDefaultScreens();
-    void LoadSlots(const std::string& setFolder);
-    bool RemoveFilesOfEmptySlots(int first, int last, const std::string& folder);
-    bool CopySlots(int first, int last, const std::string& folder);
-    bool KeepSources(int first, int last, const std::string& folder);
-    bool KeepSource(int index);
-    void FinishSaving(const std::string& what, const std::string& folder);
-    void ReportSaveError();
-    const std::string& LogoFolder() const { return main_.Preferences().logoPath; }
-    std::string ReadTag(int index);
+    void LoadSlots(const LogoSet& set);
+    Slots FilesInSlots() const;
+    void TagSlots(const Slots& slots);
+    /// Files that are deleted when the session ends.
+    NewSessionFile NewFileOfSession();
+    void FinishSaving(const SaveResult& result, const std::string& what, const std::string& folder);
+    const std::string& LogoFolder() const { return host_.Preferences().logoPath; }
 
-    MainWindow& main_;
+    EditorHost& host_;
     MenuHandle menus_ = nullptr;
     IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
@@ -220,7 +220,6 @@ class SelPictureForm : public Window {
     std::string oldName_;          ///< of the item whose label is edited
     std::string setsOwnTag_[3];    ///< of slots 1 and 2 while they show the shared screens
     std::string shownLogoFolder_;  ///< whose sets the session is about
-    std::string lastRead_;         ///< the last text that a save command read from a control
 };
 
 }  // namespace vistrel

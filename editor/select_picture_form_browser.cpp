@@ -194,15 +194,14 @@ void SelPictureForm::DragPicture(const Control& source) {
 
 void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button, Point at) {
     if (!box.HasPicture()) return;
-    main_.SetCurrentPicture(box.Tag());
     if (button == kLeftButton) {
         // Windows that this opens close before it returns, and nothing is to be filled again then.
         ActivateOnce = true;
-        main_.AzioneSuImmagine(main_.Preferences().defaultAction, handle());
+        host_.OpenPicture(box.Tag(), handle());
         ActivateOnce = false;
         FollowLogoFolder();
     } else if (button == kRightButton) {
-        PopUpMenu(main_.OpenWithMenu(), box.OnScreen(at), main_.DefaultOpenWithItem());
+        PopUpMenu(host_.OpenWithMenu(box.Tag()), box.OnScreen(at), host_.DefaultOpenWithItem());
     }
 }
 

@@ -52,7 +52,7 @@ void SelPictureForm::LogoList_KeyUp(int key) {
 bool SelPictureForm::RunOpenWith(int id) {
     // Items of the main window's menu close what they opened before they return.
     ActivateOnce = true;
-    const bool openWith = main_.OpenWithCommand(id, handle());
+    const bool openWith = host_.OpenWithCommand(id, handle());
     ActivateOnce = false;
     FollowLogoFolder();
     return openWith;

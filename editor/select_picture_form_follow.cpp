@@ -1,11 +1,11 @@
 // Renaming and deleting in the Logo browser's list, and how the session follows: what it names by
 // path or by set moves along with a folder, and what is gone is forgotten.
 #include "core/entry_name.h"
+#include "core/file_handling.h"
 #include "core/generali.h"
 #include "core/library.h"
-#include "editor/file_handling.h"
+#include "core/slot_file.h"
 #include "editor/select_picture_form.h"
-#include "editor/slot_file.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 
@@ -97,7 +97,8 @@ void SelPictureForm::FollowRename(const std::string& from, const std::string& to
 void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string& to) {
     const bool loaded = SameName(from, LoadedSet);
     ReplaceName(from, to);
-    if (SameName(from, main_.CurrentSet())) main_.SetCurrentSet(to);
+    const auto installed = host_.InstalledSet();
+    if (installed && SameName(from, *installed)) host_.SetInstalledSet(to);
     if (loaded && type_ != SetType::DefaultScreens && IsSingleLogoSet(from) != IsSingleLogoSet(to))
         ChooseByCode(IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
 }

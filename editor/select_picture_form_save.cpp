@@ -1,11 +1,10 @@
-// Loading, writing and deleting sets in the Logo browser. What a command writes before a step fails
-// stays written, and the step's failure ends the command.
+// Loading, saving and deleting sets in the Logo browser.
 #include "core/entry_name.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "core/slot_file.h"
 #include "editor/elimina_logo_set.h"
 #include "editor/select_picture_form.h"
-#include "editor/slot_file.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
@@ -13,13 +12,8 @@
 namespace vistrel {
 namespace {
 
-/// Places in arrays of the three screens.
-constexpr int kStartup = 0;
-constexpr int kWait = 1;
-constexpr int kShutdown = 2;
-
 /// The names of the screens that a folder holds, for the user to read.
-std::string ScreensIn(const std::string& folder) {
+std::string NamesOfScreens(const std::string& folder) {
     std::string names;
     for (const char* screen : kScreenFileNames) {
         if (!HoldsPicture(folder + screen)) continue;
@@ -27,13 +21,6 @@ std::string ScreensIn(const std::string& folder) {
         names += screen;
     }
     return names.empty() ? "no screens" : names;
-}
-
-/// True for a file that the folder has as the screen of another slot than this one.
-bool IsScreenOfAnotherSlot(int index, const std::string& path, const std::string& folder) {
-    for (int other = 0; other < 3; ++other)
-        if (other != index && IsSameFile(path, folder + kScreenFileNames[other])) return true;
-    return false;
 }
 
 }  // namespace
@@ -53,15 +40,16 @@ void SelPictureForm::NameLogoSet_Click() {
     const BusyPointer busy;
     LoadedSet = NameLogoSet.Text();
     ChooseByCode(IsSingleLogoSet(LoadedSet) ? SetType::OnlyStartup : SetType::Complete);
-    LoadSlots(LogoFolder() + LoadedSet + "\\");
+    LoadSlots(LogoSet{LogoFolder(), LoadedSet});
     EliminaSetBtn.SetEnabled(true);
     SetChanged = false;
     NameChanged = false;
     CheckBtnStatus();
 }
 
-void SelPictureForm::LoadSlots(const std::string& setFolder) {
-    for (int i = 0; i < 3; ++i) ShowInSlot(i, setFolder + kScreenFileNames[i]);
+void SelPictureForm::LoadSlots(const LogoSet& set) {
+    const std::array<std::string, 3> screens = ScreensIn(set.Folder());
+    for (int i = 0; i < 3; ++i) ShowInSlot(i, screens[i]);
 }
 
 // The name as a folder will have it. What no folder can be named stays as it was typed, and making
@@ -74,136 +62,103 @@ std::string SelPictureForm::NameToSave() {
     return name;
 }
 
-void SelPictureForm::OkButton_Click(int index) {
-    LibraryChanged = true;
-    const std::string name = lastRead_ = NameToSave();
-    const std::string folder = AddBackslash(LogoFolder() + name);
-    if (index == 1 ? UpdateSet(name) : CreateSet(name))
-        FinishSaving((index == 1 ? "Updated " : "Created ") + name, folder);
-    else
-        ReportSaveError();
+SetKind SelPictureForm::KindToSave() const {
+    return OptCompSet.Value() ? SetKind::Complete : SetKind::StartupOnly;
 }
 
-bool SelPictureForm::UpdateSet(const std::string& name) {
+void SelPictureForm::OkButton_Click(int index) {
+    LibraryChanged = true;
+    const LogoSet set{LogoFolder(), NameToSave()};
+    const SaveResult result = index == 1 ? UpdateLoadedSet(set) : CreateNewSet(set);
+    FinishSaving(result, (index == 1 ? "Updated " : "Created ") + set.name, set.Folder());
+}
+
+SaveResult SelPictureForm::UpdateLoadedSet(const LogoSet& set) {
     const std::string oldName = NameLogoSet.Item(LoadedIndex);
-    if (!RenameLoadedSet(oldName, name)) return false;
-    const std::string folder = AddBackslash(LogoFolder() + name);
-    if (!KeepSources(kStartup, OptCompSet.Value() ? kShutdown : kStartup, folder)) return false;
-    if (!RemoveFilesOfEmptySlots(kStartup, kStartup, folder) ||
-        !CopySlots(kStartup, kStartup, folder))
-        return false;
-    if (OptCompSet.Value()) {
-        if (!RemoveFilesOfEmptySlots(kWait, kShutdown, folder) ||
-            !CopySlots(kWait, kShutdown, folder))
-            return false;
-    } else if (!Remove(folder + kScreenFileNames[kWait]) ||
-               !Remove(folder + kScreenFileNames[kShutdown])) {
-        return false;
-    }
-    FollowInstalledSet(oldName, name);
-    return true;
+    if (!RenameLoadedSet(oldName, set.name)) return {false, set.name};
+    Slots slots = FilesInSlots();
+    const SaveResult result = UpdateSet(set, KindToSave(), slots, NewFileOfSession());
+    TagSlots(slots);
+    if (result.saved) FollowInstalledSet(oldName, set.name);
+    return result;
 }
 
 // The set selected in the main window counts, whichever was loaded here: it is kept so. While the
 // installed screens are shown there, none is selected.
 void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::string& name) {
-    const std::string installed = main_.CurrentSet();
-    const int selected = main_.SelectedSet();
+    const auto installed = host_.InstalledSet();
+    const int selected = host_.SelectedSet();
     const bool installedSelected =
-        selected >= 0 && main_.SetNames()[static_cast<std::size_t>(selected)] == installed;
-    if (installedSelected || oldName == installed) main_.SetCurrentSet(name);
+        selected >= 0 && host_.SetNames()[static_cast<std::size_t>(selected)] == installed;
+    if (installedSelected || oldName == installed) host_.SetInstalledSet(name);
 }
 
 bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::string& name) {
+    const LogoSet former{LogoFolder(), oldName};
+    if (!RenameSet(former, name)) return false;
     if (oldName == name) return true;
-    // Without a name the folder would be the logo folder itself.
-    if (oldName.empty() || !SetFolderName(name, LogoFolder())) return false;
-    if (!Rename(LogoFolder() + oldName, LogoFolder() + name)) return false;
     ReplaceName(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
-    FollowRename(LogoFolder() + oldName, LogoFolder() + name);
+    FollowRename(former.Path(), LogoFolder() + name);
     return true;
 }
 
-bool SelPictureForm::CreateSet(const std::string& name) {
-    if (!SetFolderName(name, LogoFolder()) || !MakeFolder(LogoFolder() + name)) return false;
-    const std::string folder = AddBackslash(LogoFolder() + name);
-    const int last = OptCompSet.Value() ? kShutdown : kStartup;
-    for (int i = kStartup; i <= last; ++i) {
-        const std::string tag = ReadTag(i);
-        if (HoldsPicture(tag) && !CopyScreen(tag, folder + kScreenFileNames[i])) return false;
+SaveResult SelPictureForm::CreateNewSet(const LogoSet& set) {
+    const SaveResult result = CreateSet(set, KindToSave(), FilesInSlots());
+    if (result.saved) {
+        LoadedIndex = NameLogoSet.AddItem(set.name);
+        NameLogoSet.SetListIndex(LoadedIndex);
+        LoadedSet = set.name;
     }
-    LoadedIndex = NameLogoSet.AddItem(name);
-    NameLogoSet.SetListIndex(LoadedIndex);
-    LoadedSet = name;
-    return true;
+    return result;
 }
 
 void SelPictureForm::SaveDefaultScreens() {
     LibraryChanged = true;
-    if (KeepSources(kWait, kShutdown, LogoFolder()) &&
-        RemoveFilesOfEmptySlots(kWait, kShutdown, LogoFolder()) &&
-        CopySlots(kWait, kShutdown, LogoFolder()))
-        FinishSaving("Saved the default screens", LogoFolder());
-    else
-        ReportSaveError();
+    Slots slots = FilesInSlots();
+    const SaveResult result = SaveSharedScreens(LogoFolder(), slots, NewFileOfSession());
+    TagSlots(slots);
+    FinishSaving(result, "Saved the default screens", LogoFolder());
 }
 
-std::string SelPictureForm::ReadTag(int index) { return lastRead_ = ImgPreview[index].Tag(); }
-
-bool SelPictureForm::RemoveFilesOfEmptySlots(int first, int last, const std::string& folder) {
-    for (int i = first; i <= last; ++i)
-        if (ReadTag(i).empty() && !Remove(folder + kScreenFileNames[i])) return false;
-    return true;
+Slots SelPictureForm::FilesInSlots() const {
+    return {ImgPreview[0].Tag(), ImgPreview[1].Tag(), ImgPreview[2].Tag()};
 }
 
-// An empty slot is not passed over: there is nothing to copy then, which fails.
-bool SelPictureForm::CopySlots(int first, int last, const std::string& folder) {
-    for (int i = first; i <= last; ++i)
-        if (!CopyScreen(ReadTag(i), folder + kScreenFileNames[i])) return false;
-    return true;
+void SelPictureForm::TagSlots(const Slots& slots) {
+    for (std::size_t i = 0; i < slots.size(); ++i) ImgPreview[i].SetTag(slots[i]);
 }
 
-// A slot may hold a screen of the same folder that another slot is about to replace or delete: its
-// picture is kept aside first, until the session ends.
-bool SelPictureForm::KeepSources(int first, int last, const std::string& folder) {
-    for (int i = first; i <= last; ++i) {
-        const std::string tag = ImgPreview[i].Tag();
-        if (HoldsPicture(tag) && IsScreenOfAnotherSlot(i, tag, folder) && !KeepSource(i))
-            return false;
+NewSessionFile SelPictureForm::NewFileOfSession() {
+    return [this] {
+        const std::string file = GetTempFile();
+        if (!file.empty()) List1.AddItem(file);
+        return file;
+    };
+}
+
+void SelPictureForm::FinishSaving(const SaveResult& result, const std::string& what,
+                                  const std::string& folder) {
+    if (!result.saved) {
+        LblWritten.SetText("");
+        Ask(handle(),
+            "A directory named " + result.lastRead + " already exist or bad directory name!",
+            kExclamationOk, "Cannot create directory");
+        return;
     }
-    return true;
-}
-
-bool SelPictureForm::KeepSource(int index) {
-    const std::string kept = GetTempFile();
-    if (kept.empty()) return false;
-    List1.AddItem(kept);
-    if (!CopyScreen(ReadTag(index), kept)) return false;
-    ImgPreview[index].SetTag(kept);
-    return true;
-}
-
-void SelPictureForm::FinishSaving(const std::string& what, const std::string& folder) {
     EnableControls(false, OkButton[0], OkButton[1]);
     EliminaSetBtn.SetEnabled(!NameLogoSet.Text().empty());
     SetChanged = false;
     NameChanged = false;
     AggiornaDir();
-    LblWritten.SetText(what + ": " + ScreensIn(folder));
-}
-
-void SelPictureForm::ReportSaveError() {
-    LblWritten.SetText("");
-    Ask(handle(), "A directory named " + lastRead_ + " already exist or bad directory name!",
-        kExclamationOk, "Cannot create directory");
+    LblWritten.SetText(what + ": " + NamesOfScreens(folder));
 }
 
 void SelPictureForm::EliminaSetBtn_Click() {
     const std::string name = NameLogoSet.Text();
     // Without a name the folder would be the logo folder itself.
     if (name.empty()) return;
-    if (!EliminaLogoSet(handle(), main_, LogoFolder() + name, name, name)) return;
+    if (!EliminaLogoSet(handle(), host_, LogoSet{LogoFolder(), name}.Path(), name, name)) return;
     LibraryChanged = true;
     ForgetLoadedSet(name);
     AggiornaDir();

@@ -109,9 +109,8 @@ void SelPictureForm::AddButton_Click(int index) {
 }
 
 std::string SelPictureForm::ConvertSelected() {
-    const std::string converted = GetTempFile();
+    const std::string converted = NewFileOfSession()();
     if (converted.empty()) return {};
-    List1.AddItem(converted);
     // What cannot be read or written leaves the temporary file empty, and no set gets a copy of it.
     ConvertToLogo(SelectedPicture, converted);
     return converted;

@@ -129,8 +129,7 @@ void Principale::CloseAll() {
     state.companionWanted = companionWanted_;
     state.settings = settings_;
     state.settings.view = MenuMark(ID_ItmViewType) ? 0 : 1;
-    const std::string shown = CurrentSet();
-    state.settings.defaultLogoSet = shown == kUnknownSet ? std::string() : shown;
+    state.settings.defaultLogoSet = InstalledSet().value_or("");
     const WindowPlace place = PlaceOf(handle());
     state.settings.windowLeft = static_cast<std::int16_t>(place.normal.left);
     state.settings.windowTop = static_cast<std::int16_t>(place.normal.top);

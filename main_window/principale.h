@@ -13,39 +13,47 @@
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
-#include "core/main_window.h"
+#include "editor/host.h"
+#include "options/host.h"
 
 namespace vistrel {
 
 class FrmOptions;
 
-class Principale : public Window, public MainWindow {
+class Principale : public Window, public EditorHost, public OptionsHost {
  public:
     /// `locations` lack the Startup folder, which is found when the window loads.
     explicit Principale(SystemLocations locations);
     ~Principale() override;
 
-    // MainWindow
+    // Of both hosts
     const SystemLocations& Locations() const override { return locations_; }
     Settings& Preferences() override { return settings_; }
+    void LeggiDatiDisco() override;
+
+    // EditorHost
     std::vector<std::string> SetNames() const override;
     int SelectedSet() const override { return MyList.SelectedItem(); }
-    void LeggiDatiDisco() override;
     void VisualizzaNumLogo() override;
-    std::string CurrentSet() const override;
-    void SetCurrentSet(const std::string& name) override;
-    void SetCurrentPicture(const std::string& path) override { currentPicture_ = path; }
-    void AzioneSuImmagine(int index, WindowHandle owner) override;
-    MenuHandle OpenWithMenu() override;
+    std::optional<std::string> InstalledSet() const override;
+    void SetInstalledSet(const std::optional<std::string>& name) override;
+    void OpenPicture(const std::string& path, WindowHandle owner) override;
+    MenuHandle OpenWithMenu(const std::string& path) override;
     int DefaultOpenWithItem() const override;
     bool OpenWithCommand(int id, WindowHandle owner) override;
+
+    // OptionsHost
     void ShowCustomProgramName() override;
-    bool AnimationShown() const override;
     void SetAnimationShown(bool shown) override;
     std::int16_t BootLogoOption() const override { return bootLogoOption_; }
     void SetBootLogoOption(std::int16_t option) override { bootLogoOption_ = option; }
     void RaiseBootLogoOptionChanged() override { bootLogoOptionChanged_ = true; }
 
+    /// The mark of "Autoshow animation".
+    bool AnimationShown() const;
+    /// Acts on the current picture ("azione sull'immagine": action on the picture): 0 shows it in
+    /// actual size, 1 opens Paint, 2 the custom program.
+    void AzioneSuImmagine(int index, WindowHandle owner);
     /// Shows the screens and the kind of the selected set ("mostra la lista del logo"); with none
     /// selected the boxes and the kind are empty.
     void ShowListaLogo();
@@ -125,6 +133,7 @@ class Principale : public Window, public MainWindow {
     void FollowDeselection();
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
+    void ShowInstalledSet();
     void ShowInstalledScreens();
     void ShowSetScreens();
     void LeaveInstalledView();
@@ -148,12 +157,12 @@ class Principale : public Window, public MainWindow {
 
     /// What the installed view puts back when it is left.
     struct SavedView {
-        std::string currentSet;
         std::string selectedSet;
     };
 
     SystemLocations locations_;
     Settings settings_;
+    bool installedSetListed_ = false;  ///< the setting names a set of the list
     MenuHandle classicMenus_ = nullptr;
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;

@@ -177,8 +177,9 @@ void Principale::ItmDelete_Click() {
     if (index < 0) return;
     const std::string name = MyList.ItemText(index);
     // No set is loaded in the editor here, so it has no name of its own to compare.
-    if (!EliminaLogoSet(handle(), *this, settings_.logoPath + name, name, "")) return;
-    if (CurrentSet() == name) SetCurrentSet(kUnknownSet);
+    const LogoSet set{settings_.logoPath, name};
+    if (!EliminaLogoSet(handle(), *this, set.Path(), name, "")) return;
+    if (InstalledSet() == name) SetInstalledSet(std::nullopt);
     MyList.RemoveItem(index);
     SelectAfterDelete(index);
     VisualizzaNumLogo();
@@ -188,10 +189,11 @@ void Principale::ItmSetDefault_Click() {
     if (!ASetIsSelected()) return;
     const BusyPointer busy;
     const bool synchronize = settings_.synchronizeLogos != 0;
-    InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
-                   MyList.ItemText(MyList.SelectedItem()), synchronize);
+    const std::string name = MyList.ItemText(MyList.SelectedItem());
+    InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory}, name,
+                   synchronize);
     companionWanted_ = synchronize;
-    SetCurrentSet(MyList.ItemText(MyList.SelectedItem()));
+    SetInstalledSet(name);
 }
 
 void Principale::ItmLogoManager_Click() { Timer1.SetEnabled(true); }

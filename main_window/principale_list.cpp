@@ -9,56 +9,47 @@
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
-#include "platform/shell.h"
 
 namespace vistrel {
-namespace {
-
-/// SHFileOperation's flag that answers yes to every question.
-constexpr unsigned short kYesToAll = 16;
-
-/// "D:" or "D:\\", which has no name to be a set's.
-bool IsDriveRoot(const std::string& path) {
-    return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
-}
-
-}  // namespace
-
 std::vector<std::string> Principale::SetNames() const {
     std::vector<std::string> names;
     for (int i = 0; i < MyList.Count(); ++i) names.push_back(MyList.ItemText(i));
     return names;
 }
 
-std::string Principale::CurrentSet() const {
-    return savedView_ ? savedView_->currentSet : DefaultLogo.Text();
+std::optional<std::string> Principale::InstalledSet() const {
+    if (!installedSetListed_) return std::nullopt;
+    return settings_.defaultLogoSet;
 }
 
-void Principale::SetCurrentSet(const std::string& name) {
-    settings_.defaultLogoSet = name;
-    // While the installed screens are shown the label keeps saying so.
-    if (savedView_)
-        savedView_->currentSet = name;
-    else
-        DefaultLogo.SetText(name);
+void Principale::SetInstalledSet(const std::optional<std::string>& name) {
+    settings_.defaultLogoSet = name.value_or("");
+    installedSetListed_ = name.has_value();
+    ShowInstalledSet();
+}
+
+void Principale::ShowInstalledSet() {
+    // While the installed screens are shown the label says so.
+    if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(kUnknownSet));
 }
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
-    bool installedFound = false;
+    const BusyPointer busy;  // there may be thousands of sets
+    installedSetListed_ = false;
     MyList.SuspendPainting();
     MyList.Clear();
     ForEachLogoSet(AddBackslash(settings_.logoPath), [&](const std::string& name) {
-        if (name == settings_.defaultLogoSet) installedFound = true;
+        if (name == settings_.defaultLogoSet) installedSetListed_ = true;
         MyList.AddItem(name, IconKeyOfSet(name));
     });
     MyList.ResumePainting();
     ShowListaLogo();
     VisualizzaNumLogo();
-    if (installedFound) SelItem(settings_.defaultLogoSet);
-    DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : kUnknownSet);
+    if (installedSetListed_) SelItem(settings_.defaultLogoSet);
+    ShowInstalledSet();
 
     if (installedShown) ShowInstalledScreens();
 }
@@ -97,7 +88,7 @@ void Principale::ShowListaLogo() {
     const BusyPointer busy;
     const std::string name = MyList.ItemText(selected);
     LogoType.SetText(TypeCaptionOfSet(name));
-    ShowScreens(ScreenPathsOfSet(settings_.logoPath, name));
+    ShowScreens(LogoSet{settings_.logoPath, name}.Screens());
 }
 
 void Principale::SelItem(const std::string& name) {
@@ -133,14 +124,14 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     const int edited = MyList.EditedItem();
     // The new icon stays although the renaming may fail: it is kept so until the next refresh.
     if (formatChanges) MyList.SetItemIcon(edited, IconKeyOfSet(newName));
-    if (!folder || !Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
+    if (!RenameSet({settings_.logoPath, oldName_}, newName)) {
         Ask(handle(), "Cannot rename folder. The folder already exists or has an invalid name",
             kExclamationOk);
         return false;
     }
     MyList.SetItemText(edited, newName);
     SelItem(newName);
-    if (CurrentSet() == oldName_) SetCurrentSet(newName);
+    if (InstalledSet() == oldName_) SetInstalledSet(newName);
     // The label shows the folder's name by now, which is not always the text as it was typed.
     return false;
 }
@@ -169,12 +160,12 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (IsDriveRoot(path) || !IsFolder(AddBackslash(path))) continue;
+        if (!CanBeImported(path)) continue;
         name = GetFileName(path);
         const bool exists = IsFolder(settings_.logoPath + name);
         if (exists && !ConfirmOverwriting(name)) continue;
-        // Whether the shell could copy it is not asked: the list catches up at the next refresh.
-        ShellCopy(handle(), path, settings_.logoPath, kYesToAll);
+        // Whether it could be copied is not asked: the list catches up at the next refresh.
+        ImportSet(handle(), path, settings_.logoPath);
         if (!exists) MyList.AddItem(name, IconKeyOfSet(name));
         showLast = true;
     }

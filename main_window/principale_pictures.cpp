@@ -12,14 +12,22 @@ namespace vistrel {
 
 void Principale::Imag_MouseUp(int index, int button, Point at) {
     if (!Imag[index].HasPicture()) return;
-    SetCurrentPicture(Imag[index].Tag());
+    const std::string& path = Imag[index].Tag();
     if (button == kLeftButton)
-        AzioneSuImmagine(settings_.defaultAction, handle());
+        OpenPicture(path, handle());
     else if (button == kRightButton)
-        PopUpMenu(OpenWithMenu(), Imag[index].OnScreen(at), DefaultOpenWithItem());
+        PopUpMenu(OpenWithMenu(path), Imag[index].OnScreen(at), DefaultOpenWithItem());
 }
 
-MenuHandle Principale::OpenWithMenu() { return ClassicMenu(kMenuOpenWith); }
+void Principale::OpenPicture(const std::string& path, WindowHandle owner) {
+    currentPicture_ = path;
+    AzioneSuImmagine(settings_.defaultAction, owner);
+}
+
+MenuHandle Principale::OpenWithMenu(const std::string& path) {
+    currentPicture_ = path;
+    return ClassicMenu(kMenuOpenWith);
+}
 
 int Principale::DefaultOpenWithItem() const { return ID_ItmOpenAct + settings_.defaultAction; }
 

@@ -68,7 +68,7 @@ void Principale::ShowInstalledScreens() {
     ActiveBar1.SetEnabled("ToolRandom", false);
     SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, false);
     // Run again while they are shown already, there is nothing new to save.
-    if (!savedView_) savedView_ = {DefaultLogo.Text(), PlaceInList().selectedSet};
+    if (!savedView_) savedView_ = {PlaceInList().selectedSet};
     MyList.Select(-1);
     ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
     DefaultLogo.SetText("");
@@ -92,8 +92,8 @@ void Principale::LeaveInstalledView() {
     ActiveBar1.SetEnabled("ToolRandom", true);
     SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, true);
     DefaultLogo.SetForeColor(kBlue);
-    if (savedView_) DefaultLogo.SetText(savedView_->currentSet);
     savedView_.reset();
+    ShowInstalledSet();
     LblDefaultLogo.SetVisible(true);
     LogoType.SetVisible(true);
     CheckSetCommands();

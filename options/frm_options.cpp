@@ -13,8 +13,8 @@
 
 namespace vistrel {
 
-FrmOptions::FrmOptions(MainWindow& main, Page first)
-    : Window("FrmOptions", IDD_FrmOptions), main_(main), first_(first), MnuDrive_(NewPopUpMenu()) {
+FrmOptions::FrmOptions(OptionsHost& host, Page first)
+    : Window("FrmOptions", IDD_FrmOptions), host_(host), first_(first), MnuDrive_(NewPopUpMenu()) {
     Add(TabStrip1, ID_TabStrip1);
     TabStrip1.Click = [this] { TabStrip1_Click(); };
     for (int i = 0; i < 4; ++i) Add(MyFrame[i], ID_MyFrame + i);
@@ -115,11 +115,11 @@ void FrmOptions::Form_Load() {
 }
 
 void FrmOptions::Form_Activate() {
-    const Settings& settings = main_.Preferences();
+    const Settings& settings = host_.Preferences();
     showingValues_ = true;
     DblAction.SetListIndex(settings.actionOnDoubleClick);
     DriveHost.SetText(settings.bootRoot.substr(0, 1));
-    ActiveStart.SetValue(main_.BootLogoOption());
+    ActiveStart.SetValue(host_.BootLogoOption());
     for (int i = 0; i < 3; ++i) OptOpen[i].SetMark(i == settings.defaultAction);
     CustomName.SetText(settings.customProgName);
     CustProg.SetText(settings.customProgPath);
@@ -143,7 +143,7 @@ void FrmOptions::Form_Activate() {
 }
 
 void FrmOptions::ShowStartUpAction() {
-    const auto inForce = ReadStartUpAction(main_.Locations().startupFolder);
+    const auto inForce = ReadStartUpAction(host_.Locations().startupFolder);
     for (int i = 0; i < 3; ++i)
         StartUpAction[i].SetMark(inForce && static_cast<int>(*inForce) == i);
     if (!inForce) StartUpAction[0].SetTabStop();
@@ -171,7 +171,7 @@ void FrmOptions::btnBrwFolder_Click() {
     if (!folder.empty()) TxtLogoPath.SetText(folder);
 }
 
-void FrmOptions::ActiveStart_Click() { main_.RaiseBootLogoOptionChanged(); }
+void FrmOptions::ActiveStart_Click() { host_.RaiseBootLogoOptionChanged(); }
 
 void FrmOptions::DriveHost_Click() { PopUpMenu(MnuDrive_, PointerPosition()); }
 
@@ -209,7 +209,7 @@ void FrmOptions::StartUpAction_Click(int index) {
 }
 
 void FrmOptions::ApplyStartUpChoice() {
-    const SystemLocations& locations = main_.Locations();
+    const SystemLocations& locations = host_.Locations();
     auto action = StartUpActionKind::Nothing;
     if (StartUpAction[0].Value())
         action = StartUpActionKind::Rotaline;
@@ -219,9 +219,9 @@ void FrmOptions::ApplyStartUpChoice() {
 }
 
 void FrmOptions::TakeLogoFolder() {
-    if (TxtLogoPath.Text() == main_.Preferences().logoPath) return;
-    main_.Preferences().logoPath = AddBackslash(TxtLogoPath.Text());
-    main_.LeggiDatiDisco();
+    if (TxtLogoPath.Text() == host_.Preferences().logoPath) return;
+    host_.Preferences().logoPath = AddBackslash(TxtLogoPath.Text());
+    host_.LeggiDatiDisco();
 }
 
 // A program without a name would be forgotten at the next start.
@@ -234,14 +234,14 @@ std::string FrmOptions::NameOfProgram() const {
 
 // Every step is done whether or not the ones before it succeeded; no value is checked.
 void FrmOptions::BtnOK_Click() {
-    Settings& settings = main_.Preferences();
+    Settings& settings = host_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();
     settings.customProgName = NameOfProgram();
     settings.customProgPath = CustProg.Text();
-    main_.ShowCustomProgramName();
+    host_.ShowCustomProgramName();
     for (int i = 2; i >= 0; --i)
         if (OptOpen[i].Value()) settings.defaultAction = static_cast<std::int16_t>(i);
-    main_.SetAnimationShown(ChkShowAnim.Value() == 1);
+    host_.SetAnimationShown(ChkShowAnim.Value() == 1);
     settings.deleteInTheRecycleBin = static_cast<std::int16_t>(ChkDeleteRecycle.Value());
     settings.confirmLogosetDelete = static_cast<std::int16_t>(ChkDelConfirm.Value());
     settings.confirmLogoTypeChange = static_cast<std::int16_t>(ChkConfirmChange.Value());
@@ -249,7 +249,7 @@ void FrmOptions::BtnOK_Click() {
     settings.showSplashScreen = static_cast<std::int16_t>(ChkShowSplash.Value());
     settings.synchronizeLogos = static_cast<std::int16_t>(ChkSyncronize.Value());
     settings.bootRoot = DriveHost.Text() + ":\\";
-    main_.SetBootLogoOption(static_cast<std::int16_t>(ActiveStart.Value()));
+    host_.SetBootLogoOption(static_cast<std::int16_t>(ActiveStart.Value()));
     TakeLogoFolder();
     Unload();
 }

@@ -7,7 +7,7 @@
 #include "controls/tab_strip.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
-#include "core/main_window.h"
+#include "options/host.h"
 
 namespace vistrel {
 
@@ -17,7 +17,7 @@ class FrmOptions : public Window {
     enum Page { kGeneral = 1, kConfirmations = 2, kImages = 3, kStartUp = 4 };
 
     /// `first` is the page that is shown at first.
-    explicit FrmOptions(MainWindow& main, Page first = kGeneral);
+    explicit FrmOptions(OptionsHost& host, Page first = kGeneral);
     ~FrmOptions() override;
 
     TabStrip TabStrip1;
@@ -84,7 +84,7 @@ class FrmOptions : public Window {
     void ApplyStartUpChoice();
     void TakeLogoFolder();
 
-    MainWindow& main_;
+    OptionsHost& host_;
     Page first_;
     MenuHandle MnuDrive_;
     std::vector<std::string> driveLetters_;

@@ -14,6 +14,9 @@ enum class Hive { ClassesRoot, CurrentUser, LocalMachine };
 /// Registry status: 0 is success, anything else the system's error number.
 using RegistryStatus = long;
 
+/// The status of a key or value that does not exist.
+inline constexpr RegistryStatus kRegistryNotThere = 2;
+
 /// Types of a value that this program knows.
 inline constexpr std::uint32_t kRegistryText = 1;    ///< REG_SZ
 inline constexpr std::uint32_t kRegistryNumber = 4;  ///< REG_DWORD

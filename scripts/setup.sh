@@ -123,6 +123,16 @@ archive() {
         sed -n 's/^Debian main [a-z]* //p' | head -n 1
 }
 
+# make_once FOLDER COMMAND...: runs a command that makes a folder, unless that is made already. Who
+# comes while another makes it waits, and finds it made; what failed is begun anew.
+make_once() {
+    mkdir -p "$1"
+    (
+        flock -n 9 || { say "Waiting until another has made $1"; flock 9; }
+        [ -e "$1/complete" ] || { "${@:2}" && touch "$1/complete"; } 9>&-
+    ) 9>"$1.lock"
+}
+
 # quietly NAME COMMAND...: runs a step of building; its words are in build/NAME.log and are shown only
 # when it fails.
 quietly() {

@@ -106,6 +106,43 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
     return isEnough;
 }
 
+/// The upper tenth of a frame's rows, or a little more.
+JpgFrame UpperTenth(JpgFrame frame) {
+    const auto tenth = [](int rows) {
+        return static_cast<int>((rows + kLeastPart - 1) / kLeastPart);
+    };
+    frame.unitsDown = tenth(frame.unitsDown);
+    for (JpgComponent& component : frame.components) {
+        component.blocksDown = tenth(component.blocksDown);
+        component.paddedDown = frame.unitsDown * component.down;
+    }
+    return frame;
+}
+
+/// True when what makes a picture enough is there in the upper tenth already, as in all sound files
+/// whose first scan is the first component's.
+bool BeginsWithEnough(FileBytes file, std::span<const KeptFrequencies> means,
+                      BlockRowTaker& taker) {
+    JpgMarkers markers(file);
+    if (!markers.NextScan() || !HasFirstComponent(markers.scan()) || !markers.scan().isDc() ||
+        !markers.BuildTables()) {
+        return false;
+    }
+    const JpgScan& scan = markers.scan();
+    const JpgFrame upper = UpperTenth(markers.frame());
+    ScanOutcome outcome;
+    if (upper.progressive) {
+        std::vector<ProgressiveComponent> components;
+        for (std::size_t i = 0; i < means.size(); ++i) {
+            components.emplace_back(upper.components[i], means[i]);
+        }
+        outcome = ReadProgressiveScan(file, upper, scan, markers.tables(), components);
+    } else {
+        outcome = ReadSequentialScan(file, upper, scan, markers.tables(), means, taker);
+    }
+    return outcome.unitsRead == outcome.units;
+}
+
 }  // namespace
 
 std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept) {
@@ -124,7 +161,8 @@ bool HasEnough(FileBytes file) {
     if (!markers.NextScan()) return false;
     const std::vector<KeptFrequencies> means(markers.frame().components.size(),
                                              KeptFrequencies::Of(1, 1));
-    return ReadCoefficients(file, markers, means, passOver);
+    return BeginsWithEnough(file, means, passOver) ||
+           ReadCoefficients(file, markers, means, passOver);
 }
 
 bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "pictures/enough_bytes.h"
 #include "pictures/jpg/color.h"
 #include "pictures/jpg/decoder.h"
 #include "pictures/jpg/exif_orientation.h"
@@ -72,13 +71,8 @@ std::vector<KeptFrequencies> AllFrequencies(const JpgFrame& frame) {
     return std::vector<KeptFrequencies>(frame.components.size(), KeptFrequencies::Of(8, 8));
 }
 
-// True of a large picture with less than a byte a block: before memory is asked for it, a look is
-// taken whether it is there.
-bool IsSuspect(FileBytes file, const JpgFrame& frame) {
-    const std::int64_t pixels = std::int64_t{frame.width} * frame.height;
-    const std::int64_t blocks = pixels / kBlockSize;
-    return pixels > kDecodedAnyway && static_cast<std::int64_t>(file.size()) < blocks;
-}
+// Before more than this is asked for, a look is taken whether the picture is there.
+constexpr std::int64_t kAskedForAnyway = 12 * 1024 * 1024;
 
 }  // namespace
 
@@ -104,7 +98,7 @@ std::optional<RgbPicture> ReadJpg(FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();
-    if (IsSuspect(file, frame) && !HasEnough(file)) return std::nullopt;
+    if (BytesToReadWhole(frame) > kAskedForAnyway && !HasEnough(file)) return std::nullopt;
     const std::vector<KeptFrequencies> all = AllFrequencies(frame);
     PlaneMaker maker(frame);
     if (!ReadCoefficients(file, markers, all, maker)) return std::nullopt;

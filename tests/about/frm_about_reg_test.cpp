@@ -63,7 +63,7 @@ TEST(AboutBox, WarnsOnOneLine) {
     WithAboutBox([](FrmAboutReg& about) {
         const HWND label = about.LblComments.handle();
         const std::string text = about.LblComments.Text();
-        EXPECT_NE(text, "");
+        EXPECT_EQ(text, "Copying this program under another name is against the law.");
         const HDC dc = GetDC(label);
         const HGDIOBJ former =
             SelectObject(dc, reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)));
@@ -101,6 +101,19 @@ TEST(AboutBox, DrawsItsTwoRulesBelowEachOther) {
         const auto upper = LineIn(about.handle(), 1260 * dots / 1440);
         EXPECT_EQ(upper, (std::pair{720 * dots / 1440, 4560 * dots / 1440 - 1}));
         EXPECT_EQ(LineIn(about.handle(), lower.top), upper);
+    });
+}
+
+TEST(AboutBox, SinksItsRulesIntoTheGround) {
+    WithAboutBox([](FrmAboutReg& about) {
+        const int row = 1260 * PixelsPerInch() / 1440;
+        const COLORREF wanted[] = {GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNSHADOW),
+                                   GetSysColor(COLOR_BTNHIGHLIGHT), GetSysColor(COLOR_BTNFACE)};
+        for (int i = 0; i < 4; ++i) {
+            POINT at{100, row - 1 + i};
+            ClientToScreen(about.handle(), &at);
+            EXPECT_EQ(seen::PixelAt(at), wanted[i]) << i;
+        }
     });
 }
 
@@ -175,6 +188,21 @@ TEST(SplashScreen, ShowsItsPictureAndVersion) {
     EXPECT_EQ(splash.LblVersion.Text(), "4.00 - BETA 2\r\n5th May 1998");
     EXPECT_TRUE(splash.SplashPicture.HasPicture());
     user::TakeShot("splash");
+    EXPECT_TRUE(splash.Unload());
+}
+
+TEST(SplashScreen, ShowsItsVersionInWhiteInItsLowerRightCorner) {
+    frmSplash splash;
+    ASSERT_TRUE(splash.Create(nullptr));
+    splash.Show();
+    splash.PaintAtOnce();
+    EXPECT_TRUE(seen::ShowsColor(splash.LblVersion.handle(), RGB(255, 255, 255)));
+    RECT whole{}, label{};
+    GetClientRect(splash.handle(), &whole);
+    GetWindowRect(splash.LblVersion.handle(), &label);
+    MapWindowPoints(nullptr, splash.handle(), reinterpret_cast<POINT*>(&label), 2);
+    EXPECT_EQ(whole.right - label.right, 12);
+    EXPECT_EQ(whole.bottom - label.bottom, 10);
     EXPECT_TRUE(splash.Unload());
 }
 

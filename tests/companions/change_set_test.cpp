@@ -381,6 +381,23 @@ TEST_F(ChangeSetHardshipTest, WhatFailedIsTold) {
     EXPECT_EQ(notRecorded, 2);  // opening the key, writing the value
 }
 
+TEST_F(ChangeSetHardshipTest, ALogoFolderThatCannotBeToldChangesNothing) {
+    PutScreens(bin + "Aside\\", "Aside");  // what the program's folder would offer instead
+    int told = 0;
+    Outcome outcome = Outcome::Done;
+    WithEachOperationFailing([&] { Prepare(); }, [&] { outcome = Change(); },
+                             [&](int) {
+                                 EXPECT_NE(Installed()[0], "Aside LOGO.SYS");
+                                 EXPECT_NE(InstalledSet(), "Aside");
+                                 if (outcome != Outcome::LogoFolderNotThere) return;
+                                 ++told;
+                                 EXPECT_EQ(Installed(), old);
+                                 EXPECT_EQ(InstalledSet(), "Red");
+                             });
+    EXPECT_EQ(told, 4);  // opening the key, measuring the value, reading it, looking for the folder
+    RemoveTree(bin + "Aside");
+}
+
 TEST_F(ChangeSetHardshipTest, OneFailureLosesNoScreen) {
     WithEachOperationFailing([&] { Prepare(); }, [] { Change(); },
                              [&](int) {

@@ -26,15 +26,6 @@ TEST(LibraryTest, AnEndingInAnyCaseMakesASingleLogoSet) {
     }
 }
 
-TEST(LibraryTest, ASingleLogoSetTakesTwoScreensFromTheLogoFolder) {
-    EXPECT_EQ(ScreenPathsOfSet("D:\\L\\", "Blue"),
-              (std::array<std::string, 3>{"D:\\L\\Blue\\LOGO.SYS", "D:\\L\\Blue\\LOGOW.SYS",
-                                          "D:\\L\\Blue\\LOGOS.SYS"}));
-    EXPECT_EQ(ScreenPathsOfSet("D:\\L\\", "Blue.sls"),
-              (std::array<std::string, 3>{"D:\\L\\Blue.sls\\LOGO.SYS", "D:\\L\\LOGOW.SYS",
-                                          "D:\\L\\LOGOS.SYS"}));
-}
-
 TEST(LibraryTest, TheStartupScreenLiesInTheBootRoot) {
     EXPECT_EQ(
         InstalledScreenPaths("D:\\", "C:\\WIN\\"),
@@ -81,7 +72,7 @@ TEST_F(Machine, ASetWhoseNameTheCodePageLacksIsListedByItsShortName) {
     ASSERT_EQ(names.size(), 1u);
     EXPECT_EQ(names[0].find('?'), std::string::npos) << names[0];
     PutScreens(logos + names[0] + "\\", "odd");
-    EXPECT_EQ(Contents(ScreenPathsOfSet(logos, names[0])[0]), "odd LOGO.SYS");
+    EXPECT_EQ(Contents(LogoSet{logos, names[0]}.Screens()[0]), "odd LOGO.SYS");
 }
 
 TEST_F(Machine, ALogoFolderThatEndsLikeABackslashListsItsSetsAndNotItself) {

@@ -78,6 +78,15 @@ TEST_F(Machine, WhatIsNeitherTextNorNumberGivesStatusMinusOneAndNoValue) {
     EXPECT_EQ(value, RegistryValue());
 }
 
+TEST_F(Machine, ANumberThatIsLongerThanFourBytesIsNotRead) {
+    Store("x", {REG_DWORD, std::string(8, '\1')});
+    RegistryKey key;
+    ASSERT_EQ(key.Open(kHive, kKey), 0);
+    RegistryValue value = std::string("old");
+    EXPECT_EQ(QueryValueEx(key, "x", value), ERROR_MORE_DATA);
+    EXPECT_EQ(value, RegistryValue());
+}
+
 TEST_F(Machine, AMissingValueOrKeyReadsAsNothing) {
     EXPECT_EQ(QueryValue(kHive, kKey, "x"), RegistryValue());
     EXPECT_NE(SetKeyValue(kHive, kKey, "x", std::string("Blue"), kRegistryText), 0);

@@ -318,7 +318,7 @@ TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
 
 TEST_F(SettingsTest, AnUnknownInstalledSetIsSavedAsTheEmptyText) {
     Settings settings = UnlikeTheDefaults();
-    settings.defaultLogoSet = kUnknownSet;
+    settings.defaultLogoSet = "";
     settings.bootRoot = "";
     SaveSettings(settings);
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(""));

@@ -1,6 +1,7 @@
 // What the Logo browser says and shows: captions, menus, tips, colours and pointers.
 #include <atomic>
 #include <cmath>
+#include <set>
 
 #include "tests/editor/editor_fixture.h"
 #include "tests/support/user/seen.h"
@@ -94,6 +95,58 @@ TEST_F(Appearance, TipsNameTheSlots) {
                               "LOGOS.SYS: shutdown screen"};
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(seen::TipOver(editor.ImgPreview[i].handle()), tips[i]);
+    });
+}
+
+TEST_F(Appearance, TheWholePathOfTheFolderIsItsTip) {
+    MakeFolders(pictures + "zoo\\");
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        EXPECT_EQ(seen::TipOver(editor.CurPath.handle()), pictures);
+        BrowseInto(editor, "zoo");
+        EXPECT_EQ(seen::TipOver(editor.CurPath.handle()), pictures + "zoo\\");
+    });
+}
+
+TEST_F(Appearance, TheListOfDrivesNamesEachBesideThePictureOfItsKind) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        // Pictures: 0 of what can be taken out, 1 of a fixed disk, 2 of a CD-ROM, 3 of a network.
+        const std::pair<std::string, LRESULT> drives[] = {{"A:", 0}, {"C:", 1}, {"D:", 1},
+                                                          {"E:", 2}, {"N:", 3}, {"Z:", 1}};
+        const HWND list = editor.Drive1.handle();
+        EXPECT_EQ(SendMessageA(list, CB_GETCOUNT, 0, 0), 6);
+        for (WPARAM i = 0; i < 6; ++i) {
+            char text[MAX_PATH] = "";
+            SendMessageA(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+            EXPECT_EQ(std::string(text).substr(0, 2), drives[i].first);
+            EXPECT_EQ(SendMessageA(list, CB_GETITEMDATA, i, 0), drives[i].second) << text;
+        }
+    });
+}
+
+/// The colours of a row of pixels where a list of drives shows the letter of the chosen one.
+std::set<COLORREF> ColorsOfLetter(HWND list) {
+    seen::ShowsColor(list, 0);  // what is left to paint is painted
+    RECT r{};
+    GetClientRect(list, &r);
+    const HDC dc = GetDC(list);
+    std::set<COLORREF> colors;
+    for (int x = 24; x < 30; ++x) colors.insert(GetPixel(dc, x, r.bottom / 2));
+    ReleaseDC(list, dc);
+    return colors;
+}
+
+TEST_F(Appearance, TheChosenDriveHasTheSystemsColoursWithTheFocusAndWithout) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND list = editor.Drive1.handle();
+        using Colors = std::set<COLORREF>;
+        EXPECT_EQ(ColorsOfLetter(list),
+                  (Colors{GetSysColor(COLOR_WINDOW), GetSysColor(COLOR_WINDOWTEXT)}));
+        SendMessageA(editor.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list), TRUE);
+        EXPECT_TRUE(WaitUntil([&] {
+            return ColorsOfLetter(list) ==
+                   Colors{GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)};
+        }));
+        user::TakeShot("drive_list");
     });
 }
 

@@ -377,7 +377,7 @@ TEST_F(Browsing, ARightClickOnASlotOffersTheMainWindowsOpenWithMenu) {
         Fill(editor, "new.sys", 1);
         EXPECT_TRUE(user::RightClick(editor.ImgPreview[1].handle()));
         const HMENU menu = user::WaitForPopUp();
-        EXPECT_EQ(menu, main.OpenWithMenu());
+        EXPECT_EQ(menu, main.OpenWithMenu(editor.ImgPreview[1].Tag()));
         EXPECT_EQ(GetMenuDefaultItem(menu, FALSE, 0),
                   static_cast<UINT>(main.DefaultOpenWithItem()));
         EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmOpenAct));

@@ -34,7 +34,7 @@ TEST_F(Deleting, DeletesASetForGoodAndForgetsIt) {
         RunAndAnswer(editor, ID_EliminaSetBtn, IDYES);
         EXPECT_EQ(InTheBin(), before);
         EXPECT_FALSE(Exists(logos + "Blue"));
-        EXPECT_EQ(main.CurrentSet(), "<Don't know>");  // it was the installed one
+        EXPECT_EQ(main.InstalledSet(), std::nullopt);  // it was the installed one
         EXPECT_EQ(editor.NameLogoSet.Count(), 2);
         EXPECT_EQ(editor.NameLogoSet.FindItem("Blue"), -1);
         EXPECT_EQ(editor.NameLogoSet.Text(), "");
@@ -55,7 +55,7 @@ TEST_F(Deleting, DeletesWithoutAQuestionWhereTheUserWantsNone) {
         ChooseSet(editor, "Red");
         Run(editor, ID_EliminaSetBtn);
         EXPECT_FALSE(Exists(logos + "Red"));
-        EXPECT_EQ(main.CurrentSet(), "Blue");
+        EXPECT_EQ(main.InstalledSet(), "Blue");
     });
 }
 

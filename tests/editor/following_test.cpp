@@ -276,7 +276,7 @@ TEST_F(Following, AnUpdateOfAnotherSetLeavesTheInstalledOneAsItIs) {
             TypeName(editor, "Crimson");
             Run(editor, ID_OkButton + 1);
             EXPECT_TRUE(Exists(logos + "Crimson"));
-            EXPECT_EQ(main.CurrentSet(), "Blue");
+            EXPECT_EQ(main.InstalledSet(), "Blue");
         },
         [&](Principale& main) { main.SelItem("Red"); });
 }
@@ -294,22 +294,27 @@ TEST_F(Following, ANameTypedAgainAndDeletedIsOfferedNoMore) {
     });
 }
 
+/// Chooses another logo folder in the preferences, which a picture's click offers: no custom
+/// program is set.
+void ChooseLogoFolder(Principale& main, SelPictureForm& editor, const std::string& folder) {
+    main.Preferences().defaultAction = 2;
+    EXPECT_TRUE(user::Click(editor.CurView.handle()));
+    user::AnswerBox(IDYES);
+    const HWND preferences = user::WaitForTop("FrmOptions");
+    EXPECT_NE(preferences, nullptr);
+    SetWindowTextA(user::Control(preferences, ID_TxtLogoPath), folder.c_str());
+    SendMessageA(preferences, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(user::WaitUntilGone(preferences));
+}
+
 TEST_F(Following, AnotherLogoFolderChosenMeanwhileIsTheOneThatTheSessionIsAbout) {
     const std::string others = root + "others\\";
     MakeFolders(others + "Oak\\");
     Put(pictures + "new.sys", ScreenFile(1, 2, 3));
     WithEditor([&](Principale& main, SelPictureForm& editor) {
-        main.Preferences().defaultAction = 2;
         ChooseSet(editor, "Red");
         Pick(editor, "new.sys");
-        // A custom program that is not set offers the preferences.
-        EXPECT_TRUE(user::Click(editor.CurView.handle()));
-        user::AnswerBox(IDYES);
-        const HWND preferences = user::WaitForTop("FrmOptions");
-        EXPECT_NE(preferences, nullptr);
-        SetWindowTextA(user::Control(preferences, ID_TxtLogoPath), others.c_str());
-        SendMessageA(preferences, WM_COMMAND, IDOK, 0);
-        EXPECT_TRUE(user::WaitUntilGone(preferences));
+        ChooseLogoFolder(main, editor, others);
         Settle(editor);
         EXPECT_EQ(NamesOffered(editor), (Names{"Oak"}));
         EXPECT_EQ(editor.NameLogoSet.Text(), "Red");
@@ -318,6 +323,21 @@ TEST_F(Following, AnotherLogoFolderChosenMeanwhileIsTheOneThatTheSessionIsAbout)
         Run(editor, ID_OkButton);
         EXPECT_EQ(NamesIn(others), (Names{"Oak", "Red"}));
         EXPECT_EQ(Contents(others + "Red\\LOGO.SYS"), ScreenFile(255, 0, 0));
+    });
+}
+
+TEST_F(Following, ASetLoadedFromAnotherLogoFolderStaysLoadedOverTheNextCommands) {
+    const std::string others = root + "others\\";
+    MakeFolders(others + "Oak\\");
+    Put(pictures + "new.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        Pick(editor, "new.sys");
+        ChooseLogoFolder(main, editor, others);
+        Settle(editor);
+        ChooseSet(editor, "Oak");
+        Run(editor, ID_BrowserRefresh);
+        EXPECT_TRUE(seen::RowOf(ActionMenu(editor), ID_OkButton + 1).enabled);
+        EXPECT_TRUE(seen::RowOf(ActionMenu(editor), ID_EliminaSetBtn).enabled);
     });
 }
 

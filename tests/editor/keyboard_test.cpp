@@ -186,7 +186,7 @@ TEST_F(Keyboard, SpaceAndTheMenuKeyAreThePicturesButtons) {
             Await([&] { return FocusIn(editor) == box->handle(); }, "focus back");
             user::Press(VK_APPS);
             const HMENU menu = user::WaitForPopUp();
-            EXPECT_EQ(menu, main.OpenWithMenu());
+            EXPECT_EQ(menu, main.OpenWithMenu(box->Tag()));
             RECT shown{};
             GetWindowRect(user::FindTop("#32768"), &shown);
             const POINT middle = user::CentreOf(box->handle());

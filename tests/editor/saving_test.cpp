@@ -188,7 +188,7 @@ TEST_F(Saving, RenamesTheFolderOfAnUpdatedSetAndItsUnchangedSlotsFollow) {
         EXPECT_EQ(editor.NameLogoSet.FindItem("Blue"), -1);
         EXPECT_EQ(editor.NameLogoSet.Item(editor.LoadedIndex), "Navy");
         EXPECT_EQ(editor.NameLogoSet.Text(), "Navy");
-        EXPECT_EQ(main.CurrentSet(), "Navy");  // it was the installed one
+        EXPECT_EQ(main.InstalledSet(), "Navy");  // it was the installed one
     });
 }
 
@@ -261,7 +261,7 @@ TEST_F(Saving, TheInstalledSetFollowsTheSetSelectedInTheMainWindow) {
     WithEditor([&](Principale& main, SelPictureForm& editor) {
         ChooseSet(editor, "Red");
         Run(editor, ID_OkButton + 1);
-        EXPECT_EQ(main.CurrentSet(), "Red");  // "Blue" was selected and installed
+        EXPECT_EQ(main.InstalledSet(), "Red");  // "Blue" was selected and installed
     });
 }
 

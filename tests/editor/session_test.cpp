@@ -1,5 +1,6 @@
 // How a session of the Logo browser begins, which commands it offers, and how it ends.
 #include "tests/editor/editor_fixture.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {
@@ -228,6 +229,35 @@ TEST_F(Session, ForgetsNothingWhenAPreviewWasLookedAt) {
         Settle(editor);
         EXPECT_EQ(editor.NameLogoSet.Text(), "Typed");
         EXPECT_FALSE(editor.ActivateOnce);
+    });
+}
+
+TEST_F(Session, EndsWithTheSystemsAfterALabelThatIsBeingEdited) {
+    Put(pictures + "old.sys", ScreenFile(1, 2, 3));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Pick(editor, "old.sys");
+        Run(editor, ID_BrowserRename);
+        Await([&] { return editor.LogoList.EditingLabel(); }, "label edited");
+        const auto edit = reinterpret_cast<HWND>(
+            SendMessageA(editor.LogoList.handle(), 0x1000 + 24 /* LVM_GETEDITCONTROL */, 0, 0));
+        user::Type("new.sys");
+        Await([&] { return user::TextOf(edit) == "new.sys"; }, "typed");
+        EXPECT_NE(SendMessageA(editor.handle(), WM_QUERYENDSESSION, 0, 0), 0);
+        SendMessageA(editor.handle(), WM_ENDSESSION, TRUE, 0);
+        EXPECT_TRUE(Exists(pictures + "new.sys"));
+        EXPECT_FALSE(Exists(pictures + "old.sys"));
+    });
+}
+
+TEST_F(Session, KeepsItsTipsAndListsWhenEveryWindowIsAskedToClose) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const std::vector<HWND> helpers = seen::HelpersOf(editor.handle());
+        for (const HWND helper : helpers) SendMessageA(helper, WM_CLOSE, 0, 0);
+        EXPECT_EQ(seen::HelpersOf(editor.handle()), helpers);
+        EXPECT_EQ(seen::TipOver(editor.ImgPreview[0].handle()), "LOGO.SYS: startup screen");
+        SendMessageA(editor.NameLogoSet.handle(), CB_SHOWDROPDOWN, TRUE, 0);
+        EXPECT_NE(user::FindTop("ComboLBox"), nullptr);
+        SendMessageA(editor.NameLogoSet.handle(), CB_SHOWDROPDOWN, FALSE, 0);
     });
 }
 

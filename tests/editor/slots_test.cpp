@@ -41,6 +41,37 @@ TEST_F(Slots, OfTheSharedScreensCanBeEmptiedWhatTheLoadedSetLacks) {
     });
 }
 
+/// Which slots' "Delete" buttons can be pressed.
+std::vector<bool> CanBeEmptied(SelPictureForm& editor) {
+    std::vector<bool> enabled;
+    for (const Button& button : editor.DeleteButton)
+        enabled.push_back(IsWindowEnabled(button.handle()) != 0);
+    return enabled;
+}
+
+TEST_F(Slots, CanBeEmptiedWhereALoadedSetHasAScreenAndAfterOneWasAdded) {
+    Put(pictures + "new.sys", kNewScreen);
+    DeleteFileA((logos + "Red\\LOGOW.SYS").c_str());
+    Put(logos + "Red\\LOGOS.SYS", "This is no picture.");
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        EXPECT_EQ(CanBeEmptied(editor), (std::vector<bool>{true, false, false}));
+        Fill(editor, "new.sys", 1);
+        EXPECT_EQ(CanBeEmptied(editor), (std::vector<bool>{true, true, false}));
+        Press(editor.DeleteButton[1]);
+        ChooseSet(editor, "Blue");
+        EXPECT_EQ(CanBeEmptied(editor), (std::vector<bool>{true, true, true}));
+    });
+}
+
+TEST_F(Slots, SayThatTheyHoldNothingBeforeASetIsChosen) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        for (const PictureBox& slot : editor.ImgPreview) EXPECT_TRUE(Says(slot, "no picture"));
+        EXPECT_TRUE(Says(editor.CurView, "no picture"));
+        user::TakeShot("editor_nothing_chosen");
+    });
+}
+
 TEST_F(Slots, ThatNameAMissingFileEndTheUpdate) {
     DeleteFileA((logos + "Red\\LOGOW.SYS").c_str());
     WithEditor([&](Principale&, SelPictureForm& editor) {

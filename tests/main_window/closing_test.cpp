@@ -93,6 +93,16 @@ TEST_F(Closing, ByTheSystemIsKnownToTheWindowAndToThoseItOwns) {
     RunLoopWhileOpen(main);  // returns at once
 }
 
+TEST_F(Closing, LeavesAListInWhichNothingIsFound) {
+    Principale main(locations);
+    ASSERT_TRUE(main.Create(nullptr));
+    ASSERT_GE(main.MyList.FindItem("Blue"), 0);
+    ASSERT_TRUE(main.Unload());
+    // Each of these returns.
+    EXPECT_EQ(main.MyList.FindItem("Blue"), -1);
+    EXPECT_EQ(main.MyList.FindItemOfAnyCase("Blue"), -1);
+}
+
 TEST_F(Closing, WithTheSessionIsAgreedToWithoutAQuestionWhereNothingIsUnsaved) {
     WithMainWindow([&](Principale& main) {
         EXPECT_TRUE(MayEnd(main.handle()));
@@ -156,6 +166,49 @@ TEST_F(Closing, WithTheSessionKeepsTheSettings) {
         EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Red"));
         // The test's own closing is not to be what is seen above.
         EXPECT_TRUE(main.IsOpen());
+    });
+}
+
+TEST_F(Closing, WithTheSessionTakesTheLabelThatIsBeingEdited) {
+    WithMainWindow([&](Principale& main) {
+        BeginRenaming(main, "Blue", "Azure");
+        EXPECT_TRUE(MayEnd(main.handle()));
+        SendMessageA(main.handle(), WM_ENDSESSION, TRUE, 0);
+        EXPECT_TRUE(Exists(logos + "Azure\\LOGO.SYS"));
+        EXPECT_FALSE(Exists(logos + "Blue"));
+        EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Azure"));
+    });
+}
+
+TEST_F(Closing, WithTheSessionTellsOfALabelThatCannotBeTakenWhileItStillMay) {
+    WithMainWindow([&](Principale& main) {
+        BeginRenaming(main, "Red", "Blue");
+        bool may = false;
+        user::Box box;
+        {
+            user::Meanwhile asked([&] { may = MayEnd(main.handle()); });
+            box = user::AnswerBox(IDOK);
+        }
+        EXPECT_TRUE(may);
+        EXPECT_EQ(box.text,
+                  "Cannot rename folder. The folder already exists or has an invalid name");
+        SendMessageA(main.handle(), WM_ENDSESSION, TRUE, 0);
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_TRUE(Exists(logos + "Red\\LOGO.SYS"));
+        // One that was not ended would be told of while the test closes the window.
+        if (main.MyList.EditingLabel()) user::Press(VK_ESCAPE);
+    });
+}
+
+TEST_F(Closing, OfTheTipsIsPassedOver) {
+    WithMainWindow([&](Principale& main) {
+        const POINT refresh = seen::CentreOfButton(main.ActiveBar1.bar(), ID_ToolRefresh);
+        const std::vector<HWND> helpers = seen::HelpersOf(main.handle());
+        EXPECT_GE(helpers.size(), 2u);  // its own tips and the toolbar's
+        for (const HWND helper : helpers) SendMessageA(helper, WM_CLOSE, 0, 0);
+        EXPECT_EQ(seen::HelpersOf(main.handle()), helpers);
+        EXPECT_EQ(seen::TipOver(main.DefaultLogo.handle()), "Default logo set");
+        EXPECT_EQ(seen::TipAt(refresh), "Refreshed the logo sets list");
     });
 }
 

@@ -175,7 +175,7 @@ TEST_F(Commands, StartTheCustomProgramWithTheShortPathOfThePicture) {
     Store("CustomProgPath", TextValue("C:\\test\\record_arguments.exe"));
     DeleteFileA("C:\\arguments.txt");
     WithMainWindow([&](Principale& main) {
-        EXPECT_EQ(MenuCaption(main.OpenWithMenu(), ID_ItmOpenAct + 2), "Recorder");
+        EXPECT_EQ(MenuCaption(main.OpenWithMenu(""), ID_ItmOpenAct + 2), "Recorder");
         user::Click(main.Imag[0].handle());
         EXPECT_TRUE(WaitUntil([] { return Contents("C:\\arguments.txt").value_or("") != ""; }));
     });

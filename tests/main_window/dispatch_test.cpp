@@ -210,6 +210,40 @@ TEST_F(Dispatch, TheDrivesOfTheStartupLogoAreMarkedAndChosen) {
     });
 }
 
+TEST_F(Dispatch, TheMenuOfTheDrivesHasEachFixedOneOnceAndMarksThatOfTheStartupLogo) {
+    WithMainWindow([&](Principale& main) {
+        RECT r{};
+        GetClientRect(main.handle(), &r);
+        POINT corner{r.right - 4, r.bottom - 4};
+        ClientToScreen(main.handle(), &corner);
+        for (const char* root : {"C:\\", "d:\\"}) {
+            main.Preferences().bootRoot = root;
+            user::RightClickAt(corner);
+            const HMENU menu = user::WaitForPopUp();
+            const HMENU drives = seen::RowsOf(menu).back().opens;
+            user::Press(VK_UP);
+            user::Press(VK_RIGHT);
+            EXPECT_TRUE(WaitUntil([&] {
+                const auto rows = seen::RowsOf(drives);
+                return !rows.empty() && rows[0].checked == (*root == 'C');
+            }));
+            std::string letters;
+            std::string marked;
+            for (const seen::MenuRow& row : seen::RowsOf(drives)) {
+                letters += row.text;
+                if (row.checked) marked += row.text;
+            }
+            // A is a floppy disk drive here, E a CD-ROM drive and N a network drive.
+            EXPECT_EQ(letters, "CDZ");
+            EXPECT_EQ(marked, *root == 'C' ? "C" : "D");
+            user::Press(VK_ESCAPE);
+            user::Press(VK_ESCAPE);
+            EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
+        }
+        main.Preferences().bootRoot = boot;
+    });
+}
+
 TEST_F(Dispatch, TheRestDoesNothing) {
     WithMainWindow([&](Principale& main) {
         const auto before = NamesIn(logos);

@@ -28,7 +28,7 @@ class Failing : public MainWindow98 {
         for (const std::string& installed : InstalledFiles()) Put(installed, "old");
         main.Preferences().confirmLogosetDelete = 0;
         main.Preferences().deleteInTheRecycleBin = 0;
-        main.SetCurrentSet("Blue");
+        main.SetInstalledSet("Blue");
         main.LeggiDatiDisco();
         main.SelItem("Red");
     }

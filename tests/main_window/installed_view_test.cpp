@@ -32,6 +32,18 @@ class InstalledView : public MainWindow98 {
     }
 };
 
+TEST_F(InstalledView, ShowsTheHourglassWhileTheInstalledScreensAreRead) {
+    Put(boot + "LOGO.SYS", LargeScreenFile());
+    WithMainWindow([&](Principale& main) {
+        user::MoveTo(user::CentreOf(main.MyList.handle()));
+        Settle(main);
+        EXPECT_FALSE(seen::PointerIsHourglass());
+        EXPECT_TRUE(SeesTheHourglass(main, ID_ToolShowCurrent));
+        EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
+        EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
+    });
+}
+
 TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
@@ -259,7 +271,7 @@ TEST_F(InstalledView, KeepsTheStateOfTheSetToolsWhichThenDoNothing) {
 TEST_F(InstalledView, ComesBackWithASetThatBecameTheInstalledOneMeanwhile) {
     WithMainWindow([&](Principale& main) {
         Command(main, ID_ToolShowCurrent);
-        main.SetCurrentSet("Red");
+        main.SetInstalledSet("Red");
         EXPECT_EQ(main.DefaultLogo.Text(), "Current logo setting");
         Command(main, ID_ToolShowCurrent);
         EXPECT_EQ(main.DefaultLogo.Text(), "Red");

@@ -57,9 +57,22 @@ TEST_F(OpenLabelEdit, IsTakenBeforeTheListIsReadAnew) {
     ExpectRenamedFirst([&](Principale& main) { PressTool(main, ID_ToolRefresh); }, NothingMore);
 }
 
+TEST_F(OpenLabelEdit, IsTakenTheSecondTimeToo) {
+    WithMainWindow([&](Principale& main) {
+        for (const auto& [name, typed] : {std::pair{"Red", "Scarlet"}, {"Scarlet", "Crimson"}}) {
+            BeginRenaming(main, name, typed);
+            PressTool(main, ID_ToolRefresh);
+            EXPECT_TRUE(WaitUntil([&] { return !main.MyList.EditingLabel(); }));
+            Settle(main);
+            EXPECT_TRUE(Exists(logos + typed)) << typed;
+        }
+        EXPECT_GE(main.MyList.FindItem("Crimson"), 0);
+    });
+}
+
 TEST_F(OpenLabelEdit, IsTakenBeforeAMenuItemOfTheMenuBar) {
     ExpectRenamedFirst(
-        [&](Principale& main) { StartCommand(main, ID_ToolReportView); },
+        [&](Principale& main) { user::ChooseFromMenuBar(main.handle(), ID_ToolReportView); },
         [&](Principale& main) {
             EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
         });

@@ -121,6 +121,21 @@ TEST_F(LibraryView, StandsScreensThatAreBroken) {
     WithMainWindow([&](Principale& main) { ClickSet(main, "Red"); });
 }
 
+TEST_F(LibraryView, FillsABoxThatGrewUntilItsScreenIsDrawnAnew) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        const HWND box = main.Imag[1].handle();
+        RECT r{};
+        GetClientRect(box, &r);
+        SetWindowPos(box, HWND_TOP, 0, 0, r.right + 40, r.bottom + 40, SWP_NOMOVE);
+        Settle(main);
+        RedrawWindow(box, nullptr, nullptr, RDW_UPDATENOW);
+        const HDC dc = GetDC(box);
+        EXPECT_EQ(GetPixel(dc, r.right + 20, r.bottom + 20), kRed);
+        ReleaseDC(box, dc);
+    });
+}
+
 TEST_F(LibraryView, StandsAFolderWhereAScreenShouldBe) {
     DeleteFileA((logos + "Red\\LOGO.SYS").c_str());
     MakeFolders(logos + "Red\\LOGO.SYS\\");
@@ -155,17 +170,25 @@ TEST_F(LibraryView, ClearsPicturesAndKindWhereNoInstalledSetIsFoundAnyMore) {
 }
 
 TEST_F(LibraryView, ShowsTheHourglassWhileAScreenIsRead) {
-    std::string large = ScreenFile(0, 255, 0);
-    // 6000 x 6000 pixels
-    large.replace(18, 8, std::string("\x70\x17\0\0\x70\x17\0\0", 8));
-    large.resize(1078 + 36'000'000);
-    Put(logos + "Red\\LOGO.SYS", large);
+    Put(logos + "Red\\LOGO.SYS", LargeScreenFile());
     WithMainWindow([&](Principale& main) {
         user::MoveTo(user::CentreOf(main.MyList.handle()));
         Settle(main);
         EXPECT_FALSE(seen::PointerIsHourglass());
         user::ClickAt(PointOfSet(main, "Red"));
         EXPECT_TRUE(WaitUntil([] { return seen::PointerIsHourglass(); }));
+        EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
+    });
+}
+
+TEST_F(LibraryView, ShowsTheHourglassWhileTheSetsAreRead) {
+    for (const char* set : {"Blue", "Green.SLS", "Red"}) RemoveTree(logos + set);
+    for (int i = 0; i < 2000; ++i) MakeFolders(logos + "Set " + std::to_string(i) + "\\");
+    WithMainWindow([&](Principale& main) {
+        user::MoveTo(user::CentreOf(main.MyList.handle()));
+        Settle(main);
+        EXPECT_FALSE(seen::PointerIsHourglass());
+        EXPECT_TRUE(SeesTheHourglass(main, ID_ToolRefresh));
         EXPECT_TRUE(WaitUntil([] { return !seen::PointerIsHourglass(); }));
     });
 }

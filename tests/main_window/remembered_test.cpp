@@ -253,7 +253,7 @@ TEST_F(WindowKept, StandsInTheMiddleOfTheScreenAtTheFirstStart) {
 
 TEST_F(WindowKept, RemembersTheMarkOfTheAnimation) {
     const auto mark = [](Principale& main) {
-        return seen::RowOf(main.OpenWithMenu(), ID_ItmAnimate).checked;
+        return seen::RowOf(main.OpenWithMenu(""), ID_ItmAnimate).checked;
     };
     WithMainWindow([&](Principale& main) {
         EXPECT_FALSE(mark(main));

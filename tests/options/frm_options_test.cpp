@@ -22,25 +22,14 @@ namespace vistrel::test {
 namespace {
 
 /// Stands for the main window: keeps what the dialog tells it.
-class RecordingMain : public MainWindow {
+class RecordingMain : public OptionsHost {
  public:
     explicit RecordingMain(SystemLocations locations) : locations_(std::move(locations)) {}
 
     const SystemLocations& Locations() const override { return locations_; }
     Settings& Preferences() override { return settings; }
-    std::vector<std::string> SetNames() const override { return {}; }
-    int SelectedSet() const override { return -1; }
     void LeggiDatiDisco() override { ++scans; }
-    void VisualizzaNumLogo() override {}
-    std::string CurrentSet() const override { return kUnknownSet; }
-    void SetCurrentSet(const std::string&) override {}
-    void SetCurrentPicture(const std::string&) override {}
-    void AzioneSuImmagine(int, WindowHandle) override {}
-    MenuHandle OpenWithMenu() override { return nullptr; }
-    int DefaultOpenWithItem() const override { return 0; }
-    bool OpenWithCommand(int, WindowHandle) override { return false; }
     void ShowCustomProgramName() override { customCaption = settings.customProgName; }
-    bool AnimationShown() const override { return animation; }
     void SetAnimationShown(bool shown) override { animation = shown; }
     std::int16_t BootLogoOption() const override { return bootOption; }
     void SetBootLogoOption(std::int16_t option) override { bootOption = option; }

@@ -175,6 +175,31 @@ TEST(MemoryTest, LargeJpgsThatAreNotThere) {
     }
 }
 
+TEST(MemoryTest, LargeJpgsWhoseBytesAreNoPicture) {
+    Bytes comments;
+    for (int i = 0; i < 20; ++i) {
+        const Bytes begin = {0xFF, 0xFE, 0xFF, 0xFF};
+        comments.insert(comments.end(), begin.begin(), begin.end());
+        comments.insert(comments.end(), 0xFFFD, 'c');
+    }
+    for (const J_COLOR_SPACE color : {JCS_YCbCr, JCS_GRAYSCALE, JCS_CMYK}) {
+        for (const bool progressive : {false, true}) {
+            JpgOptions options;
+            options.color = color;
+            options.progressive = progressive;
+            const Bytes small = MakeJpg(MakePicture(16, 16), options);
+            for (const auto& [width, height] :
+                 {std::pair{2000, 2000}, {4000, 3000}, {8000, 8000}}) {
+                SCOPED_TRACE(testing::Message() << color << progressive << " " << width);
+                const Bytes file =
+                    Claiming(WithInserted(small, 2, comments), width, height, 0, progressive);
+                EXPECT_FALSE(ReadByContent(file).has_value());
+                ExpectModestMemory(file);
+            }
+        }
+    }
+}
+
 TEST(MemoryTest, AMillionScanHeaders) {
     JpgOptions options;
     options.progressive = true;

@@ -41,5 +41,26 @@ TEST_F(Starting, IsInFrontAndActiveWithoutTheSplashScreenToo) {
     }
 }
 
+/// What the system shows in a program's name when something is wrong with a drive: asked within the
+/// program itself.
+DWORD ErrorModeOf(DWORD process) {
+    const HANDLE program = OpenProcess(PROCESS_ALL_ACCESS, FALSE, process);
+    const auto ask = reinterpret_cast<LPTHREAD_START_ROUTINE>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32"), "GetErrorMode")));
+    const HANDLE asking = CreateRemoteThread(program, nullptr, 0, ask, nullptr, 0, nullptr);
+    WaitForSingleObject(asking, 20000);
+    DWORD mode = 0;
+    EXPECT_TRUE(GetExitCodeThread(asking, &mode));
+    CloseHandle(asking);
+    CloseHandle(program);
+    return mode;
+}
+
+TEST_F(Starting, KeepsTheSystemsQuestionForADiskAway) {
+    ASSERT_NE(Start(), nullptr);
+    EXPECT_EQ(ErrorModeOf(process) & SEM_FAILCRITICALERRORS, DWORD{SEM_FAILCRITICALERRORS});
+    Close();
+}
+
 }  // namespace
 }  // namespace vistrel::test

@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <ole2.h>
 
+#include <atomic>
+
 #include "core/settings.h"
 #include "pictures/bmp/writer.h"
 #include "tests/support/user/seen.h"
@@ -24,6 +26,13 @@ std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blu
     std::string file(bytes.begin(), bytes.end());
     file[50] = static_cast<char>(firstAnimated);
     return file;
+}
+
+std::string LargeScreenFile() {
+    std::string large = ScreenFile(0, 255, 0);
+    large.replace(18, 8, std::string("\x70\x17\0\0\x70\x17\0\0", 8));
+    large.resize(1078 + 36'000'000);
+    return large;
 }
 
 COLORREF MiddleOf(const PictureBox& box) {
@@ -204,6 +213,18 @@ bool MainWindow98::SetToolsEnabled(Principale& main) {
 
 void MainWindow98::Command(Principale& main, int id) {
     SendMessageA(main.handle(), WM_COMMAND, static_cast<WPARAM>(id), 0);
+}
+
+bool MainWindow98::SeesTheHourglass(Principale& main, int id) {
+    std::atomic<bool> done = false;
+    user::Meanwhile commanding([&] {
+        Command(main, id);
+        done = true;
+    });
+    bool shown = false;
+    while (!done && !shown) shown = seen::PointerIsHourglass();
+    commanding.Finish();
+    return shown;
 }
 
 void MainWindow98::StartCommand(Principale& main, int id) {

@@ -21,6 +21,9 @@ namespace vistrel::test {
 std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blue,
                        int firstAnimated = 0);
 
+/// A screen of 6000 x 6000 pixels, which takes its time to be read.
+std::string LargeScreenFile();
+
 /// A colour that a picture box shows, in its middle.
 COLORREF MiddleOf(const PictureBox& box);
 
@@ -64,6 +67,8 @@ class MainWindow98 : public Machine {
     static bool SetToolsEnabled(Principale& main);
     /// Chooses a command as the toolbar, a menu or a key would send it, and waits until it is done.
     void Command(Principale& main, int id);
+    /// The same, and looks at the pointer all the time: whether it was the hourglass.
+    bool SeesTheHourglass(Principale& main, int id);
     /// The same for a command that opens something that waits for an answer: does not wait.
     void StartCommand(Principale& main, int id);
 };

@@ -103,6 +103,15 @@ std::string TipAt(POINT point) {
 
 std::string TipOver(HWND window) { return TipAt(user::CentreOf(window)); }
 
+std::vector<HWND> HelpersOf(HWND window) {
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    std::vector<HWND> found;
+    for (const char* kind : {TOOLTIPS_CLASSA, "ComboLBox"})
+        for (HWND helper = nullptr; (helper = FindWindowExA(nullptr, helper, kind, nullptr));)
+            if (GetWindowThreadProcessId(helper, nullptr) == thread) found.push_back(helper);
+    return found;
+}
+
 COLORREF PixelAt(POINT point) {
     const HDC screen = GetDC(nullptr);
     const COLORREF color = GetPixel(screen, point.x, point.y);

@@ -48,6 +48,10 @@ std::string TipAt(POINT point);
 /// The same in the middle of a window.
 std::string TipOver(HWND window);
 
+/// The windows that controls of this window's thread keep on the screen for themselves, seen or
+/// not: tips, and the lists that boxes drop.
+std::vector<HWND> HelpersOf(HWND window);
+
 /// The colour of a pixel of the screen.
 COLORREF PixelAt(POINT point);
 /// Whether any pixel of a window, as the screen shows it, has this colour. Text has its own colour

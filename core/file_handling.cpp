@@ -1,4 +1,4 @@
-#include "editor/file_handling.h"
+#include "core/file_handling.h"
 
 #include "platform/shell.h"
 

@@ -1,4 +1,4 @@
-#include "editor/slot_file.h"
+#include "core/slot_file.h"
 
 #include "core/generali.h"
 #include "platform/files.h"

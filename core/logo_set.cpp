@@ -1,0 +1,62 @@
+// A logo set on disk as a whole.
+#include "core/logo_set.h"
+
+#include "core/entry_name.h"
+#include "core/file_handling.h"
+#include "core/generali.h"
+#include "platform/files.h"
+#include "platform/shell.h"
+
+namespace vistrel {
+namespace {
+
+/// SHFileOperation's flag that answers yes to every question.
+constexpr unsigned short kYesToAll = 16;
+
+/// "D:" or "D:\\".
+bool IsDriveRoot(const std::string& path) {
+    return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
+}
+
+}  // namespace
+
+bool IsSingleLogoSet(const std::string& setName) {
+    return UpperEnding(setName) == kSingleLogoEnding;
+}
+
+std::array<std::string, 3> ScreensIn(const std::string& folder) {
+    return {folder + kScreenFileNames[0], folder + kScreenFileNames[1],
+            folder + kScreenFileNames[2]};
+}
+
+std::array<std::string, 3> LogoSet::Screens() const {
+    std::array<std::string, 3> screens = ScreensIn(IsSingle() ? library : Folder());
+    screens[0] = Folder() + kScreenFileNames[0];
+    return screens;
+}
+
+bool RenameSet(const LogoSet& set, const std::string& newName) {
+    if (newName == set.name) return true;
+    // Without a name the folder would be the logo folder itself.
+    if (set.name.empty() || !SetFolderName(newName, set.library)) return false;
+    return Rename(set.Path(), set.library + newName);
+}
+
+void DeleteSet(WindowHandle owner, const std::string& folder, Bin bin) {
+    const std::string everything = folder + "\\*.*";
+    if (bin == Bin::Recycle)
+        DeleteToRecycleBin(owner, {everything});
+    else
+        RemoveMatching(everything);
+    RemoveFolder(folder);
+}
+
+bool CanBeImported(const std::string& path) {
+    return !IsDriveRoot(path) && IsFolder(AddBackslash(path));
+}
+
+void ImportSet(WindowHandle owner, const std::string& path, const std::string& library) {
+    ShellCopy(owner, path, library, kYesToAll);
+}
+
+}  // namespace vistrel
