@@ -14,7 +14,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "pictures/compose/composition.h"
 #include "pictures/compose/geometry.h"
@@ -28,9 +27,8 @@ namespace vistrel::compose {
 /// file.
 struct Intermediate {
     PictureSize file;  ///< the picture's size in the file
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> rgb;  ///< width * height * 3 bytes and one more
+    /// One byte longer than it would have to be, so that four can be read at every pixel.
+    RgbPicture reduced;
 };
 
 /// A picture on the screen before light and text.
