@@ -18,7 +18,8 @@ inline double Lanczos3(double x) {
     return 3 * std::sin(angle) * std::sin(angle / 3) / (angle * angle);
 }
 
-/// Scales triples along x and gives the picture turned, so that a second call scales the other axis.
+/// Scales triples along x and gives the picture turned, so that a second call scales the other
+/// axis.
 inline std::vector<double> ScaledAndTurned(const std::vector<double>& source, int width, int height,
                                            double from, double length, int target) {
     std::vector<double> result(std::size_t(target) * height * 3);
