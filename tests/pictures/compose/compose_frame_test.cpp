@@ -173,6 +173,12 @@ TEST(FrameTest, ACircleIsACircleOnA4To3Screen) {
     }
 }
 
+double Mean(const RgbPicture& picture) {
+    double sum = 0;
+    for (const std::uint8_t value : picture.pixels) sum += value;
+    return sum / static_cast<double>(picture.pixels.size());
+}
+
 TEST(FrameTest, TheQuickWayAndTheFineOneShowWhatTheFileShows) {
     const Folder folder;
     const std::string path = folder.Save("scene.bmp", BmpOf(MakeScene(1003, 771)));
@@ -186,10 +192,12 @@ TEST(FrameTest, TheQuickWayAndTheFineOneShowWhatTheFileShows) {
         const Framed fine = FrameFinely(*intermediate, composition);
         EXPECT_EQ(quick.picture, real->picture);
         EXPECT_EQ(fine.picture, real->picture);
-        EXPECT_GE(Psnr(quick.screen, real->screen), 32)
+        // Means of whole numbers make a picture darker that is always rounded down.
+        EXPECT_NEAR(Mean(quick.screen), Mean(real->screen), 0.2);
+        EXPECT_GE(Psnr(quick.screen, real->screen), 39)
             << int(composition.framing.kind) << composition.orientation.quarterTurns
             << composition.orientation.mirrored;
-        EXPECT_GE(Psnr(fine.screen, real->screen), 40);
+        EXPECT_GE(Psnr(fine.screen, real->screen), 46);
     }
 }
 
