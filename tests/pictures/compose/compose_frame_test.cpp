@@ -124,7 +124,7 @@ TEST(FrameTest, APhotographOnItsSideIsTurnedFromUpright) {
 // Zoomed in, a large file has blocks that are not seen, and more to be kept than memory is for.
 TEST(FrameTest, ASmallPartOfALargePhotographIsSharp) {
     const Folder folder;
-    const RgbPicture scene = MakeScene(4200, 2900);
+    const RgbPicture scene = MakeScene(4200, 2900, 2.1);
     for (const bool progressive : {false, true}) {
         JpgOptions options;
         options.progressive = progressive;

@@ -16,15 +16,16 @@
 
 namespace vistrel::test {
 
-/// Waves and edges of several sizes, no two corners alike, and a pattern of few pixels in grey.
-inline RgbPicture MakeScene(int width, int height) {
+/// Waves and edges of several sizes, no two corners alike, and a grey pattern that turns by
+/// `turn` from a pixel to the next.
+inline RgbPicture MakeScene(int width, int height, double turn = 0.7) {
     RgbPicture picture{width, height, {}};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const double u = static_cast<double>(x) / width, v = static_cast<double>(y) / height;
             const double wave = std::sin(40 * u * v) * std::sin(25 * v - 9 * u);
             const int edge = (x * 7 / width + y * 5 / height) % 2 * 40;
-            const double pattern = 20 * std::sin(x * 0.7) * std::sin(y * 0.6);
+            const double pattern = 20 * std::sin(x * turn) * std::sin(y * turn);
             picture.pixels.push_back(static_cast<std::uint8_t>(110 + 60 * wave + edge + pattern));
             picture.pixels.push_back(static_cast<std::uint8_t>(40 + 150 * u + edge + pattern));
             picture.pixels.push_back(static_cast<std::uint8_t>(200 - 120 * v * u - edge + pattern));
