@@ -47,6 +47,21 @@ PictureFormat FormatOfName(const std::string& path) {
     return PictureFormat::Bmp;
 }
 
+std::optional<PictureSize> SizeOfPicture(PictureFormat format, FileBytes file) {
+    if (format == PictureFormat::Jpg) return SizeOfJpg(file);
+    const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
+    if (!rows) return std::nullopt;
+    return PictureSize{rows->width(), rows->height()};
+}
+
+std::optional<RgbPicture> ReadPartScaled(PictureFormat format, FileBytes file,
+                                         const PictureArea& area, int width, int height) {
+    if (format == PictureFormat::Jpg) return ReadJpgScaled(file, area, width, height);
+    const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
+    if (!rows) return std::nullopt;
+    return ReadScaled(*rows, area, width, height);
+}
+
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
 std::optional<RgbPicture> ReadPicture(const std::string& path) try {
     const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);

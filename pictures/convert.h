@@ -28,8 +28,16 @@ bool IsToBeTurned(const std::string& path);
 /// need the picture itself. Empty when it cannot be read or the size is out of range.
 std::optional<ScaledPicture> ReadPictureScaled(const std::string& path, int width, int height);
 
-/// The same for a picture that is only looked at: a screen file is shrunk by averaging, which takes
-/// a tenth of the time.
+/// The size of the picture that a file's bytes hold, upright. Empty when it cannot be read.
+std::optional<PictureSize> SizeOfPicture(PictureFormat format, FileBytes file);
+
+/// A part of that picture, which must lie within it, scaled. Of the file only what it needs is
+/// read. The whole picture comes out as ReadPictureScaled reads it.
+std::optional<RgbPicture> ReadPartScaled(PictureFormat format, FileBytes file,
+                                         const PictureArea& area, int width, int height);
+
+/// As ReadPictureScaled, for a picture that is only looked at: a screen file is shrunk by
+/// averaging, which takes a tenth of the time.
 std::optional<ScaledPicture> ReadPicturePreview(const std::string& path, int width, int height);
 
 enum class ConversionResult { Written, NotRead, NotReduced, NotWritten };

@@ -1,6 +1,8 @@
 // Gathers the rows of a picture.
 #include "pictures/picture_rows.h"
 
+#include <algorithm>
+
 #include "pictures/scale/resize.h"
 
 namespace vistrel {
@@ -21,6 +23,23 @@ ScaledPicture ReadScaled(PictureRows& rows, int width, int height) {
         scaler.EndRow();
     }
     return {scaler.TakePicture(), rows.width(), rows.height()};
+}
+
+RgbPicture ReadScaled(PictureRows& rows, const PictureArea& area, int width, int height) {
+    if (area == PictureArea::WholeOf(rows.width(), rows.height()))
+        return ReadScaled(rows, width, height).picture;
+    const PixelSpan across = PixelsTouched(area.left, area.width);
+    const PixelSpan down = PixelsTouched(area.top, area.height);
+    std::vector<std::uint8_t> row(std::size_t{3} * rows.width());
+    RgbScaler scaler(area, width, height);
+    for (int y = 0; y < down.first + down.count; ++y) {
+        rows.ReadNext(row.data());
+        if (y < down.first) continue;
+        std::copy_n(&row[std::size_t{3} * across.first], std::size_t{3} * across.count,
+                    scaler.NextRow());
+        scaler.EndRow();
+    }
+    return scaler.TakePicture();
 }
 
 }  // namespace vistrel

@@ -32,4 +32,7 @@ RgbPicture ReadAll(PictureRows& rows);
 /// the result is made of.
 ScaledPicture ReadScaled(PictureRows& rows, int width, int height);
 
+/// The same for a part of the picture, which must lie within it: what is below it is not read.
+RgbPicture ReadScaled(PictureRows& rows, const PictureArea& area, int width, int height);
+
 }  // namespace vistrel

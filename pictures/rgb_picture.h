@@ -23,6 +23,26 @@ struct ScaledPicture {
     int fileHeight = 0;
 };
 
+struct PictureSize {
+    int width = 0;
+    int height = 0;
+    bool operator==(const PictureSize&) const = default;
+};
+
+/// A part of a picture in 1/65,536 of its pixels: the sides may lie within pixels.
+struct PictureArea {
+    std::int64_t left = 0;
+    std::int64_t top = 0;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    bool operator==(const PictureArea&) const = default;
+
+    static constexpr int kPixel = 65536;
+    static PictureArea WholeOf(int width, int height) {
+        return {0, 0, std::int64_t{width} * kPixel, std::int64_t{height} * kPixel};
+    }
+};
+
 /// The whole content of a picture file.
 using FileBytes = std::span<const std::uint8_t>;
 

@@ -73,6 +73,20 @@ int ReadExifOrientation(FileBytes segment) {
     return 0;
 }
 
+PictureArea StoredArea(const Turning& turning, const PictureArea& upright, int storedWidth,
+                       int storedHeight) {
+    PictureArea whole = PictureArea::WholeOf(storedWidth, storedHeight);
+    if (turning.swapSides) std::swap(whole.width, whole.height);
+    PictureArea area = upright;
+    if (turning.mirrorAcross) area.left = whole.width - area.left - area.width;
+    if (turning.mirrorDown) area.top = whole.height - area.top - area.height;
+    if (turning.swapSides) {
+        std::swap(area.left, area.top);
+        std::swap(area.width, area.height);
+    }
+    return area;
+}
+
 UprightPlace::UprightPlace(const Turning& turning, int width, int height)
     : storedWidth_(width), width_(width), height_(height) {
     if (turning.swapSides) std::swap(width_, height_);

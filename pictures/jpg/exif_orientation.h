@@ -20,6 +20,10 @@ Turning TurningOf(int orientation);
 /// EXIF data or gives none.
 int ReadExifOrientation(FileBytes segment);
 
+/// Where in a stored picture of so many pixels a part of the upright one lies.
+PictureArea StoredArea(const Turning& turning, const PictureArea& upright, int storedWidth,
+                       int storedHeight);
+
 /// Where the pixels of a stored picture go in the upright one.
 class UprightPlace {
  public:

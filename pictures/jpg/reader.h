@@ -14,9 +14,16 @@ std::optional<RgbPicture> ReadJpg(FileBytes file);
 /// True when ReadJpg would turn the picture or mirror it.
 bool IsJpgToBeTurned(FileBytes file);
 
+/// The size of the picture, turned upright; its content is not looked at. Empty as for ReadJpg.
+std::optional<PictureSize> SizeOfJpg(FileBytes file);
+
 /// Decodes a JPEG file straight to `width` x `height` pixels, reading no more of it than the
 /// result needs. fileWidth and fileHeight of the result are those of the upright picture.
 /// Empty as for ReadJpg.
 std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height);
+
+/// The same for a part of the upright picture, which must lie within it.
+std::optional<RgbPicture> ReadJpgScaled(FileBytes file, const PictureArea& area, int width,
+                                        int height);
 
 }  // namespace vistrel

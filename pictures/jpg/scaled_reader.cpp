@@ -20,10 +20,11 @@ struct Size {
 };
 
 // How many of the eight frequencies of an axis give at least `percent` hundredths of the target's
-// samples. A component has `part` samples where the frame has `whole`.
-int FrequenciesFor(int frameSamples, int part, int whole, int target, int percent) {
+// samples where `seen` pixels of the frame are seen. A component has `part` samples where the frame
+// has `whole`.
+int FrequenciesFor(int seen, int part, int whole, int target, int percent) {
     const std::int64_t wanted = std::int64_t{8} * whole * target * percent;
-    const std::int64_t each = std::int64_t{100} * part * frameSamples;
+    const std::int64_t each = std::int64_t{100} * part * seen;
     const auto fewest = static_cast<int>(std::min<std::int64_t>((wanted + each - 1) / each, 8));
     // The transform of all eight is so much quicker than those of six and seven that these would
     // save nothing.
@@ -36,13 +37,13 @@ int FrequenciesFor(int frameSamples, int part, int whole, int target, int percen
 // constant terms costs next to nothing.
 constexpr int kPercent = 150, kProgressivePercent = 200, kSinglePercent = 160;
 
-KeptFrequencies FrequenciesOf(const JpgFrame& frame, const JpgComponent& component, Size target) {
+KeptFrequencies FrequenciesOf(const JpgFrame& frame, const JpgComponent& component, Size seen,
+                              Size target) {
     const auto across = [&](int percent) {
-        return FrequenciesFor(frame.width, component.across, frame.maxAcross, target.width,
-                              percent);
+        return FrequenciesFor(seen.width, component.across, frame.maxAcross, target.width, percent);
     };
     const auto down = [&](int percent) {
-        return FrequenciesFor(frame.height, component.down, frame.maxDown, target.height, percent);
+        return FrequenciesFor(seen.height, component.down, frame.maxDown, target.height, percent);
     };
     const bool acrossMayBeSingle = across(kSinglePercent) == 1;
     const bool downMayBeSingle = down(kSinglePercent) == 1;
@@ -63,37 +64,54 @@ int SpreadOf(bool isHalf, int frequencies) {
     return frequencies == 1 ? mixing + kOfMean : mixing;
 }
 
-// An axis of a component of which `frequencies` a block are kept: `part` / `whole` of the frame's
-// samples, of which each eight become so many.
-ScaleAxis AxisOf(int frameSamples, int part, int whole, int frequencies, int target) {
+// What of an axis of a component is seen, from sample `first` on.
+struct SeenAxis {
+    int first;
     ScaleAxis axis;
-    axis.extent65536 = (std::int64_t{frameSamples} * part * frequencies << 16) / (whole * 8);
-    axis.samples = static_cast<int>((axis.extent65536 + 65535) >> 16);
-    axis.target = target;
-    axis.spread65536 = SpreadOf(part * 2 == whole, frequencies);
-    return axis;
+};
+
+// An axis of a component of which `frequencies` a block are kept: `part` / `whole` of the frame's
+// samples, of which each eight become so many. Seen are the frame's samples from `from` on, both
+// times 65,536.
+SeenAxis AxisOf(std::int64_t from, std::int64_t length, int part, int whole, int frequencies,
+                int target) {
+    const auto inSamples = [&](std::int64_t frameSamples) {
+        return frameSamples * part * frequencies / (whole * 8);
+    };
+    SeenAxis seen{};
+    seen.axis.extent65536 = inSamples(length);
+    const PixelSpan touched = PixelsTouched(inSamples(from), seen.axis.extent65536);
+    seen.first = touched.first;
+    seen.axis.start65536 = inSamples(from) % 65536;
+    seen.axis.samples = touched.count;
+    seen.axis.target = target;
+    seen.axis.spread65536 = SpreadOf(part * 2 == whole, frequencies);
+    return seen;
 }
 
 // Scales each component as its rows of blocks come in.
 class ComponentScalers : public BlockRowTaker {
  public:
-    ComponentScalers(const JpgFrame& frame, std::span<const KeptFrequencies> kept, Size target)
-        : frame_(frame), kept_(kept), target_(target), channels_(kept.size()) {}
+    ComponentScalers(const JpgFrame& frame, std::span<const KeptFrequencies> kept,
+                     const PictureArea& area, Size target)
+        : frame_(frame), kept_(kept), area_(area), target_(target), channels_(kept.size()) {}
 
     void TakeBlockRow(int index, int row, const std::int16_t* blocks) override {
         const std::size_t at = static_cast<std::size_t>(index);
-        const JpgComponent& component = frame_.components[at];
         const KeptFrequencies& kept = kept_[at];
         Channel& channel = channels_[at];
-        if (row == 0) Begin(component, kept, channel);
-        const std::size_t width = static_cast<std::size_t>(component.blocksAcross * kept.across);
-        channel.inverse->Transform(blocks, component.blocksAcross, channel.rows.data(),
+        if (row == 0) Begin(frame_.components[at], kept, channel);
+        const int begin = std::max(channel.firstRow - row * kept.down, 0);
+        const int end = std::min(channel.endRow - row * kept.down, kept.down);
+        if (begin >= end) return;  // nothing of it is seen
+        const std::size_t width = static_cast<std::size_t>(channel.blocks * kept.across);
+        channel.inverse->Transform(blocks + std::ptrdiff_t{channel.firstBlock} * kept.stride,
+                                   channel.blocks, channel.rows.data(),
                                    static_cast<std::ptrdiff_t>(width));
-        const int count = std::min(kept.down, channel.rowsLeft);
-        for (int y = 0; y < count; ++y) {
-            channel.scaler->AddRow(channel.rows.data() + static_cast<std::size_t>(y) * width);
+        for (int y = begin; y < end; ++y) {
+            channel.scaler->AddRow(channel.rows.data() + static_cast<std::size_t>(y) * width +
+                                   channel.firstSample);
         }
-        channel.rowsLeft -= count;
     }
 
     // Row `y` of the target, a row of samples for each component.
@@ -111,24 +129,34 @@ class ComponentScalers : public BlockRowTaker {
         std::unique_ptr<ReducedInverse> inverse;
         std::unique_ptr<PlaneScaler> scaler;
         std::vector<std::int16_t> rows;  // of samples, from one row of blocks
-        int rowsLeft = 0;
+        int firstBlock = 0;              // of a row, that is seen
+        int blocks = 0;                  // so many are seen
+        int firstSample = 0;             // that is seen of the first of these
+        int firstRow = 0;                // of samples, that is seen
+        int endRow = 0;
     };
 
     // A component's steps are known from its first scan on.
     void Begin(const JpgComponent& component, const KeptFrequencies& kept, Channel& channel) {
-        const ScaleAxis across =
-            AxisOf(frame_.width, component.across, frame_.maxAcross, kept.across, target_.width);
-        const ScaleAxis down =
-            AxisOf(frame_.height, component.down, frame_.maxDown, kept.down, target_.height);
+        const SeenAxis across = AxisOf(area_.left, area_.width, component.across, frame_.maxAcross,
+                                       kept.across, target_.width);
+        const SeenAxis down = AxisOf(area_.top, area_.height, component.down, frame_.maxDown,
+                                     kept.down, target_.height);
         channel.inverse = std::make_unique<ReducedInverse>(kept, component.quant);
-        channel.scaler = std::make_unique<PlaneScaler>(across, down);
-        channel.rows.resize(static_cast<std::size_t>(component.blocksAcross * kept.across) *
+        channel.scaler = std::make_unique<PlaneScaler>(across.axis, down.axis);
+        channel.firstBlock = across.first / kept.across;
+        channel.firstSample = across.first % kept.across;
+        const int lastBlock = (across.first + across.axis.samples - 1) / kept.across;
+        channel.blocks = lastBlock + 1 - channel.firstBlock;
+        channel.rows.resize(static_cast<std::size_t>(channel.blocks * kept.across) *
                             static_cast<std::size_t>(kept.down));
-        channel.rowsLeft = down.samples;
+        channel.firstRow = down.first;
+        channel.endRow = down.first + down.axis.samples;
     }
 
     const JpgFrame& frame_;
     std::span<const KeptFrequencies> kept_;
+    PictureArea area_;  // of the picture as it lies in the file
     Size target_;
     std::vector<Channel> channels_;
 };
@@ -141,41 +169,50 @@ constexpr std::int64_t kMostCoefficientBytes = 16 * 1024 * 1024;
 // True when nothing is gained by scaling components one by one: a picture that does not become
 // smaller needs all frequencies, and inks make colours by multiplying, which should come before
 // scaling.
-bool IsBetterReadWhole(const JpgFrame& frame, Size target) {
-    const bool needsAll = frame.width <= target.width || frame.height <= target.height ||
-                          frame.components.size() == 4;
+bool IsBetterReadWhole(const JpgFrame& frame, Size seen, Size target) {
+    const bool needsAll =
+        seen.width <= target.width || seen.height <= target.height || frame.components.size() == 4;
     return needsAll && BytesToReadWhole(frame) <= kMostBytes;
 }
 
 // Inks that are too large to be read whole become colours at twice the target's size: what is lost
 // by multiplying means is then too fine to be seen.
-Size SizeOfColors(const JpgFrame& frame, Size target) {
+Size SizeOfColors(const JpgFrame& frame, Size seen, Size target) {
     if (frame.components.size() != 4) return target;
-    return {std::min(frame.width, target.width * 2), std::min(frame.height, target.height * 2)};
+    return {std::min(seen.width, target.width * 2), std::min(seen.height, target.height * 2)};
 }
 
 KeptFrequencies WithFewer(const KeptFrequencies& kept) {
     const auto fewer = [](int count) { return count == 8 ? kMostReduced : count - 1; };
     if (kept.across == 1 && kept.down == 1) return kept;
-    return kept.across >= kept.down ? KeptFrequencies::Of(fewer(kept.across), kept.down)
-                                    : KeptFrequencies::Of(kept.across, fewer(kept.down));
+    KeptFrequencies less = kept.across >= kept.down
+                               ? KeptFrequencies::Of(fewer(kept.across), kept.down)
+                               : KeptFrequencies::Of(kept.across, fewer(kept.down));
+    less.firstRow = kept.firstRow;
+    less.endRow = kept.endRow;
+    return less;
 }
 
-std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size target) {
+// A row more on either side does no harm.
+void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component, const PictureArea& area,
+                  KeptFrequencies& kept) {
+    const SeenAxis down =
+        AxisOf(area.top, area.height, component.down, frame.maxDown, kept.down, 1);
+    kept.firstRow = std::max(down.first / kept.down - 1, 0);
+    kept.endRow = (down.first + down.axis.samples - 1) / kept.down + 2;
+}
+
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const PictureArea& area,
+                                           Size seen, Size target) {
     std::vector<KeptFrequencies> kept;
     for (const JpgComponent& component : frame.components) {
-        kept.push_back(FrequenciesOf(frame, component, target));
+        kept.push_back(FrequenciesOf(frame, component, seen, target));
+        KeepSeenRows(frame, component, area, kept.back());
     }
     for (int i = 0; i < 2 * 8 && CoefficientBytes(frame, kept) > kMostCoefficientBytes; ++i) {
         for (KeptFrequencies& each : kept) each = WithFewer(each);
     }
     return kept;
-}
-
-std::optional<ScaledPicture> ReadWhole(FileBytes file, int width, int height) {
-    const std::optional<RgbPicture> whole = ReadJpg(file);
-    if (!whole) return std::nullopt;
-    return ScaledPicture{Resize(*whole, width, height), whole->width, whole->height};
 }
 
 RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers, Size stored) {
@@ -194,28 +231,60 @@ RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scaler
     return picture;
 }
 
+// The upright size of a picture whose first scan has been found.
+PictureSize UprightSize(const JpgMarkers& markers) {
+    const JpgFrame& frame = markers.frame();
+    if (TurningOf(markers.orientation()).swapSides) return {frame.height, frame.width};
+    return {frame.width, frame.height};
+}
+
+// A part of the picture, by markers at the file's first scan.
+std::optional<RgbPicture> ReadPart(FileBytes file, JpgMarkers& markers, const PictureArea& area,
+                                   int width, int height) {
+    const JpgFrame& frame = markers.frame();
+    // The part and its target as they lie in the file.
+    const Turning turning = TurningOf(markers.orientation());
+    const PictureArea stored = StoredArea(turning, area, frame.width, frame.height);
+    const Size target = turning.swapSides ? Size{height, width} : Size{width, height};
+    const Size seen{std::max(static_cast<int>(stored.width / PictureArea::kPixel), 1),
+                    std::max(static_cast<int>(stored.height / PictureArea::kPixel), 1)};
+    if (IsBetterReadWhole(frame, seen, target)) {
+        const std::optional<RgbPicture> whole = ReadJpg(file);
+        if (!whole) return std::nullopt;
+        return Resize(*whole, area, width, height);
+    }
+    const Size colors = SizeOfColors(frame, seen, target);
+    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, stored, seen, colors);
+    ComponentScalers scalers(frame, kept, stored, colors);
+    if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
+    RgbPicture picture = MakePicture(markers, scalers, colors);
+    if (colors.width == target.width && colors.height == target.height) return picture;
+    return Resize(picture, width, height);
+}
+
 }  // namespace
+
+std::optional<PictureSize> SizeOfJpg(FileBytes file) {
+    JpgMarkers markers(file);
+    if (!markers.NextScan()) return std::nullopt;
+    return UprightSize(markers);
+}
 
 std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height) {
     JpgMarkers markers(file);
     if (!IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
-    const JpgFrame& frame = markers.frame();
-    // The target of the picture as it lies in the file.
-    const bool isTurned = TurningOf(markers.orientation()).swapSides;
-    const Size target = isTurned ? Size{height, width} : Size{width, height};
-    if (IsBetterReadWhole(frame, target)) return ReadWhole(file, width, height);
-    const Size colors = SizeOfColors(frame, target);
-    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, colors);
-    ComponentScalers scalers(frame, kept, colors);
-    if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
-    ScaledPicture result;
-    result.picture = MakePicture(markers, scalers, colors);
-    if (colors.width != target.width || colors.height != target.height) {
-        result.picture = Resize(result.picture, width, height);
-    }
-    result.fileWidth = isTurned ? frame.height : frame.width;
-    result.fileHeight = isTurned ? frame.width : frame.height;
-    return result;
+    const PictureSize size = UprightSize(markers);
+    std::optional<RgbPicture> picture =
+        ReadPart(file, markers, PictureArea::WholeOf(size.width, size.height), width, height);
+    if (!picture) return std::nullopt;
+    return ScaledPicture{std::move(*picture), size.width, size.height};
+}
+
+std::optional<RgbPicture> ReadJpgScaled(FileBytes file, const PictureArea& area, int width,
+                                        int height) {
+    JpgMarkers markers(file);
+    if (!IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
+    return ReadPart(file, markers, area, width, height);
 }
 
 }  // namespace vistrel

@@ -54,6 +54,20 @@ int LambdaFor(std::int64_t squaredError) {
     return 50;
 }
 
+/// The same for a strength that somebody has chosen.
+int LambdaFor(Dither dither, std::int64_t squaredError) {
+    switch (dither) {
+        case Dither::Light:
+            return 256;
+        case Dither::Medium:
+            return 100;
+        case Dither::Strong:
+            return 40;
+        default:
+            return LambdaFor(squaredError);
+    }
+}
+
 constexpr DistanceWeights kPlain{};
 /// Suits the eye and structure.
 constexpr DistanceWeights kAsSeen{256, 496, 208, 960};
@@ -81,7 +95,7 @@ std::vector<Rgb> ColorsOf(const Palette& palette, const WorkingSpace& space) {
 }
 
 std::vector<Rgb> ReduceWithDithering(const std::uint8_t* rgb, int width, int height, int colors,
-                                     std::uint8_t* indices) {
+                                     Dither dither, std::uint8_t* indices) {
     constexpr int kRounds = 3;
     WorkingSpace space(kAsSeen);
     Palette palette;
@@ -91,7 +105,7 @@ std::vector<Rgb> ReduceWithDithering(const std::uint8_t* rgb, int width, int hei
         SetMeans(histogram, space);
         palette = StartPalette(histogram, colors, kRounds);
         const std::int64_t error = SquaredError(histogram, palette);
-        settings.lambda = LambdaFor(error);
+        settings.lambda = LambdaFor(dither, error);
         if (error >= kCoarseError) {
             space = WorkingSpace(kCoarse);
             SetMeans(histogram, space);
@@ -130,9 +144,9 @@ bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std
     std::fill_n(palette, std::size_t(colors) * 4, std::uint8_t{0});
     std::vector<Rgb> chosen = FewColors(rgb, std::size_t(width) * height, colors, indices);
     if (chosen.empty()) {
-        chosen = dither == Dither::On
-                     ? ReduceWithDithering(rgb, width, height, colors, indices)
-                     : ReduceToNearest(rgb, std::size_t(width) * height, colors, indices);
+        chosen = dither == Dither::Off
+                     ? ReduceToNearest(rgb, std::size_t(width) * height, colors, indices)
+                     : ReduceWithDithering(rgb, width, height, colors, dither, indices);
     }
     WritePalette(chosen, palette);
     return true;

@@ -5,8 +5,9 @@
 
 namespace vistrel {
 
-/// How strongly neighbouring pixels share their rounding errors.
-enum class Dither { On, Off };
+/// How strongly neighbouring pixels share their rounding errors. On is as strongly as suits the
+/// picture; Light, Medium and Strong are the same for every picture.
+enum class Dither { On, Off, Light, Medium, Strong };
 
 /// Reduces width * height pixels (`rgb`, red, green, blue) to at most `colors` (2 to 256) colours.
 /// Writes one index a pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`

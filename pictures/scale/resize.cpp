@@ -15,8 +15,12 @@ namespace {
 /// more for overshooting, still fits into 16 bits.
 constexpr int kFractionBits = 6;
 
-ScaleAxis WholeAxis(int samples, int target) {
-    return {samples, std::int64_t{samples} << 16, target};
+/// The axis of the pixels that a part of a picture touches.
+ScaleAxis AxisOf(std::int64_t from, std::int64_t length, int target) {
+    const PixelSpan span = PixelsTouched(from, length);
+    ScaleAxis axis{span.count, length, target};
+    axis.start65536 = from % PictureArea::kPixel;
+    return axis;
 }
 
 /// Takes apart a row of red, green, blue triples into three rows, `apart` samples from each other.
@@ -40,13 +44,13 @@ void RoundToBytes(const std::int16_t* samples, std::size_t count, std::uint8_t* 
 /// Makes target rows of source rows.
 class RgbPasses {
  public:
-    RgbPasses(int sourceWidth, int sourceHeight, int width, int height)
-        : down(MakeFilterAxis(WholeAxis(sourceHeight, height))),
+    RgbPasses(const PictureArea& area, int width, int height)
+        : down(MakeFilterAxis(AxisOf(area.top, area.height, height))),
           rows(down.mostTaps + 1),
-          across_(MakeFilterAxis(WholeAxis(sourceWidth, width))),
-          sourceWidth_(sourceWidth),
-          apart_(std::size_t(sourceWidth) + kTapGroup),
-          mixed_(std::size_t(sourceWidth) * 3),
+          across_(MakeFilterAxis(AxisOf(area.left, area.width, width))),
+          sourceWidth_(PixelsTouched(area.left, area.width).count),
+          apart_(std::size_t(sourceWidth_) + kTapGroup),
+          mixed_(std::size_t(sourceWidth_) * 3),
           channels_(kRowsAtOnce * 3 * apart_),
           scaled_(kRowsAtOnce * std::size_t(width) * 3),
           result_{width, height, {}} {
@@ -85,7 +89,7 @@ class RgbPasses {
     }
 
     const FilterAxis across_;
-    const int sourceWidth_;
+    const int sourceWidth_;    ///< pixels of a row that are seen
     const std::size_t apart_;  ///< samples from one channel of a row to the next
     std::vector<std::int16_t> mixed_;
     std::vector<std::int16_t> channels_;  ///< of the target rows that wait for being weighed along
@@ -94,7 +98,27 @@ class RgbPasses {
     int made_ = 0;
 };
 
+RgbPicture ResizeArea(const std::uint8_t* rgb, std::size_t rowBytes, const PictureArea& area,
+                      int width, int height) {
+    const int firstRow = PixelsTouched(area.top, area.height).first;
+    const int firstPixel = PixelsTouched(area.left, area.width).first;
+    const std::uint8_t* const corner = rgb + rowBytes * firstRow + std::size_t(firstPixel) * 3;
+    RgbPasses passes(area, width, height);
+    while (!passes.IsComplete()) {
+        const FilterTaps& taps = passes.NextTaps();
+        for (int k = 0; k < taps.count; ++k) passes.rows[k] = corner + rowBytes * (taps.first + k);
+        passes.MakeNext();
+    }
+    return passes.TakeResult();
+}
+
 }  // namespace
+
+PixelSpan PixelsTouched(std::int64_t from, std::int64_t length) {
+    const std::int64_t first = from / PictureArea::kPixel;
+    const std::int64_t end = (from + length + PictureArea::kPixel - 1) / PictureArea::kPixel;
+    return {static_cast<int>(first), static_cast<int>(end - first)};
+}
 
 RgbPicture Resize(const RgbPicture& source, int width, int height) {
     return Resize(source.pixels.data(), source.width, source.height, width, height);
@@ -105,19 +129,20 @@ RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, in
     const std::size_t rowBytes = std::size_t(sourceWidth) * 3;
     if (width == sourceWidth && height == sourceHeight)
         return {width, height, std::vector<std::uint8_t>(rgb, rgb + rowBytes * height)};
-    RgbPasses passes(sourceWidth, sourceHeight, width, height);
-    while (!passes.IsComplete()) {
-        const FilterTaps& taps = passes.NextTaps();
-        for (int k = 0; k < taps.count; ++k) passes.rows[k] = rgb + rowBytes * (taps.first + k);
-        passes.MakeNext();
-    }
-    return passes.TakeResult();
+    return ResizeArea(rgb, rowBytes, PictureArea::WholeOf(sourceWidth, sourceHeight), width,
+                      height);
+}
+
+RgbPicture Resize(const RgbPicture& source, const PictureArea& area, int width, int height) {
+    if (area == PictureArea::WholeOf(source.width, source.height))
+        return Resize(source, width, height);
+    return ResizeArea(source.pixels.data(), std::size_t(source.width) * 3, area, width, height);
 }
 
 struct RgbScaler::State {
-    State(int sourceWidth, int sourceHeight, int width, int height)
-        : passes(sourceWidth, sourceHeight, width, height),
-          rowBytes(std::size_t(sourceWidth) * 3),
+    State(const PictureArea& area, int width, int height)
+        : passes(area, width, height),
+          rowBytes(std::size_t(PixelsTouched(area.left, area.width).count) * 3),
           kept(rowBytes * passes.down.mostTaps) {}
 
     std::uint8_t* KeptRow(int y) { return &kept[rowBytes * (y % passes.down.mostTaps)]; }
@@ -138,7 +163,10 @@ struct RgbScaler::State {
 };
 
 RgbScaler::RgbScaler(int sourceWidth, int sourceHeight, int width, int height)
-    : state_(std::make_unique<State>(sourceWidth, sourceHeight, width, height)) {}
+    : RgbScaler(PictureArea::WholeOf(sourceWidth, sourceHeight), width, height) {}
+
+RgbScaler::RgbScaler(const PictureArea& area, int width, int height)
+    : state_(std::make_unique<State>(area, width, height)) {}
 
 RgbScaler::~RgbScaler() = default;
 

@@ -15,11 +15,25 @@ RgbPicture Resize(const RgbPicture& source, int width, int height);
 RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
                   int height);
 
+/// The same for a part of a picture, which must lie within it. Of pixels that it does not touch
+/// nothing is seen; a pixel that it touches is part of its edge.
+RgbPicture Resize(const RgbPicture& source, const PictureArea& area, int width, int height);
+
+/// The pixels of an axis that a part of it touches, `from` and `length` in 1/65,536 of them.
+struct PixelSpan {
+    int first = 0;
+    int count = 0;
+};
+PixelSpan PixelsTouched(std::int64_t from, std::int64_t length);
+
 /// Scales a picture that comes row by row, keeping only as many rows as the filter reaches over.
 /// The result is that of Resize.
 class RgbScaler {
  public:
     RgbScaler(int sourceWidth, int sourceHeight, int width, int height);
+
+    /// For a part of a picture: of the source, only the rows and pixels that it touches are taken.
+    RgbScaler(const PictureArea& area, int width, int height);
     ~RgbScaler();
     RgbScaler(const RgbScaler&) = delete;
     RgbScaler& operator=(const RgbScaler&) = delete;
@@ -38,9 +52,9 @@ class RgbScaler {
     std::unique_ptr<State> state_;
 };
 
-/// One axis of a scaling. Target sample i covers source positions (i*extent/target ..
-/// (i+1)*extent/target); `extent` may be a fraction of a sample less than the number of samples,
-/// as for the colour planes of a JPEG, whose last sample may lie half outside the picture.
+/// One axis of a scaling. Target sample i covers source positions start + (i*extent/target ..
+/// (i+1)*extent/target). The extent may begin and end within samples, as for the colour planes of a
+/// JPEG, whose last sample may lie half outside the picture.
 struct ScaleAxis {
     int samples = 0;               ///< number of source samples
     std::int64_t extent65536 = 0;  ///< how many of them the picture covers, times 65,536
@@ -48,6 +62,8 @@ struct ScaleAxis {
     /// What each sample hands over to each of its two neighbours beforehand, times 65,536: above 0
     /// the picture is softened by it, below 0 sharpened.
     int spread65536 = 0;
+    /// Where within the first sample the extent begins, times 65,536.
+    std::int64_t start65536 = 0;
 };
 
 /// Scales one plane of 16-bit samples (any range within -16,384..16,383) that is handed over row by

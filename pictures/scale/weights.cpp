@@ -111,8 +111,8 @@ FilterAxis MakeFilterAxis(const ScaleAxis& axis) {
     std::vector<std::int32_t> values;
     for (int i = 0; i < axis.target; ++i) {
         // Sample j has its centre at j + 1/2.
-        const std::int64_t centre =
-            (2 * std::int64_t{i} + 1) * axis.extent65536 / (2 * std::int64_t{axis.target});
+        const std::int64_t centre = axis.start65536 + (2 * std::int64_t{i} + 1) * axis.extent65536 /
+                                                          (2 * std::int64_t{axis.target});
         const std::int64_t from = (centre - reach + kOne / 2) >> 16;
         const std::int64_t to = (centre + reach + kOne / 2) >> 16;
         int first = static_cast<int>(std::clamp<std::int64_t>(from, 0, axis.samples - 1));

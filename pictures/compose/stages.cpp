@@ -1,0 +1,125 @@
+// Reading, finishing and writing; what lies between is frame.cpp.
+#include "pictures/compose/stages.h"
+
+#include <algorithm>
+#include <cmath>
+#include <new>
+
+#include "pictures/bmp/writer.h"
+#include "pictures/compose/frame.h"
+#include "pictures/compose/light.h"
+#include "pictures/compose/text.h"
+#include "pictures/whole_file.h"
+
+namespace vistrel::compose {
+namespace {
+
+constexpr int kColors = 256;
+
+/// The size of the Intermediate of a picture: twice as fine as the screen where the picture fills
+/// it, or as fine as the bounds allow, and never finer than the picture.
+PictureSize ReducedSize(const PictureSize& file) {
+    constexpr double kFineness = 2;
+    Composition filling;
+    filling.framing.kind = FramingKind::Fill;
+    const PictureArea seen = SourceRectFor(file, filling);
+    const double across =
+        double{PictureArea::kPixel} * file.width * kLogoWidth / static_cast<double>(seen.width);
+    const double down =
+        double{PictureArea::kPixel} * file.height * kLogoHeight / static_cast<double>(seen.height);
+    const double fineness = std::min(kFineness, std::sqrt(kMostIntermediatePixels / across / down));
+    const auto side = [&](double screen, int whole) {
+        return static_cast<int>(std::clamp(screen * fineness, 1.0, static_cast<double>(whole)));
+    };
+    return {side(across, file.width), side(down, file.height)};
+}
+
+}  // namespace
+
+// Nothing is thrown at callers: where memory runs out, a picture cannot be read.
+std::optional<PictureSize> SizeOfPicture(const std::string& path) try {
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    return file ? vistrel::SizeOfPicture(FormatOfName(path), *file) : std::nullopt;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+std::optional<Intermediate> ReadComposed(const std::string& path) try {
+    const PictureFormat format = FormatOfName(path);
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    if (!file) return std::nullopt;
+    const std::optional<PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    if (!size) return std::nullopt;
+    const PictureSize reduced = ReducedSize(*size);
+    std::optional<RgbPicture> picture =
+        ReadPartScaled(format, *file, PictureArea::WholeOf(size->width, size->height),
+                       reduced.width, reduced.height);
+    if (!picture) return std::nullopt;
+    picture->pixels.push_back(0);
+    return Intermediate{*size, std::move(*picture)};
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition) try {
+    const PictureFormat format = FormatOfName(path);
+    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    if (!file) return std::nullopt;
+    const std::optional<PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    if (!size) return std::nullopt;
+    const Placement placement = PlacementOf(*size, composition);
+    const std::optional<RgbPicture> part = ReadPartScaled(
+        format, *file, placement.stored, placement.target.width, placement.target.height);
+    if (!part) return std::nullopt;
+    return PutOnScreen(*part, placement, composition.framing);
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+RgbPicture Adjust(const Framed& framed, const Composition& composition) {
+    RgbPicture screen = framed.screen;
+    ApplyLight(composition.light, framed.picture, screen);
+    PaintText(composition.text, screen);
+    return screen;
+}
+
+std::optional<IndexedScreen> Reduce(const RgbPicture& screen, Dither dither) try {
+    IndexedScreen reduced;
+    reduced.width = screen.width;
+    reduced.height = screen.height;
+    reduced.indices.resize(std::size_t(screen.width) * screen.height);
+    std::vector<std::uint8_t> entries(kColors * 4);
+    if (!QuantizeRgb(screen.pixels.data(), screen.width, screen.height, kColors,
+                     reduced.indices.data(), entries.data(), dither)) {
+        return std::nullopt;
+    }
+    for (std::size_t i = 0; i < kColors; ++i)
+        reduced.palette[i] = {entries[4 * i + 2], entries[4 * i + 1], entries[4 * i]};
+    return reduced;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+bool Write(const std::string& path, const IndexedScreen& screen) try {
+    std::vector<std::uint8_t> entries;
+    for (const auto& [red, green, blue] : screen.palette)
+        entries.insert(entries.end(), {blue, green, red, 0});
+    return WriteWholeFile(path, ColormappedBmp(screen.indices.data(), screen.width, screen.height,
+                                               kColors, entries.data()));
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
+ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
+                            const Composition& composition) try {
+    const std::optional<Framed> framed = ReadFramed(sourcePath, composition);
+    if (!framed) return ConversionResult::NotRead;
+    const std::optional<IndexedScreen> screen =
+        Reduce(Adjust(*framed, composition), composition.dither);
+    if (!screen) return ConversionResult::NotReduced;
+    return Write(targetPath, *screen) ? ConversionResult::Written : ConversionResult::NotWritten;
+} catch (const std::bad_alloc&) {
+    return ConversionResult::NotReduced;
+}
+
+}  // namespace vistrel::compose

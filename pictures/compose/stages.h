@@ -1,0 +1,73 @@
+// The stages from a picture file to a screen file, so that whoever shows each change at once runs
+// only those behind it.
+//
+//   ReadComposed   file -> Intermediate, once a picture       dear: what a conversion's reading
+//   costs Frame          Intermediate -> Framed                     cheap: while framing or turn is
+//   dragged FrameFinely    the same, by the filter of conversions     some times as dear: when the
+//   hand rests ReadFramed     file -> Framed, as conversions read        dear: the real thing, for
+//   the screen file Adjust         Framed -> 24-bit screen (light, text)      cheap Reduce 24-bit
+//   screen -> 256 colours               dear, half a conversion Write          256 colours -> file
+//
+// A window keeps the last result of each stage. While a track bar of the light is dragged only
+// Adjust is run, on the Framed that it has.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "pictures/compose/composition.h"
+#include "pictures/compose/geometry.h"
+#include "pictures/convert.h"
+#include "pictures/screen/indexed_screen.h"
+
+namespace vistrel::compose {
+
+/// A picture as it lies in its file (upright, not turned), reduced to some half a million pixels,
+/// so that any framing of it can be made quickly. Zoomed to more than 2 it is less sharp than the
+/// file.
+struct Intermediate {
+    PictureSize file;  ///< the picture's size in the file
+    /// One byte longer than it would have to be, so that four can be read at every pixel.
+    RgbPicture reduced;
+};
+
+/// A picture on the screen before light and text.
+struct Framed {
+    RgbPicture screen;        ///< 320 x 400
+    ScreenRectangle picture;  ///< what the light works on: a plain border keeps its colour
+};
+
+/// The most pixels of an Intermediate.
+inline constexpr int kMostIntermediatePixels = 640 * 800;
+
+/// The size of the picture in a file, upright. Empty when it cannot be read.
+std::optional<PictureSize> SizeOfPicture(const std::string& path);
+
+/// Empty when the picture cannot be read or memory runs out.
+std::optional<Intermediate> ReadComposed(const std::string& path);
+
+/// Each pixel of the screen from at most four of the intermediate, without a multiplication.
+Framed Frame(const Intermediate& intermediate, const Composition& composition);
+
+/// By the filter that conversions use.
+Framed FrameFinely(const Intermediate& intermediate, const Composition& composition);
+
+/// Reads no more of the file than the framed part of it needs. Stretched and not turned, the screen
+/// is that of a conversion, byte for byte. Empty as for ReadComposed.
+std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition);
+
+/// Light and text.
+RgbPicture Adjust(const Framed& framed, const Composition& composition);
+
+/// The 256 colours that will be on the disk. Empty when memory runs out.
+std::optional<IndexedScreen> Reduce(const RgbPicture& screen, Dither dither);
+
+/// Writes a screen file; false when that fails, and `path` is then as it was.
+bool Write(const std::string& path, const IndexedScreen& screen);
+
+/// All of it: a screen file of any picture, by ReadFramed. Unless the result is Written, the target
+/// is as it was. A Composition that nobody has touched gives what TryConvertToLogo gives.
+ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
+                            const Composition& composition);
+
+}  // namespace vistrel::compose
