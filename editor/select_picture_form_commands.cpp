@@ -38,6 +38,7 @@ void SelPictureForm::MenuOpens(MenuHandle menu) {
     const bool changeable = !name.empty() && name != kParentFolder;
     EnableControls(changeable, ItmRename, ItmDelete);
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
+    ItmAdjust.SetEnabled(IsAdjustable());
 }
 
 // The keys of the list are those of its menu.
@@ -83,6 +84,12 @@ void SelPictureForm::MenuCommand(int id) {
         case ID_ItmSetLogo + 1:
         case ID_ItmSetLogo + 2:
             return AddButton_Click(id - ID_ItmSetLogo);
+        case ID_ItmAdjust:
+            return AdjustButton_Click();
+        case ID_ItmAdjustSlot:
+        case ID_ItmAdjustSlot + 1:
+        case ID_ItmAdjustSlot + 2:
+            return AdjustSlot(id - ID_ItmAdjustSlot);
         default:
             return;
     }

@@ -86,6 +86,7 @@ void SelPictureForm::FollowRename(const std::string& from, const std::string& to
     for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
     for (std::string& tag : setsOwnTag_) tag = Repointed(tag, from, to);
     SelectedPicture = Repointed(SelectedPicture, from, to);
+    adjustments_.Repoint([&](const std::string& path) { return Repointed(path, from, to); });
     CurView.SetTag(Repointed(CurView.Tag(), from, to));
     if (IsAtOrIn(CurrentFolder, from)) {
         CurrentFolder = Repointed(CurrentFolder, from, to);

@@ -1,0 +1,75 @@
+// Adjusting the selected picture, or the one in a slot.
+#include "adjust/frm_adjust.h"
+#include "controls/menu.h"
+#include "core/generali.h"
+#include "editor/select_picture_form.h"
+#include "pictures/draw_preview.h"
+#include "platform/message_box.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+
+bool SelPictureForm::IsAdjustable() const {
+    return SlotsEnabled && ImageInfo.ForeColor() != kNoPictureColor;
+}
+
+void SelPictureForm::AdjustButton_Click() {
+    if (!IsAdjustable()) return;
+    const std::string screen = Adjusted(SelectedPicture);
+    if (!screen.empty()) ShowAsSelected(screen);
+}
+
+void SelPictureForm::AdjustSlot(int index) {
+    const std::string screen = Adjusted(ImgPreview[index].Tag());
+    if (screen.empty()) return;
+    SetChanged = true;
+    CheckBtnStatus();
+    FillSlot(index, screen);
+}
+
+// Opens the window on a picture, or on the one that a screen of this session was made of. The file
+// of the new screen; empty when nothing was made.
+std::string SelPictureForm::Adjusted(const std::string& path) {
+    FrmAdjust window(adjustments_.For(path), [this] {
+        const std::string file = GetTempFile();
+        if (!file.empty()) List1.AddItem(file);
+        return file;
+    });
+    if (!window.ReadPicture()) {
+        Ask(handle(),
+            window.Settings().source +
+                " cannot be read as a picture. It may have been moved or damaged.",
+            kExclamationOk);
+        return {};
+    }
+    // When it closes nothing is to be filled again.
+    ActivateOnce = true;
+    window.ShowModal(handle());
+    ActivateOnce = false;
+    if (!window.Screen().empty()) adjustments_.Remember(window.Screen(), window.Settings());
+    return window.Screen();
+}
+
+// A finished screen, whatever the name of its file.
+void SelPictureForm::ShowAsSelected(const std::string& screen) {
+    DrawPreview(screen, CurView);
+    SelectedPicture = screen;
+    CurView.SetTag(screen);
+    IsSysFile = true;
+    ShowVerdict(kReadyColor, "320 x  400 x  256");
+    EnableImage();
+}
+
+// The menu is the main window's: what a slot adds to it is taken away again.
+void SelPictureForm::ShowPictureMenu(const PictureBox& box, Point at) {
+    const MenuHandle menu = main_.OpenWithMenu();
+    const bool isSlot = &box != &CurView;
+    if (isSlot) {
+        AddMenuSeparator(menu);
+        AddMenuItem(menu, ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview), "Ad&just...");
+    }
+    PopUpMenu(menu, box.OnScreen(at), main_.DefaultOpenWithItem());
+    for (int added = isSlot ? 2 : 0; added > 0; --added) RemoveLastMenuItem(menu);
+}
+
+}  // namespace vistrel
