@@ -137,6 +137,7 @@ void FrmAdjust::GrowToScreen() {
         if (at.left >= pages.left) at.left += wider;
         if (at.top >= pages.bottom()) at.top += higher;
         if (control == &AdjustPages) at.height += higher;
+        if (control == &LblHint) at.width += wider;
         control->MoveTo(at);
     }
     const Size client = ClientSize();
@@ -155,7 +156,7 @@ void FrmAdjust::TellMissingFonts() {
     std::vector<std::string> missing;
     for (const DrawnLine& line : lines_) {
         const std::string& face = line.line().font.face;
-        if (!FontIsThere(face) && std::count(missing.begin(), missing.end(), face) == 0)
+        if (FaceFor(face) != face && std::count(missing.begin(), missing.end(), face) == 0)
             missing.push_back(face);
     }
     for (const std::string& face : missing)

@@ -6,6 +6,7 @@
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
 #include "help/context_numbers.h"
+#include "pictures/preview/draw_letters.h"
 #include "platform/look_dialogs.h"
 #include "resources/ids.h"
 
@@ -118,6 +119,7 @@ void FrmAdjust::ShowLine() {
 // A new line looks like the last one and stands below it, as long as there is room.
 void FrmAdjust::AddLine(const std::string& text) {
     TextLine line;
+    line.font.face = FaceFor(line.font.face);
     line.y = kFirstLine;
     if (!lines_.empty()) {
         const DrawnLine& last = lines_.back();

@@ -72,7 +72,7 @@ void DrawnLine::Align(Alignment alignment) {
 void DrawnLine::MoveNear(int x, int y) {
     const int left = LeftAt(x);
     const int snapped = Snapped(
-        left, {(kLogoWidth - width_) / 2, kMarginAcross, kLogoWidth - kMarginAcross - width_},
+        left, {kLogoWidth / 2 - width_ / 2, kMarginAcross, kLogoWidth - kMarginAcross - width_},
         kNearAcross);
     const int half = height_ / 2;
     MoveTo(x + snapped - left,

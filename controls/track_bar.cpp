@@ -15,7 +15,10 @@ void TrackBar::SetRange(int least, int most, int step, int page, int restAt) {
     Send(TBM_SETLINESIZE, 0, step);
     Send(TBM_SETPAGESIZE, 0, page);
     restAt_ = restAt;
-    // One mark, at the place of rest, unless that is an end.
+    // Some versions of the control move the slider for another position only, not for other ends.
+    Send(TBM_SETPOS, TRUE, most);
+    Send(TBM_SETPOS, TRUE, restAt);
+    // One mark, at the place of rest.
     Send(TBM_CLEARTICS, TRUE);
     Send(TBM_SETTIC, 0, restAt);
 }

@@ -106,6 +106,7 @@ void SelPictureForm::AttachMenus() {
     itmRefresh.Attach(menus_, ID_BrowserRefresh);
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].Attach(menus_, ID_ItmSetLogo + i);
     ItmAdjust.Attach(menus_, ID_ItmAdjust);
+    ItmManySets.Attach(menus_, ID_ItmManySets);
 }
 
 void SelPictureForm::Form_Load() {

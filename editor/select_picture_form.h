@@ -65,6 +65,7 @@ class SelPictureForm : public Window {
     MenuItem itmRefresh;
     MenuItem ItmSetLogo[3];
     MenuItem ItmAdjust;
+    MenuItem ItmManySets;
 
     // What one session holds
     bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
@@ -198,6 +199,8 @@ class SelPictureForm : public Window {
     void ShowAsSelected(const std::string& screen);
     void ShowPictureMenu(const PictureBox& box, Point at);
     bool IsAdjustable() const;
+    std::vector<std::string> SelectedPictures() const;
+    void ItmManySets_Click();
 
     // Names, loading and saving
     void ListNames();

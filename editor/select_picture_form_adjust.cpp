@@ -1,7 +1,9 @@
-// Adjusting the selected picture, or the one in a slot.
+// Adjusting the selected picture, or the one in a slot, and making sets of many.
 #include "adjust/frm_adjust.h"
+#include "adjust/frm_many_sets.h"
 #include "controls/menu.h"
 #include "core/generali.h"
+#include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
 #include "pictures/draw_preview.h"
 #include "platform/message_box.h"
@@ -70,6 +72,32 @@ void SelPictureForm::ShowPictureMenu(const PictureBox& box, Point at) {
     }
     PopUpMenu(menu, box.OnScreen(at), main_.DefaultOpenWithItem());
     for (int added = isSlot ? 2 : 0; added > 0; --added) RemoveLastMenuItem(menu);
+}
+
+std::vector<std::string> SelPictureForm::SelectedPictures() const {
+    std::vector<std::string> paths;
+    for (const int item : LogoList.SelectedItems()) {
+        const std::string name = LogoList.ItemText(item);
+        if (IsPictureName(name) && LogoList.ItemIcon(item) != "closed")
+            paths.push_back(CurrentFolder + name);
+    }
+    return paths;
+}
+
+void SelPictureForm::ItmManySets_Click() {
+    const std::vector<std::string> pictures = SelectedPictures();
+    if (pictures.empty()) return;
+    FrmManySets window(LogoFolder(), pictures);
+    ActivateOnce = true;
+    window.ShowModal(handle());
+    ActivateOnce = false;
+    if (window.Made().empty()) return;
+    LibraryChanged = true;
+    const std::string shown = NameLogoSet.Text();
+    for (const std::string& name : window.Made()) NameLogoSet.AddItem(name);
+    NameLogoSet.SetText(shown);
+    FindLoadedIndex();
+    if (InLogoFolder()) AggiornaDir();
 }
 
 }  // namespace vistrel

@@ -65,6 +65,14 @@ inline constexpr unsigned long AlignKind = 122;
 inline constexpr unsigned long AdjustOk = 123;
 inline constexpr unsigned long AdjustCancel = 124;
 
+// Make sets of these pictures.
+inline constexpr unsigned long ManyFraming = 130;
+inline constexpr unsigned long ManyKind = 131;
+inline constexpr unsigned long ManyProgress = 132;
+inline constexpr unsigned long ManyLeftOut = 133;
+inline constexpr unsigned long ManyMake = 134;
+inline constexpr unsigned long ManyClose = 135;
+
 // The main window. Its list, pictures and toolbar ask for none: a click with the right mouse button
 // has another meaning there.
 inline constexpr unsigned long DefaultLogo = 84;

@@ -186,6 +186,17 @@
 #define ID_AlignKind 1762
 #define ID_ReadyLine 1770  // 1770 on, one for each ready-made line
 
+// Make sets of these pictures: 1800 to 1899
+#define ID_LblMany 1800
+#define ID_ManyFrames 1801      // 1801 framing, 1802 kind
+#define ID_OptManyFraming 1803  // 1803 fill, 1804 fit
+#define ID_OptManyKind 1805     // 1805 one each, 1806 three at a time
+#define ID_LblManyDone 1807
+#define ID_ManyProgress 1808
+#define ID_LblLeftOut 1809
+#define ID_LeftOut 1810
+#define ID_BtnMakeSets 1811
+
 // Buttons that Enter and Esc press
 #define ID_BtnOK 1
 #define ID_BtnCancel 2

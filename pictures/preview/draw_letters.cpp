@@ -55,6 +55,12 @@ class Drawing {
         return size;
     }
 
+    std::string Face() const {
+        char name[LF_FACESIZE] = "";
+        GetTextFaceA(dc_, sizeof name, name);
+        return name;
+    }
+
     /// False without memory.
     bool Draw(const std::string& text, int left, int width, int height) {
         struct {
@@ -116,11 +122,6 @@ std::vector<std::uint8_t> CoverOf(const Drawing& drawing, int width, int height)
     return cover;
 }
 
-int CALLBACK NoteFont(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM found) {
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-}
-
 }  // namespace
 
 Letters DrawLetters(const std::string& text, const TextFont& font) try {
@@ -143,12 +144,10 @@ Letters DrawLetters(const std::string& text, const TextFont& font) try {
     return {};
 }
 
-bool FontIsThere(const std::string& face) {
-    bool found = false;
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesA(screen, face.c_str(), NoteFont, reinterpret_cast<LPARAM>(&found));
-    ReleaseDC(nullptr, screen);
-    return found;
+std::string FaceFor(const std::string& face) {
+    TextFont font;
+    font.face = face;
+    return Drawing(font).Face();
 }
 
 }  // namespace vistrel

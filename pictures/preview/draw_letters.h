@@ -20,7 +20,8 @@ struct Letters {
 /// the font. The mask is empty when there is nothing to draw or no memory.
 Letters DrawLetters(const std::string& text, const TextFont& font);
 
-/// Whether the system has a font of this name. Without it another one stands for it.
-bool FontIsThere(const std::string& face);
+/// The name of the font that the system takes when one of this name is asked for: another one where
+/// there is none.
+std::string FaceFor(const std::string& face);
 
 }  // namespace vistrel
