@@ -73,6 +73,8 @@ class Control {
 
     /// A WM_COMMAND with this notification code.
     virtual void OnCommand(int) {}
+    /// The user moved the slider that the control is.
+    virtual void OnScroll() {}
     /// A WM_NOTIFY with this NMHDR; the result goes back to the control.
     virtual std::intptr_t OnNotify(void*) { return 0; }
     /// Where on the screen a menu opens that was asked for from the keyboard.

@@ -139,17 +139,37 @@ int ListView::FindItemOfAnyCase(const std::string& text) const {
 }
 
 int ListView::SelectedItem() const {
-    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    const auto next = [this](LPARAM kind) {
+        return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), kind));
+    };
+    const int focused = next(LVNI_SELECTED | LVNI_FOCUSED);
+    return focused >= 0 ? focused : next(LVNI_SELECTED);
+}
+
+std::vector<int> ListView::SelectedItems() const {
+    std::vector<int> items;
+    int item = -1;
+    while ((item = static_cast<int>(
+                Send(LVM_GETNEXTITEM, static_cast<WPARAM>(item), LVNI_SELECTED))) >= 0)
+        items.push_back(item);
+    return items;
+}
+
+bool ListView::IsSelected(int index) const {
+    return Send(LVM_GETITEMSTATE, static_cast<WPARAM>(index), LVIS_SELECTED) != 0;
+}
+
+bool ListView::HasKeys(int index) const {
+    return Send(LVM_GETITEMSTATE, static_cast<WPARAM>(index), LVIS_FOCUSED) != 0;
 }
 
 void ListView::Select(int index) {
     LVITEMA item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     selectingByCode_ = true;
-    // Only the selected item is touched: going through all of a long list would take its time.
-    const int former = SelectedItem();
-    if (former >= 0 && former != index)
-        SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(former), &item);
+    // Only what is selected is touched: going through all of a long list would take its time.
+    for (const int former : SelectedItems())
+        if (former != index) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(former), &item);
     item.state = item.stateMask;
     if (index >= 0) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
     selectingByCode_ = false;
@@ -226,7 +246,7 @@ bool ListView::OnEndLabelEdit(const char* text) {
 /// A click on the item that is selected already changes nothing that the control would report.
 void ListView::TellClick() {
     const int item = HitTest(pressedAt_);
-    if (clickTold_ || item < 0 || item != SelectedItem() || !ItemClick) return;
+    if (clickTold_ || item < 0 || !IsSelected(item) || !ItemClick) return;
     clickTold_ = true;
     ItemClick(item);
 }
@@ -253,6 +273,8 @@ std::intptr_t ListView::OnNotify(void* header) {
             if (!((change.uNewState ^ change.uOldState) & LVIS_SELECTED)) return 0;
             if (SelectionChanged) SelectionChanged();
             if (!(change.uNewState & LVIS_SELECTED) || selectingByCode_ || !ItemClick) return 0;
+            // Of many that are selected at once, the user means the one that the keys act on.
+            if (!HasKeys(change.iItem) && SelectedItems().size() > 1) return 0;
             clickTold_ = true;
             ItemClick(change.iItem);
             return 0;

@@ -45,8 +45,10 @@ class ListView : public Control {
     /// The same whatever the case; an item with exactly this text comes first.
     int FindItemOfAnyCase(const std::string& text) const;
 
-    /// Number of the selected item; -1 when none is.
+    /// Number of the selected item; -1 when none is. Of several that are selected, where the
+    /// template allows it, the one that the keys act on, or else the first.
     int SelectedItem() const;
+    std::vector<int> SelectedItems() const;
     /// Selects one item, or none with -1. ItemClick does not run.
     void Select(int index);
     void EnsureVisible(int index);
@@ -99,6 +101,8 @@ class ListView : public Control {
     /// Number of the first item behind `after` with this text, whatever the case; -1 for none.
     int NextItem(const std::string& text, int after) const;
     int IconNumber(const std::string& key) const;
+    bool IsSelected(int index) const;
+    bool HasKeys(int index) const;
     void TellClick();
     bool OnEndLabelEdit(const char* text);
 

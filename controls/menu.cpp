@@ -18,6 +18,12 @@ void AddMenuItem(MenuHandle menu, int id, const std::string& caption) {
     AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(id), caption.c_str());
 }
 
+void AddMenuSeparator(MenuHandle menu) { AppendMenuA(menu, MF_SEPARATOR, 0, nullptr); }
+
+void RemoveLastMenuItem(MenuHandle menu) {
+    DeleteMenu(menu, static_cast<UINT>(GetMenuItemCount(menu) - 1), MF_BYPOSITION);
+}
+
 void EmptyMenu(MenuHandle menu) {
     while (DeleteMenu(menu, 0, MF_BYPOSITION)) {
     }

@@ -14,6 +14,8 @@ MenuHandle SubMenu(MenuHandle menu, int place);
 
 MenuHandle NewPopUpMenu();
 void AddMenuItem(MenuHandle menu, int id, const std::string& caption);
+void AddMenuSeparator(MenuHandle menu);
+void RemoveLastMenuItem(MenuHandle menu);
 void EmptyMenu(MenuHandle menu);
 
 // Each finds the item by its number, in drop-downs too.

@@ -114,6 +114,12 @@ void PictureBox::Keep() {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
+bool PictureBox::SetPointer() {
+    if (!movable_ || !hasPicture_) return false;
+    SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_SIZEALL)));
+    return true;
+}
+
 bool PictureBox::InActiveWindow() const { return GetActiveWindow() == parent()->handle(); }
 
 void PictureBox::PaintEmpty(DeviceContext target) const {

@@ -36,6 +36,10 @@ class PictureBox : public Control {
     /// Paints the drawing area in place of the picture while it is set.
     std::function<void(DeviceContext target)> PaintInstead;
 
+    /// Whether the pointer shows over the picture that it can be moved about.
+    void SetMovable(bool movable) { movable_ = movable; }
+    bool SetPointer() override;
+
     /// A point of the drawing area as one of the screen.
     Point OnScreen(Point at) const;
 
@@ -60,6 +64,7 @@ class PictureBox : public Control {
     static constexpr const char* kNoPicture = "no picture";
 
     bool hasPicture_ = false;
+    bool movable_ = false;
     const char* whyEmpty_ = kNoPicture;
     bool tabStop_ = false;    ///< its template lets Tab stop here
     bool spaceDown_ = false;  ///< and not up again, with the focus here all the time

@@ -12,6 +12,10 @@ Rect WorkArea();
 /// Where the mouse pointer is on the screen.
 Point PointerPosition();
 
+inline constexpr int kKeyLeft = 37;
+inline constexpr int kKeyUp = 38;
+inline constexpr int kKeyRight = 39;
+inline constexpr int kKeyDown = 40;
 inline constexpr int kKeyDelete = 46;
 inline constexpr int kKeyF1 = 112;
 inline constexpr int kKeyF2 = 113;

@@ -100,6 +100,9 @@ class Window {
     virtual bool Form_KeyDown(int) { return false; }
     virtual void Form_KeyUp(int) {}
     virtual void Form_KeyPress(char) {}
+    /// The wheel was turned by this much, 120 a notch, away from the user above 0, with the pointer
+    /// at a point of the screen. False leaves it to the system.
+    virtual bool Form_MouseWheel(int, Point) { return false; }
     /// A menu item, a tool or, without a control of that number, a dialog command (1 Enter, 2 Esc).
     virtual void MenuCommand(int) {}
     /// The right button was clicked within the window beside the controls. False leaves it to the

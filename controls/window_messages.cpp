@@ -56,6 +56,16 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
                          : OnNotify(reinterpret_cast<void*>(lParam));
             return true;
         }
+        case WM_HSCROLL: {
+            Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
+            if (!control) return false;
+            control->OnScroll();
+            return true;
+        }
+        case WM_MOUSEWHEEL:
+            return Form_MouseWheel(
+                static_cast<short>(HIWORD(wParam)),
+                {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
         case WM_CTLCOLORSTATIC: {
             const Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
             if (!control || control->TextColor() < 0) return false;

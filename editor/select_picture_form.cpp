@@ -35,6 +35,7 @@ void SelPictureForm::AddControls() {
     Add(LogoList, ID_LogoList);
     Add(CurView, ID_CurView);
     Add(ImageInfo, ID_ImageInfo);
+    Add(AdjustButton, ID_AdjustButton, "Frames, lightens and letters the selected picture");
     Add(Dir1, ID_Dir1);
     Add(Frame1, ID_Frame1);
     Add(OptCompSet, ID_OptCompSet);
@@ -75,6 +76,7 @@ void SelPictureForm::ConnectBrowser() {
     CurView.MouseDown = [this](int, Point at) { CurView_MouseDown(at); };
     CurView.MouseMove = [this](int button, Point at) { CurView_MouseMove(button, at); };
     CurView.MouseUp = [this](int button, Point at) { Picture_MouseUp(CurView, button, at); };
+    AdjustButton.Click = [this] { AdjustButton_Click(); };
 }
 
 void SelPictureForm::ConnectSlots() {
@@ -103,6 +105,8 @@ void SelPictureForm::AttachMenus() {
     ItmDelete.Attach(menus_, ID_BrowserDelete);
     itmRefresh.Attach(menus_, ID_BrowserRefresh);
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].Attach(menus_, ID_ItmSetLogo + i);
+    ItmAdjust.Attach(menus_, ID_ItmAdjust);
+    ItmManySets.Attach(menus_, ID_ItmManySets);
 }
 
 void SelPictureForm::Form_Load() {
@@ -132,6 +136,7 @@ void SelPictureForm::SetHelpNumbers() {
     LogoList.SetHelpNumber(help_number::LogoList);
     CurView.SetHelpNumber(help_number::CurView);
     ImageInfo.SetHelpNumber(help_number::ImageInfo);
+    AdjustButton.SetHelpNumber(help_number::AdjustButton);
     OptCompSet.SetHelpNumber(help_number::OptCompSet);
     OptDefShut.SetHelpNumber(help_number::OptDefShut);
     OptOnlyStart.SetHelpNumber(help_number::OptOnlyStart);
@@ -207,12 +212,12 @@ void SelPictureForm::CheckBtnStatus() {
 
 void SelPictureForm::EnableImage() {
     SlotsEnabled = true;
-    EnableControls(true, AddButton[0], AddButton[1], AddButton[2]);
+    EnableControls(true, AddButton[0], AddButton[1], AddButton[2], AdjustButton);
 }
 
 void SelPictureForm::DisableImage() {
     SlotsEnabled = false;
-    EnableControls(false, AddButton[0], AddButton[1], AddButton[2]);
+    EnableControls(false, AddButton[0], AddButton[1], AddButton[2], AdjustButton);
 }
 
 }  // namespace vistrel

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "adjust/adjustments.h"
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/drive_list.h"
@@ -35,6 +36,7 @@ class SelPictureForm : public Window {
     ListView LogoList;
     PictureBox CurView;
     Label ImageInfo;
+    Button AdjustButton;
     ListBox Dir1;  ///< hidden; see Dir1_Change
 
     // The set; arrays are in the order of LogoScreen
@@ -63,6 +65,8 @@ class SelPictureForm : public Window {
     MenuItem ItmDelete;
     MenuItem itmRefresh;
     MenuItem ItmSetLogo[3];
+    MenuItem ItmAdjust;
+    MenuItem ItmManySets;
 
     // What one session holds
     bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
@@ -189,6 +193,16 @@ class SelPictureForm : public Window {
     void ClearAllButton_Click();
     void EmptySlot(int index);
 
+    // Adjusting pictures
+    void AdjustButton_Click();
+    void AdjustSlot(int index);
+    std::string Adjusted(const std::string& path);
+    void ShowAsSelected(const std::string& screen);
+    void ShowPictureMenu(const PictureBox& box, Point at);
+    bool IsAdjustable() const;
+    std::vector<std::string> SelectedPictures() const;
+    void ItmManySets_Click();
+
     // Names, loading and saving
     void ListNames();
     void NameLogoSet_Change();
@@ -219,6 +233,7 @@ class SelPictureForm : public Window {
     Point pressedAt_;              ///< where the left button went down over CurView
     std::string oldName_;          ///< of the item whose label is edited
     std::string setsOwnTag_[3];    ///< of slots 1 and 2 while they show the shared screens
+    Adjustments adjustments_;      ///< of this session's temporary files
     std::string shownLogoFolder_;  ///< whose sets the session is about
 };
 

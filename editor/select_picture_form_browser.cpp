@@ -181,7 +181,8 @@ void SelPictureForm::CurView_MouseMove(int button, Point at) {
 }
 
 void SelPictureForm::LogoList_BeginDrag() {
-    if (SlotsEnabled && CurrentFolder + SelectedName() == SelectedPicture) DragPicture(LogoList);
+    if (SlotsEnabled && CurrentFolder + SelectedName() == adjustments_.PictureOf(SelectedPicture))
+        DragPicture(LogoList);
 }
 
 void SelPictureForm::DragPicture(const Control& source) {
@@ -201,7 +202,7 @@ void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button, Point at
         ActivateOnce = false;
         FollowLogoFolder();
     } else if (button == kRightButton) {
-        PopUpMenu(host_.OpenWithMenu(box.Tag()), box.OnScreen(at), host_.DefaultOpenWithItem());
+        ShowPictureMenu(box, at);
     }
 }
 

@@ -35,9 +35,11 @@ void SelPictureForm::ShowManageMenu(Point screen) {
 void SelPictureForm::MenuOpens(MenuHandle menu) {
     if (menu != SubMenu(menus_, kManageMenu)) return;
     const std::string name = SelectedName();
-    const bool changeable = !name.empty() && name != kParentFolder;
+    const bool changeable = LogoList.SelectedItems().size() == 1 && name != kParentFolder;
     EnableControls(changeable, ItmRename, ItmDelete);
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
+    ItmAdjust.SetEnabled(IsAdjustable());
+    ItmManySets.SetEnabled(!SelectedPictures().empty());
 }
 
 // The keys of the list are those of its menu.
@@ -83,6 +85,14 @@ void SelPictureForm::MenuCommand(int id) {
         case ID_ItmSetLogo + 1:
         case ID_ItmSetLogo + 2:
             return AddButton_Click(id - ID_ItmSetLogo);
+        case ID_ItmAdjust:
+            return AdjustButton_Click();
+        case ID_ItmManySets:
+            return ItmManySets_Click();
+        case ID_ItmAdjustSlot:
+        case ID_ItmAdjustSlot + 1:
+        case ID_ItmAdjustSlot + 2:
+            return AdjustSlot(id - ID_ItmAdjustSlot);
         default:
             return;
     }

@@ -25,7 +25,10 @@ std::string WithoutBackslash(std::string folder) {
 
 }  // namespace
 
-void SelPictureForm::ItmRename_Click() { LogoList.StartLabelEdit(); }
+// Renaming and deleting are about one item: which of several was meant would be a guess.
+void SelPictureForm::ItmRename_Click() {
+    if (LogoList.SelectedItems().size() == 1) LogoList.StartLabelEdit();
+}
 
 bool SelPictureForm::LogoList_BeforeLabelEdit() {
     oldName_ = LogoList.ItemText(LogoList.EditedItem());
@@ -58,7 +61,7 @@ bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& typed) {
 
 void SelPictureForm::ItmDelete_Click() {
     const std::string name = SelectedName();
-    if (name.empty() || name == kParentFolder) return;
+    if (LogoList.SelectedItems().size() != 1 || name == kParentFolder) return;
     const std::string path = CurrentFolder + name;
     const bool isSet = InLogoFolder() && IsFolder(path);
     DeleteToRecycleBin(handle(), {path});
@@ -86,6 +89,7 @@ void SelPictureForm::FollowRename(const std::string& from, const std::string& to
     for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
     for (std::string& tag : setsOwnTag_) tag = Repointed(tag, from, to);
     SelectedPicture = Repointed(SelectedPicture, from, to);
+    adjustments_.Repoint([&](const std::string& path) { return Repointed(path, from, to); });
     CurView.SetTag(Repointed(CurView.Tag(), from, to));
     if (IsAtOrIn(CurrentFolder, from)) {
         CurrentFolder = Repointed(CurrentFolder, from, to);

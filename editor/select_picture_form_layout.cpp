@@ -101,7 +101,8 @@ int SelPictureForm::TypeFrameHeight() const {
 
 int SelPictureForm::RoomBelowPreview() const {
     const int name = Label3.Bounds().height + 2 + NameLogoSet.Bounds().height;
-    return 2 + ImageInfo.Bounds().height + Gap() + TypeFrameHeight() + Gap() + name;
+    return 2 + ImageInfo.Bounds().height + Gap() / 2 + AdjustButton.Bounds().height + Gap() +
+           TypeFrameHeight() + Gap() + name;
 }
 
 void SelPictureForm::PlaceList(const Rect& column) {
@@ -124,6 +125,9 @@ void SelPictureForm::PlacePreview(const Rect& column) {
     CurPath.MoveTo({column.left, column.top + (drive - line) / 2, column.width, line});
     CurView.MoveTo({column.left, top, column.width, height});
     ImageInfo.MoveTo({column.left, top + height + 2, column.width, info});
+    const Rect button = AdjustButton.Bounds();
+    AdjustButton.MoveTo(
+        {column.left, top + height + 2 + info + Gap() / 2, button.width, button.height});
 }
 
 // At the bottom of the column: the frame with the types, the name below it.

@@ -113,6 +113,8 @@ std::string SelPictureForm::ConvertSelected() {
     if (converted.empty()) return {};
     // What cannot be read or written leaves the temporary file empty, and no set gets a copy of it.
     ConvertToLogo(SelectedPicture, converted);
+    // Whoever adjusts the slot begins with the picture itself.
+    adjustments_.RememberConversion(converted, SelectedPicture);
     return converted;
 }
 

@@ -41,6 +41,37 @@ inline constexpr unsigned long NameLogoSet = 73;
 inline constexpr unsigned long ActButton = 74;
 inline constexpr unsigned long CloseButton = 75;
 inline constexpr unsigned long LblWritten = 76;
+inline constexpr unsigned long AdjustButton = 77;
+
+// Adjust picture. Buttons that belong together share a number.
+inline constexpr unsigned long ScreenBox = 100;
+inline constexpr unsigned long BtnOriginal = 101;
+inline constexpr unsigned long OptFraming[] = {102, 103, 104};
+inline constexpr unsigned long ZoomBar = 105;
+inline constexpr unsigned long BorderKind = 106;
+inline constexpr unsigned long BtnTurn = 107;
+inline constexpr unsigned long ChkMirror = 108;
+inline constexpr unsigned long LightBar[] = {109, 110, 111, 112};
+inline constexpr unsigned long ChkAuto = 113;
+inline constexpr unsigned long DitherKind = 114;
+inline constexpr unsigned long BtnReset = 115;
+inline constexpr unsigned long TextLines = 116;
+inline constexpr unsigned long BtnsOfLines = 117;
+inline constexpr unsigned long BtnReadyMade = 118;
+inline constexpr unsigned long BtnFont = 119;
+inline constexpr unsigned long BtnTextColor = 120;
+inline constexpr unsigned long EdgeKind = 121;
+inline constexpr unsigned long AlignKind = 122;
+inline constexpr unsigned long AdjustOk = 123;
+inline constexpr unsigned long AdjustCancel = 124;
+
+// Make sets of these pictures.
+inline constexpr unsigned long ManyFraming = 130;
+inline constexpr unsigned long ManyKind = 131;
+inline constexpr unsigned long ManyProgress = 132;
+inline constexpr unsigned long ManyLeftOut = 133;
+inline constexpr unsigned long ManyMake = 134;
+inline constexpr unsigned long ManyClose = 135;
 
 // The main window. Its list, pictures and toolbar ask for none: a click with the right mouse button
 // has another meaning there.

@@ -9,6 +9,8 @@
 #define IDD_SelPictureForm 103
 #define IDD_FrmOptions 104
 #define IDD_FrmAboutReg 105
+#define IDD_FrmAdjust 106
+#define IDD_FrmManySets 107
 #define IDM_Principale 110
 #define IDM_SelPictureForm 111
 #define IDB_Toolbar 120
@@ -93,6 +95,7 @@
 #define ID_Dir1 1230
 #define ID_SlotFrame 1231  // 1231 to 1233
 #define ID_LblWritten 1234
+#define ID_AdjustButton 1235
 
 #define ID_OkButton 1250  // 1250 create, 1251 update
 #define ID_EliminaSetBtn 1252
@@ -101,6 +104,9 @@
 #define ID_BrowserDelete 1261
 #define ID_BrowserRefresh 1262
 #define ID_ItmSetLogo 1263  // 1263 to 1265
+#define ID_ItmAdjust 1266
+#define ID_ItmManySets 1267
+#define ID_ItmAdjustSlot 1268  // 1268 to 1270
 
 // Preferences: 1400 to 1599
 #define ID_TabStrip1 1400
@@ -138,6 +144,58 @@
 #define ID_Label5 1605
 #define ID_LblInternet 1606  // 1606 and 1608 mail, 1607 and 1609 web
 #define ID_Line1 1610
+
+// Adjust picture: 1700 to 1799
+#define ID_ScreenBox 1700
+#define ID_BtnOriginal 1701
+#define ID_LblHint 1702
+#define ID_AdjustPages 1703
+
+#define ID_OptFraming 1710  // 1710 stretch, 1711 fill, 1712 fit
+#define ID_LblZoom 1713
+#define ID_LblZoomValue 1714
+#define ID_ZoomBar 1715
+#define ID_LblBorder 1716
+#define ID_BorderKind 1717
+#define ID_BorderSwatch 1718
+#define ID_BtnBorderColor 1719
+#define ID_BtnTurnLeft 1720
+#define ID_BtnTurnRight 1721
+#define ID_ChkMirror 1722
+
+#define ID_LblLight 1730       // 1730 brightness, 1731 contrast, 1732 gamma, 1733 saturation
+#define ID_LblLightValue 1734  // 1734 to 1737, in the same order
+#define ID_LightBar 1738       // 1738 to 1741
+#define ID_ChkAuto 1742
+#define ID_LblDither 1743
+#define ID_DitherKind 1744
+#define ID_BtnReset 1745
+
+#define ID_LblLines 1750
+#define ID_TextLines 1751
+#define ID_BtnAddLine 1752
+#define ID_BtnEditLine 1753
+#define ID_BtnDeleteLine 1754
+#define ID_BtnReadyMade 1755
+#define ID_BtnFont 1756
+#define ID_BtnTextColor 1757
+#define ID_TextSwatch 1758
+#define ID_LblEdge 1759
+#define ID_EdgeKind 1760
+#define ID_LblAlign 1761
+#define ID_AlignKind 1762
+#define ID_ReadyLine 1770  // 1770 on, one for each ready-made line
+
+// Make sets of these pictures: 1800 to 1899
+#define ID_LblMany 1800
+#define ID_ManyFrames 1801      // 1801 framing, 1802 kind
+#define ID_OptManyFraming 1803  // 1803 fill, 1804 fit
+#define ID_OptManyKind 1805     // 1805 one each, 1806 three at a time
+#define ID_LblManyDone 1807
+#define ID_ManyProgress 1808
+#define ID_LblLeftOut 1809
+#define ID_LeftOut 1810
+#define ID_BtnMakeSets 1811
 
 // Buttons that Enter and Esc press
 #define ID_BtnOK 1

@@ -108,6 +108,10 @@ void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& widt
 
 void DrawPreview(const std::string& path, PictureBox& target) { DrawScaled(path, target); }
 
+void DrawPicture(const RgbPicture& picture, PictureBox& target) {
+    DrawOver(target, picture.pixels.data(), picture.width, picture.height);
+}
+
 void ShowPictureInBox(const std::string& path, PictureBox& box) {
     box.Clear();
     // Where the display has a palette, the system's loader brings a picture down to colours that

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "controls/picture_box.h"
+#include "pictures/rgb_picture.h"
 
 namespace vistrel {
 
@@ -18,6 +19,9 @@ void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& widt
 
 /// The same for whoever does not need the facts.
 void DrawPreview(const std::string& path, PictureBox& target);
+
+/// Draws a picture that is in memory over the whole of `target`; it need not be of its size.
+void DrawPicture(const RgbPicture& picture, PictureBox& target);
 
 /// Shows a picture at its own size, a photograph upright: makes the box's drawing area as large as
 /// the picture. What cannot be read leaves an empty box.

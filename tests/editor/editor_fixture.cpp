@@ -126,6 +126,9 @@ void LogoBrowser::Await(const std::function<bool()>& condition, const char* what
 
 void LogoBrowser::Pick(SelPictureForm& editor, const std::string& name) {
     LVITEMA item{};
+    item.stateMask = LVIS_SELECTED;
+    SendMessageA(editor.LogoList.handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(-1),
+                 reinterpret_cast<LPARAM>(&item));
     item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
     const int index = editor.LogoList.FindItem(name);
     EXPECT_GE(index, 0) << name;

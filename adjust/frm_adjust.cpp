@@ -1,0 +1,268 @@
+// The window: its controls and pages, and how it is closed.
+#include "adjust/frm_adjust.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "controls/menu.h"
+#include "controls/screen_metrics.h"
+#include "help/context_numbers.h"
+#include "pictures/preview/draw_letters.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+/// A hand that did not move for so many milliseconds rests.
+constexpr unsigned kRest = 300;
+
+/// A screen needs no more room than this to be seen in all its pixels.
+constexpr int kWidestPicture = 640;
+
+}  // namespace
+
+FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
+    : Window("FrmAdjust", IDD_FrmAdjust),
+      source_(start.source),
+      newFile_(std::move(newFile)),
+      composition_(start.composition),
+      restTimer_(kRest),
+      readyMade_(NewPopUpMenu()) {
+    for (const TextLine& line : start.lines) lines_.emplace_back(line);
+    composition_.text = MasksOf(lines_);
+    AddFrame();
+    AddFraming();
+    AddLight();
+    AddText();
+    Add(restTimer_);
+    restTimer_.Tick = [this] { ShowFinished(); };
+}
+
+FrmAdjust::~FrmAdjust() { FreeMenu(readyMade_); }
+
+void FrmAdjust::AddRow(const Row& row) {
+    Add(row.control, row.id, row.tip);
+    row.control.SetHelpNumber(static_cast<int>(row.help));
+    pages_[row.page].push_back(&row.control);
+}
+
+void FrmAdjust::AddFrame() {
+    namespace number = help_number;
+    const Row rows[] = {
+        {ScreenBox, ID_ScreenBox, kAlways, number::ScreenBox, "The screen as it will be"},
+        {BtnOriginal, ID_BtnOriginal, kAlways, number::BtnOriginal,
+         "Shows the picture as it was, while you hold this down"},
+        {LblHint, ID_LblHint, kAlways, 0, ""},
+        {AdjustPages, ID_AdjustPages, kAlways, 0, ""},
+        {BtnOK, ID_BtnOK, kAlways, number::AdjustOk, "Makes the screen"},
+        {BtnCancel, ID_BtnCancel, kAlways, number::AdjustCancel, "Leaves all as it was"},
+    };
+    for (const Row& row : rows) AddRow(row);
+    ScreenBox.MouseDown = [this](int button, Point at) { Screen_MouseDown(button, at); };
+    ScreenBox.MouseMove = [this](int button, Point at) { Screen_MouseMove(button, at); };
+    // With this the box keeps the mouse while it is dragged beyond the edge.
+    ScreenBox.MouseUp = [](int, Point) {};
+    BtnOriginal.Held = [this](bool down) { ShowHeld(down); };
+    AdjustPages.Click = [this] { ShowPage(); };
+    BtnOK.Click = [this] { BtnOK_Click(); };
+    BtnCancel.Click = [this] { Unload(); };
+}
+
+bool FrmAdjust::ReadPicture() {
+    const BusyPointer busy;
+    return live_.Read(source_);
+}
+
+Adjustment FrmAdjust::Settings() const {
+    Adjustment settings{source_, composition_, {}};
+    settings.composition.text.clear();
+    for (const DrawnLine& line : lines_) settings.lines.push_back(line.line());
+    return settings;
+}
+
+void FrmAdjust::Form_Load() {
+    for (const char* caption : {"Framing", "Light", "Text"}) AdjustPages.AddTab(caption);
+    AdjustPages.Select(kFraming);
+    FillLists();
+    GrowToScreen();
+    ScreenBox.SetTag(source_);
+    ShowSettings();
+    ShowPage();
+    ShowFinished();
+}
+
+void FrmAdjust::FillLists() {
+    for (const char* kind : {"One colour", "The picture's edge, blurred"}) BorderKind.AddItem(kind);
+    for (const char* kind : {"Automatic", "None", "Light", "Medium", "Strong"})
+        DitherKind.AddItem(kind);
+    for (const char* kind : {"None", "Outline", "Shadow"}) EdgeKind.AddItem(kind);
+    for (const char* kind : {"Left", "Centre", "Right"}) AlignKind.AddItem(kind);
+    TextLines.AddColumn("", 0);
+    TextLines.FitColumn();
+    for (const DrawnLine& line : lines_) TextLines.AddItem(line.line().text, "");
+    if (!lines_.empty()) TextLines.Select(0);
+}
+
+void FrmAdjust::ShowSettings() {
+    const compose::Framing& framing = composition_.framing;
+    for (int i = 0; i < 3; ++i) OptFraming[i].SetMark(i == static_cast<int>(framing.kind));
+    BorderKind.SetListIndex(static_cast<int>(framing.border));
+    ChkMirror.SetValue(composition_.orientation.mirrored);
+    ShowZoom();
+    ShowLight();
+    ShowLine();
+}
+
+// The picture takes the room that the screen has beside the window, in the shape of a screen.
+void FrmAdjust::GrowToScreen() {
+    const Rect area = WorkArea();
+    const Size whole = WholeSize();
+    const Rect place = ScreenBox.Bounds();
+    const int edge = place.width - ScreenBox.ScaleWidth();
+    const int roomAcross = place.width - edge + std::max(area.width - whole.width, 0);
+    const int roomDown = place.height - edge + std::max(area.height - whole.height, 0);
+    const int width = std::min({kWidestPicture, roomAcross, roomDown * 4 / 3});
+    const int height = width * 3 / 4;
+    const int wider = std::max(width + edge - place.width, 0);
+    const int higher = std::max(height + edge - place.height, 0);
+    ScreenBox.MoveTo({place.left + (place.width + wider - width - edge) / 2,
+                      place.top + (place.height + higher - height - edge) / 2, width + edge,
+                      height + edge});
+    const Rect pages = AdjustPages.Bounds();
+    for (const auto& [id, control] : controls()) {
+        if (control == &ScreenBox) continue;
+        Rect at = control->Bounds();
+        if (at.left >= pages.left) at.left += wider;
+        if (at.top >= pages.bottom()) at.top += higher;
+        if (control == &AdjustPages) at.height += higher;
+        if (control == &LblHint) at.width += wider;
+        control->MoveTo(at);
+    }
+    const Size client = ClientSize();
+    SetClientSize({client.width + wider, client.height + higher});
+    CentreIn(area);
+}
+
+void FrmAdjust::Form_Activate() {
+    if (fontsTold_) return;
+    fontsTold_ = true;
+    ScreenBox.Focus();
+    TellMissingFonts();
+}
+
+void FrmAdjust::TellMissingFonts() {
+    std::vector<std::string> missing;
+    for (const DrawnLine& line : lines_) {
+        const std::string& face = line.line().font.face;
+        if (FaceFor(face) != face && std::count(missing.begin(), missing.end(), face) == 0)
+            missing.push_back(face);
+    }
+    for (const std::string& face : missing)
+        Ask(handle(), "The font " + face + " is not there any more. Another one stands for it.",
+            kExclamationOk);
+}
+
+void FrmAdjust::ShowPage() {
+    bool focusGoes = false;
+    for (int page = kFraming; page <= kText; ++page) {
+        for (Control* control : pages_[page]) {
+            focusGoes |= page != CurrentPage() && control->HasFocus();
+            control->SetVisible(page == CurrentPage());
+        }
+    }
+    ShowPossible();
+    if (focusGoes) AdjustPages.Focus();
+}
+
+void FrmAdjust::ShowPossible() {
+    // What is hidden is disabled too: its access key would still act.
+    for (int page = kFraming; page <= kText; ++page)
+        for (Control* control : pages_[page])
+            control->SetEnabled(page == CurrentPage() && IsPossible(*control));
+    ScreenBox.SetMovable(CurrentPage() == kText
+                             ? !lines_.empty()
+                             : CurrentPage() == kFraming &&
+                                   composition_.framing.kind == compose::FramingKind::Fill);
+    LblHint.SetText(Hint());
+}
+
+bool FrmAdjust::IsPossible(const Control& control) const {
+    const compose::Framing& framing = composition_.framing;
+    const auto isOneOf = [&](std::initializer_list<const Control*> some) {
+        return std::find(some.begin(), some.end(), &control) != some.end();
+    };
+    if (isOneOf({&LblZoom, &LblZoomValue, &ZoomBar}))
+        return framing.kind == compose::FramingKind::Fill;
+    if (isOneOf({&LblBorder, &BorderKind})) return framing.kind == compose::FramingKind::Fit;
+    if (isOneOf({&BtnBorderColor, &BorderSwatch}))
+        return framing.kind == compose::FramingKind::Fit &&
+               framing.border == compose::Border::Plain;
+    if (isOneOf({&BtnEditLine, &BtnDeleteLine, &BtnFont, &BtnTextColor, &TextSwatch, &LblEdge,
+                 &EdgeKind, &LblAlign, &AlignKind}))
+        return SelectedLine().has_value();
+    return true;
+}
+
+std::string FrmAdjust::Hint() const {
+    if (CurrentPage() == kLight) return "A double click sets a slider back.";
+    if (CurrentPage() == kText)
+        return lines_.empty() ? "Add a line, then drag it to its place on the screen."
+                              : "Drag a line to its place on the screen, or use the arrow keys.";
+    switch (composition_.framing.kind) {
+        case compose::FramingKind::Fill:
+            return "Drag the picture, or use the arrow keys, + and -.";
+        case compose::FramingKind::Fit:
+            return "All of the picture, in its own shape.";
+        default:
+            return "All of the picture, in the shape of the screen.";
+    }
+}
+
+bool FrmAdjust::Form_KeyDown(int key) {
+    if (AdjustPages.TurnPage(key)) return true;
+    if (!ScreenBox.HasFocus()) return false;
+    if (key == kKeyLeft) MoveByArrow(-1, 0);
+    if (key == kKeyRight) MoveByArrow(1, 0);
+    if (key == kKeyUp) MoveByArrow(0, -1);
+    if (key == kKeyDown) MoveByArrow(0, 1);
+    return key >= kKeyLeft && key <= kKeyDown;
+}
+
+bool FrmAdjust::IsPictureAsItWas() {
+    const auto size = compose::SizeOfPicture(source_);
+    if (!size) {
+        Ask(handle(),
+            source_ + " cannot be read any more. When it is back in its place, press OK again.",
+            kExclamationOk);
+        return false;
+    }
+    if (*size == live_.FileSize()) return true;
+    if (live_.Read(source_)) ShowFinished();
+    Ask(handle(), source_ + " has changed. Look whether it is still framed as you like.",
+        kExclamationOk);
+    return false;
+}
+
+void FrmAdjust::BtnOK_Click() {
+    if (!IsPictureAsItWas()) return;
+    const std::string file = newFile_();
+    auto result = ConversionResult::NotWritten;
+    if (!file.empty()) {
+        const BusyPointer busy;
+        result = compose::MakeScreen(source_, file, composition_);
+    }
+    if (result == ConversionResult::Written) {
+        screen_ = file;
+        Unload();
+        return;
+    }
+    Ask(handle(),
+        result == ConversionResult::NotWritten
+            ? "The screen cannot be written. The disk of temporary files may be full."
+            : "The screen cannot be made. There may not be enough memory.",
+        kExclamationOk);
+}
+
+}  // namespace vistrel

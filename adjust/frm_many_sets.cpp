@@ -1,0 +1,113 @@
+#include "adjust/frm_many_sets.h"
+
+#include <utility>
+
+#include "core/generali.h"
+#include "help/context_numbers.h"
+#include "resources/ids.h"
+
+namespace vistrel {
+namespace {
+
+constexpr unsigned kBetweenPictures = 10;
+
+std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string NameOf(std::string path) { return GetFileName(path); }
+
+}  // namespace
+
+FrmManySets::FrmManySets(std::string library, std::vector<std::string> pictures)
+    : Window("FrmManySets", IDD_FrmManySets),
+      library_(std::move(library)),
+      pictures_(std::move(pictures)),
+      step_(kBetweenPictures) {
+    Add(LblMany, ID_LblMany);
+    Add(FrameFraming, ID_ManyFrames);
+    Add(OptFraming[0], ID_OptManyFraming, "Shapes stay; what does not fit is cut off");
+    Add(OptFraming[1], ID_OptManyFraming + 1, "All of each picture, with a black border");
+    Add(FrameKind, ID_ManyFrames + 1);
+    Add(OptKind[0], ID_OptManyKind, "Each set has the name of its picture");
+    Add(OptKind[1], ID_OptManyKind + 1, "Each set has the name of its first picture");
+    Add(LblDone, ID_LblManyDone);
+    Add(Progress, ID_ManyProgress);
+    Add(LblLeftOut, ID_LblLeftOut);
+    Add(LeftOut, ID_LeftOut, "Pictures that are in no set, and why");
+    Add(BtnMakeSets, ID_BtnMakeSets, "Makes the sets");
+    Add(BtnClose, ID_BtnCancel, "Stops after the picture that is being worked on, or closes");
+    Add(step_);
+    step_.Tick = [this] { Step(); };
+    BtnMakeSets.Click = [this] { BtnMakeSets_Click(); };
+    BtnClose.Click = [this] { BtnClose_Click(); };
+}
+
+std::vector<std::string> FrmManySets::Made() const {
+    return sets_ ? sets_->Made() : std::vector<std::string>();
+}
+
+void FrmManySets::Form_Load() {
+    for (OptionButton& option : OptFraming) option.SetHelpNumber(help_number::ManyFraming);
+    for (OptionButton& option : OptKind) option.SetHelpNumber(help_number::ManyKind);
+    Progress.SetHelpNumber(help_number::ManyProgress);
+    LeftOut.SetHelpNumber(help_number::ManyLeftOut);
+    BtnMakeSets.SetHelpNumber(help_number::ManyMake);
+    BtnClose.SetHelpNumber(help_number::ManyClose);
+    LblMany.SetText(Counted(pictures_.size(), "picture is", "pictures are") + " selected.");
+    OptFraming[0].SetMark(true);
+    OptKind[0].SetMark(true);
+    Progress.SetSteps(static_cast<int>(pictures_.size()));
+}
+
+void FrmManySets::BtnMakeSets_Click() {
+    sets_.emplace(
+        library_, pictures_,
+        OptKind[0].Value() ? PictureSetKind::StartupOnly : PictureSetKind::ThreeToComplete,
+        OptFraming[0].Value() ? compose::FramingKind::Fill : compose::FramingKind::Fit);
+    // Before the button, which has the focus, cannot have it any more.
+    BtnClose.Focus();
+    EnableControls(false, BtnMakeSets, OptFraming[0], OptFraming[1], OptKind[0], OptKind[1]);
+    LblDone.SetText(NameOf(pictures_.front()));
+    step_.SetEnabled(true);
+}
+
+void FrmManySets::Step() {
+    sets_->Next();
+    Progress.SetValue(static_cast<int>(sets_->Done()));
+    if (sets_->IsDone())
+        Finish("Done: ");
+    else
+        LblDone.SetText(NameOf(pictures_[sets_->Done()]));
+}
+
+void FrmManySets::BtnClose_Click() {
+    if (!IsRunning()) {
+        Unload();
+        return;
+    }
+    sets_->Stop();
+    Finish("Stopped: ");
+}
+
+// What is made already stays, and is told to whoever opened the window.
+bool FrmManySets::Form_Unload() {
+    step_.SetEnabled(false);
+    return true;
+}
+
+void FrmManySets::Finish(const std::string& how) {
+    step_.SetEnabled(false);
+    LblDone.SetText(how + Counted(sets_->Made().size(), "set was made.", "sets were made."));
+    ShowLeftOut();
+    BtnClose.SetText("Close");
+}
+
+void FrmManySets::ShowLeftOut() {
+    for (const std::string& picture : sets_->NotRead())
+        LeftOut.AddItem(NameOf(picture) + ": cannot be read");
+    for (const std::string& picture : sets_->NotWritten())
+        LeftOut.AddItem(NameOf(picture) + ": its set cannot be written");
+}
+
+}  // namespace vistrel

@@ -1,0 +1,57 @@
+// "Make sets of these pictures": sets of many pictures at once, with a bar that shows how far it
+// is.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/button.h"
+#include "controls/label.h"
+#include "controls/list_box.h"
+#include "controls/progress_bar.h"
+#include "controls/timer.h"
+#include "controls/window.h"
+#include "core/picture_sets.h"
+
+namespace vistrel {
+
+class FrmManySets : public Window {
+ public:
+    /// `library` is the logo folder and ends in a backslash; `pictures` are paths.
+    FrmManySets(std::string library, std::vector<std::string> pictures);
+
+    /// Once the window is closed: the names of the sets that were made.
+    std::vector<std::string> Made() const;
+
+    Label LblMany;
+    Frame FrameFraming;
+    OptionButton OptFraming[2];  ///< fill, fit
+    Frame FrameKind;
+    OptionButton OptKind[2];  ///< in the order of PictureSetKind
+    Label LblDone;
+    ProgressBar Progress;
+    Label LblLeftOut;
+    ListBox LeftOut;
+    Button BtnMakeSets;
+    Button BtnClose;
+
+ protected:
+    void Form_Load() override;
+    bool Form_Unload() override;
+
+ private:
+    void BtnMakeSets_Click();
+    void BtnClose_Click();
+    bool IsRunning() const { return step_.Enabled(); }
+    void Step();
+    void Finish(const std::string& how);
+    void ShowLeftOut();
+
+    std::string library_;
+    std::vector<std::string> pictures_;
+    std::optional<PictureSets> sets_;
+    Timer step_;  ///< a picture a tick: in between the window does what the user wants
+};
+
+}  // namespace vistrel

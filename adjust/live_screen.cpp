@@ -1,0 +1,60 @@
+#include "adjust/live_screen.h"
+
+#include <utility>
+
+namespace vistrel {
+namespace {
+
+RgbPicture InColors(const IndexedScreen& screen) {
+    RgbPicture picture{screen.width, screen.height, {}};
+    picture.pixels.reserve(screen.indices.size() * 3);
+    for (const std::uint8_t index : screen.indices)
+        picture.pixels.insert(picture.pixels.end(), screen.palette[index].begin(),
+                              screen.palette[index].end());
+    return picture;
+}
+
+}  // namespace
+
+bool LiveScreen::Read(const std::string& path) {
+    auto read = compose::ReadComposed(path);
+    if (!read) return false;
+    read_ = std::move(read);
+    framed_.reset();
+    return true;
+}
+
+PictureSize LiveScreen::TurnedSize(const compose::Composition& composition) const {
+    return compose::SizeWhenTurned(read_->file, composition.orientation);
+}
+
+bool LiveScreen::Holds(const compose::Composition& composition) const {
+    return framed_ && orientation_ == composition.orientation && framing_ == composition.framing;
+}
+
+void LiveScreen::Keep(compose::Framed framed, const compose::Composition& composition, bool fine) {
+    framed_ = std::move(framed);
+    orientation_ = composition.orientation;
+    framing_ = composition.framing;
+    fine_ = fine;
+}
+
+RgbPicture LiveScreen::Quick(const compose::Composition& composition) {
+    if (!Holds(composition)) Keep(compose::Frame(*read_, composition), composition, false);
+    return compose::Adjust(*framed_, composition);
+}
+
+RgbPicture LiveScreen::Finished(const compose::Composition& composition) {
+    if (!Holds(composition) || !fine_)
+        Keep(compose::FrameFinely(*read_, composition), composition, true);
+    RgbPicture screen = compose::Adjust(*framed_, composition);
+    const auto reduced = compose::Reduce(screen, composition.dither);
+    return reduced ? InColors(*reduced) : std::move(screen);
+}
+
+const RgbPicture& LiveScreen::Original(const compose::Composition& composition) {
+    if (!Holds(composition)) Keep(compose::Frame(*read_, composition), composition, false);
+    return framed_->screen;
+}
+
+}  // namespace vistrel

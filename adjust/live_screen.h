@@ -1,0 +1,40 @@
+// The screen that is made of a picture, followed while the user changes what is made: from a
+// reduction of the picture that is read once, and with no stage run again that still holds.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "pictures/compose/stages.h"
+
+namespace vistrel {
+
+class LiveScreen {
+ public:
+    /// Reads the picture. False when it cannot be read; what was read before then stays.
+    bool Read(const std::string& path);
+
+    PictureSize FileSize() const { return read_->file; }
+    PictureSize TurnedSize(const compose::Composition& composition) const;
+
+    /// At once, in all its colours.
+    RgbPicture Quick(const compose::Composition& composition);
+    /// In its 256 colours, by the filter of conversions; for when the hand rests. Without memory
+    /// for that it is as Quick gives it.
+    RgbPicture Finished(const compose::Composition& composition);
+    /// The same part of the picture without light, text and reduction.
+    const RgbPicture& Original(const compose::Composition& composition);
+
+ private:
+    bool Holds(const compose::Composition& composition) const;
+    void Keep(compose::Framed framed, const compose::Composition& composition, bool fine);
+
+    std::optional<compose::Intermediate> read_;
+    // The picture on the screen, and what it was framed by.
+    std::optional<compose::Framed> framed_;
+    compose::Orientation orientation_;
+    compose::Framing framing_;
+    bool fine_ = false;
+};
+
+}  // namespace vistrel

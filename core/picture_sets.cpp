@@ -1,0 +1,99 @@
+#include "core/picture_sets.h"
+
+#include <optional>
+#include <utility>
+
+#include "core/entry_name.h"
+#include "core/generali.h"
+#include "core/library.h"
+#include "core/locations.h"
+#include "pictures/compose/stages.h"
+#include "platform/files.h"
+
+namespace vistrel {
+namespace {
+
+constexpr const char* kSingleEnding = ".sls";
+constexpr std::size_t kEndingLength = 4;
+
+/// A picture's name without what tells its format. An ending that makes a set a single-logo set is
+/// for the kind to say.
+std::string BaseName(std::string picture) {
+    std::string name = GetFileName(picture);
+    name.resize(name.size() - kEndingLength);
+    while (IsSingleLogoSet(name)) name.resize(name.size() - kEndingLength);
+    return name;
+}
+
+std::optional<IndexedScreen> ScreenOf(const std::string& picture,
+                                      const compose::Composition& composition) {
+    const auto framed = compose::ReadFramed(picture, composition);
+    if (!framed) return std::nullopt;
+    return compose::Reduce(compose::Adjust(*framed, composition), composition.dither);
+}
+
+}  // namespace
+
+PictureSets::PictureSets(std::string library, std::vector<std::string> pictures,
+                         PictureSetKind kind, compose::FramingKind framing)
+    : library_(std::move(library)), pictures_(std::move(pictures)), kind_(kind) {
+    composition_.framing.kind = framing;
+}
+
+std::size_t PictureSets::ScreensOfASet() const {
+    return kind_ == PictureSetKind::StartupOnly ? 1 : 3;
+}
+
+void PictureSets::Next() {
+    if (IsDone()) return;
+    const std::string& picture = pictures_[next_++];
+    auto screen = ScreenOf(picture, composition_);
+    if (screen)
+        screens_.push_back({picture, std::move(*screen)});
+    else
+        notRead_.push_back(picture);
+    if (screens_.size() == ScreensOfASet() || (IsDone() && !screens_.empty())) WriteSet();
+}
+
+void PictureSets::Stop() {
+    screens_.clear();
+    pictures_.resize(next_);
+}
+
+// The first picture's name, with a number where there is a set of that name.
+std::string PictureSets::FreeName() const {
+    const std::string ending = kind_ == PictureSetKind::StartupOnly ? kSingleEnding : "";
+    const std::string base = BaseName(screens_.front().picture);
+    std::string name = base + ending;
+    for (int number = 2; FileAttributes(library_ + name); ++number)
+        name = base + " " + std::to_string(number) + ending;
+    return name;
+}
+
+void PictureSets::WriteSet() {
+    const std::string name = FreeName();
+    const std::string folder = library_ + name + "\\";
+    if (SetFolderName(name, library_) == name && MakeFolder(library_ + name)) {
+        if (WriteScreens(folder)) {
+            made_.push_back(name);
+            screens_.clear();
+            return;
+        }
+        RemoveMatching(folder + "*.*");
+        RemoveFolder(library_ + name);
+    }
+    for (const Screen& screen : screens_) notWritten_.push_back(screen.picture);
+    notWritten_.insert(notWritten_.end(), pictures_.begin() + static_cast<std::ptrdiff_t>(next_),
+                       pictures_.end());
+    Stop();
+}
+
+bool PictureSets::WriteScreens(const std::string& folder) const {
+    for (std::size_t i = 0; i < screens_.size(); ++i) {
+        const std::string file = folder + kScreenFileNames[i];
+        if (!compose::Write(file, screens_[i].screen) || !FlushToDisk(file)) return false;
+    }
+    return true;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,114 @@
+#include "tests/adjust/adjust_fixture.h"
+
+#include "pictures/compose/stages.h"
+#include "tests/support/user/seen.h"
+
+namespace vistrel::test {
+
+Adjusting::Adjusting() { Put(photo, JpgOf(TestPicture(800, 300))); }
+
+HWND Adjusting::WaitForIt() {
+    const HWND window = user::WaitForTop("FrmAdjust");
+    EXPECT_NE(window, nullptr);
+    user::Activate(window);
+    SendMessageA(window, WM_NULL, 0, 0);
+    return window;
+}
+
+HWND Adjusting::OpenOn(SelPictureForm& editor, const std::string& picture) {
+    Pick(editor, picture);
+    Settle(editor);
+    EXPECT_TRUE(user::Click(editor.AdjustButton.handle()));
+    return WaitForIt();
+}
+
+void Adjusting::CloseBy(SelPictureForm& editor, HWND window, int button) {
+    EXPECT_TRUE(user::Click(Item(window, button)));
+    EXPECT_TRUE(user::WaitUntilGone(window));
+    Settle(editor);
+}
+
+user::Box Adjusting::PressOkAndAnswer(HWND window) {
+    PostMessageA(Item(window, IDOK), BM_CLICK, 0, 0);
+    const user::Box box = user::AnswerBox(IDOK);
+    SendMessageA(window, WM_NULL, 0, 0);
+    return box;
+}
+
+void Adjusting::TurnTo(HWND window, int page) {
+    const HWND tabs = Item(window, ID_AdjustPages);
+    RECT r{};
+    SendMessageA(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&r));
+    POINT at{(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+    ClientToScreen(tabs, &at);
+    user::ClickAt(at);
+    Await([&] { return SendMessageA(tabs, TCM_GETCURSEL, 0, 0) == page; }, "page turned");
+    SendMessageA(window, WM_NULL, 0, 0);
+}
+
+void Adjusting::Slide(HWND window, int id, int value) {
+    const HWND bar = Item(window, id);
+    SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(bar), TRUE);
+    for (int tries = 0; tries < 200; ++tries) {
+        const int now = static_cast<int>(SendMessageA(bar, TBM_GETPOS, 0, 0));
+        if (now == value) return;
+        const int page = static_cast<int>(SendMessageA(bar, TBM_GETPAGESIZE, 0, 0));
+        const bool many = std::abs(value - now) >= page;
+        // What a key does to a horizontal slider.
+        const WORD key = value > now ? (many ? VK_NEXT : VK_RIGHT) : (many ? VK_PRIOR : VK_LEFT);
+        SendMessageA(bar, WM_KEYDOWN, key, 0);
+        SendMessageA(bar, WM_KEYUP, key, 0);
+    }
+    ADD_FAILURE() << "the slider does not come to " << value;
+}
+
+void Adjusting::Choose(HWND window, int id, int entry) {
+    const HWND combo = Item(window, id);
+    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    SendMessageA(window, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(combo));
+}
+
+void Adjusting::AddLine(HWND window, const std::string& text) {
+    const HWND lines = Item(window, ID_TextLines);
+    const auto count = SendMessageA(lines, LVM_GETITEMCOUNT, 0, 0);
+    EXPECT_TRUE(user::Click(Item(window, ID_BtnAddLine)));
+    Await([&] { return SendMessageA(lines, LVM_GETEDITCONTROL, 0, 0) != 0; }, "label edited");
+    user::Type(text);
+    user::Press(VK_RETURN);
+    Await([&] { return SendMessageA(lines, LVM_GETEDITCONTROL, 0, 0) == 0; }, "label taken");
+    EXPECT_EQ(SendMessageA(lines, LVM_GETITEMCOUNT, 0, 0), count + 1);
+}
+
+SIZE Adjusting::BoxSize(HWND window) {
+    RECT r{};
+    GetClientRect(Item(window, ID_ScreenBox), &r);
+    return {r.right, r.bottom};
+}
+
+POINT Adjusting::OnScreen(HWND window, int x, int y) {
+    const SIZE size = BoxSize(window);
+    POINT at{(2 * x + 1) * size.cx / 640, (2 * y + 1) * size.cy / 800};
+    ClientToScreen(Item(window, ID_ScreenBox), &at);
+    return at;
+}
+
+void Adjusting::DragInBox(HWND window, POINT from, POINT to) {
+    ClientToScreen(Item(window, ID_ScreenBox), &from);
+    ClientToScreen(Item(window, ID_ScreenBox), &to);
+    user::Drag(from, to);
+    SendMessageA(window, WM_NULL, 0, 0);
+}
+
+std::string Adjusting::MadeOf(const std::string& path,
+                              const compose::Composition& composition) const {
+    const std::string file = root + "expected.sys";
+    EXPECT_EQ(compose::MakeScreen(path, file, composition), ConversionResult::Written);
+    return *Contents(file);
+}
+
+COLORREF Adjusting::ColorAt(HWND window, int x, int y) {
+    return seen::PixelAt(OnScreen(window, x, y));
+}
+
+}  // namespace vistrel::test

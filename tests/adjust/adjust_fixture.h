@@ -1,0 +1,57 @@
+// The window "Adjust picture" over the Logo browser, used by mouse and keyboard.
+#pragma once
+
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
+#include <string>
+
+#include "pictures/compose/composition.h"
+#include "tests/editor/editor_fixture.h"
+
+namespace vistrel::test {
+
+class Adjusting : public LogoBrowser {
+ protected:
+    Adjusting();
+
+    // For the user's thread. `window` is the window "Adjust picture".
+
+    /// Selects a picture and opens the window by its button; returns it in front.
+    static HWND OpenOn(SelPictureForm& editor, const std::string& picture);
+    /// Waits for the window, which some command opens, and brings it to the front.
+    static HWND WaitForIt();
+    /// Presses OK or Cancel and waits until the window is gone and the browser has followed.
+    static void CloseBy(SelPictureForm& editor, HWND window, int button);
+    /// Presses OK, which asks or tells something: answers with OK and returns what was said.
+    static user::Box PressOkAndAnswer(HWND window);
+
+    static HWND Item(HWND window, int id) { return GetDlgItem(window, id); }
+    static void Press(HWND window, int id) { SendMessageA(Item(window, id), BM_CLICK, 0, 0); }
+    static bool Enabled(HWND window, int id) { return IsWindowEnabled(Item(window, id)) != 0; }
+    /// Clicks the tab of a page, from 0.
+    static void TurnTo(HWND window, int page);
+    /// Moves the slider of a track bar to a value by its keys.
+    static void Slide(HWND window, int id, int value);
+    /// Chooses an entry of a drop-down list by its arrow keys.
+    static void Choose(HWND window, int id, int entry);
+    /// Adds a line of text by the button and types it.
+    static void AddLine(HWND window, const std::string& text);
+
+    /// A point of the screen that the box shows, told in pixels of the 320 x 400.
+    static POINT OnScreen(HWND window, int x, int y);
+    /// Drags something in the box; the points are told in its own pixels from its corner.
+    static void DragInBox(HWND window, POINT from, POINT to);
+    static SIZE BoxSize(HWND window);
+
+    /// The bytes of the screen that a picture becomes.
+    std::string MadeOf(const std::string& path, const compose::Composition& composition) const;
+    /// What a box shows at a point of the 320 x 400.
+    static COLORREF ColorAt(HWND window, int x, int y);
+
+    /// A wide photograph, in bands.
+    const std::string photo = pictures + "photo.jpg";
+};
+
+}  // namespace vistrel::test
