@@ -7,7 +7,7 @@
 #include "adjust/text_line.h"
 #include "pictures/compose/composition.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
 struct Adjustment {
     std::string source;                ///< path of the picture
@@ -15,4 +15,4 @@ struct Adjustment {
     std::vector<TextLine> lines;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

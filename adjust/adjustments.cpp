@@ -4,11 +4,11 @@
 
 #include "core/generali.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 bool SamePath(const std::string& path, const std::string& other) {
-    return UpperCase(path) == UpperCase(other);
+    return core::UpperCase(path) == core::UpperCase(other);
 }
 
 Adjustment FreshOf(const std::string& picture) {
@@ -45,4 +45,4 @@ void Adjustments::Repoint(const std::function<std::string(const std::string& pat
     for (Entry& entry : entries_) entry.adjustment.source = repointed(entry.adjustment.source);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

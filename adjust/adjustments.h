@@ -8,7 +8,7 @@
 
 #include "adjust/adjustment.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
 class Adjustments {
  public:
@@ -37,4 +37,4 @@ class Adjustments {
     std::vector<Entry> entries_;  ///< the latest last
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

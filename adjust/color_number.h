@@ -3,7 +3,7 @@
 
 #include "pictures/compose/composition.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
 inline long NumberOf(const compose::Color& color) {
     return color.red | color.green << 8 | color.blue << 16;
@@ -14,4 +14,4 @@ inline compose::Color ColorOf(long number) {
             static_cast<std::uint8_t>(number >> 16)};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

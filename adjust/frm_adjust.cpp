@@ -12,7 +12,7 @@
 #include "platform/pointer.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 /// A hand that did not move for so many milliseconds rests.
@@ -29,7 +29,7 @@ FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
       newFile_(std::move(newFile)),
       composition_(start.composition),
       restTimer_(kRest),
-      readyMade_(NewPopUpMenu()) {
+      readyMade_(controls::NewPopUpMenu()) {
     for (const TextLine& line : start.lines) lines_.emplace_back(line);
     composition_.text = MasksOf(lines_);
     AddFrame();
@@ -40,7 +40,7 @@ FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
     restTimer_.Tick = [this] { ShowFinished(); };
 }
 
-FrmAdjust::~FrmAdjust() { FreeMenu(readyMade_); }
+FrmAdjust::~FrmAdjust() { controls::FreeMenu(readyMade_); }
 
 void FrmAdjust::AddRow(const Row& row) {
     Add(row.control, row.id, row.tip);
@@ -60,10 +60,10 @@ void FrmAdjust::AddFrame() {
         {BtnCancel, ID_BtnCancel, kAlways, number::AdjustCancel, "Leaves all as it was"},
     };
     for (const Row& row : rows) AddRow(row);
-    ScreenBox.MouseDown = [this](int button, Point at) { Screen_MouseDown(button, at); };
-    ScreenBox.MouseMove = [this](int button, Point at) { Screen_MouseMove(button, at); };
+    ScreenBox.MouseDown = [this](int button, controls::Point at) { Screen_MouseDown(button, at); };
+    ScreenBox.MouseMove = [this](int button, controls::Point at) { Screen_MouseMove(button, at); };
     // With this the box keeps the mouse while it is dragged beyond the edge.
-    ScreenBox.MouseUp = [](int, Point) {};
+    ScreenBox.MouseUp = [](int, controls::Point) {};
     BtnOriginal.Held = [this](bool down) { ShowHeld(down); };
     AdjustPages.Click = [this] { ShowPage(); };
     BtnOK.Click = [this] { BtnOK_Click(); };
@@ -71,7 +71,7 @@ void FrmAdjust::AddFrame() {
 }
 
 bool FrmAdjust::ReadPicture() {
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     return live_.Read(source_);
 }
 
@@ -117,9 +117,9 @@ void FrmAdjust::ShowSettings() {
 
 // The picture takes the room that the screen has beside the window, in the shape of a screen.
 void FrmAdjust::GrowToScreen() {
-    const Rect area = WorkArea();
-    const Size whole = WholeSize();
-    const Rect place = ScreenBox.Bounds();
+    const controls::Rect area = controls::WorkArea();
+    const controls::Size whole = WholeSize();
+    const controls::Rect place = ScreenBox.Bounds();
     const int edge = place.width - ScreenBox.ScaleWidth();
     const int roomAcross = place.width - edge + std::max(area.width - whole.width, 0);
     const int roomDown = place.height - edge + std::max(area.height - whole.height, 0);
@@ -130,17 +130,17 @@ void FrmAdjust::GrowToScreen() {
     ScreenBox.MoveTo({place.left + (place.width + wider - width - edge) / 2,
                       place.top + (place.height + higher - height - edge) / 2, width + edge,
                       height + edge});
-    const Rect pages = AdjustPages.Bounds();
+    const controls::Rect pages = AdjustPages.Bounds();
     for (const auto& [id, control] : controls()) {
         if (control == &ScreenBox) continue;
-        Rect at = control->Bounds();
+        controls::Rect at = control->Bounds();
         if (at.left >= pages.left) at.left += wider;
         if (at.top >= pages.bottom()) at.top += higher;
         if (control == &AdjustPages) at.height += higher;
         if (control == &LblHint) at.width += wider;
         control->MoveTo(at);
     }
-    const Size client = ClientSize();
+    const controls::Size client = ClientSize();
     SetClientSize({client.width + wider, client.height + higher});
     CentreIn(area);
 }
@@ -156,18 +156,19 @@ void FrmAdjust::TellMissingFonts() {
     std::vector<std::string> missing;
     for (const DrawnLine& line : lines_) {
         const std::string& face = line.line().font.face;
-        if (FaceFor(face) != face && std::count(missing.begin(), missing.end(), face) == 0)
+        if (preview::FaceFor(face) != face && std::count(missing.begin(), missing.end(), face) == 0)
             missing.push_back(face);
     }
     for (const std::string& face : missing)
-        Ask(handle(), "The font " + face + " is not there any more. Another one stands for it.",
-            kExclamationOk);
+        platform::Ask(handle(),
+                      "The font " + face + " is not there any more. Another one stands for it.",
+                      platform::kExclamationOk);
 }
 
 void FrmAdjust::ShowPage() {
     bool focusGoes = false;
     for (int page = kFraming; page <= kText; ++page) {
-        for (Control* control : pages_[page]) {
+        for (controls::Control* control : pages_[page]) {
             focusGoes |= page != CurrentPage() && control->HasFocus();
             control->SetVisible(page == CurrentPage());
         }
@@ -179,7 +180,7 @@ void FrmAdjust::ShowPage() {
 void FrmAdjust::ShowPossible() {
     // What is hidden is disabled too: its access key would still act.
     for (int page = kFraming; page <= kText; ++page)
-        for (Control* control : pages_[page])
+        for (controls::Control* control : pages_[page])
             control->SetEnabled(page == CurrentPage() && IsPossible(*control));
     ScreenBox.SetMovable(CurrentPage() == kText
                              ? !lines_.empty()
@@ -188,9 +189,9 @@ void FrmAdjust::ShowPossible() {
     LblHint.SetText(Hint());
 }
 
-bool FrmAdjust::IsPossible(const Control& control) const {
+bool FrmAdjust::IsPossible(const controls::Control& control) const {
     const compose::Framing& framing = composition_.framing;
-    const auto isOneOf = [&](std::initializer_list<const Control*> some) {
+    const auto isOneOf = [&](std::initializer_list<const controls::Control*> some) {
         return std::find(some.begin(), some.end(), &control) != some.end();
     };
     if (isOneOf({&LblZoom, &LblZoomValue, &ZoomBar}))
@@ -223,46 +224,47 @@ std::string FrmAdjust::Hint() const {
 bool FrmAdjust::Form_KeyDown(int key) {
     if (AdjustPages.TurnPage(key)) return true;
     if (!ScreenBox.HasFocus()) return false;
-    if (key == kKeyLeft) MoveByArrow(-1, 0);
-    if (key == kKeyRight) MoveByArrow(1, 0);
-    if (key == kKeyUp) MoveByArrow(0, -1);
-    if (key == kKeyDown) MoveByArrow(0, 1);
-    return key >= kKeyLeft && key <= kKeyDown;
+    if (key == controls::kKeyLeft) MoveByArrow(-1, 0);
+    if (key == controls::kKeyRight) MoveByArrow(1, 0);
+    if (key == controls::kKeyUp) MoveByArrow(0, -1);
+    if (key == controls::kKeyDown) MoveByArrow(0, 1);
+    return key >= controls::kKeyLeft && key <= controls::kKeyDown;
 }
 
 bool FrmAdjust::IsPictureAsItWas() {
     const auto size = compose::SizeOfPicture(source_);
     if (!size) {
-        Ask(handle(),
+        platform::Ask(
+            handle(),
             source_ + " cannot be read any more. When it is back in its place, press OK again.",
-            kExclamationOk);
+            platform::kExclamationOk);
         return false;
     }
     if (*size == live_.FileSize()) return true;
     if (live_.Read(source_)) ShowFinished();
-    Ask(handle(), source_ + " has changed. Look whether it is still framed as you like.",
-        kExclamationOk);
+    platform::Ask(handle(), source_ + " has changed. Look whether it is still framed as you like.",
+                  platform::kExclamationOk);
     return false;
 }
 
 void FrmAdjust::BtnOK_Click() {
     if (!IsPictureAsItWas()) return;
     const std::string file = newFile_();
-    auto result = ConversionResult::NotWritten;
+    auto result = pictures::ConversionResult::NotWritten;
     if (!file.empty()) {
-        const BusyPointer busy;
+        const platform::BusyPointer busy;
         result = compose::MakeScreen(source_, file, composition_);
     }
-    if (result == ConversionResult::Written) {
+    if (result == pictures::ConversionResult::Written) {
         screen_ = file;
         Unload();
         return;
     }
-    Ask(handle(),
-        result == ConversionResult::NotWritten
-            ? "The screen cannot be written. The disk of temporary files may be full."
-            : "The screen cannot be made. There may not be enough memory.",
-        kExclamationOk);
+    platform::Ask(handle(),
+                  result == pictures::ConversionResult::NotWritten
+                      ? "The screen cannot be written. The disk of temporary files may be full."
+                      : "The screen cannot be made. There may not be enough memory.",
+                  platform::kExclamationOk);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -21,9 +21,9 @@
 #include "controls/track_bar.h"
 #include "controls/window.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
-class FrmAdjust : public Window {
+class FrmAdjust : public controls::Window {
  public:
     /// Makes an empty file for the finished screen; empty when there is no room for one.
     using NewFile = std::function<std::string()>;
@@ -39,46 +39,46 @@ class FrmAdjust : public Window {
     const std::string& Screen() const { return screen_; }
     Adjustment Settings() const;
 
-    PictureBox ScreenBox;
-    HoldButton BtnOriginal;
-    Label LblHint;
-    TabStrip AdjustPages;
-    Button BtnOK;
-    Button BtnCancel;
+    controls::PictureBox ScreenBox;
+    controls::HoldButton BtnOriginal;
+    controls::Label LblHint;
+    controls::TabStrip AdjustPages;
+    controls::Button BtnOK;
+    controls::Button BtnCancel;
 
-    OptionButton OptFraming[3];  ///< in the order of compose::FramingKind
-    Label LblZoom;
-    Label LblZoomValue;
-    TrackBar ZoomBar;
-    Label LblBorder;
-    ComboBox BorderKind;
-    Label BorderSwatch;
-    Button BtnBorderColor;
-    Button BtnTurnLeft;
-    Button BtnTurnRight;
-    CheckBox ChkMirror;
+    controls::OptionButton OptFraming[3];  ///< in the order of compose::FramingKind
+    controls::Label LblZoom;
+    controls::Label LblZoomValue;
+    controls::TrackBar ZoomBar;
+    controls::Label LblBorder;
+    controls::ComboBox BorderKind;
+    controls::Label BorderSwatch;
+    controls::Button BtnBorderColor;
+    controls::Button BtnTurnLeft;
+    controls::Button BtnTurnRight;
+    controls::CheckBox ChkMirror;
 
-    Label LblLight[4];  ///< brightness, contrast, gamma, saturation
-    Label LblLightValue[4];
-    TrackBar LightBar[4];
-    CheckBox ChkAuto;
-    Label LblDither;
-    ComboBox DitherKind;
-    Button BtnReset;
+    controls::Label LblLight[4];  ///< brightness, contrast, gamma, saturation
+    controls::Label LblLightValue[4];
+    controls::TrackBar LightBar[4];
+    controls::CheckBox ChkAuto;
+    controls::Label LblDither;
+    controls::ComboBox DitherKind;
+    controls::Button BtnReset;
 
-    Label LblLines;
-    ListView TextLines;
-    Button BtnAddLine;
-    Button BtnEditLine;
-    Button BtnDeleteLine;
-    Button BtnReadyMade;
-    Button BtnFont;
-    Button BtnTextColor;
-    Label TextSwatch;
-    Label LblEdge;
-    ComboBox EdgeKind;
-    Label LblAlign;
-    ComboBox AlignKind;
+    controls::Label LblLines;
+    controls::ListView TextLines;
+    controls::Button BtnAddLine;
+    controls::Button BtnEditLine;
+    controls::Button BtnDeleteLine;
+    controls::Button BtnReadyMade;
+    controls::Button BtnFont;
+    controls::Button BtnTextColor;
+    controls::Label TextSwatch;
+    controls::Label LblEdge;
+    controls::ComboBox EdgeKind;
+    controls::Label LblAlign;
+    controls::ComboBox AlignKind;
 
  protected:
     void Form_Load() override;
@@ -86,14 +86,14 @@ class FrmAdjust : public Window {
     void SessionEnds() override {}
     bool Form_KeyDown(int key) override;
     void Form_KeyPress(char character) override;
-    bool Form_MouseWheel(int turned, Point screen) override;
+    bool Form_MouseWheel(int turned, controls::Point screen) override;
     void MenuCommand(int id) override;
 
  private:
     /// Pages, as the tabs are numbered; what stands on none is always there.
     enum Page { kAlways = 0, kFraming = 1, kLight = 2, kText = 3 };
     struct Row {
-        Control& control;
+        controls::Control& control;
         int id;
         Page page;
         unsigned long help;
@@ -112,7 +112,7 @@ class FrmAdjust : public Window {
     void ShowPage();
     /// Enables what can be done now, and says how.
     void ShowPossible();
-    bool IsPossible(const Control& control) const;
+    bool IsPossible(const controls::Control& control) const;
     std::string Hint() const;
     void BtnOK_Click();
     bool IsPictureAsItWas();
@@ -123,16 +123,16 @@ class FrmAdjust : public Window {
     void ShowQuick();
     void ShowFinished();
     void ShowHeld(bool original);
-    void Screen_MouseDown(int button, Point at);
-    void Screen_MouseMove(int button, Point at);
-    Point ToScreen(Point at) const;
+    void Screen_MouseDown(int button, controls::Point at);
+    void Screen_MouseMove(int button, controls::Point at);
+    controls::Point ToScreen(controls::Point at) const;
     void TakeFraming(const compose::Framing& framing);
     void MoveByArrow(int across, int down);
 
     // Framing
     void OptFraming_Click(compose::FramingKind kind);
     void ZoomBar_Change();
-    void Zoom(int steps, Point at);
+    void Zoom(int steps, controls::Point at);
     void ShowZoom();
     void BorderKind_Click();
     void BtnBorderColor_Click();
@@ -160,7 +160,7 @@ class FrmAdjust : public Window {
     /// Draws the selected line anew after `change`.
     void ChangeLine(const std::function<void(TextLine&)>& change);
     void LinesChanged();
-    void GrabLine(Point screen);
+    void GrabLine(controls::Point screen);
 
     std::string source_;
     NewFile newFile_;
@@ -168,16 +168,16 @@ class FrmAdjust : public Window {
     LiveScreen live_;
     compose::Composition composition_;  ///< as it is now, with the lines' masks
     std::vector<DrawnLine> lines_;
-    std::vector<Control*> pages_[4];
-    Timer restTimer_;
-    MenuHandle readyMade_;
+    std::vector<controls::Control*> pages_[4];
+    controls::Timer restTimer_;
+    platform::MenuHandle readyMade_;
     bool fontsTold_ = false;
 
     // While something is dragged
-    Point pressedAt_;            ///< in the box
+    controls::Point pressedAt_;  ///< in the box
     compose::Framing pressed_;   ///< what the framing was then
-    Point grabbed_;              ///< from the pointer to the line's place, in pixels of the screen
+    controls::Point grabbed_;    ///< from the pointer to the line's place, in pixels of the screen
     bool draggingLine_ = false;  ///< the selected one
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -8,7 +8,7 @@
 #include "platform/look_dialogs.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 // The slider doubles the picture every so many of its steps.
@@ -82,11 +82,11 @@ void FrmAdjust::ShowZoom() {
 
 void FrmAdjust::ZoomBar_Change() {
     const int steps = ZoomBar.Value() - StepsOf(composition_.framing.zoom);
-    if (steps != 0) Zoom(steps, {kLogoWidth / 2, kLogoHeight / 2});
+    if (steps != 0) Zoom(steps, {pictures::kLogoWidth / 2, pictures::kLogoHeight / 2});
 }
 
 // What is at a point of the screen stays there.
-void FrmAdjust::Zoom(int steps, Point at) {
+void FrmAdjust::Zoom(int steps, controls::Point at) {
     const int now = std::clamp(StepsOf(composition_.framing.zoom) + steps, 0, kZoomSteps);
     TakeFraming(
         compose::ZoomedAt(live_.TurnedSize(composition_), composition_, ZoomOf(now), at.x, at.y));
@@ -96,15 +96,15 @@ void FrmAdjust::Zoom(int steps, Point at) {
 void FrmAdjust::Form_KeyPress(char character) {
     if (CurrentPage() != kFraming || composition_.framing.kind != compose::FramingKind::Fill)
         return;
-    if (character == '+') Zoom(kStepsOfKey, {kLogoWidth / 2, kLogoHeight / 2});
-    if (character == '-') Zoom(-kStepsOfKey, {kLogoWidth / 2, kLogoHeight / 2});
+    if (character == '+') Zoom(kStepsOfKey, {pictures::kLogoWidth / 2, pictures::kLogoHeight / 2});
+    if (character == '-') Zoom(-kStepsOfKey, {pictures::kLogoWidth / 2, pictures::kLogoHeight / 2});
 }
 
-bool FrmAdjust::Form_MouseWheel(int turned, Point screen) {
+bool FrmAdjust::Form_MouseWheel(int turned, controls::Point screen) {
     if (CurrentPage() != kFraming || composition_.framing.kind != compose::FramingKind::Fill ||
         ControlAt(screen) != &ScreenBox)
         return false;
-    const Point corner = ScreenBox.OnScreen({0, 0});
+    const controls::Point corner = ScreenBox.OnScreen({0, 0});
     Zoom(turned * kStepsOfKey / kNotch, ToScreen({screen.x - corner.x, screen.y - corner.y}));
     return true;
 }
@@ -117,7 +117,7 @@ void FrmAdjust::BorderKind_Click() {
 
 void FrmAdjust::BtnBorderColor_Click() {
     compose::Color& color = composition_.framing.borderColor;
-    const auto chosen = PickColor(handle(), NumberOf(color));
+    const auto chosen = platform::PickColor(handle(), NumberOf(color));
     if (!chosen) return;
     color = ColorOf(*chosen);
     ShowZoom();
@@ -143,4 +143,4 @@ void FrmAdjust::ChkMirror_Click() {
     Changed();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

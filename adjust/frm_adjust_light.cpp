@@ -6,7 +6,7 @@
 #include "help/context_numbers.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 constexpr int kGamma = 2;
@@ -58,7 +58,7 @@ void FrmAdjust::AddLight() {
         Changed();
     };
     DitherKind.Click = [this] {
-        composition_.dither = static_cast<Dither>(DitherKind.ListIndex());
+        composition_.dither = static_cast<reduce::Dither>(DitherKind.ListIndex());
         Changed();
     };
     BtnReset.Click = [this] { BtnReset_Click(); };
@@ -97,9 +97,9 @@ void FrmAdjust::LightBar_Change() {
 
 void FrmAdjust::BtnReset_Click() {
     composition_.light = {};
-    composition_.dither = Dither::On;
+    composition_.dither = reduce::Dither::On;
     ShowLight();
     Changed();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

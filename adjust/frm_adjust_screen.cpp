@@ -4,11 +4,11 @@
 #include "pictures/preview/draw_preview.h"
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 /// Turns every fourth pixel of a line white and the two behind it black.
-void DrawDots(RgbPicture& screen, int x, int y, int across, int down) {
+void DrawDots(pictures::RgbPicture& screen, int x, int y, int across, int down) {
     for (int i = 0; x < screen.width && y < screen.height; x += across, y += down, ++i) {
         std::uint8_t* pixel = &screen.pixels[(std::size_t(y) * screen.width + x) * 3];
         if (i % 4 == 0) pixel[0] = pixel[1] = pixel[2] = 255;
@@ -17,7 +17,7 @@ void DrawDots(RgbPicture& screen, int x, int y, int across, int down) {
 }
 
 /// Where a dragged line of text stops by itself: the middle, and the margin that a tube hides.
-void DrawGuides(RgbPicture& screen) {
+void DrawGuides(pictures::RgbPicture& screen) {
     for (const int x : {kMarginAcross, screen.width / 2, screen.width - kMarginAcross})
         DrawDots(screen, x, 0, 0, 1);
     for (const int y : {kMarginDown, screen.height / 2, screen.height - kMarginDown})
@@ -33,57 +33,57 @@ void FrmAdjust::Changed() {
 }
 
 void FrmAdjust::ShowQuick() {
-    RgbPicture screen = live_.Quick(composition_);
+    pictures::RgbPicture screen = live_.Quick(composition_);
     if (draggingLine_) DrawGuides(screen);
-    DrawPicture(screen, ScreenBox);
+    preview::DrawPicture(screen, ScreenBox);
 }
 
 void FrmAdjust::ShowFinished() {
     restTimer_.SetEnabled(false);
-    DrawPicture(
-        Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight()),
-        ScreenBox);
+    preview::DrawPicture(scale::Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(),
+                                       ScreenBox.ScaleHeight()),
+                         ScreenBox);
 }
 
 void FrmAdjust::ShowHeld(bool original) {
     if (!original) return ShowFinished();
     restTimer_.SetEnabled(false);
-    DrawPicture(
-        Resize(live_.Original(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight()),
-        ScreenBox);
+    preview::DrawPicture(scale::Resize(live_.Original(composition_), ScreenBox.ScaleWidth(),
+                                       ScreenBox.ScaleHeight()),
+                         ScreenBox);
 }
 
-Point FrmAdjust::ToScreen(Point at) const {
-    return {at.x * kLogoWidth / ScreenBox.ScaleWidth(),
-            at.y * kLogoHeight / ScreenBox.ScaleHeight()};
+controls::Point FrmAdjust::ToScreen(controls::Point at) const {
+    return {at.x * pictures::kLogoWidth / ScreenBox.ScaleWidth(),
+            at.y * pictures::kLogoHeight / ScreenBox.ScaleHeight()};
 }
 
-void FrmAdjust::Screen_MouseDown(int button, Point at) {
+void FrmAdjust::Screen_MouseDown(int button, controls::Point at) {
     ScreenBox.Focus();
-    if (button != kLeftButton) return;
+    if (button != controls::kLeftButton) return;
     pressedAt_ = at;
     pressed_ = composition_.framing;
     draggingLine_ = false;
     if (CurrentPage() == kText) GrabLine(ToScreen(at));
 }
 
-void FrmAdjust::Screen_MouseMove(int button, Point at) {
-    if (button != kLeftButton) {
+void FrmAdjust::Screen_MouseMove(int button, controls::Point at) {
+    if (button != controls::kLeftButton) {
         draggingLine_ = false;
         return;
     }
     if (draggingLine_) {
-        const Point to = ToScreen(at);
+        const controls::Point to = ToScreen(at);
         DrawnLine& line = lines_[*SelectedLine()];
         line.MoveNear(to.x + grabbed_.x, to.y + grabbed_.y);
         LinesChanged();
     } else if (CurrentPage() == kFraming) {
         // From where the hand began, so that nothing is lost by rounding on the way.
         composition_.framing = pressed_;
-        TakeFraming(
-            compose::MovedBy(live_.TurnedSize(composition_), composition_,
-                             double(at.x - pressedAt_.x) * kLogoWidth / ScreenBox.ScaleWidth(),
-                             double(at.y - pressedAt_.y) * kLogoHeight / ScreenBox.ScaleHeight()));
+        TakeFraming(compose::MovedBy(
+            live_.TurnedSize(composition_), composition_,
+            double(at.x - pressedAt_.x) * pictures::kLogoWidth / ScreenBox.ScaleWidth(),
+            double(at.y - pressedAt_.y) * pictures::kLogoHeight / ScreenBox.ScaleHeight()));
     }
 }
 
@@ -101,4 +101,4 @@ void FrmAdjust::MoveByArrow(int across, int down) {
     LinesChanged();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -10,7 +10,7 @@
 #include "platform/look_dialogs.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 /// What one may want to say on a wait screen and, behind the gap, on a shutdown screen.
@@ -27,7 +27,7 @@ constexpr const char* kReadyLines[] = {"One moment, please...",
 constexpr const char* kNewLine = "New line";
 
 /// Where the first line comes to stand: in the lower third, as a caption does.
-constexpr int kFirstLine = kLogoHeight * 5 / 6;
+constexpr int kFirstLine = pictures::kLogoHeight * 5 / 6;
 
 }  // namespace
 
@@ -57,9 +57,9 @@ void FrmAdjust::AddText() {
     int id = ID_ReadyLine;
     for (const char* line : kReadyLines) {
         if (line)
-            AddMenuItem(readyMade_, id, line);
+            controls::AddMenuItem(readyMade_, id, line);
         else
-            AddMenuSeparator(readyMade_);
+            controls::AddMenuSeparator(readyMade_);
         ++id;
     }
 }
@@ -75,8 +75,8 @@ void FrmAdjust::ConnectText() {
     TextLines.DblClick = [this] { TextLines.StartLabelEdit(); };
     TextLines.KeyUp = [this](int key) {
         if (TextLines.EditingLabel() || !SelectedLine()) return;
-        if (key == kKeyF2) TextLines.StartLabelEdit();
-        if (key == kKeyDelete) BtnDeleteLine_Click();
+        if (key == controls::kKeyF2) TextLines.StartLabelEdit();
+        if (key == controls::kKeyDelete) BtnDeleteLine_Click();
     };
     BtnAddLine.Click = [this] { BtnAddLine_Click(); };
     BtnEditLine.Click = [this] { TextLines.StartLabelEdit(); };
@@ -119,12 +119,12 @@ void FrmAdjust::ShowLine() {
 // A new line looks like the last one and stands below it, as long as there is room.
 void FrmAdjust::AddLine(const std::string& text) {
     TextLine line;
-    line.font.face = FaceFor(line.font.face);
+    line.font.face = preview::FaceFor(line.font.face);
     line.y = kFirstLine;
     if (!lines_.empty()) {
         const DrawnLine& last = lines_.back();
         line = last.line();
-        line.y = std::min(line.y + last.mask().letters.height, kLogoHeight - kMarginDown);
+        line.y = std::min(line.y + last.mask().letters.height, pictures::kLogoHeight - kMarginDown);
     }
     line.text = text;
     lines_.emplace_back(line);
@@ -150,7 +150,7 @@ void FrmAdjust::BtnDeleteLine_Click() {
 }
 
 void FrmAdjust::BtnReadyMade_Click() {
-    const Rect button = BtnReadyMade.ScreenBounds();
+    const controls::Rect button = BtnReadyMade.ScreenBounds();
     PopUpMenu(readyMade_, {button.left, button.bottom()});
 }
 
@@ -181,12 +181,13 @@ void FrmAdjust::ChangeLine(const std::function<void(TextLine&)>& change) {
 }
 
 void FrmAdjust::BtnFont_Click() {
-    const auto chosen = PickFont(handle(), lines_[*SelectedLine()].line().font);
+    const auto chosen = platform::PickFont(handle(), lines_[*SelectedLine()].line().font);
     if (chosen) ChangeLine([&](TextLine& line) { line.font = *chosen; });
 }
 
 void FrmAdjust::BtnTextColor_Click() {
-    const auto chosen = PickColor(handle(), NumberOf(lines_[*SelectedLine()].line().color));
+    const auto chosen =
+        platform::PickColor(handle(), NumberOf(lines_[*SelectedLine()].line().color));
     if (chosen) ChangeLine([&](TextLine& line) { line.color = ColorOf(*chosen); });
 }
 
@@ -197,7 +198,7 @@ void FrmAdjust::LinesChanged() {
 }
 
 // Of lines that lie over each other the uppermost one, which was painted last.
-void FrmAdjust::GrabLine(Point screen) {
+void FrmAdjust::GrabLine(controls::Point screen) {
     for (std::size_t i = lines_.size(); i-- > 0;) {
         if (!lines_[i].Covers(screen.x, screen.y)) continue;
         SelectLine(i);
@@ -207,4 +208,4 @@ void FrmAdjust::GrabLine(Point screen) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

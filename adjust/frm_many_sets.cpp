@@ -6,7 +6,7 @@
 #include "help/context_numbers.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 constexpr unsigned kBetweenPictures = 10;
@@ -15,7 +15,7 @@ std::string Counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-std::string NameOf(std::string path) { return GetFileName(path); }
+std::string NameOf(std::string path) { return core::GetFileName(path); }
 
 }  // namespace
 
@@ -48,8 +48,9 @@ std::vector<std::string> FrmManySets::Made() const {
 }
 
 void FrmManySets::Form_Load() {
-    for (OptionButton& option : OptFraming) option.SetHelpNumber(help_number::ManyFraming);
-    for (OptionButton& option : OptKind) option.SetHelpNumber(help_number::ManyKind);
+    for (controls::OptionButton& option : OptFraming)
+        option.SetHelpNumber(help_number::ManyFraming);
+    for (controls::OptionButton& option : OptKind) option.SetHelpNumber(help_number::ManyKind);
     Progress.SetHelpNumber(help_number::ManyProgress);
     LeftOut.SetHelpNumber(help_number::ManyLeftOut);
     BtnMakeSets.SetHelpNumber(help_number::ManyMake);
@@ -61,13 +62,14 @@ void FrmManySets::Form_Load() {
 }
 
 void FrmManySets::BtnMakeSets_Click() {
-    sets_.emplace(
-        library_, pictures_,
-        OptKind[0].Value() ? PictureSetKind::StartupOnly : PictureSetKind::ThreeToComplete,
-        OptFraming[0].Value() ? compose::FramingKind::Fill : compose::FramingKind::Fit);
+    sets_.emplace(library_, pictures_,
+                  OptKind[0].Value() ? core::PictureSetKind::StartupOnly
+                                     : core::PictureSetKind::ThreeToComplete,
+                  OptFraming[0].Value() ? compose::FramingKind::Fill : compose::FramingKind::Fit);
     // Before the button, which has the focus, cannot have it any more.
     BtnClose.Focus();
-    EnableControls(false, BtnMakeSets, OptFraming[0], OptFraming[1], OptKind[0], OptKind[1]);
+    controls::EnableControls(false, BtnMakeSets, OptFraming[0], OptFraming[1], OptKind[0],
+                             OptKind[1]);
     LblDone.SetText(NameOf(pictures_.front()));
     step_.SetEnabled(true);
 }
@@ -110,4 +112,4 @@ void FrmManySets::ShowLeftOut() {
         LeftOut.AddItem(NameOf(picture) + ": its set cannot be written");
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

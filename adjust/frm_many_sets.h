@@ -14,9 +14,9 @@
 #include "controls/window.h"
 #include "core/picture_sets.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
-class FrmManySets : public Window {
+class FrmManySets : public controls::Window {
  public:
     /// `library` is the logo folder and ends in a backslash; `pictures` are paths.
     FrmManySets(std::string library, std::vector<std::string> pictures);
@@ -24,17 +24,17 @@ class FrmManySets : public Window {
     /// Once the window is closed: the names of the sets that were made.
     std::vector<std::string> Made() const;
 
-    Label LblMany;
-    Frame FrameFraming;
-    OptionButton OptFraming[2];  ///< fill, fit
-    Frame FrameKind;
-    OptionButton OptKind[2];  ///< in the order of PictureSetKind
-    Label LblDone;
-    ProgressBar Progress;
-    Label LblLeftOut;
-    ListBox LeftOut;
-    Button BtnMakeSets;
-    Button BtnClose;
+    controls::Label LblMany;
+    controls::Frame FrameFraming;
+    controls::OptionButton OptFraming[2];  ///< fill, fit
+    controls::Frame FrameKind;
+    controls::OptionButton OptKind[2];  ///< in the order of PictureSetKind
+    controls::Label LblDone;
+    controls::ProgressBar Progress;
+    controls::Label LblLeftOut;
+    controls::ListBox LeftOut;
+    controls::Button BtnMakeSets;
+    controls::Button BtnClose;
 
  protected:
     void Form_Load() override;
@@ -50,8 +50,8 @@ class FrmManySets : public Window {
 
     std::string library_;
     std::vector<std::string> pictures_;
-    std::optional<PictureSets> sets_;
-    Timer step_;  ///< a picture a tick: in between the window does what the user wants
+    std::optional<core::PictureSets> sets_;
+    controls::Timer step_;  ///< a picture a tick: in between the window does what the user wants
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
-RgbPicture InColors(const IndexedScreen& screen) {
-    RgbPicture picture{screen.width, screen.height, {}};
+pictures::RgbPicture InColors(const screen::IndexedScreen& screen) {
+    pictures::RgbPicture picture{screen.width, screen.height, {}};
     picture.pixels.reserve(screen.indices.size() * 3);
     for (const std::uint8_t index : screen.indices)
         picture.pixels.insert(picture.pixels.end(), screen.palette[index].begin(),
@@ -24,7 +24,7 @@ bool LiveScreen::Read(const std::string& path) {
     return true;
 }
 
-PictureSize LiveScreen::TurnedSize(const compose::Composition& composition) const {
+pictures::PictureSize LiveScreen::TurnedSize(const compose::Composition& composition) const {
     return compose::SizeWhenTurned(read_->file, composition.orientation);
 }
 
@@ -39,22 +39,22 @@ void LiveScreen::Keep(compose::Framed framed, const compose::Composition& compos
     fine_ = fine;
 }
 
-RgbPicture LiveScreen::Quick(const compose::Composition& composition) {
+pictures::RgbPicture LiveScreen::Quick(const compose::Composition& composition) {
     if (!Holds(composition)) Keep(compose::Frame(*read_, composition), composition, false);
     return compose::Adjust(*framed_, composition);
 }
 
-RgbPicture LiveScreen::Finished(const compose::Composition& composition) {
+pictures::RgbPicture LiveScreen::Finished(const compose::Composition& composition) {
     if (!Holds(composition) || !fine_)
         Keep(compose::FrameFinely(*read_, composition), composition, true);
-    RgbPicture screen = compose::Adjust(*framed_, composition);
+    pictures::RgbPicture screen = compose::Adjust(*framed_, composition);
     const auto reduced = compose::Reduce(screen, composition.dither);
     return reduced ? InColors(*reduced) : std::move(screen);
 }
 
-const RgbPicture& LiveScreen::Original(const compose::Composition& composition) {
+const pictures::RgbPicture& LiveScreen::Original(const compose::Composition& composition) {
     if (!Holds(composition)) Keep(compose::Frame(*read_, composition), composition, false);
     return framed_->screen;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

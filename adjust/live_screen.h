@@ -7,23 +7,23 @@
 
 #include "pictures/compose/stages.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
 class LiveScreen {
  public:
     /// Reads the picture. False when it cannot be read; what was read before then stays.
     bool Read(const std::string& path);
 
-    PictureSize FileSize() const { return read_->file; }
-    PictureSize TurnedSize(const compose::Composition& composition) const;
+    pictures::PictureSize FileSize() const { return read_->file; }
+    pictures::PictureSize TurnedSize(const compose::Composition& composition) const;
 
     /// At once, in all its colours.
-    RgbPicture Quick(const compose::Composition& composition);
+    pictures::RgbPicture Quick(const compose::Composition& composition);
     /// In its 256 colours, by the filter of conversions; for when the hand rests. Without memory
     /// for that it is as Quick gives it.
-    RgbPicture Finished(const compose::Composition& composition);
+    pictures::RgbPicture Finished(const compose::Composition& composition);
     /// The same part of the picture without light, text and reduction.
-    const RgbPicture& Original(const compose::Composition& composition);
+    const pictures::RgbPicture& Original(const compose::Composition& composition);
 
  private:
     bool Holds(const compose::Composition& composition) const;
@@ -37,4 +37,4 @@ class LiveScreen {
     bool fine_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

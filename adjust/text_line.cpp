@@ -6,7 +6,7 @@
 #include "pictures/compose/text.h"
 #include "pictures/preview/draw_letters.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 namespace {
 
 /// How near a hand must come, in pixels of the screen; as far on the screen, down as across.
@@ -30,7 +30,7 @@ int Snapped(int place, const std::array<int, 3>& places, int near) {
 }  // namespace
 
 DrawnLine::DrawnLine(const TextLine& line) : line_(line) {
-    Letters letters = DrawLetters(line.text, line.font);
+    preview::Letters letters = preview::DrawLetters(line.text, line.font);
     width_ = letters.width;
     height_ = letters.height;
     inkLeft_ = letters.mask.left;
@@ -65,19 +65,22 @@ void DrawnLine::MoveTo(int x, int y) {
 
 void DrawnLine::Align(Alignment alignment) {
     line_.alignment = alignment;
-    const int places[] = {kMarginAcross, kLogoWidth / 2, kLogoWidth - kMarginAcross};
+    const int places[] = {kMarginAcross, pictures::kLogoWidth / 2,
+                          pictures::kLogoWidth - kMarginAcross};
     MoveTo(places[static_cast<int>(alignment)], line_.y);
 }
 
 void DrawnLine::MoveNear(int x, int y) {
     const int left = LeftAt(x);
-    const int snapped = Snapped(
-        left, {kLogoWidth / 2 - width_ / 2, kMarginAcross, kLogoWidth - kMarginAcross - width_},
-        kNearAcross);
+    const int snapped = Snapped(left,
+                                {pictures::kLogoWidth / 2 - width_ / 2, kMarginAcross,
+                                 pictures::kLogoWidth - kMarginAcross - width_},
+                                kNearAcross);
     const int half = height_ / 2;
-    MoveTo(x + snapped - left,
-           Snapped(y, {kLogoHeight / 2, kMarginDown + half, kLogoHeight - kMarginDown - half},
-                   kNearDown));
+    MoveTo(x + snapped - left, Snapped(y,
+                                       {pictures::kLogoHeight / 2, kMarginDown + half,
+                                        pictures::kLogoHeight - kMarginDown - half},
+                                       kNearDown));
 }
 
 bool DrawnLine::Covers(int x, int y) const {
@@ -92,4 +95,4 @@ std::vector<compose::TextMask> MasksOf(const std::vector<DrawnLine>& lines) {
     return masks;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -8,7 +8,7 @@
 #include "pictures/convert.h"
 #include "platform/text_font.h"
 
-namespace vistrel {
+namespace vistrel::adjust {
 
 /// What makes letters stand out from any picture.
 enum class LetterEdge { None, Outline, Shadow };
@@ -17,18 +17,18 @@ enum class LetterEdge { None, Outline, Shadow };
 enum class Alignment { Left, Centre, Right };
 
 /// A tube hides a twentieth of the screen at each side: text keeps away from there.
-inline constexpr int kMarginAcross = kLogoWidth / 20;
-inline constexpr int kMarginDown = kLogoHeight / 20;
+inline constexpr int kMarginAcross = pictures::kLogoWidth / 20;
+inline constexpr int kMarginDown = pictures::kLogoHeight / 20;
 
 struct TextLine {
     std::string text;
-    TextFont font;
+    platform::TextFont font;
     compose::Color color{255, 255, 255};
     LetterEdge edge = LetterEdge::Outline;
     Alignment alignment = Alignment::Centre;
-    int x =
-        kLogoWidth / 2;  ///< of its left end, its middle or its right end, in pixels of the screen
-    int y = kLogoHeight / 2;  ///< of its middle
+    int x = pictures::kLogoWidth /
+            2;  ///< of its left end, its middle or its right end, in pixels of the screen
+    int y = pictures::kLogoHeight / 2;  ///< of its middle
     bool operator==(const TextLine&) const = default;
 };
 
@@ -64,4 +64,4 @@ class DrawnLine {
 /// What lies over the picture, in the order of painting.
 std::vector<compose::TextMask> MasksOf(const std::vector<DrawnLine>& lines);
 
-}  // namespace vistrel
+}  // namespace vistrel::adjust

@@ -13,33 +13,34 @@
 #include "core/synchronizing.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::companions {
 
 namespace {
 
 /// The logo folder that is stored, the program's own where none is. Nothing when one is stored that
 /// is not there or cannot be read: its drive may be away for this one start. The settings then name
 /// the program's folder, which is right only where somebody can see it.
-std::optional<std::string> LogoFolder(const SystemLocations& locations) {
-    RegistryKey key;
-    RegistryValue value;
-    RegistryStatus status = key.Open(Hive::LocalMachine, kSettingsKey);
-    if (status == 0) status = QueryValueEx(key, "LogoPath", value);
-    if (status > 0 && status != kRegistryNotThere) return std::nullopt;
-    const std::string stored = CutAtNul(TextOf(value));
+std::optional<std::string> LogoFolder(const core::SystemLocations& locations) {
+    platform::RegistryKey key;
+    core::RegistryValue value;
+    platform::RegistryStatus status = key.Open(platform::Hive::LocalMachine, core::kSettingsKey);
+    if (status == 0) status = core::QueryValueEx(key, "LogoPath", value);
+    if (status > 0 && status != platform::kRegistryNotThere) return std::nullopt;
+    const std::string stored = core::CutAtNul(core::TextOf(value));
     if (stored.empty()) return locations.programFolder;
-    if (!IsFolder(AddBackslash(stored))) return std::nullopt;
-    return AddBackslash(stored);
+    if (!platform::IsFolder(core::AddBackslash(stored))) return std::nullopt;
+    return core::AddBackslash(stored);
 }
 
 bool HasStartupScreen(const std::string& logoFolder, const std::string& setName) {
-    return FileExists(LogoSet{logoFolder, setName}.Screens()[0], kHiddenFile | kSystemFile);
+    return core::FileExists(core::LogoSet{logoFolder, setName}.Screens()[0],
+                            platform::kHiddenFile | platform::kSystemFile);
 }
 
 /// Chooses again until it is a set that can be installed: one with a startup screen. Empty when
 /// there is none.
-std::optional<std::string> ChooseUsable(const SetChooser& choose, const Settings& settings) {
-    std::vector<std::string> sets = LogoSetNames(settings.logoPath);
+std::optional<std::string> ChooseUsable(const SetChooser& choose, const core::Settings& settings) {
+    std::vector<std::string> sets = core::LogoSetNames(settings.logoPath);
     while (!sets.empty()) {
         const std::string chosen = choose(sets, settings.defaultLogoSet);
         if (HasStartupScreen(settings.logoPath, chosen)) return chosen;
@@ -49,10 +50,10 @@ std::optional<std::string> ChooseUsable(const SetChooser& choose, const Settings
 }
 
 /// Installs a set as InstallLogoSet does, but so that a power cut leaves no screen half written.
-bool InstallSafely(const std::string& setName, const Settings& settings,
-                   const SystemLocations& locations) {
-    const auto from = LogoSet{settings.logoPath, setName}.Screens();
-    const auto to = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
+bool InstallSafely(const std::string& setName, const core::Settings& settings,
+                   const core::SystemLocations& locations) {
+    const auto from = core::LogoSet{settings.logoPath, setName}.Screens();
+    const auto to = core::InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
     // While synchronizing, Mirrorkin brings the other two.
     const std::size_t count = settings.synchronizeLogos != 0 ? 1 : to.size();
     bool copiedAll = true;
@@ -65,27 +66,27 @@ bool InstallSafely(const std::string& setName, const Settings& settings,
 /// Enters or removes what brings the wait and shutdown screens at the next start.
 bool FollowSynchronizing(bool synchronize, const std::string& programFolder,
                          const std::string& logoFolder, const std::string& setName) {
-    if (synchronize) return RegisterMirrorkin(programFolder, logoFolder, setName);
-    RemoveMirrorkin(programFolder);
+    if (synchronize) return core::RegisterMirrorkin(programFolder, logoFolder, setName);
+    core::RemoveMirrorkin(programFolder);
     return true;
 }
 
 }  // namespace
 
 Outcome ChangeLogoSet(const SetChooser& choose) {
-    FailOnDrivesNotReady();
-    if (VistrelIsRunning()) return Outcome::VistrelRuns;
-    const SystemLocations locations = FindSystemLocations();
+    platform::FailOnDrivesNotReady();
+    if (core::VistrelIsRunning()) return Outcome::VistrelRuns;
+    const core::SystemLocations locations = core::FindSystemLocations();
     const std::optional<std::string> logoFolder = LogoFolder(locations);
     if (!logoFolder) return Outcome::LogoFolderNotThere;
 
-    Settings settings = ReadSettings(locations);
+    core::Settings settings = core::ReadSettings(locations);
     settings.logoPath = *logoFolder;
     const std::optional<std::string> chosen = ChooseUsable(choose, settings);
     if (!chosen) return Outcome::NoSets;
 
     const bool copied = InstallSafely(*chosen, settings, locations);
-    const bool recorded = SaveDefaultLogoSet(*chosen);
+    const bool recorded = core::SaveDefaultLogoSet(*chosen);
     const bool registered = FollowSynchronizing(
         settings.synchronizeLogos != 0, locations.programFolder, settings.logoPath, *chosen);
 
@@ -94,4 +95,4 @@ Outcome ChangeLogoSet(const SetChooser& choose) {
     return registered ? Outcome::Done : Outcome::NotRegistered;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

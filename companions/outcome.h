@@ -1,7 +1,7 @@
 // What a companion program returns when it ends.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::companions {
 
 enum class Outcome {
     Done = 0,
@@ -16,4 +16,4 @@ enum class Outcome {
                              ///< which one it is cannot be read
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 // Only the real button knows when it looks pressed: it comes up when the pointer is drawn off it,
 // and goes down again when it comes back.
@@ -30,4 +30,4 @@ bool HoldButton::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -5,7 +5,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class HoldButton : public Control {
  public:
@@ -20,4 +20,4 @@ class HoldButton : public Control {
     bool down_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -3,7 +3,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class ProgressBar : public Control {
  public:
@@ -12,4 +12,4 @@ class ProgressBar : public Control {
     void SetValue(int steps);
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

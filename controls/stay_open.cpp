@@ -6,7 +6,7 @@
 
 #include <cstring>
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 /// The property of a window that holds its own procedure.
@@ -40,4 +40,4 @@ BOOL CALLBACK LetStayOpen(HWND window, LPARAM) {
 
 void LetHelpersStayOpen() { EnumThreadWindows(GetCurrentThreadId(), &LetStayOpen, 0); }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void TrackBar::SetRange(int least, int most, int step, int page, int restAt) {
     // One by one: the message for both takes 16 bits of each.
@@ -60,4 +60,4 @@ bool TrackBar::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
     return Control::OnMessage(message, wParam, lParam, result);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -5,7 +5,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class TrackBar : public Control {
  public:
@@ -34,4 +34,4 @@ class TrackBar : public Control {
     Point pressedAt_{-100, -100};
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -6,7 +6,7 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 const char* IconKeyOfSet(const std::string& setName) {
     return IsSingleLogoSet(setName) ? "singlelogo" : "multilogo";
@@ -24,12 +24,14 @@ std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
 
 void ForEachLogoSet(const std::string& logoFolder,
                     const std::function<void(const std::string& name)>& visit) {
-    ForEachEntry(AddBackslash(logoFolder) + "*.*", [&](const FolderEntry& entry) {
-        const bool hidden = (entry.attributes & (kHiddenFile | kSystemFile)) != 0;
-        if (entry.IsFolder() && !hidden && entry.name != "." && entry.name != "..")
-            visit(entry.name);
-        return true;
-    });
+    platform::ForEachEntry(
+        AddBackslash(logoFolder) + "*.*", [&](const platform::FolderEntry& entry) {
+            const bool hidden =
+                (entry.attributes & (platform::kHiddenFile | platform::kSystemFile)) != 0;
+            if (entry.IsFolder() && !hidden && entry.name != "." && entry.name != "..")
+                visit(entry.name);
+            return true;
+        });
 }
 
 std::vector<std::string> LogoSetNames(const std::string& logoFolder) {
@@ -53,4 +55,4 @@ std::optional<std::string> NextLogoSet(const std::vector<std::string>& sets,
     return *(found + 1);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

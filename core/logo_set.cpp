@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::core {
 namespace {
 
 /// SHFileOperation's flag that answers yes to every question.
@@ -39,24 +39,24 @@ bool RenameSet(const LogoSet& set, const std::string& newName) {
     if (newName == set.name) return true;
     // Without a name the folder would be the logo folder itself.
     if (set.name.empty() || !SetFolderName(newName, set.library)) return false;
-    return Rename(set.Path(), set.library + newName);
+    return platform::Rename(set.Path(), set.library + newName);
 }
 
-void DeleteSet(WindowHandle owner, const std::string& folder, Bin bin) {
+void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin) {
     const std::string everything = folder + "\\*.*";
     if (bin == Bin::Recycle)
         DeleteToRecycleBin(owner, {everything});
     else
-        RemoveMatching(everything);
-    RemoveFolder(folder);
+        platform::RemoveMatching(everything);
+    platform::RemoveFolder(folder);
 }
 
 bool CanBeImported(const std::string& path) {
-    return !IsDriveRoot(path) && IsFolder(AddBackslash(path));
+    return !IsDriveRoot(path) && platform::IsFolder(AddBackslash(path));
 }
 
-void ImportSet(WindowHandle owner, const std::string& path, const std::string& library) {
-    ShellCopy(owner, path, library, kYesToAll);
+void ImportSet(platform::WindowHandle owner, const std::string& path, const std::string& library) {
+    platform::ShellCopy(owner, path, library, kYesToAll);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

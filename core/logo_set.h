@@ -7,7 +7,7 @@
 #include "core/locations.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 inline constexpr const char* kSingleLogoEnding = ".SLS";
 
@@ -43,12 +43,12 @@ enum class Bin { Recycle, Destroy };
 /// Empties a set's folder and removes it. Every step is done whether or not the ones before it
 /// succeeded: a folder that holds another one, or a file that the user kept, stays. `owner` is the
 /// window in front while the shell asks.
-void DeleteSet(WindowHandle owner, const std::string& folder, Bin bin);
+void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin);
 
 /// True for a folder that can become a set of a library: a drive's root has no name for one.
 bool CanBeImported(const std::string& path);
 /// Copies a folder into the library, over the files of the set that has its name. Whether the shell
 /// could copy it is not told; it has told the user.
-void ImportSet(WindowHandle owner, const std::string& path, const std::string& library);
+void ImportSet(platform::WindowHandle owner, const std::string& path, const std::string& library);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

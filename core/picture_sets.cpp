@@ -10,7 +10,7 @@
 #include "pictures/compose/stages.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 namespace {
 
 constexpr const char* kSingleEnding = ".sls";
@@ -25,8 +25,8 @@ std::string BaseName(std::string picture) {
     return name;
 }
 
-std::optional<IndexedScreen> ScreenOf(const std::string& picture,
-                                      const compose::Composition& composition) {
+std::optional<screen::IndexedScreen> ScreenOf(const std::string& picture,
+                                              const compose::Composition& composition) {
     const auto framed = compose::ReadFramed(picture, composition);
     if (!framed) return std::nullopt;
     return compose::Reduce(compose::Adjust(*framed, composition), composition.dither);
@@ -65,7 +65,7 @@ std::string PictureSets::FreeName() const {
     const std::string ending = kind_ == PictureSetKind::StartupOnly ? kSingleEnding : "";
     const std::string base = BaseName(screens_.front().picture);
     std::string name = base + ending;
-    for (int number = 2; FileAttributes(library_ + name); ++number)
+    for (int number = 2; platform::FileAttributes(library_ + name); ++number)
         name = base + " " + std::to_string(number) + ending;
     return name;
 }
@@ -73,14 +73,14 @@ std::string PictureSets::FreeName() const {
 void PictureSets::WriteSet() {
     const std::string name = FreeName();
     const std::string folder = library_ + name + "\\";
-    if (SetFolderName(name, library_) == name && MakeFolder(library_ + name)) {
+    if (SetFolderName(name, library_) == name && platform::MakeFolder(library_ + name)) {
         if (WriteScreens(folder)) {
             made_.push_back(name);
             screens_.clear();
             return;
         }
-        RemoveMatching(folder + "*.*");
-        RemoveFolder(library_ + name);
+        platform::RemoveMatching(folder + "*.*");
+        platform::RemoveFolder(library_ + name);
     }
     for (const Screen& screen : screens_) notWritten_.push_back(screen.picture);
     notWritten_.insert(notWritten_.end(), pictures_.begin() + static_cast<std::ptrdiff_t>(next_),
@@ -91,9 +91,9 @@ void PictureSets::WriteSet() {
 bool PictureSets::WriteScreens(const std::string& folder) const {
     for (std::size_t i = 0; i < screens_.size(); ++i) {
         const std::string file = folder + kScreenFileNames[i];
-        if (!compose::Write(file, screens_[i].screen) || !FlushToDisk(file)) return false;
+        if (!compose::Write(file, screens_[i].screen) || !platform::FlushToDisk(file)) return false;
     }
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -9,7 +9,7 @@
 #include "pictures/compose/composition.h"
 #include "pictures/screen/indexed_screen.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// What the pictures become.
 enum class PictureSetKind {
@@ -43,7 +43,7 @@ class PictureSets {
  private:
     struct Screen {
         std::string picture;
-        IndexedScreen screen;
+        screen::IndexedScreen screen;
     };
 
     std::size_t ScreensOfASet() const;
@@ -62,4 +62,4 @@ class PictureSets {
     std::vector<std::string> notWritten_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -5,7 +5,7 @@
 #include "core/slot_file.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 namespace {
 
 /// Places in arrays of the three screens.
@@ -32,13 +32,13 @@ class SlotWriter {
     // Quirk: an empty slot is not passed over then. There is nothing to copy, which fails.
     bool Write(std::size_t first, std::size_t last) {
         for (std::size_t i = first; i <= last; ++i)
-            if (Read(i).empty() && !Remove(screens_[i])) return false;
+            if (Read(i).empty() && !platform::Remove(screens_[i])) return false;
         for (std::size_t i = first; i <= last; ++i)
             if (!CopyScreen(Read(i), screens_[i])) return false;
         return true;
     }
 
-    bool RemoveScreen(std::size_t index) { return Remove(screens_[index]); }
+    bool RemoveScreen(std::size_t index) { return platform::Remove(screens_[index]); }
 
     SaveResult Result(bool saved) const { return {saved, lastRead_}; }
 
@@ -67,7 +67,8 @@ class SlotWriter {
 }  // namespace
 
 SaveResult CreateSet(const LogoSet& set, SetKind kind, const Slots& slots) {
-    if (!SetFolderName(set.name, set.library) || !MakeFolder(set.Path())) return {false, set.name};
+    if (!SetFolderName(set.name, set.library) || !platform::MakeFolder(set.Path()))
+        return {false, set.name};
     const std::array<std::string, 3> screens = ScreensIn(set.Folder());
     const std::size_t last = kind == SetKind::Complete ? kShutdown : kStartup;
     for (std::size_t i = kStartup; i <= last; ++i)
@@ -94,4 +95,4 @@ SaveResult SaveSharedScreens(const std::string& library, Slots& slots,
     return writer.Result(writer.KeepSources(kWait, kShutdown) && writer.Write(kWait, kShutdown));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

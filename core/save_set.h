@@ -7,7 +7,7 @@
 
 #include "core/logo_set.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// What a set is to hold. The name says the same once it is saved, unless the user typed another.
 enum class SetKind { Complete, StartupOnly };
@@ -40,4 +40,4 @@ SaveResult UpdateSet(const LogoSet& set, SetKind kind, Slots& slots, const NewSe
 SaveResult SaveSharedScreens(const std::string& library, Slots& slots,
                              const NewSessionFile& newFile);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -3,7 +3,7 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 bool IsSameFile(const std::string& path, const std::string& other) {
     if (UpperCase(path) == UpperCase(other)) return true;
@@ -14,7 +14,7 @@ bool IsSameFile(const std::string& path, const std::string& other) {
 bool HoldsPicture(const std::string& path) {
     bool holds = false;
     if (path.empty()) return false;
-    ForEachEntry(path, [&](const FolderEntry& entry) {
+    platform::ForEachEntry(path, [&](const platform::FolderEntry& entry) {
         holds = !entry.IsFolder() && entry.size > 0;
         return false;
     });
@@ -22,10 +22,10 @@ bool HoldsPicture(const std::string& path) {
 }
 
 bool CopyScreen(const std::string& slot, const std::string& target) {
-    if (IsSameFile(slot, target)) return FileAttributes(target).has_value();
-    if (!HoldsPicture(slot) || !CopyOver(slot, target)) return false;
+    if (IsSameFile(slot, target)) return platform::FileAttributes(target).has_value();
+    if (!HoldsPicture(slot) || !platform::CopyOver(slot, target)) return false;
     // A picture from a CD-ROM is read-only; its copy must not stay so.
-    SetAttributes(target, kNormalFile);
+    platform::SetAttributes(target, platform::kNormalFile);
     return true;
 }
 
@@ -38,4 +38,4 @@ std::string Repointed(const std::string& path, const std::string& from, const st
     return IsAtOrIn(path, from) ? to + path.substr(from.size()) : path;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -9,15 +9,15 @@
 #include "core/settings.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 class EditorHost {
  public:
     virtual ~EditorHost() = default;
 
-    virtual const SystemLocations& Locations() const = 0;
+    virtual const core::SystemLocations& Locations() const = 0;
     /// The preferences in memory; they are written when the program closes.
-    virtual Settings& Preferences() = 0;
+    virtual core::Settings& Preferences() = 0;
 
     /// The names in the list of sets, in its order, and the number of the selected one (from 0; -1
     /// for none).
@@ -35,13 +35,13 @@ class EditorHost {
 
     /// Does with a picture what the preferences say: shows it in actual size, or opens it in Paint
     /// or in the custom program. `owner` is the window in front.
-    virtual void OpenPicture(const std::string& path, WindowHandle owner) = 0;
+    virtual void OpenPicture(const std::string& path, platform::WindowHandle owner) = 0;
     /// The menu of those actions for a picture, and its default item. What is chosen arrives at the
     /// window that pops it up, which hands it to OpenWithCommand: false for a number that is not of
     /// the menu.
-    virtual MenuHandle OpenWithMenu(const std::string& path) = 0;
+    virtual platform::MenuHandle OpenWithMenu(const std::string& path) = 0;
     virtual int DefaultOpenWithItem() const = 0;
-    virtual bool OpenWithCommand(int id, WindowHandle owner) = 0;
+    virtual bool OpenWithCommand(int id, platform::WindowHandle owner) = 0;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

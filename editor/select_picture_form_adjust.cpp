@@ -9,7 +9,7 @@
 #include "platform/message_box.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 bool SelPictureForm::IsAdjustable() const {
     return SlotsEnabled && ImageInfo.ForeColor() != kNoPictureColor;
@@ -32,12 +32,12 @@ void SelPictureForm::AdjustSlot(int index) {
 // Opens the window on a picture, or on the one that a screen of this session was made of. The file
 // of the new screen; empty when nothing was made.
 std::string SelPictureForm::Adjusted(const std::string& path) {
-    FrmAdjust window(adjustments_.For(path), NewFileOfSession());
+    adjust::FrmAdjust window(adjustments_.For(path), NewFileOfSession());
     if (!window.ReadPicture()) {
-        Ask(handle(),
-            window.Settings().source +
-                " cannot be read as a picture. It may have been moved or damaged.",
-            kExclamationOk);
+        platform::Ask(handle(),
+                      window.Settings().source +
+                          " cannot be read as a picture. It may have been moved or damaged.",
+                      platform::kExclamationOk);
         return {};
     }
     // When it closes nothing is to be filled again.
@@ -50,7 +50,7 @@ std::string SelPictureForm::Adjusted(const std::string& path) {
 
 // A finished screen, whatever the name of its file.
 void SelPictureForm::ShowAsSelected(const std::string& screen) {
-    DrawPreview(screen, CurView);
+    preview::DrawPreview(screen, CurView);
     SelectedPicture = screen;
     CurView.SetTag(screen);
     IsSysFile = true;
@@ -59,15 +59,16 @@ void SelPictureForm::ShowAsSelected(const std::string& screen) {
 }
 
 // The menu is the main window's: what a slot adds to it is taken away again.
-void SelPictureForm::ShowPictureMenu(const PictureBox& box, Point at) {
-    const MenuHandle menu = host_.OpenWithMenu(box.Tag());
+void SelPictureForm::ShowPictureMenu(const controls::PictureBox& box, controls::Point at) {
+    const platform::MenuHandle menu = host_.OpenWithMenu(box.Tag());
     const bool isSlot = &box != &CurView;
     if (isSlot) {
-        AddMenuSeparator(menu);
-        AddMenuItem(menu, ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview), "Ad&just...");
+        controls::AddMenuSeparator(menu);
+        controls::AddMenuItem(menu, ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview),
+                              "Ad&just...");
     }
     PopUpMenu(menu, box.OnScreen(at), host_.DefaultOpenWithItem());
-    for (int added = isSlot ? 2 : 0; added > 0; --added) RemoveLastMenuItem(menu);
+    for (int added = isSlot ? 2 : 0; added > 0; --added) controls::RemoveLastMenuItem(menu);
 }
 
 std::vector<std::string> SelPictureForm::SelectedPictures() const {
@@ -83,7 +84,7 @@ std::vector<std::string> SelPictureForm::SelectedPictures() const {
 void SelPictureForm::ItmManySets_Click() {
     const std::vector<std::string> pictures = SelectedPictures();
     if (pictures.empty()) return;
-    FrmManySets window(LogoFolder(), pictures);
+    adjust::FrmManySets window(LogoFolder(), pictures);
     ActivateOnce = true;
     window.ShowModal(handle());
     ActivateOnce = false;
@@ -96,4 +97,4 @@ void SelPictureForm::ItmManySets_Click() {
     if (InLogoFolder()) AggiornaDir();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -9,13 +9,13 @@
 #include "platform/files.h"
 #include "platform/message_box.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 constexpr const char* kParentFolder = "..";
 
 bool SameName(const std::string& name, const std::string& other) {
-    return UpperCase(name) == UpperCase(other);
+    return core::UpperCase(name) == core::UpperCase(other);
 }
 
 std::string WithoutBackslash(std::string folder) {
@@ -37,15 +37,15 @@ bool SelPictureForm::LogoList_BeforeLabelEdit() {
 
 bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& typed) {
     const std::string before = CurrentFolder + oldName_;
-    const bool folder = IsFolder(before);
+    const bool folder = platform::IsFolder(before);
     const auto name =
-        folder ? SetFolderName(typed, CurrentFolder) : EntryName(typed, CurrentFolder);
+        folder ? core::SetFolderName(typed, CurrentFolder) : core::EntryName(typed, CurrentFolder);
     if (name == oldName_) return false;
-    if (!name || !Rename(before, CurrentFolder + *name)) {
-        Ask(handle(),
-            "Cannot rename " + oldName_ + ". A file or folder named " + typed +
-                " already exists or the name is not valid.",
-            kExclamationOk);
+    if (!name || !platform::Rename(before, CurrentFolder + *name)) {
+        platform::Ask(handle(),
+                      "Cannot rename " + oldName_ + ". A file or folder named " + typed +
+                          " already exists or the name is not valid.",
+                      platform::kExclamationOk);
         return false;
     }
     const std::string after = CurrentFolder + *name;
@@ -63,12 +63,12 @@ void SelPictureForm::ItmDelete_Click() {
     const std::string name = SelectedName();
     if (LogoList.SelectedItems().size() != 1 || name == kParentFolder) return;
     const std::string path = CurrentFolder + name;
-    const bool isSet = InLogoFolder() && IsFolder(path);
-    DeleteToRecycleBin(handle(), {path});
+    const bool isSet = InLogoFolder() && platform::IsFolder(path);
+    core::DeleteToRecycleBin(handle(), {path});
     if (TouchesLibrary(path)) LibraryChanged = true;
     AggiornaDir();
-    if (FileAttributes(path)) return;
-    if (IsAtOrIn(SelectedPicture, path)) ForgetPicture();
+    if (platform::FileAttributes(path)) return;
+    if (core::IsAtOrIn(SelectedPicture, path)) ForgetPicture();
     if (!isSet) return;
     if (SameName(name, LoadedSet))
         ForgetLoadedSet(name);
@@ -77,22 +77,23 @@ void SelPictureForm::ItmDelete_Click() {
 }
 
 bool SelPictureForm::InLogoFolder() const {
-    return SameName(CurrentFolder, AddBackslash(LogoFolder()));
+    return SameName(CurrentFolder, core::AddBackslash(LogoFolder()));
 }
 
 bool SelPictureForm::TouchesLibrary(const std::string& path) const {
     const std::string library = WithoutBackslash(LogoFolder());
-    return IsAtOrIn(path, library) || IsAtOrIn(library, path);
+    return core::IsAtOrIn(path, library) || core::IsAtOrIn(library, path);
 }
 
 void SelPictureForm::FollowRename(const std::string& from, const std::string& to) {
-    for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
-    for (std::string& tag : setsOwnTag_) tag = Repointed(tag, from, to);
-    SelectedPicture = Repointed(SelectedPicture, from, to);
-    adjustments_.Repoint([&](const std::string& path) { return Repointed(path, from, to); });
-    CurView.SetTag(Repointed(CurView.Tag(), from, to));
-    if (IsAtOrIn(CurrentFolder, from)) {
-        CurrentFolder = Repointed(CurrentFolder, from, to);
+    for (controls::PictureBox& slot : ImgPreview)
+        slot.SetTag(core::Repointed(slot.Tag(), from, to));
+    for (std::string& tag : setsOwnTag_) tag = core::Repointed(tag, from, to);
+    SelectedPicture = core::Repointed(SelectedPicture, from, to);
+    adjustments_.Repoint([&](const std::string& path) { return core::Repointed(path, from, to); });
+    CurView.SetTag(core::Repointed(CurView.Tag(), from, to));
+    if (core::IsAtOrIn(CurrentFolder, from)) {
+        CurrentFolder = core::Repointed(CurrentFolder, from, to);
         ShowPath(CurrentFolder);
     }
     if (TouchesLibrary(from)) LibraryChanged = true;
@@ -103,8 +104,9 @@ void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string
     ReplaceName(from, to);
     const auto installed = host_.InstalledSet();
     if (installed && SameName(from, *installed)) host_.SetInstalledSet(to);
-    if (loaded && type_ != SetType::DefaultScreens && IsSingleLogoSet(from) != IsSingleLogoSet(to))
-        ChooseByCode(IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
+    if (loaded && type_ != SetType::DefaultScreens &&
+        core::IsSingleLogoSet(from) != core::IsSingleLogoSet(to))
+        ChooseByCode(core::IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
 }
 
 // Gives a set another name in the combo box, in its field too where that shows the former one.
@@ -155,9 +157,9 @@ void SelPictureForm::FollowLogoFolder() {
     NameLogoSet.SetText(shown);
     LoadedSet.clear();
     LoadedIndex = -1;
-    EnableControls(false, OkButton[1], EliminaSetBtn);
+    controls::EnableControls(false, OkButton[1], EliminaSetBtn);
     CheckBtnStatus();
     if (type_ == SetType::DefaultScreens) OptDefShut_Click();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -9,14 +9,14 @@
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 /// The names of the screens that a folder holds, for the user to read.
 std::string NamesOfScreens(const std::string& folder) {
     std::string names;
-    for (const char* screen : kScreenFileNames) {
-        if (!HoldsPicture(folder + screen)) continue;
+    for (const char* screen : core::kScreenFileNames) {
+        if (!core::HoldsPicture(folder + screen)) continue;
         if (!names.empty()) names += ", ";
         names += screen;
     }
@@ -27,7 +27,7 @@ std::string NamesOfScreens(const std::string& folder) {
 
 void SelPictureForm::NameLogoSet_Change() {
     if (NameLogoSet.Text().empty()) {
-        EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
+        controls::EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
         LblWritten.SetText("");
         return;
     }
@@ -37,18 +37,18 @@ void SelPictureForm::NameLogoSet_Change() {
 
 void SelPictureForm::NameLogoSet_Click() {
     LoadedIndex = NameLogoSet.ListIndex();
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     LoadedSet = NameLogoSet.Text();
-    ChooseByCode(IsSingleLogoSet(LoadedSet) ? SetType::OnlyStartup : SetType::Complete);
-    LoadSlots(LogoSet{LogoFolder(), LoadedSet});
+    ChooseByCode(core::IsSingleLogoSet(LoadedSet) ? SetType::OnlyStartup : SetType::Complete);
+    LoadSlots(core::LogoSet{LogoFolder(), LoadedSet});
     EliminaSetBtn.SetEnabled(true);
     SetChanged = false;
     NameChanged = false;
     CheckBtnStatus();
 }
 
-void SelPictureForm::LoadSlots(const LogoSet& set) {
-    const std::array<std::string, 3> screens = ScreensIn(set.Folder());
+void SelPictureForm::LoadSlots(const core::LogoSet& set) {
+    const std::array<std::string, 3> screens = core::ScreensIn(set.Folder());
     for (int i = 0; i < 3; ++i) ShowInSlot(i, screens[i]);
 }
 
@@ -56,28 +56,28 @@ void SelPictureForm::LoadSlots(const LogoSet& set) {
 // or renaming the folder then fails.
 std::string SelPictureForm::NameToSave() {
     const std::string typed = NameLogoSet.Text();
-    std::string name = SetFolderName(typed, LogoFolder()).value_or(typed);
-    if (OptOnlyStart.Value() && !IsSingleLogoSet(name)) name += ".sls";
+    std::string name = core::SetFolderName(typed, LogoFolder()).value_or(typed);
+    if (OptOnlyStart.Value() && !core::IsSingleLogoSet(name)) name += ".sls";
     if (name != typed) NameLogoSet.SetText(name);
     return name;
 }
 
-SetKind SelPictureForm::KindToSave() const {
-    return OptCompSet.Value() ? SetKind::Complete : SetKind::StartupOnly;
+core::SetKind SelPictureForm::KindToSave() const {
+    return OptCompSet.Value() ? core::SetKind::Complete : core::SetKind::StartupOnly;
 }
 
 void SelPictureForm::OkButton_Click(int index) {
     LibraryChanged = true;
-    const LogoSet set{LogoFolder(), NameToSave()};
-    const SaveResult result = index == 1 ? UpdateLoadedSet(set) : CreateNewSet(set);
+    const core::LogoSet set{LogoFolder(), NameToSave()};
+    const core::SaveResult result = index == 1 ? UpdateLoadedSet(set) : CreateNewSet(set);
     FinishSaving(result, (index == 1 ? "Updated " : "Created ") + set.name, set.Folder());
 }
 
-SaveResult SelPictureForm::UpdateLoadedSet(const LogoSet& set) {
+core::SaveResult SelPictureForm::UpdateLoadedSet(const core::LogoSet& set) {
     const std::string oldName = NameLogoSet.Item(LoadedIndex);
     if (!RenameLoadedSet(oldName, set.name)) return {false, set.name};
-    Slots slots = FilesInSlots();
-    const SaveResult result = UpdateSet(set, KindToSave(), slots, NewFileOfSession());
+    core::Slots slots = FilesInSlots();
+    const core::SaveResult result = core::UpdateSet(set, KindToSave(), slots, NewFileOfSession());
     TagSlots(slots);
     if (result.saved) FollowInstalledSet(oldName, set.name);
     return result;
@@ -94,8 +94,8 @@ void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::s
 }
 
 bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::string& name) {
-    const LogoSet former{LogoFolder(), oldName};
-    if (!RenameSet(former, name)) return false;
+    const core::LogoSet former{LogoFolder(), oldName};
+    if (!core::RenameSet(former, name)) return false;
     if (oldName == name) return true;
     ReplaceName(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
@@ -103,8 +103,8 @@ bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::stri
     return true;
 }
 
-SaveResult SelPictureForm::CreateNewSet(const LogoSet& set) {
-    const SaveResult result = CreateSet(set, KindToSave(), FilesInSlots());
+core::SaveResult SelPictureForm::CreateNewSet(const core::LogoSet& set) {
+    const core::SaveResult result = core::CreateSet(set, KindToSave(), FilesInSlots());
     if (result.saved) {
         LoadedIndex = NameLogoSet.AddItem(set.name);
         NameLogoSet.SetListIndex(LoadedIndex);
@@ -115,38 +115,40 @@ SaveResult SelPictureForm::CreateNewSet(const LogoSet& set) {
 
 void SelPictureForm::SaveDefaultScreens() {
     LibraryChanged = true;
-    Slots slots = FilesInSlots();
-    const SaveResult result = SaveSharedScreens(LogoFolder(), slots, NewFileOfSession());
+    core::Slots slots = FilesInSlots();
+    const core::SaveResult result =
+        core::SaveSharedScreens(LogoFolder(), slots, NewFileOfSession());
     TagSlots(slots);
     FinishSaving(result, "Saved the default screens", LogoFolder());
 }
 
-Slots SelPictureForm::FilesInSlots() const {
+core::Slots SelPictureForm::FilesInSlots() const {
     return {ImgPreview[0].Tag(), ImgPreview[1].Tag(), ImgPreview[2].Tag()};
 }
 
-void SelPictureForm::TagSlots(const Slots& slots) {
+void SelPictureForm::TagSlots(const core::Slots& slots) {
     for (std::size_t i = 0; i < slots.size(); ++i) ImgPreview[i].SetTag(slots[i]);
 }
 
-NewSessionFile SelPictureForm::NewFileOfSession() {
+core::NewSessionFile SelPictureForm::NewFileOfSession() {
     return [this] {
-        const std::string file = GetTempFile();
+        const std::string file = core::GetTempFile();
         if (!file.empty()) List1.AddItem(file);
         return file;
     };
 }
 
-void SelPictureForm::FinishSaving(const SaveResult& result, const std::string& what,
+void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::string& what,
                                   const std::string& folder) {
     if (!result.saved) {
         LblWritten.SetText("");
-        Ask(handle(),
+        platform::Ask(
+            handle(),
             "A directory named " + result.lastRead + " already exist or bad directory name!",
-            kExclamationOk, "Cannot create directory");
+            platform::kExclamationOk, "Cannot create directory");
         return;
     }
-    EnableControls(false, OkButton[0], OkButton[1]);
+    controls::EnableControls(false, OkButton[0], OkButton[1]);
     EliminaSetBtn.SetEnabled(!NameLogoSet.Text().empty());
     SetChanged = false;
     NameChanged = false;
@@ -158,10 +160,11 @@ void SelPictureForm::EliminaSetBtn_Click() {
     const std::string name = NameLogoSet.Text();
     // Without a name the folder would be the logo folder itself.
     if (name.empty()) return;
-    if (!EliminaLogoSet(handle(), host_, LogoSet{LogoFolder(), name}.Path(), name, name)) return;
+    if (!EliminaLogoSet(handle(), host_, core::LogoSet{LogoFolder(), name}.Path(), name, name))
+        return;
     LibraryChanged = true;
     ForgetLoadedSet(name);
     AggiornaDir();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -10,7 +10,7 @@
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 std::vector<std::string> Principale::SetNames() const {
     std::vector<std::string> names;
     for (int i = 0; i < MyList.Count(); ++i) names.push_back(MyList.ItemText(i));
@@ -30,20 +30,20 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
 
 void Principale::ShowInstalledSet() {
     // While the installed screens are shown the label says so.
-    if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(kUnknownSet));
+    if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(core::kUnknownSet));
 }
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
-    const BusyPointer busy;  // there may be thousands of sets
+    const platform::BusyPointer busy;  // there may be thousands of sets
     installedSetListed_ = false;
     MyList.SuspendPainting();
     MyList.Clear();
-    ForEachLogoSet(AddBackslash(settings_.logoPath), [&](const std::string& name) {
+    core::ForEachLogoSet(core::AddBackslash(settings_.logoPath), [&](const std::string& name) {
         if (name == settings_.defaultLogoSet) installedSetListed_ = true;
-        MyList.AddItem(name, IconKeyOfSet(name));
+        MyList.AddItem(name, core::IconKeyOfSet(name));
     });
     MyList.ResumePainting();
     ShowListaLogo();
@@ -55,27 +55,27 @@ void Principale::LeggiDatiDisco() {
 }
 
 void Principale::VisualizzaNumLogo() {
-    NumLogo.SetText(CountLine(MyList.Count()));
+    NumLogo.SetText(core::CountLine(MyList.Count()));
     if (MyList.Count() == 0) LogoType.SetText("");
 }
 
 void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
     for (int i = 0; i < 3; ++i) {
-        DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
+        preview::DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
         Imag[i].SetTag(paths[i]);
     }
 }
 
 void Principale::ClearScreens() {
-    for (PictureBox& box : Imag) {
+    for (controls::PictureBox& box : Imag) {
         box.SetTag("");
         box.Clear();
     }
 }
 
 void Principale::RedrawScreens() {
-    for (PictureBox& box : Imag)
-        if (box.HasPicture()) DrawPreview(box.Tag(), box);
+    for (controls::PictureBox& box : Imag)
+        if (box.HasPicture()) preview::DrawPreview(box.Tag(), box);
 }
 
 void Principale::ShowListaLogo() {
@@ -85,10 +85,10 @@ void Principale::ShowListaLogo() {
         LogoType.SetText("");
         return;
     }
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     const std::string name = MyList.ItemText(selected);
-    LogoType.SetText(TypeCaptionOfSet(name));
-    ShowScreens(LogoSet{settings_.logoPath, name}.Screens());
+    LogoType.SetText(core::TypeCaptionOfSet(name));
+    ShowScreens(core::LogoSet{settings_.logoPath, name}.Screens());
 }
 
 void Principale::SelItem(const std::string& name) {
@@ -108,25 +108,27 @@ bool Principale::ConfirmFormatChange(bool toSingle) {
     if (settings_.confirmLogoTypeChange != 1) return true;
     const std::string from = toSingle ? "Multi Logo" : "Single Logo";
     const std::string to = toSingle ? "Single Logo" : "Multi Logo";
-    return Ask(handle(),
+    return platform::Ask(
+               handle(),
                "Would you like to change your logoset format from " + from + " to " + to + "?",
-               kQuestionYesNo) == Answer::Yes;
+               platform::kQuestionYesNo) == platform::Answer::Yes;
 }
 
 bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
-    const auto folder = SetFolderName(typed, settings_.logoPath);
+    const auto folder = core::SetFolderName(typed, settings_.logoPath);
     if (folder == oldName_) return false;
     const std::string newName = folder.value_or(typed);
-    const bool toSingle = IsSingleLogoSet(newName);
-    const bool formatChanges = toSingle != IsSingleLogoSet(oldName_);
+    const bool toSingle = core::IsSingleLogoSet(newName);
+    const bool formatChanges = toSingle != core::IsSingleLogoSet(oldName_);
     if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
 
     const int edited = MyList.EditedItem();
     // The new icon stays although the renaming may fail: it is kept so until the next refresh.
-    if (formatChanges) MyList.SetItemIcon(edited, IconKeyOfSet(newName));
-    if (!RenameSet({settings_.logoPath, oldName_}, newName)) {
-        Ask(handle(), "Cannot rename folder. The folder already exists or has an invalid name",
-            kExclamationOk);
+    if (formatChanges) MyList.SetItemIcon(edited, core::IconKeyOfSet(newName));
+    if (!core::RenameSet({settings_.logoPath, oldName_}, newName)) {
+        platform::Ask(handle(),
+                      "Cannot rename folder. The folder already exists or has an invalid name",
+                      platform::kExclamationOk);
         return false;
     }
     MyList.SetItemText(edited, newName);
@@ -147,12 +149,13 @@ void Principale::SelectAfterDelete(int index) {
 
 bool Principale::ConfirmOverwriting(const std::string& name) {
     // The folder came from another window, which is still the one in front.
-    BringToFront(handle());
-    return Ask(handle(),
+    controls::BringToFront(handle());
+    return platform::Ask(
+               handle(),
                "The selected folder '" + name +
                    "' already exist in your logo folder. Would you like to overwrite the existing "
                    "files?",
-               kQuestionYesNoDefaultNo) == Answer::Yes;
+               platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
 }
 
 void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
@@ -160,13 +163,13 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (!CanBeImported(path)) continue;
-        name = GetFileName(path);
-        const bool exists = IsFolder(settings_.logoPath + name);
+        if (!core::CanBeImported(path)) continue;
+        name = core::GetFileName(path);
+        const bool exists = platform::IsFolder(settings_.logoPath + name);
         if (exists && !ConfirmOverwriting(name)) continue;
         // Whether it could be copied is not asked: the list catches up at the next refresh.
-        ImportSet(handle(), path, settings_.logoPath);
-        if (!exists) MyList.AddItem(name, IconKeyOfSet(name));
+        core::ImportSet(handle(), path, settings_.logoPath);
+        if (!exists) MyList.AddItem(name, core::IconKeyOfSet(name));
         showLast = true;
     }
     if (!showLast) return;
@@ -176,4 +179,4 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     if (item >= 0) SelItem(MyList.ItemText(item));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

@@ -6,15 +6,15 @@
 #include "core/locations.h"
 #include "core/settings.h"
 
-namespace vistrel {
+namespace vistrel::options {
 
 class OptionsHost {
  public:
     virtual ~OptionsHost() = default;
 
-    virtual const SystemLocations& Locations() const = 0;
+    virtual const core::SystemLocations& Locations() const = 0;
     /// The preferences in memory; they are written when the program closes.
-    virtual Settings& Preferences() = 0;
+    virtual core::Settings& Preferences() = 0;
     /// Reads the logo folder into the list anew ("legge i dati dal disco": reads the data from the
     /// disk), and shows the installed set.
     virtual void LeggiDatiDisco() = 0;
@@ -29,4 +29,4 @@ class OptionsHost {
     virtual void RaiseBootLogoOptionChanged() = 0;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::options

@@ -5,7 +5,7 @@
 
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 RgbPicture ReadAll(PictureRows& rows) {
     RgbPicture picture{rows.width(), rows.height(), {}};
@@ -17,7 +17,7 @@ RgbPicture ReadAll(PictureRows& rows) {
 
 ScaledPicture ReadScaled(PictureRows& rows, int width, int height) {
     if (rows.width() == width && rows.height() == height) return {ReadAll(rows), width, height};
-    RgbScaler scaler(rows.width(), rows.height(), width, height);
+    scale::RgbScaler scaler(rows.width(), rows.height(), width, height);
     for (int y = 0; y < rows.height(); ++y) {
         rows.ReadNext(scaler.NextRow());
         scaler.EndRow();
@@ -28,10 +28,10 @@ ScaledPicture ReadScaled(PictureRows& rows, int width, int height) {
 RgbPicture ReadScaled(PictureRows& rows, const PictureArea& area, int width, int height) {
     if (area == PictureArea::WholeOf(rows.width(), rows.height()))
         return ReadScaled(rows, width, height).picture;
-    const PixelSpan across = PixelsTouched(area.left, area.width);
-    const PixelSpan down = PixelsTouched(area.top, area.height);
+    const scale::PixelSpan across = scale::PixelsTouched(area.left, area.width);
+    const scale::PixelSpan down = scale::PixelsTouched(area.top, area.height);
     std::vector<std::uint8_t> row(std::size_t{3} * rows.width());
-    RgbScaler scaler(area, width, height);
+    scale::RgbScaler scaler(area, width, height);
     for (int y = 0; y < down.first + down.count; ++y) {
         rows.ReadNext(row.data());
         if (y < down.first) continue;
@@ -42,4 +42,4 @@ RgbPicture ReadScaled(PictureRows& rows, const PictureArea& area, int width, int
     return scaler.TakePicture();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

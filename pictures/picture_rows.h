@@ -5,7 +5,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// A picture whose rows are read one after the other. What it reads from must outlive it.
 class PictureRows {
@@ -35,4 +35,4 @@ ScaledPicture ReadScaled(PictureRows& rows, int width, int height);
 /// The same for a part of the picture, which must lie within it: what is below it is not read.
 RgbPicture ReadScaled(PictureRows& rows, const PictureArea& area, int width, int height);
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -7,7 +7,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 namespace {
 
 /// Sizes that may be chosen, in points.
@@ -64,4 +64,4 @@ std::optional<TextFont> PickFont(WindowHandle owner, const TextFont& start) {
     return chosen;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -6,7 +6,7 @@
 #include "platform/handles.h"
 #include "platform/text_font.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// Lets the user choose a colour, a 24-bit number in blue-green-red order; empty when the user
 /// cancels. What the user mixes is offered again while the program runs.
@@ -15,4 +15,4 @@ std::optional<long> PickColor(WindowHandle owner, long start);
 /// Lets the user choose a font that can be scaled; empty when the user cancels.
 std::optional<TextFont> PickFont(WindowHandle owner, const TextFont& start);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 struct TextFont {
     std::string face = "Arial";
@@ -15,4 +15,4 @@ struct TextFont {
     bool operator==(const TextFont&) const = default;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

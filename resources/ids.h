@@ -1,5 +1,6 @@
 // The numbers of templates, menus, pictures, controls and commands; one header for the resource
-// compiler and for C++. A control's number is named after it; members of an array follow each other.
+// compiler and for C++. A control's number is named after it; members of an array follow each
+// other.
 #pragma once
 
 // Templates, menus and bitmaps
@@ -21,7 +22,7 @@
 // Main window: 1000 to 1199
 #define ID_ActiveBar1 1000
 #define ID_MyList 1001
-#define ID_Imag 1002  // 1002 startup, 1003 wait, 1004 shutdown
+#define ID_Imag 1002       // 1002 startup, 1003 wait, 1004 shutdown
 #define ID_LblScreen 1005  // 1005 to 1007, in the same order
 #define ID_DefaultLogo 1008
 #define ID_LogoType 1009

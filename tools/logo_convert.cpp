@@ -13,7 +13,7 @@
 #include "pictures/whole_file.h"
 #include "tools/options.h"
 
-namespace vistrel {
+namespace vistrel::tools {
 namespace {
 
 int Complain(const std::string& path, const char* what) {
@@ -24,7 +24,7 @@ int Complain(const std::string& path, const char* what) {
 constexpr char kNotRead[] = "cannot be read as the picture that its name stands for";
 
 /// True of a crop that has nothing of the picture. One that has some of it is taken so far.
-bool IsOutside(const compose::Crop& crop, const PictureSize& turned) {
+bool IsOutside(const compose::Crop& crop, const pictures::PictureSize& turned) {
     return crop.left >= turned.width || crop.top >= turned.height ||
            std::int64_t{crop.left} + crop.width <= 0 || std::int64_t{crop.top} + crop.height <= 0;
 }
@@ -32,9 +32,9 @@ bool IsOutside(const compose::Crop& crop, const PictureSize& turned) {
 /// Complains about a crop outside the picture; 0 when there is none.
 int CheckCrop(const std::string& source, const compose::Composition& composition) {
     if (!composition.crop) return 0;
-    const std::optional<PictureSize> size = compose::SizeOfPicture(source);
+    const std::optional<pictures::PictureSize> size = compose::SizeOfPicture(source);
     if (!size) return Complain(source, kNotRead);
-    const PictureSize turned = compose::SizeWhenTurned(*size, composition.orientation);
+    const pictures::PictureSize turned = compose::SizeWhenTurned(*size, composition.orientation);
     if (!IsOutside(*composition.crop, turned)) return 0;
     const std::string what = "the crop lies outside the picture of " +
                              std::to_string(turned.width) + " x " + std::to_string(turned.height) +
@@ -45,13 +45,13 @@ int CheckCrop(const std::string& source, const compose::Composition& composition
 int Convert(const std::string& source, const std::string& target,
             const compose::Composition& composition) {
     switch (compose::MakeScreen(source, target, composition)) {
-        case ConversionResult::Written:
+        case pictures::ConversionResult::Written:
             return 0;
-        case ConversionResult::NotRead:
+        case pictures::ConversionResult::NotRead:
             return Complain(source, kNotRead);
-        case ConversionResult::NotReduced:
+        case pictures::ConversionResult::NotReduced:
             return Complain(source, "there is not enough memory");
-        case ConversionResult::NotWritten:
+        case pictures::ConversionResult::NotWritten:
             break;
     }
     return Complain(target, "cannot be written");
@@ -59,30 +59,30 @@ int Convert(const std::string& source, const std::string& target,
 
 /// As previews report it: 8 for GIF, 24 for JPG, what the header says for bitmaps.
 int DepthOf(const std::string& path) {
-    switch (FormatOfName(path)) {
-        case PictureFormat::Gif:
+    switch (pictures::FormatOfName(path)) {
+        case pictures::PictureFormat::Gif:
             return 8;
-        case PictureFormat::Jpg:
+        case pictures::PictureFormat::Jpg:
             return 24;
-        case PictureFormat::Bmp:
+        case pictures::PictureFormat::Bmp:
             break;
     }
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
-    const std::optional<BmpHeader> header = file ? ReadBmpHeader(*file) : std::nullopt;
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    const std::optional<bmp::BmpHeader> header = file ? bmp::ReadBmpHeader(*file) : std::nullopt;
     return header ? header->bitsPerPixel : 0;
 }
 
 int PrintInfo(const std::string& source) {
-    const std::optional<RgbPicture> picture = ReadPicture(source);
+    const std::optional<pictures::RgbPicture> picture = pictures::ReadPicture(source);
     if (!picture) return Complain(source, kNotRead);
     std::printf("%d %d %d\n", picture->width, picture->height, DepthOf(source));
     return 0;
 }
 
 int WriteRgb(const std::string& source, const std::string& target) {
-    const std::optional<RgbPicture> picture = ReadPicture(source);
+    const std::optional<pictures::RgbPicture> picture = pictures::ReadPicture(source);
     if (!picture) return Complain(source, kNotRead);
-    return WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
+    return bmp::WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
 }
 
 int Repeat(int times, const std::string& source, const std::string& target,
@@ -121,9 +121,9 @@ int Run(const ConvertOptions& options) {
 }
 
 }  // namespace
-}  // namespace vistrel
+}  // namespace vistrel::tools
 
 int main(int count, char** arguments) {
-    return vistrel::Run(
+    return vistrel::tools::Run(
         vistrel::ReadOptions(std::vector<std::string>(arguments + 1, arguments + count)));
 }

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <optional>
 
-namespace vistrel {
+namespace vistrel::tools {
 
 using compose::Composition;
 using compose::FramingKind;
@@ -95,11 +95,11 @@ bool SetTurn(const std::string& text, Composition& composition) {
 }
 
 bool SetDither(const std::string& text, Composition& composition) {
-    constexpr std::array<std::pair<const char*, Dither>, 4> kStrengths = {
-        {{"none", Dither::Off},
-         {"light", Dither::Light},
-         {"medium", Dither::Medium},
-         {"strong", Dither::Strong}}};
+    constexpr std::array<std::pair<const char*, reduce::Dither>, 4> kStrengths = {
+        {{"none", reduce::Dither::Off},
+         {"light", reduce::Dither::Light},
+         {"medium", reduce::Dither::Medium},
+         {"strong", reduce::Dither::Strong}}};
     for (const auto& [name, dither] : kStrengths) {
         if (text != name) continue;
         composition.dither = dither;
@@ -198,4 +198,4 @@ ConvertOptions ReadOptions(const std::vector<std::string>& arguments) {
     return options;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::tools

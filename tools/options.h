@@ -6,7 +6,7 @@
 
 #include "pictures/compose/composition.h"
 
-namespace vistrel {
+namespace vistrel::tools {
 
 struct ConvertOptions {
     compose::Composition composition;
@@ -24,4 +24,4 @@ ConvertOptions ReadOptions(const std::vector<std::string>& arguments);
 /// All that the program can do, for a screen of 80 x 25 characters.
 extern const char kHelp[];
 
-}  // namespace vistrel
+}  // namespace vistrel::tools

@@ -28,13 +28,13 @@ double Median(std::vector<double> values) {
 }
 
 /// A photograph that is filled, moved, lit and lettered.
-Composition Busy() {
-    Composition composition;
-    composition.framing.kind = FramingKind::Fill;
+compose::Composition Busy() {
+    compose::Composition composition;
+    composition.framing.kind = compose::FramingKind::Fill;
     composition.framing.zoom = 1200;
-    composition.framing.centreX = kWhole / 3;
+    composition.framing.centreX = compose::kWhole / 3;
     composition.light = {10, 15, 120, 20, false};
-    TextMask line;
+    compose::TextMask line;
     line.letters = {20, 300, 280, 60, std::vector<std::uint8_t>(280 * 60)};
     for (std::size_t i = 0; i < line.letters.cover.size(); ++i)
         line.letters.cover[i] = i / 8 % 4 == 0 ? 255 : 0;
@@ -61,26 +61,26 @@ void Compare(std::vector<Step>& steps) {
 }
 
 int Run(const std::string& source, const std::string& only) {
-    const Composition composition = Busy();
-    Composition toneAlone = composition;
+    const compose::Composition composition = Busy();
+    compose::Composition toneAlone = composition;
     toneAlone.light.saturation = 0;
-    const auto intermediate = ReadComposed(source);
-    const auto framed = ReadFramed(source, composition);
+    const auto intermediate = compose::ReadComposed(source);
+    const auto framed = compose::ReadFramed(source, composition);
     if (!intermediate || !framed) {
         std::fprintf(stderr, "compose-bench: cannot read %s\n", source.c_str());
         return 1;
     }
-    const RgbPicture screen = Adjust(*framed, composition);
+    const pictures::RgbPicture screen = compose::Adjust(*framed, composition);
     std::vector<Step> steps = {
         // To nowhere: the disk is not what is measured.
-        {"Conversion", [&] { TryConvertToLogo(source, "/dev/null/none"); }},
-        {"ReadComposed", [&] { ReadComposed(source); }},
-        {"ReadFramed", [&] { ReadFramed(source, composition); }},
-        {"Frame", [&] { Frame(*intermediate, composition); }},
-        {"FrameFinely", [&] { FrameFinely(*intermediate, composition); }},
-        {"Adjust", [&] { Adjust(*framed, composition); }},
-        {"AdjustToneAlone", [&] { Adjust(*framed, toneAlone); }},
-        {"Reduce", [&] { Reduce(screen, Dither::On); }},
+        {"Conversion", [&] { pictures::TryConvertToLogo(source, "/dev/null/none"); }},
+        {"ReadComposed", [&] { compose::ReadComposed(source); }},
+        {"ReadFramed", [&] { compose::ReadFramed(source, composition); }},
+        {"Frame", [&] { compose::Frame(*intermediate, composition); }},
+        {"FrameFinely", [&] { compose::FrameFinely(*intermediate, composition); }},
+        {"Adjust", [&] { compose::Adjust(*framed, composition); }},
+        {"AdjustToneAlone", [&] { compose::Adjust(*framed, toneAlone); }},
+        {"Reduce", [&] { compose::Reduce(screen, reduce::Dither::On); }},
     };
     if (only.empty()) Compare(steps);
     for (const Step& step : steps)

@@ -46,7 +46,7 @@ void DrawOut(const Side& side, int channel) {
 
 }  // namespace
 
-void PaintPlain(const Color& color, RgbPicture& screen) {
+void PaintPlain(const Color& color, pictures::RgbPicture& screen) {
     for (std::size_t i = 0; i < screen.pixels.size(); i += 3) {
         screen.pixels[i] = color.red;
         screen.pixels[i + 1] = color.green;
@@ -54,7 +54,7 @@ void PaintPlain(const Color& color, RgbPicture& screen) {
     }
 }
 
-void DrawOutEdges(const ScreenRectangle& picture, RgbPicture& screen) {
+void DrawOutEdges(const ScreenRectangle& picture, pictures::RgbPicture& screen) {
     const std::ptrdiff_t row = std::ptrdiff_t{3} * screen.width;
     const int right = picture.left + picture.width;
     const int bottom = picture.top + picture.height;

@@ -99,8 +99,8 @@ struct Composition {
     std::optional<Crop> crop;
     Framing framing;
     Light light;
-    Dither dither = Dither::On;  ///< On is the automatic one
-    std::vector<TextMask> text;  ///< in the order of painting
+    reduce::Dither dither = reduce::Dither::On;  ///< On is the automatic one
+    std::vector<TextMask> text;                  ///< in the order of painting
 };
 
 }  // namespace vistrel::compose

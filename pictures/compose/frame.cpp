@@ -17,18 +17,19 @@ std::int64_t InReduced(std::int64_t value, int reduced, int whole) {
     return value * reduced / whole;
 }
 
-PictureArea AreaInReduced(const PictureArea& area, const Intermediate& intermediate) {
-    const RgbPicture& reduced = intermediate.reduced;
-    const PictureSize& file = intermediate.file;
+pictures::PictureArea AreaInReduced(const pictures::PictureArea& area,
+                                    const Intermediate& intermediate) {
+    const pictures::RgbPicture& reduced = intermediate.reduced;
+    const pictures::PictureSize& file = intermediate.file;
     return {InReduced(area.left, reduced.width, file.width),
             InReduced(area.top, reduced.height, file.height),
             std::max<std::int64_t>(InReduced(area.width, reduced.width, file.width), 1),
             std::max<std::int64_t>(InReduced(area.height, reduced.height, file.height), 1)};
 }
 
-RgbPicture TurnedBy(const Turning& turning, const RgbPicture& picture) {
-    const UprightPlace place(turning, picture.width, picture.height);
-    RgbPicture turned{place.width(), place.height(), {}};
+pictures::RgbPicture TurnedBy(const jpg::Turning& turning, const pictures::RgbPicture& picture) {
+    const jpg::UprightPlace place(turning, picture.width, picture.height);
+    pictures::RgbPicture turned{place.width(), place.height(), {}};
     const std::size_t rowBytes = std::size_t(picture.width) * 3;
     turned.pixels.resize(rowBytes * picture.height);
     for (int y = 0; y < picture.height; ++y)
@@ -37,9 +38,10 @@ RgbPicture TurnedBy(const Turning& turning, const RgbPicture& picture) {
 }
 
 Framed EmptyScreen(const ScreenRectangle& picture, const Framing& framing) {
-    Framed framed{{kLogoWidth, kLogoHeight, {}}, picture};
-    framed.screen.pixels.resize(std::size_t{kLogoWidth} * kLogoHeight * 3);
-    const bool isWhole = picture.width == kLogoWidth && picture.height == kLogoHeight;
+    Framed framed{{pictures::kLogoWidth, pictures::kLogoHeight, {}}, picture};
+    framed.screen.pixels.resize(std::size_t{pictures::kLogoWidth} * pictures::kLogoHeight * 3);
+    const bool isWhole =
+        picture.width == pictures::kLogoWidth && picture.height == pictures::kLogoHeight;
     if (!isWhole && framing.border == Border::Plain) PaintPlain(framing.borderColor, framed.screen);
     return framed;
 }
@@ -47,7 +49,7 @@ Framed EmptyScreen(const ScreenRectangle& picture, const Framing& framing) {
 void DrawBorder(const Framing& framing, Framed& framed) {
     if (framing.border == Border::Plain) return;
     DrawOutEdges(framed.picture, framed.screen);
-    framed.picture = {0, 0, kLogoWidth, kLogoHeight};
+    framed.picture = {0, 0, pictures::kLogoWidth, pictures::kLogoHeight};
 }
 
 /// For each pixel of an axis of the screen, the two that are averaged, in bytes from the picture's
@@ -66,7 +68,7 @@ Pairs PairsOf(std::int64_t start, std::int64_t length, int target, int samples, 
         // Sample j has its middle at j + 1/2; counted in halves.
         const std::int64_t within = (2 * i + 1) * length / (2 * std::int64_t{target});
         const std::int64_t middle = mirrored ? start + length - within : start + within;
-        const std::int64_t halves = (2 * middle - PictureArea::kPixel / 2) >> 16;
+        const std::int64_t halves = (2 * middle - pictures::PictureArea::kPixel / 2) >> 16;
         pairs.push_back({offset(halves >> 1), offset((halves + 1) >> 1)});
     }
     return pairs;
@@ -104,8 +106,8 @@ void AverageRow(const std::uint8_t* one, const std::uint8_t* two, const Pairs& c
 
 }  // namespace
 
-Placement PlacementOf(const PictureSize& file, const Composition& composition) {
-    const PictureSize turned = SizeWhenTurned(file, composition.orientation);
+Placement PlacementOf(const pictures::PictureSize& file, const Composition& composition) {
+    const pictures::PictureSize turned = SizeWhenTurned(file, composition.orientation);
     Placement placement;
     placement.turning = TurningOf(composition.orientation);
     placement.stored =
@@ -116,13 +118,14 @@ Placement PlacementOf(const PictureSize& file, const Composition& composition) {
     return placement;
 }
 
-Framed PutOnScreen(const RgbPicture& part, const Placement& placement, const Framing& framing) {
+Framed PutOnScreen(const pictures::RgbPicture& part, const Placement& placement,
+                   const Framing& framing) {
     Framed framed = EmptyScreen(placement.screen, framing);
-    const RgbPicture turned = TurnedBy(placement.turning, part);
+    const pictures::RgbPicture turned = TurnedBy(placement.turning, part);
     const std::size_t rowBytes = std::size_t(turned.width) * 3;
     for (int y = 0; y < turned.height; ++y) {
         const std::size_t pixel =
-            std::size_t(placement.screen.top + y) * kLogoWidth + placement.screen.left;
+            std::size_t(placement.screen.top + y) * pictures::kLogoWidth + placement.screen.left;
         std::copy_n(&turned.pixels[rowBytes * y], rowBytes, &framed.screen.pixels[pixel * 3]);
     }
     DrawBorder(framing, framed);
@@ -131,19 +134,19 @@ Framed PutOnScreen(const RgbPicture& part, const Placement& placement, const Fra
 
 Framed FrameFinely(const Intermediate& intermediate, const Composition& composition) {
     const Placement placement = PlacementOf(intermediate.file, composition);
-    const RgbPicture part =
-        Resize(intermediate.reduced, AreaInReduced(placement.stored, intermediate),
-               placement.target.width, placement.target.height);
+    const pictures::RgbPicture part =
+        scale::Resize(intermediate.reduced, AreaInReduced(placement.stored, intermediate),
+                      placement.target.width, placement.target.height);
     return PutOnScreen(part, placement, composition.framing);
 }
 
 Framed Frame(const Intermediate& intermediate, const Composition& composition) {
     const Placement placement = PlacementOf(intermediate.file, composition);
-    const PictureArea area = AreaInReduced(placement.stored, intermediate);
-    const RgbPicture& reduced = intermediate.reduced;
+    const pictures::PictureArea area = AreaInReduced(placement.stored, intermediate);
+    const pictures::RgbPicture& reduced = intermediate.reduced;
     const std::ptrdiff_t rowBytes = std::ptrdiff_t{3} * reduced.width;
     const ScreenRectangle& screen = placement.screen;
-    const Turning& turning = placement.turning;
+    const jpg::Turning& turning = placement.turning;
     // The axes of the picture, each mirrored as far as the axis of the screen is that it goes to.
     const auto across = [&](int target, bool mirrored) {
         return PairsOf(area.left, area.width, target, reduced.width, mirrored, 3);
@@ -160,7 +163,7 @@ Framed Frame(const Intermediate& intermediate, const Composition& composition) {
     for (int y = 0; y < screen.height; ++y) {
         AverageRow(reduced.pixels.data() + rows[y][0], reduced.pixels.data() + rows[y][1], columns,
                    row.data());
-        const std::size_t pixel = std::size_t(screen.top + y) * kLogoWidth + screen.left;
+        const std::size_t pixel = std::size_t(screen.top + y) * pictures::kLogoWidth + screen.left;
         std::copy_n(row.data(), row.size() - 1, &framed.screen.pixels[pixel * 3]);
     }
     DrawBorder(composition.framing, framed);

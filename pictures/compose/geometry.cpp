@@ -11,7 +11,7 @@
 namespace vistrel::compose {
 namespace {
 
-constexpr std::int64_t kPixel = PictureArea::kPixel;
+constexpr std::int64_t kPixel = pictures::PictureArea::kPixel;
 
 // How a screen is shown.
 constexpr int kShownAcross = 4;
@@ -19,9 +19,9 @@ constexpr int kShownDown = 3;
 
 /// The largest part of an area that is of the shape of a screen as it is shown, divided by the
 /// zoom.
-PictureArea SeenSizes(const PictureArea& area, int zoom) {
+pictures::PictureArea SeenSizes(const pictures::PictureArea& area, int zoom) {
     const std::int64_t divisor = std::clamp(zoom, kZoomOne, kMostZoom);
-    PictureArea seen = area;
+    pictures::PictureArea seen = area;
     if (area.width * kShownDown >= area.height * kShownAcross)
         seen.width = area.height * kShownAcross / kShownDown;
     else
@@ -46,12 +46,14 @@ int CentreOf(std::int64_t whole, std::int64_t length, double start) {
 
 }  // namespace
 
-PictureSize SizeWhenTurned(const PictureSize& size, const Orientation& orientation) {
-    return TurningOf(orientation).swapSides ? PictureSize{size.height, size.width} : size;
+pictures::PictureSize SizeWhenTurned(const pictures::PictureSize& size,
+                                     const Orientation& orientation) {
+    return TurningOf(orientation).swapSides ? pictures::PictureSize{size.height, size.width} : size;
 }
 
-PictureArea AreaOfCrop(const PictureSize& turned, const std::optional<Crop>& crop) {
-    if (!crop) return PictureArea::WholeOf(turned.width, turned.height);
+pictures::PictureArea AreaOfCrop(const pictures::PictureSize& turned,
+                                 const std::optional<Crop>& crop) {
+    if (!crop) return pictures::PictureArea::WholeOf(turned.width, turned.height);
     // Edge by edge; the sums of a crop's numbers may be beyond 32 bits.
     const auto cut = [](std::int64_t start, std::int64_t length, int whole) {
         const std::int64_t first = std::clamp<std::int64_t>(start, 0, whole - 1);
@@ -63,20 +65,21 @@ PictureArea AreaOfCrop(const PictureSize& turned, const std::optional<Crop>& cro
     return {left, top, width, height};
 }
 
-PictureArea SourceRectFor(const PictureSize& turned, const Composition& composition) {
-    const PictureArea area = AreaOfCrop(turned, composition.crop);
+pictures::PictureArea SourceRectFor(const pictures::PictureSize& turned,
+                                    const Composition& composition) {
+    const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const Framing& framing = composition.framing;
     if (framing.kind != FramingKind::Fill) return area;
-    PictureArea seen = SeenSizes(area, framing.zoom);
+    pictures::PictureArea seen = SeenSizes(area, framing.zoom);
     seen.left = area.left + StartOf(area.width, seen.width, framing.centreX);
     seen.top = area.top + StartOf(area.height, seen.height, framing.centreY);
     return seen;
 }
 
-ScreenRectangle ScreenRectFor(const PictureSize& turned, const Composition& composition) {
-    ScreenRectangle rectangle{0, 0, kLogoWidth, kLogoHeight};
+ScreenRectangle ScreenRectFor(const pictures::PictureSize& turned, const Composition& composition) {
+    ScreenRectangle rectangle{0, 0, pictures::kLogoWidth, pictures::kLogoHeight};
     if (composition.framing.kind != FramingKind::Fit) return rectangle;
-    const PictureArea area = AreaOfCrop(turned, composition.crop);
+    const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const std::int64_t across = area.width * kShownDown;
     const std::int64_t down = area.height * kShownAcross;
     // As much of the screen as the shorter side is of the longer one, to the nearest pixel.
@@ -84,55 +87,58 @@ ScreenRectangle ScreenRectFor(const PictureSize& turned, const Composition& comp
         return std::max(static_cast<int>((screen * shorter * 2 + longer) / (longer * 2)), 1);
     };
     if (across >= down)
-        rectangle.height = part(kLogoHeight, down, across);
+        rectangle.height = part(pictures::kLogoHeight, down, across);
     else
-        rectangle.width = part(kLogoWidth, across, down);
-    rectangle.left = (kLogoWidth - rectangle.width) / 2;
-    rectangle.top = (kLogoHeight - rectangle.height) / 2;
+        rectangle.width = part(pictures::kLogoWidth, across, down);
+    rectangle.left = (pictures::kLogoWidth - rectangle.width) / 2;
+    rectangle.top = (pictures::kLogoHeight - rectangle.height) / 2;
     return rectangle;
 }
 
-PictureArea AreaBeforeTurning(const PictureArea& area, const PictureSize& turned,
-                              const Orientation& orientation) {
-    const PictureSize file = SizeWhenTurned(turned, orientation);
-    return StoredArea(TurningOf(orientation), area, file.width, file.height);
+pictures::PictureArea AreaBeforeTurning(const pictures::PictureArea& area,
+                                        const pictures::PictureSize& turned,
+                                        const Orientation& orientation) {
+    const pictures::PictureSize file = SizeWhenTurned(turned, orientation);
+    return jpg::StoredArea(TurningOf(orientation), area, file.width, file.height);
 }
 
-Framing MovedBy(const PictureSize& turned, const Composition& composition, double across,
+Framing MovedBy(const pictures::PictureSize& turned, const Composition& composition, double across,
                 double down) {
     Framing framing = composition.framing;
     if (framing.kind != FramingKind::Fill) return framing;
-    const PictureArea area = AreaOfCrop(turned, composition.crop);
-    const PictureArea seen = SourceRectFor(turned, composition);
+    const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
+    const pictures::PictureArea seen = SourceRectFor(turned, composition);
     // Whoever drags the picture to the right sees more of its left.
     const auto moved = [](std::int64_t start, std::int64_t length, double by, int screen) {
         return static_cast<double>(start) - by * static_cast<double>(length) / screen;
     };
-    framing.centreX = CentreOf(area.width, seen.width,
-                               moved(seen.left - area.left, seen.width, across, kLogoWidth));
-    framing.centreY = CentreOf(area.height, seen.height,
-                               moved(seen.top - area.top, seen.height, down, kLogoHeight));
+    framing.centreX =
+        CentreOf(area.width, seen.width,
+                 moved(seen.left - area.left, seen.width, across, pictures::kLogoWidth));
+    framing.centreY =
+        CentreOf(area.height, seen.height,
+                 moved(seen.top - area.top, seen.height, down, pictures::kLogoHeight));
     return framing;
 }
 
-Framing ZoomedAt(const PictureSize& turned, const Composition& composition, int zoom, double x,
-                 double y) {
+Framing ZoomedAt(const pictures::PictureSize& turned, const Composition& composition, int zoom,
+                 double x, double y) {
     Framing framing = composition.framing;
     if (framing.kind != FramingKind::Fill) return framing;
     framing.zoom = std::clamp(zoom, kZoomOne, kMostZoom);
-    const PictureArea area = AreaOfCrop(turned, composition.crop);
-    const PictureArea before = SourceRectFor(turned, composition);
-    const PictureArea after = SeenSizes(area, framing.zoom);
+    const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
+    const pictures::PictureArea before = SourceRectFor(turned, composition);
+    const pictures::PictureArea after = SeenSizes(area, framing.zoom);
     const auto start = [](std::int64_t from, std::int64_t length, std::int64_t newLength,
                           double part) {
         return static_cast<double>(from) + part * static_cast<double>(length - newLength);
     };
-    framing.centreX =
-        CentreOf(area.width, after.width,
-                 start(before.left - area.left, before.width, after.width, x / kLogoWidth));
-    framing.centreY =
-        CentreOf(area.height, after.height,
-                 start(before.top - area.top, before.height, after.height, y / kLogoHeight));
+    framing.centreX = CentreOf(
+        area.width, after.width,
+        start(before.left - area.left, before.width, after.width, x / pictures::kLogoWidth));
+    framing.centreY = CentreOf(
+        area.height, after.height,
+        start(before.top - area.top, before.height, after.height, y / pictures::kLogoHeight));
     return framing;
 }
 

@@ -19,30 +19,34 @@ struct ScreenRectangle {
 };
 
 /// The size of a picture that is turned.
-PictureSize SizeWhenTurned(const PictureSize& size, const Orientation& orientation);
+pictures::PictureSize SizeWhenTurned(const pictures::PictureSize& size,
+                                     const Orientation& orientation);
 
 /// The part of the turned picture that is framed: all of it, or the crop as far as it lies within.
 /// At least a pixel: of a crop that lies wholly outside it is the nearest one.
-PictureArea AreaOfCrop(const PictureSize& turned, const std::optional<Crop>& crop);
+pictures::PictureArea AreaOfCrop(const pictures::PictureSize& turned,
+                                 const std::optional<Crop>& crop);
 
 /// The part of the turned picture that is seen: never empty, never beyond the picture.
-PictureArea SourceRectFor(const PictureSize& turned, const Composition& composition);
+pictures::PictureArea SourceRectFor(const pictures::PictureSize& turned,
+                                    const Composition& composition);
 
 /// Where on the screen it is seen: everywhere, or for Fit the part that the picture reaches.
-ScreenRectangle ScreenRectFor(const PictureSize& turned, const Composition& composition);
+ScreenRectangle ScreenRectFor(const pictures::PictureSize& turned, const Composition& composition);
 
 /// The same area of the picture as it lies in its file (upright, not turned).
-PictureArea AreaBeforeTurning(const PictureArea& area, const PictureSize& turned,
-                              const Orientation& orientation);
+pictures::PictureArea AreaBeforeTurning(const pictures::PictureArea& area,
+                                        const pictures::PictureSize& turned,
+                                        const Orientation& orientation);
 
 /// Fill's framing after the picture has been dragged by so many pixels of the screen, to the right
 /// and down, as far as it can be. Other kinds of framing stay as they are.
-Framing MovedBy(const PictureSize& turned, const Composition& composition, double across,
+Framing MovedBy(const pictures::PictureSize& turned, const Composition& composition, double across,
                 double down);
 
 /// Fill's framing with another zoom (taken within its bounds) so that what is at a point of the
 /// screen (its pixels; 160, 200 is the middle) stays there if it can. Other kinds stay as they are.
-Framing ZoomedAt(const PictureSize& turned, const Composition& composition, int zoom, double x,
-                 double y);
+Framing ZoomedAt(const pictures::PictureSize& turned, const Composition& composition, int zoom,
+                 double x, double y);
 
 }  // namespace vistrel::compose

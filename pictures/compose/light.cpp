@@ -77,7 +77,7 @@ std::array<std::int16_t, 511> SaturationTable(int saturation) {
     return table;
 }
 
-std::uint8_t* RowWithin(const ScreenRectangle& within, int y, RgbPicture& screen) {
+std::uint8_t* RowWithin(const ScreenRectangle& within, int y, pictures::RgbPicture& screen) {
     const std::size_t pixel = std::size_t(within.top + y) * screen.width + within.left;
     return screen.pixels.data() + pixel * 3;
 }
@@ -105,7 +105,7 @@ void ApplyToneAndSaturation(const std::array<std::uint8_t, 256>& tone,
 
 }  // namespace
 
-Levels LevelsOf(const RgbPicture& screen, const ScreenRectangle& within) {
+Levels LevelsOf(const pictures::RgbPicture& screen, const ScreenRectangle& within) {
     std::array<std::uint32_t, 256> counts{};
     for (int y = 0; y < within.height; ++y) {
         const std::uint8_t* const row =
@@ -139,7 +139,7 @@ std::array<std::uint8_t, 256> ToneTable(const Light& light, const Levels& levels
     return table;
 }
 
-void ApplyLight(const Light& light, const ScreenRectangle& within, RgbPicture& screen) {
+void ApplyLight(const Light& light, const ScreenRectangle& within, pictures::RgbPicture& screen) {
     if (light == Light{}) return;
     const std::array<std::uint8_t, 256> tone =
         ToneTable(light, light.autoLevels ? LevelsOf(screen, within) : Levels{});

@@ -31,12 +31,12 @@ struct Levels {
 
 /// The darkest and the lightest value of any channel within a rectangle of a screen, but for half a
 /// hundredth of them at either end; 0 and 255 for a picture with no range to speak of.
-Levels LevelsOf(const RgbPicture& screen, const ScreenRectangle& within);
+Levels LevelsOf(const pictures::RgbPicture& screen, const ScreenRectangle& within);
 
 /// What becomes of each value of a channel, saturation aside.
 std::array<std::uint8_t, 256> ToneTable(const Light& light, const Levels& levels);
 
 /// Applies `light` within a rectangle of a screen.
-void ApplyLight(const Light& light, const ScreenRectangle& within, RgbPicture& screen);
+void ApplyLight(const Light& light, const ScreenRectangle& within, pictures::RgbPicture& screen);
 
 }  // namespace vistrel::compose

@@ -18,15 +18,15 @@ constexpr int kColors = 256;
 
 /// The size of the Intermediate of a picture: twice as fine as the screen where the picture fills
 /// it, or as fine as the bounds allow, and never finer than the picture.
-PictureSize ReducedSize(const PictureSize& file) {
+pictures::PictureSize ReducedSize(const pictures::PictureSize& file) {
     constexpr double kFineness = 2;
     Composition filling;
     filling.framing.kind = FramingKind::Fill;
-    const PictureArea seen = SourceRectFor(file, filling);
-    const double across =
-        double{PictureArea::kPixel} * file.width * kLogoWidth / static_cast<double>(seen.width);
-    const double down =
-        double{PictureArea::kPixel} * file.height * kLogoHeight / static_cast<double>(seen.height);
+    const pictures::PictureArea seen = SourceRectFor(file, filling);
+    const double across = double{pictures::PictureArea::kPixel} * file.width *
+                          pictures::kLogoWidth / static_cast<double>(seen.width);
+    const double down = double{pictures::PictureArea::kPixel} * file.height *
+                        pictures::kLogoHeight / static_cast<double>(seen.height);
     const double fineness = std::min(kFineness, std::sqrt(kMostIntermediatePixels / across / down));
     const auto side = [&](double screen, int whole) {
         return static_cast<int>(std::clamp(screen * fineness, 1.0, static_cast<double>(whole)));
@@ -37,23 +37,23 @@ PictureSize ReducedSize(const PictureSize& file) {
 }  // namespace
 
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
-std::optional<PictureSize> SizeOfPicture(const std::string& path) try {
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
-    return file ? vistrel::SizeOfPicture(FormatOfName(path), *file) : std::nullopt;
+std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try {
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    return file ? vistrel::SizeOfPicture(pictures::FormatOfName(path), *file) : std::nullopt;
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
 std::optional<Intermediate> ReadComposed(const std::string& path) try {
-    const PictureFormat format = FormatOfName(path);
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    const pictures::PictureFormat format = pictures::FormatOfName(path);
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = vistrel::SizeOfPicture(format, *file);
     if (!size) return std::nullopt;
-    const PictureSize reduced = ReducedSize(*size);
-    std::optional<RgbPicture> picture =
-        ReadPartScaled(format, *file, PictureArea::WholeOf(size->width, size->height),
-                       reduced.width, reduced.height);
+    const pictures::PictureSize reduced = ReducedSize(*size);
+    std::optional<pictures::RgbPicture> picture = pictures::ReadPartScaled(
+        format, *file, pictures::PictureArea::WholeOf(size->width, size->height), reduced.width,
+        reduced.height);
     if (!picture) return std::nullopt;
     picture->pixels.push_back(0);
     return Intermediate{*size, std::move(*picture)};
@@ -62,13 +62,13 @@ std::optional<Intermediate> ReadComposed(const std::string& path) try {
 }
 
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition) try {
-    const PictureFormat format = FormatOfName(path);
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
+    const pictures::PictureFormat format = pictures::FormatOfName(path);
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = vistrel::SizeOfPicture(format, *file);
     if (!size) return std::nullopt;
     const Placement placement = PlacementOf(*size, composition);
-    const std::optional<RgbPicture> part = ReadPartScaled(
+    const std::optional<pictures::RgbPicture> part = pictures::ReadPartScaled(
         format, *file, placement.stored, placement.target.width, placement.target.height);
     if (!part) return std::nullopt;
     return PutOnScreen(*part, placement, composition.framing);
@@ -76,21 +76,22 @@ std::optional<Framed> ReadFramed(const std::string& path, const Composition& com
     return std::nullopt;
 }
 
-RgbPicture Adjust(const Framed& framed, const Composition& composition) {
-    RgbPicture screen = framed.screen;
+pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition) {
+    pictures::RgbPicture screen = framed.screen;
     ApplyLight(composition.light, framed.picture, screen);
     PaintText(composition.text, screen);
     return screen;
 }
 
-std::optional<IndexedScreen> Reduce(const RgbPicture& screen, Dither dither) try {
-    IndexedScreen reduced;
+std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
+                                            reduce::Dither dither) try {
+    screen::IndexedScreen reduced;
     reduced.width = screen.width;
     reduced.height = screen.height;
     reduced.indices.resize(std::size_t(screen.width) * screen.height);
     std::vector<std::uint8_t> entries(kColors * 4);
-    if (!QuantizeRgb(screen.pixels.data(), screen.width, screen.height, kColors,
-                     reduced.indices.data(), entries.data(), dither)) {
+    if (!reduce::QuantizeRgb(screen.pixels.data(), screen.width, screen.height, kColors,
+                             reduced.indices.data(), entries.data(), dither)) {
         return std::nullopt;
     }
     for (std::size_t i = 0; i < kColors; ++i)
@@ -100,26 +101,27 @@ std::optional<IndexedScreen> Reduce(const RgbPicture& screen, Dither dither) try
     return std::nullopt;
 }
 
-bool Write(const std::string& path, const IndexedScreen& screen) try {
+bool Write(const std::string& path, const screen::IndexedScreen& screen) try {
     std::vector<std::uint8_t> entries;
     for (const auto& [red, green, blue] : screen.palette)
         entries.insert(entries.end(), {blue, green, red, 0});
-    return WriteWholeFile(path, ColormappedBmp(screen.indices.data(), screen.width, screen.height,
-                                               kColors, entries.data()));
+    return bmp::WriteWholeFile(path, bmp::ColormappedBmp(screen.indices.data(), screen.width,
+                                                         screen.height, kColors, entries.data()));
 } catch (const std::bad_alloc&) {
     return false;
 }
 
-ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
-                            const Composition& composition) try {
+pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
+                                      const Composition& composition) try {
     const std::optional<Framed> framed = ReadFramed(sourcePath, composition);
-    if (!framed) return ConversionResult::NotRead;
-    const std::optional<IndexedScreen> screen =
+    if (!framed) return pictures::ConversionResult::NotRead;
+    const std::optional<screen::IndexedScreen> screen =
         Reduce(Adjust(*framed, composition), composition.dither);
-    if (!screen) return ConversionResult::NotReduced;
-    return Write(targetPath, *screen) ? ConversionResult::Written : ConversionResult::NotWritten;
+    if (!screen) return pictures::ConversionResult::NotReduced;
+    return Write(targetPath, *screen) ? pictures::ConversionResult::Written
+                                      : pictures::ConversionResult::NotWritten;
 } catch (const std::bad_alloc&) {
-    return ConversionResult::NotReduced;
+    return pictures::ConversionResult::NotReduced;
 }
 
 }  // namespace vistrel::compose

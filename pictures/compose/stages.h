@@ -26,22 +26,22 @@ namespace vistrel::compose {
 /// so that any framing of it can be made quickly. Zoomed to more than 2 it is less sharp than the
 /// file.
 struct Intermediate {
-    PictureSize file;  ///< the picture's size in the file
+    pictures::PictureSize file;  ///< the picture's size in the file
     /// One byte longer than it would have to be, so that four can be read at every pixel.
-    RgbPicture reduced;
+    pictures::RgbPicture reduced;
 };
 
 /// A picture on the screen before light and text.
 struct Framed {
-    RgbPicture screen;        ///< 320 x 400
-    ScreenRectangle picture;  ///< what the light works on: a plain border keeps its colour
+    pictures::RgbPicture screen;  ///< 320 x 400
+    ScreenRectangle picture;      ///< what the light works on: a plain border keeps its colour
 };
 
 /// The most pixels of an Intermediate.
 inline constexpr int kMostIntermediatePixels = 640 * 800;
 
 /// The size of the picture in a file, upright. Empty when it cannot be read.
-std::optional<PictureSize> SizeOfPicture(const std::string& path);
+std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path);
 
 /// Empty when the picture cannot be read or memory runs out.
 std::optional<Intermediate> ReadComposed(const std::string& path);
@@ -57,17 +57,18 @@ Framed FrameFinely(const Intermediate& intermediate, const Composition& composit
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition);
 
 /// Light and text.
-RgbPicture Adjust(const Framed& framed, const Composition& composition);
+pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition);
 
 /// The 256 colours that will be on the disk. Empty when memory runs out.
-std::optional<IndexedScreen> Reduce(const RgbPicture& screen, Dither dither);
+std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
+                                            reduce::Dither dither);
 
 /// Writes a screen file; false when that fails, and `path` is then as it was.
-bool Write(const std::string& path, const IndexedScreen& screen);
+bool Write(const std::string& path, const screen::IndexedScreen& screen);
 
 /// All of it: a screen file of any picture, by ReadFramed. Unless the result is Written, the target
 /// is as it was. A Composition that nobody has touched gives what TryConvertToLogo gives.
-ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
-                            const Composition& composition);
+pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
+                                      const Composition& composition);
 
 }  // namespace vistrel::compose

@@ -55,7 +55,7 @@ void PaintRow(const std::uint8_t* cover, int count, const Color& color, std::uin
 }
 
 /// Paints what of the mask lies on the screen.
-void Paint(const Mask& mask, const Color& color, RgbPicture& screen) {
+void Paint(const Mask& mask, const Color& color, pictures::RgbPicture& screen) {
     if (mask.IsEmpty()) return;
     const auto right = std::min<std::int64_t>(std::int64_t{mask.left} + mask.width, screen.width);
     const auto bottom = std::min<std::int64_t>(std::int64_t{mask.top} + mask.height, screen.height);
@@ -105,7 +105,7 @@ Mask ShadowOf(const Mask& letters) {
     return shadow;
 }
 
-void PaintText(const std::vector<TextMask>& text, RgbPicture& screen) {
+void PaintText(const std::vector<TextMask>& text, pictures::RgbPicture& screen) {
     for (const TextMask& line : text) {
         Paint(line.edge, line.edgeColor, screen);
         Paint(line.letters, line.color, screen);

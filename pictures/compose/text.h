@@ -13,6 +13,6 @@ Mask OutlineOf(const Mask& letters);
 Mask ShadowOf(const Mask& letters);
 
 /// Paints the edge and the letters of each over a screen.
-void PaintText(const std::vector<TextMask>& text, RgbPicture& screen);
+void PaintText(const std::vector<TextMask>& text, pictures::RgbPicture& screen);
 
 }  // namespace vistrel::compose

@@ -7,9 +7,9 @@
 namespace vistrel::compose {
 
 /// The same turn: swapping the sides and then mirroring across is a quarter clockwise.
-inline Turning TurningOf(const Orientation& orientation) {
+inline jpg::Turning TurningOf(const Orientation& orientation) {
     const int quarters = (orientation.quarterTurns % 4 + 4) % 4;
-    Turning turning;
+    jpg::Turning turning;
     turning.swapSides = quarters % 2 == 1;
     turning.mirrorAcross = (quarters == 1 || quarters == 2) != orientation.mirrored;
     turning.mirrorDown = quarters >= 2;

@@ -10,7 +10,7 @@
 #include "pictures/jpg/upsample.h"
 #include "pictures/jpg/whole.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // Makes a plane of samples of each component.
@@ -44,10 +44,11 @@ class PlaneMaker : public BlockRowTaker {
     std::vector<BlockSteps> steps_;
 };
 
-RgbPicture MakePicture(const JpgMarkers& markers, const std::vector<SamplePlane>& planes) {
+pictures::RgbPicture MakePicture(const JpgMarkers& markers,
+                                 const std::vector<SamplePlane>& planes) {
     const JpgFrame& frame = markers.frame();
     const UprightPlace place(TurningOf(markers.orientation()), frame.width, frame.height);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = place.width();
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(frame.width) *
@@ -87,14 +88,14 @@ std::int64_t BytesToReadWhole(const JpgFrame& frame) {
     return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
 }
 
-bool IsJpgToBeTurned(FileBytes file) {
+bool IsJpgToBeTurned(pictures::FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return false;
     const Turning turning = TurningOf(markers.orientation());
     return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
 }
 
-std::optional<RgbPicture> ReadJpg(FileBytes file) {
+std::optional<pictures::RgbPicture> ReadJpg(pictures::FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();
@@ -105,4 +106,4 @@ std::optional<RgbPicture> ReadJpg(FileBytes file) {
     return MakePicture(markers, maker.planes());
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -11,7 +11,7 @@
 #include "pictures/jpg/whole.h"
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 struct Size {
@@ -67,7 +67,7 @@ int SpreadOf(bool isHalf, int frequencies) {
 // What of an axis of a component is seen, from sample `first` on.
 struct SeenAxis {
     int first;
-    ScaleAxis axis;
+    scale::ScaleAxis axis;
 };
 
 // An axis of a component of which `frequencies` a block are kept: `part` / `whole` of the frame's
@@ -80,7 +80,7 @@ SeenAxis AxisOf(std::int64_t from, std::int64_t length, int part, int whole, int
     };
     SeenAxis seen{};
     seen.axis.extent65536 = inSamples(length);
-    const PixelSpan touched = PixelsTouched(inSamples(from), seen.axis.extent65536);
+    const scale::PixelSpan touched = scale::PixelsTouched(inSamples(from), seen.axis.extent65536);
     seen.first = touched.first;
     seen.axis.start65536 = inSamples(from) % 65536;
     seen.axis.samples = touched.count;
@@ -93,7 +93,7 @@ SeenAxis AxisOf(std::int64_t from, std::int64_t length, int part, int whole, int
 class ComponentScalers : public BlockRowTaker {
  public:
     ComponentScalers(const JpgFrame& frame, std::span<const KeptFrequencies> kept,
-                     const PictureArea& area, Size target)
+                     const pictures::PictureArea& area, Size target)
         : frame_(frame), kept_(kept), area_(area), target_(target), channels_(kept.size()) {}
 
     void TakeBlockRow(int index, int row, const std::int16_t* blocks) override {
@@ -127,7 +127,7 @@ class ComponentScalers : public BlockRowTaker {
  private:
     struct Channel {
         std::unique_ptr<ReducedInverse> inverse;
-        std::unique_ptr<PlaneScaler> scaler;
+        std::unique_ptr<scale::PlaneScaler> scaler;
         std::vector<std::int16_t> rows;  // of samples, from one row of blocks
         int firstBlock = 0;              // of a row, that is seen
         int blocks = 0;                  // so many are seen
@@ -143,7 +143,7 @@ class ComponentScalers : public BlockRowTaker {
         const SeenAxis down = AxisOf(area_.top, area_.height, component.down, frame_.maxDown,
                                      kept.down, target_.height);
         channel.inverse = std::make_unique<ReducedInverse>(kept, component.quant);
-        channel.scaler = std::make_unique<PlaneScaler>(across.axis, down.axis);
+        channel.scaler = std::make_unique<scale::PlaneScaler>(across.axis, down.axis);
         channel.firstBlock = across.first / kept.across;
         channel.firstSample = across.first % kept.across;
         const int lastBlock = (across.first + across.axis.samples - 1) / kept.across;
@@ -156,7 +156,7 @@ class ComponentScalers : public BlockRowTaker {
 
     const JpgFrame& frame_;
     std::span<const KeptFrequencies> kept_;
-    PictureArea area_;  // of the picture as it lies in the file
+    pictures::PictureArea area_;  // of the picture as it lies in the file
     Size target_;
     std::vector<Channel> channels_;
 };
@@ -194,15 +194,15 @@ KeptFrequencies WithFewer(const KeptFrequencies& kept) {
 }
 
 // A row more on either side does no harm.
-void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component, const PictureArea& area,
-                  KeptFrequencies& kept) {
+void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component,
+                  const pictures::PictureArea& area, KeptFrequencies& kept) {
     const SeenAxis down =
         AxisOf(area.top, area.height, component.down, frame.maxDown, kept.down, 1);
     kept.firstRow = std::max(down.first / kept.down - 1, 0);
     kept.endRow = (down.first + down.axis.samples - 1) / kept.down + 2;
 }
 
-std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const PictureArea& area,
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const pictures::PictureArea& area,
                                            Size seen, Size target) {
     std::vector<KeptFrequencies> kept;
     for (const JpgComponent& component : frame.components) {
@@ -215,9 +215,10 @@ std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const PictureA
     return kept;
 }
 
-RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers, Size stored) {
+pictures::RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers,
+                                 Size stored) {
     const UprightPlace place(TurningOf(markers.orientation()), stored.width, stored.height);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = place.width();
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(stored.width) *
@@ -232,59 +233,62 @@ RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scaler
 }
 
 // The upright size of a picture whose first scan has been found.
-PictureSize UprightSize(const JpgMarkers& markers) {
+pictures::PictureSize UprightSize(const JpgMarkers& markers) {
     const JpgFrame& frame = markers.frame();
     if (TurningOf(markers.orientation()).swapSides) return {frame.height, frame.width};
     return {frame.width, frame.height};
 }
 
 // A part of the picture, by markers at the file's first scan.
-std::optional<RgbPicture> ReadPart(FileBytes file, JpgMarkers& markers, const PictureArea& area,
-                                   int width, int height) {
+std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarkers& markers,
+                                             const pictures::PictureArea& area, int width,
+                                             int height) {
     const JpgFrame& frame = markers.frame();
     // The part and its target as they lie in the file.
     const Turning turning = TurningOf(markers.orientation());
-    const PictureArea stored = StoredArea(turning, area, frame.width, frame.height);
+    const pictures::PictureArea stored = StoredArea(turning, area, frame.width, frame.height);
     const Size target = turning.swapSides ? Size{height, width} : Size{width, height};
-    const Size seen{std::max(static_cast<int>(stored.width / PictureArea::kPixel), 1),
-                    std::max(static_cast<int>(stored.height / PictureArea::kPixel), 1)};
+    const Size seen{std::max(static_cast<int>(stored.width / pictures::PictureArea::kPixel), 1),
+                    std::max(static_cast<int>(stored.height / pictures::PictureArea::kPixel), 1)};
     if (IsBetterReadWhole(frame, seen, target)) {
-        const std::optional<RgbPicture> whole = ReadJpg(file);
+        const std::optional<pictures::RgbPicture> whole = ReadJpg(file);
         if (!whole) return std::nullopt;
-        return Resize(*whole, area, width, height);
+        return scale::Resize(*whole, area, width, height);
     }
     const Size colors = SizeOfColors(frame, seen, target);
     const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, stored, seen, colors);
     ComponentScalers scalers(frame, kept, stored, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
-    RgbPicture picture = MakePicture(markers, scalers, colors);
+    pictures::RgbPicture picture = MakePicture(markers, scalers, colors);
     if (colors.width == target.width && colors.height == target.height) return picture;
-    return Resize(picture, width, height);
+    return scale::Resize(picture, width, height);
 }
 
 }  // namespace
 
-std::optional<PictureSize> SizeOfJpg(FileBytes file) {
+std::optional<pictures::PictureSize> SizeOfJpg(pictures::FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     return UprightSize(markers);
 }
 
-std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height) {
+std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, int width,
+                                                     int height) {
     JpgMarkers markers(file);
-    if (!IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
-    const PictureSize size = UprightSize(markers);
-    std::optional<RgbPicture> picture =
-        ReadPart(file, markers, PictureArea::WholeOf(size.width, size.height), width, height);
+    if (!pictures::IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
+    const pictures::PictureSize size = UprightSize(markers);
+    std::optional<pictures::RgbPicture> picture = ReadPart(
+        file, markers, pictures::PictureArea::WholeOf(size.width, size.height), width, height);
     if (!picture) return std::nullopt;
-    return ScaledPicture{std::move(*picture), size.width, size.height};
+    return pictures::ScaledPicture{std::move(*picture), size.width, size.height};
 }
 
-std::optional<RgbPicture> ReadJpgScaled(FileBytes file, const PictureArea& area, int width,
-                                        int height) {
+std::optional<pictures::RgbPicture> ReadJpgScaled(pictures::FileBytes file,
+                                                  const pictures::PictureArea& area, int width,
+                                                  int height) {
     JpgMarkers markers(file);
-    if (!IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
+    if (!pictures::IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
     return ReadPart(file, markers, area, width, height);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <new>
 
-namespace vistrel {
+namespace vistrel::preview {
 namespace {
 
 // A screen is seen as 640 x 480 square dots, five of which are drawn for each: a pixel of the
@@ -19,7 +19,7 @@ constexpr int kDotsPerInch = 96 * 5;
 constexpr int kWidest = 3 * 320 * kAcross;
 constexpr int kHighest = 400 * kDown;
 
-HFONT MakeFont(const TextFont& font) {
+HFONT MakeFont(const platform::TextFont& font) {
     LOGFONTA wanted{};
     wanted.lfHeight = -std::min(MulDiv(font.tenthsOfPoint, kDotsPerInch, 720), kHighest);
     wanted.lfWeight = font.weight;
@@ -33,7 +33,7 @@ HFONT MakeFont(const TextFont& font) {
 /// A device context with a font, and with a bitmap of one bit a dot once it has a size.
 class Drawing {
  public:
-    explicit Drawing(const TextFont& font)
+    explicit Drawing(const platform::TextFont& font)
         : dc_(CreateCompatibleDC(nullptr)), font_(MakeFont(font)) {
         formerFont_ = SelectObject(dc_, font_);
     }
@@ -124,7 +124,7 @@ std::vector<std::uint8_t> CoverOf(const Drawing& drawing, int width, int height)
 
 }  // namespace
 
-Letters DrawLetters(const std::string& text, const TextFont& font) try {
+Letters DrawLetters(const std::string& text, const platform::TextFont& font) try {
     if (text.empty()) return {};
     Drawing drawing(font);
     const SIZE size = drawing.SizeOf(text);
@@ -145,9 +145,9 @@ Letters DrawLetters(const std::string& text, const TextFont& font) try {
 }
 
 std::string FaceFor(const std::string& face) {
-    TextFont font;
+    platform::TextFont font;
     font.face = face;
     return Drawing(font).Face();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

@@ -7,7 +7,7 @@
 #include "pictures/compose/composition.h"
 #include "platform/text_font.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 struct Letters {
     compose::Mask mask;  ///< placed for a line whose upper left corner is at 0, 0
@@ -18,10 +18,10 @@ struct Letters {
 
 /// Draws one line. On the screen, whose pixels are wider than high, the letters have the shape of
 /// the font. The mask is empty when there is nothing to draw or no memory.
-Letters DrawLetters(const std::string& text, const TextFont& font);
+Letters DrawLetters(const std::string& text, const platform::TextFont& font);
 
 /// The name of the font that the system takes when one of this name is asked for: another one where
 /// there is none.
 std::string FaceFor(const std::string& face);
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// How strongly neighbouring pixels share their rounding errors. On is as strongly as suits the
 /// picture; Light, Medium and Strong are the same for every picture.
@@ -17,4 +17,4 @@ enum class Dither { On, Off, Light, Medium, Strong };
 bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std::uint8_t* indices,
                  std::uint8_t* palette, Dither dither = Dither::On);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -8,7 +8,7 @@
 #include "pictures/scale/passes.h"
 #include "pictures/scale/weights.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 namespace {
 
 /// Fraction bits that a byte sample carries between the passes: 255 with all of them, and a half
@@ -19,7 +19,7 @@ constexpr int kFractionBits = 6;
 ScaleAxis AxisOf(std::int64_t from, std::int64_t length, int target) {
     const PixelSpan span = PixelsTouched(from, length);
     ScaleAxis axis{span.count, length, target};
-    axis.start65536 = from % PictureArea::kPixel;
+    axis.start65536 = from % pictures::PictureArea::kPixel;
     return axis;
 }
 
@@ -44,7 +44,7 @@ void RoundToBytes(const std::int16_t* samples, std::size_t count, std::uint8_t* 
 /// Makes target rows of source rows.
 class RgbPasses {
  public:
-    RgbPasses(const PictureArea& area, int width, int height)
+    RgbPasses(const pictures::PictureArea& area, int width, int height)
         : down(MakeFilterAxis(AxisOf(area.top, area.height, height))),
           rows(down.mostTaps + 1),
           across_(MakeFilterAxis(AxisOf(area.left, area.width, width))),
@@ -73,7 +73,7 @@ class RgbPasses {
         if (inGroup == kRowsAtOnce - 1 || IsComplete()) FinishGroup(inGroup + 1);
     }
 
-    RgbPicture TakeResult() { return std::move(result_); }
+    pictures::RgbPicture TakeResult() { return std::move(result_); }
 
     const FilterAxis down;
     std::vector<const std::uint8_t*> rows;
@@ -94,12 +94,12 @@ class RgbPasses {
     std::vector<std::int16_t> mixed_;
     std::vector<std::int16_t> channels_;  ///< of the target rows that wait for being weighed along
     std::vector<std::int16_t> scaled_;
-    RgbPicture result_;
+    pictures::RgbPicture result_;
     int made_ = 0;
 };
 
-RgbPicture ResizeArea(const std::uint8_t* rgb, std::size_t rowBytes, const PictureArea& area,
-                      int width, int height) {
+pictures::RgbPicture ResizeArea(const std::uint8_t* rgb, std::size_t rowBytes,
+                                const pictures::PictureArea& area, int width, int height) {
     const int firstRow = PixelsTouched(area.top, area.height).first;
     const int firstPixel = PixelsTouched(area.left, area.width).first;
     const std::uint8_t* const corner = rgb + rowBytes * firstRow + std::size_t(firstPixel) * 3;
@@ -115,32 +115,34 @@ RgbPicture ResizeArea(const std::uint8_t* rgb, std::size_t rowBytes, const Pictu
 }  // namespace
 
 PixelSpan PixelsTouched(std::int64_t from, std::int64_t length) {
-    const std::int64_t first = from / PictureArea::kPixel;
-    const std::int64_t end = (from + length + PictureArea::kPixel - 1) / PictureArea::kPixel;
+    const std::int64_t first = from / pictures::PictureArea::kPixel;
+    const std::int64_t end =
+        (from + length + pictures::PictureArea::kPixel - 1) / pictures::PictureArea::kPixel;
     return {static_cast<int>(first), static_cast<int>(end - first)};
 }
 
-RgbPicture Resize(const RgbPicture& source, int width, int height) {
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, int width, int height) {
     return Resize(source.pixels.data(), source.width, source.height, width, height);
 }
 
-RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
-                  int height) {
+pictures::RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
+                            int height) {
     const std::size_t rowBytes = std::size_t(sourceWidth) * 3;
     if (width == sourceWidth && height == sourceHeight)
         return {width, height, std::vector<std::uint8_t>(rgb, rgb + rowBytes * height)};
-    return ResizeArea(rgb, rowBytes, PictureArea::WholeOf(sourceWidth, sourceHeight), width,
-                      height);
+    return ResizeArea(rgb, rowBytes, pictures::PictureArea::WholeOf(sourceWidth, sourceHeight),
+                      width, height);
 }
 
-RgbPicture Resize(const RgbPicture& source, const PictureArea& area, int width, int height) {
-    if (area == PictureArea::WholeOf(source.width, source.height))
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, const pictures::PictureArea& area,
+                            int width, int height) {
+    if (area == pictures::PictureArea::WholeOf(source.width, source.height))
         return Resize(source, width, height);
     return ResizeArea(source.pixels.data(), std::size_t(source.width) * 3, area, width, height);
 }
 
 struct RgbScaler::State {
-    State(const PictureArea& area, int width, int height)
+    State(const pictures::PictureArea& area, int width, int height)
         : passes(area, width, height),
           rowBytes(std::size_t(PixelsTouched(area.left, area.width).count) * 3),
           kept(rowBytes * passes.down.mostTaps) {}
@@ -163,9 +165,9 @@ struct RgbScaler::State {
 };
 
 RgbScaler::RgbScaler(int sourceWidth, int sourceHeight, int width, int height)
-    : RgbScaler(PictureArea::WholeOf(sourceWidth, sourceHeight), width, height) {}
+    : RgbScaler(pictures::PictureArea::WholeOf(sourceWidth, sourceHeight), width, height) {}
 
-RgbScaler::RgbScaler(const PictureArea& area, int width, int height)
+RgbScaler::RgbScaler(const pictures::PictureArea& area, int width, int height)
     : state_(std::make_unique<State>(area, width, height)) {}
 
 RgbScaler::~RgbScaler() = default;
@@ -177,7 +179,7 @@ void RgbScaler::EndRow() {
     state_->MakeWhatIsComplete();
 }
 
-RgbPicture RgbScaler::TakePicture() { return state_->passes.TakeResult(); }
+pictures::RgbPicture RgbScaler::TakePicture() { return state_->passes.TakeResult(); }
 
 struct PlaneScaler::State {
     State(const ScaleAxis& acrossAxis, const ScaleAxis& downAxis)
@@ -240,4 +242,4 @@ void PlaneScaler::AddRow(const std::int16_t* row) {
 
 const std::vector<std::int16_t>& PlaneScaler::plane() const { return state_->plane; }
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

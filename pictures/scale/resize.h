@@ -5,19 +5,20 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 
 /// Scales `source` to `width` x `height` pixels (both 1 to 32,767). The picture is stretched: its
 /// aspect ratio is not kept. The result is the same on every machine.
-RgbPicture Resize(const RgbPicture& source, int width, int height);
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, int width, int height);
 
 /// The same for pixels that lie elsewhere: `rgb` holds sourceWidth * sourceHeight * 3 bytes.
-RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
-                  int height);
+pictures::RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
+                            int height);
 
 /// The same for a part of a picture, which must lie within it. Of pixels that it does not touch
 /// nothing is seen; a pixel that it touches is part of its edge.
-RgbPicture Resize(const RgbPicture& source, const PictureArea& area, int width, int height);
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, const pictures::PictureArea& area,
+                            int width, int height);
 
 /// The pixels of an axis that a part of it touches, `from` and `length` in 1/65,536 of them.
 struct PixelSpan {
@@ -33,7 +34,7 @@ class RgbScaler {
     RgbScaler(int sourceWidth, int sourceHeight, int width, int height);
 
     /// For a part of a picture: of the source, only the rows and pixels that it touches are taken.
-    RgbScaler(const PictureArea& area, int width, int height);
+    RgbScaler(const pictures::PictureArea& area, int width, int height);
     ~RgbScaler();
     RgbScaler(const RgbScaler&) = delete;
     RgbScaler& operator=(const RgbScaler&) = delete;
@@ -45,7 +46,7 @@ class RgbScaler {
     void EndRow();
 
     /// The finished picture: to be called once, when all source rows have been taken.
-    RgbPicture TakePicture();
+    pictures::RgbPicture TakePicture();
 
  private:
     struct State;
@@ -89,4 +90,4 @@ class PlaneScaler {
     std::unique_ptr<State> state_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

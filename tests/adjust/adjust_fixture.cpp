@@ -5,6 +5,9 @@
 
 namespace vistrel::test {
 
+using namespace editor;
+using namespace pictures;
+
 Adjusting::Adjusting() { Put(photo, JpgOf(TestPicture(800, 300))); }
 
 HWND Adjusting::WaitForIt() {

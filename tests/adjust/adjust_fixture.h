@@ -19,11 +19,11 @@ class Adjusting : public LogoBrowser {
     // For the user's thread. `window` is the window "Adjust picture".
 
     /// Selects a picture and opens the window by its button; returns it in front.
-    static HWND OpenOn(SelPictureForm& editor, const std::string& picture);
+    static HWND OpenOn(editor::SelPictureForm& editor, const std::string& picture);
     /// Waits for the window, which some command opens, and brings it to the front.
     static HWND WaitForIt();
     /// Presses OK or Cancel and waits until the window is gone and the browser has followed.
-    static void CloseBy(SelPictureForm& editor, HWND window, int button);
+    static void CloseBy(editor::SelPictureForm& editor, HWND window, int button);
     /// Presses OK, which asks or tells something: answers with OK and returns what was said.
     static user::Box PressOkAndAnswer(HWND window);
 

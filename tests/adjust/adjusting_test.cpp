@@ -6,6 +6,13 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
+
+using namespace editor;
+using namespace main_window;
+using namespace pictures;
+
 namespace {
 
 const PictureSize kPhoto{800, 300};

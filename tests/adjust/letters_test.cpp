@@ -7,6 +7,13 @@
 #include "pictures/preview/draw_letters.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
+
+using namespace pictures;
+using namespace platform;
+using namespace preview;
+
 namespace {
 
 /// The rectangle of a mask in which something is covered.

@@ -12,6 +12,10 @@
 #include "tests/support/user/poll.h"
 
 namespace vistrel::test {
+
+using namespace companions;
+using namespace core;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -8,6 +8,10 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
+
+using namespace companions;
+using namespace core;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -5,6 +5,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 using Screens = std::array<std::string, 3>;

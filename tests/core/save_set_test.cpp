@@ -4,6 +4,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -7,6 +7,12 @@
 #include "art/files/jpg_writer.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+using namespace pictures;
+
 namespace {
 
 std::string TextOf(const std::vector<std::uint8_t>& bytes) {

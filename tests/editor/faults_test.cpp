@@ -12,6 +12,12 @@
 #include "tests/editor/editor_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace core;
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 const std::string kRedScreen = ScreenFile(255, 0, 0);

@@ -12,6 +12,9 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
+
+using namespace bmp;
+
 namespace {
 
 /// A program that opens a file as soon as it appears, as a virus scanner does, and lets nobody

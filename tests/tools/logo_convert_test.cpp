@@ -10,6 +10,10 @@
 #include "tests/pictures/compose/scene.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+using namespace reduce;
+
 namespace {
 
 using compose::Composition;

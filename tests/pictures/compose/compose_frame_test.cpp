@@ -6,6 +6,10 @@
 #include "tests/pictures/compose/scene.h"
 
 namespace vistrel::compose {
+
+using namespace compose;
+using namespace pictures;
+
 namespace {
 
 using namespace vistrel::test;

@@ -6,6 +6,10 @@
 #include "pictures/compose/geometry.h"
 
 namespace vistrel::compose {
+
+using namespace compose;
+using namespace pictures;
+
 namespace {
 
 constexpr double kPixel = PictureArea::kPixel;

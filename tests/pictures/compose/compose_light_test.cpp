@@ -8,6 +8,10 @@
 #include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::compose {
+
+using namespace compose;
+using namespace pictures;
+
 namespace {
 
 constexpr ScreenRectangle kAll{0, 0, 40, 30};

@@ -8,6 +8,12 @@
 #include "tests/pictures/corpus.h"
 
 namespace vistrel::compose {
+
+using namespace compose;
+using namespace pictures;
+using namespace reduce;
+using namespace screen;
+
 namespace {
 
 namespace fs = std::filesystem;

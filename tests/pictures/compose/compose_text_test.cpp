@@ -4,6 +4,10 @@
 #include "pictures/compose/text.h"
 
 namespace vistrel::compose {
+
+using namespace compose;
+using namespace pictures;
+
 namespace {
 
 constexpr int kWidth = 320, kHeight = 400;

@@ -53,12 +53,12 @@ struct Part {
     double left, top, width, height;
 };
 
-inline RgbPicture ScaledReference(const RgbPicture& source, const Part& part, int width,
-                                  int height) {
+inline pictures::RgbPicture ScaledReference(const pictures::RgbPicture& source, const Part& part,
+                                            int width, int height) {
     std::vector<double> samples(source.pixels.begin(), source.pixels.end());
     samples = ScaledAndTurned(samples, source.width, source.height, part.left, part.width, width);
     samples = ScaledAndTurned(samples, source.height, width, part.top, part.height, height);
-    RgbPicture picture{width, height, {}};
+    pictures::RgbPicture picture{width, height, {}};
     for (const double sample : samples)
         picture.pixels.push_back(
             static_cast<std::uint8_t>(std::lround(std::clamp(sample, 0.0, 255.0))));
@@ -66,7 +66,7 @@ inline RgbPicture ScaledReference(const RgbPicture& source, const Part& part, in
 }
 
 /// Decibels between two pictures of one size.
-inline double Psnr(const RgbPicture& one, const RgbPicture& other) {
+inline double Psnr(const pictures::RgbPicture& one, const pictures::RgbPicture& other) {
     double squares = 0;
     for (std::size_t i = 0; i < one.pixels.size(); ++i) {
         const double difference = one.pixels[i] - other.pixels[i];

@@ -18,8 +18,8 @@ namespace vistrel::test {
 
 /// Waves and edges of several sizes, no two corners alike, and a grey pattern that turns by
 /// `turn` from a pixel to the next.
-inline RgbPicture MakeScene(int width, int height, double turn = 0.7) {
-    RgbPicture picture{width, height, {}};
+inline pictures::RgbPicture MakeScene(int width, int height, double turn = 0.7) {
+    pictures::RgbPicture picture{width, height, {}};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const double u = static_cast<double>(x) / width, v = static_cast<double>(y) / height;
@@ -34,7 +34,7 @@ inline RgbPicture MakeScene(int width, int height, double turn = 0.7) {
     return picture;
 }
 
-inline Bytes BmpOf(const RgbPicture& picture) {
+inline Bytes BmpOf(const pictures::RgbPicture& picture) {
     BmpFile file;
     file.width = picture.width;
     file.height = picture.height;

@@ -85,8 +85,8 @@ void Type(const std::string& text);
 /// Chooses a command from the menu bar of a window with the mouse. Returns false, without a click,
 /// when the menu bar has no such command.
 bool ChooseFromMenuBar(HWND window, unsigned command);
-/// Waits for a pop-up menu and chooses a command from it with the mouse. When the menu does not have
-/// it the menu is closed and the result is false.
+/// Waits for a pop-up menu and chooses a command from it with the mouse. When the menu does not
+/// have it the menu is closed and the result is false.
 bool ChooseFromPopUp(unsigned command);
 /// The pop-up menu that is open (wait for it), or null.
 HMENU WaitForPopUp();
