@@ -527,7 +527,39 @@ TEST_F(Preferences, StandAMissingStartupFolder) {
     EXPECT_EQ(user::FindTop("#32770"), nullptr);
 }
 
+/// Has each option button made from now on do what it does on Windows and not in Wine: it is chosen
+/// as soon as it has the focus, however that came.
+class OptionsChosenByFocus {
+ public:
+    OptionsChosenByFocus() { former_ = ChangeClass(&Run); }
+    ~OptionsChosenByFocus() { ChangeClass(former_); }
+
+ private:
+    static WNDPROC ChangeClass(WNDPROC to) {
+        const HWND button =
+            CreateWindowA("BUTTON", "", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+        const ULONG_PTR former =
+            SetClassLongPtrA(button, GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(to));
+        DestroyWindow(button);
+        return reinterpret_cast<WNDPROC>(former);
+    }
+    static LRESULT CALLBACK Run(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const LRESULT result = CallWindowProcA(former_, window, message, wParam, lParam);
+        const bool isOption =
+            (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
+        if (message != WM_SETFOCUS || !isOption ||
+            SendMessageA(window, BM_GETCHECK, 0, 0) == BST_CHECKED)
+            return result;
+        SendMessageA(window, BM_SETCHECK, BST_CHECKED, 0);
+        SendMessageA(GetParent(window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(window));
+        return result;
+    }
+    static inline WNDPROC former_ = nullptr;
+};
+
 TEST_F(Preferences, LetTheTabKeyComeToTheStartUpActionsWithoutChoosingOne) {
+    const OptionsChosenByFocus asOnWindows;
     Put(startup + "Rotaline.lnk", "mine");
     Put(startup + "Shufflet.lnk", "mine too");
     WithDialog([&](FrmOptions& options) {
