@@ -39,7 +39,7 @@ pictures::PictureSize ReducedSize(const pictures::PictureSize& file) {
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
 std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try {
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    return file ? vistrel::SizeOfPicture(pictures::FormatOfName(path), *file) : std::nullopt;
+    return file ? pictures::SizeOfPicture(pictures::FormatOfName(path), *file) : std::nullopt;
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
@@ -48,7 +48,7 @@ std::optional<Intermediate> ReadComposed(const std::string& path) try {
     const pictures::PictureFormat format = pictures::FormatOfName(path);
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = pictures::SizeOfPicture(format, *file);
     if (!size) return std::nullopt;
     const pictures::PictureSize reduced = ReducedSize(*size);
     std::optional<pictures::RgbPicture> picture = pictures::ReadPartScaled(
@@ -65,7 +65,7 @@ std::optional<Framed> ReadFramed(const std::string& path, const Composition& com
     const pictures::PictureFormat format = pictures::FormatOfName(path);
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = vistrel::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = pictures::SizeOfPicture(format, *file);
     if (!size) return std::nullopt;
     const Placement placement = PlacementOf(*size, composition);
     const std::optional<pictures::RgbPicture> part = pictures::ReadPartScaled(
