@@ -16,9 +16,11 @@
 #include "editor/host.h"
 #include "options/host.h"
 
-namespace vistrel::main_window {
-
+namespace vistrel::options {
 class FrmOptions;
+}
+
+namespace vistrel::main_window {
 
 class Principale : public controls::Window, public editor::EditorHost, public options::OptionsHost {
  public:
@@ -146,7 +148,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowActualSize(platform::WindowHandle owner);
     void OpenPaint(platform::WindowHandle owner);
     void OpenCustomProgram(platform::WindowHandle owner);
-    void ShowPreferences(FrmOptions& options, platform::WindowHandle owner);
+    void ShowPreferences(options::FrmOptions& options, platform::WindowHandle owner);
     void OpenExplorer(const std::string& folder);
     void RedrawScreens();
     platform::MenuHandle ClassicMenu(int place) const;

@@ -15,6 +15,7 @@ namespace vistrel::test {
 
 using namespace companions;
 using namespace core;
+using namespace platform;
 
 namespace {
 

@@ -8,6 +8,7 @@
 namespace vistrel::test {
 
 using namespace core;
+using namespace platform;
 
 namespace {
 

@@ -10,6 +10,7 @@
 namespace vistrel::test {
 
 using namespace core;
+using namespace platform;
 
 namespace {
 

@@ -11,6 +11,7 @@
 namespace vistrel::test {
 
 using namespace core;
+using namespace platform;
 
 namespace {
 

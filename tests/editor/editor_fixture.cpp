@@ -47,9 +47,9 @@ RgbPicture TestPicture(int width, int height) {
     return picture;
 }
 
-std::string JpgOf(const RgbPicture& picture) { return TextOf(samples::JpgFile(picture)); }
+std::string JpgOf(const RgbPicture& picture) { return TextOf(art::JpgFile(picture)); }
 
-std::string GifOf(const RgbPicture& picture) { return TextOf(samples::GifFile(picture)); }
+std::string GifOf(const RgbPicture& picture) { return TextOf(art::GifFile(picture)); }
 
 std::string BmpOf(const RgbPicture& picture) {
     const int stride = (picture.width * 3 + 3) / 4 * 4;

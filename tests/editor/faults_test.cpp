@@ -17,6 +17,7 @@ using namespace controls;
 using namespace core;
 using namespace editor;
 using namespace main_window;
+using namespace platform;
 
 namespace {
 

@@ -13,6 +13,7 @@
 namespace vistrel::test {
 
 using namespace main_window;
+using namespace platform;
 
 namespace {
 

@@ -10,6 +10,7 @@ namespace vistrel::test {
 
 using namespace controls;
 using namespace main_window;
+using namespace platform;
 
 namespace {
 
