@@ -3,10 +3,10 @@
 #include "platform/files.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::about {
 
-void OpenLink(const std::string& target, WindowHandle owner) {
-    ShellOpen(owner, target, ProgramFolder(), ShowState::Maximized);
+void OpenLink(const std::string& target, platform::WindowHandle owner) {
+    platform::ShellOpen(owner, target, platform::ProgramFolder(), platform::ShowState::Maximized);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::about

@@ -5,10 +5,10 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::about {
 
 /// Opens a document, a web or a mail address with the program that is registered for it, maximized.
 /// Where there is none, nothing happens.
-void OpenLink(const std::string& target, WindowHandle owner);
+void OpenLink(const std::string& target, platform::WindowHandle owner);
 
-}  // namespace vistrel
+}  // namespace vistrel::about

@@ -11,18 +11,18 @@
 #include "platform/message_box.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::about {
 namespace {
 
 constexpr const char* kVersion = "Version: 4.00b2 - Beta 2";
 constexpr const char* kLegalWarning = "Copying this program under another name is against the law.";
 
 /// The separator under the title, in twips; the other one is as long.
-constexpr Point kRuleFrom{720, 1260};
-constexpr Point kRuleTo{4560, 1270};
+constexpr controls::Point kRuleFrom{720, 1260};
+constexpr controls::Point kRuleTo{4560, 1270};
 constexpr int kTwipsPerInch = 1440;
 
-int PixelsOf(int twips) { return twips * PixelsPerInch() / kTwipsPerInch; }
+int PixelsOf(int twips) { return twips * controls::PixelsPerInch() / kTwipsPerInch; }
 
 /// The web pages stand between the mail addresses.
 bool IsWebPage(int index) { return index == 1 || index == 3; }
@@ -46,17 +46,17 @@ FrmAboutReg::FrmAboutReg() : Window("FrmAboutReg", IDD_FrmAboutReg) {
 
 void FrmAboutReg::Form_Load() {
     SetHelpTopic(help_number::AboutBox);
-    ShowPictureResource("logoicon", Image1);
+    preview::ShowPictureResource("logoicon", Image1);
     LblTitProgram.SetFont({.bold = true, .points = 18, .face = "Arial"});
-    LblTitProgram.SetText(kProgramTitle);
+    LblTitProgram.SetText(platform::kProgramTitle);
     LblVersion.SetText(kVersion);
     LblComments.SetText(kLegalWarning);
-    const Rect line = Line1.Bounds();
+    const controls::Rect line = Line1.Bounds();
     Line1.MoveTo({PixelsOf(kRuleFrom.x), line.top, PixelsOf(kRuleTo.x - kRuleFrom.x), line.height});
     const char* addresses[] = {kSupportAddress, kHomePage, kSuggestionsAddress, kLogoPage};
     for (int i = 0; i < 4; ++i) {
         LblInternet[i].SetText(addresses[i]);
-        LblInternet[i].SetForeColor(kBlue);
+        LblInternet[i].SetForeColor(controls::kBlue);
         LblInternet[i].SetFont({.underline = true});
         LblInternet[i].SetHandPointer("mano");
         // Only the text itself is the link.
@@ -64,7 +64,9 @@ void FrmAboutReg::Form_Load() {
     }
 }
 
-void FrmAboutReg::Form_Paint(DeviceContext target) { DrawSeparator(target, kRuleFrom, kRuleTo); }
+void FrmAboutReg::Form_Paint(platform::DeviceContext target) {
+    controls::DrawSeparator(target, kRuleFrom, kRuleTo);
+}
 
 void FrmAboutReg::LblInternet_Click(int index) {
     const std::string text = LblInternet[index].Text();
@@ -77,4 +79,4 @@ void FrmAboutReg::MenuCommand(int id) {
     if (id == ID_BtnCancel) Unload();  // Esc
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::about

@@ -6,25 +6,25 @@
 #include "controls/picture_box.h"
 #include "controls/window.h"
 
-namespace vistrel {
+namespace vistrel::about {
 
-class FrmAboutReg : public Window {
+class FrmAboutReg : public controls::Window {
  public:
     FrmAboutReg();
 
-    PictureBox Image1;
-    Label LblTitProgram;
-    Label LblVersion;
-    Label LblComments;
-    Label Label4;
-    Label Label5;
-    Label LblInternet[4];
-    Label Line1;
-    Button BtnOK;
+    controls::PictureBox Image1;
+    controls::Label LblTitProgram;
+    controls::Label LblVersion;
+    controls::Label LblComments;
+    controls::Label Label4;
+    controls::Label Label5;
+    controls::Label LblInternet[4];
+    controls::Label Line1;
+    controls::Button BtnOK;
 
  protected:
     void Form_Load() override;
-    void Form_Paint(DeviceContext target) override;
+    void Form_Paint(platform::DeviceContext target) override;
     void MenuCommand(int id) override;
 
  private:
@@ -32,4 +32,4 @@ class FrmAboutReg : public Window {
     void BtnOK_Click();
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::about

@@ -4,7 +4,7 @@
 #include "pictures/preview/draw_resource.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::about {
 namespace {
 
 constexpr long kWhite = 0xFFFFFF;
@@ -21,14 +21,14 @@ void frmSplash::Form_Load() {
     LblVersion.SetText(kVersion);
     LblVersion.SetForeColor(kWhite);
     LblVersion.SetSeeThrough();
-    ShowPictureResource("SPLASH", SplashPicture);
-    const Size size{SplashPicture.ScaleWidth(), SplashPicture.ScaleHeight()};
-    const Rect area = WorkArea();
+    preview::ShowPictureResource("SPLASH", SplashPicture);
+    const controls::Size size{SplashPicture.ScaleWidth(), SplashPicture.ScaleHeight()};
+    const controls::Rect area = controls::WorkArea();
     SetClientSize(size);
     CentreIn(area);
-    const Rect label = LblVersion.Bounds();
+    const controls::Rect label = LblVersion.Bounds();
     LblVersion.MoveTo({size.width - label.width - 12, size.height - label.height - 10, label.width,
                        label.height});
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::about

@@ -5,17 +5,17 @@
 #include "controls/picture_box.h"
 #include "controls/window.h"
 
-namespace vistrel {
+namespace vistrel::about {
 
-class frmSplash : public Window {
+class frmSplash : public controls::Window {
  public:
     frmSplash();
 
-    PictureBox SplashPicture;
-    Label LblVersion;
+    controls::PictureBox SplashPicture;
+    controls::Label LblVersion;
 
  protected:
     void Form_Load() override;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::about

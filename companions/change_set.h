@@ -7,7 +7,7 @@
 
 #include "companions/outcome.h"
 
-namespace vistrel {
+namespace vistrel::companions {
 
 /// Chooses one of `sets`, of which there is at least one, other than `installed` where possible.
 using SetChooser =
@@ -17,4 +17,4 @@ using SetChooser =
 /// the main window and its closing would. All steps are tried; the first that failed is returned.
 Outcome ChangeLogoSet(const SetChooser& choose);
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

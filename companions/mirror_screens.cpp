@@ -6,19 +6,19 @@
 #include "core/locations.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::companions {
 
 Outcome MirrorScreens(const std::string& folder, const std::string& windowsDirectory) {
     if (folder.empty()) return Outcome::NoFolderNamed;
-    FailOnDrivesNotReady();
-    if (!IsFolder(folder)) return Outcome::FolderNotThere;
+    platform::FailOnDrivesNotReady();
+    if (!platform::IsFolder(folder)) return Outcome::FolderNotThere;
     bool mirroredAll = true;
-    for (const LogoScreen screen : {LogoScreen::Wait, LogoScreen::Shutdown}) {
-        const std::string name = kScreenFileNames[static_cast<int>(screen)];
-        if (!ReplaceScreen(AddBackslash(folder) + name, windowsDirectory + name))
+    for (const core::LogoScreen screen : {core::LogoScreen::Wait, core::LogoScreen::Shutdown}) {
+        const std::string name = core::kScreenFileNames[static_cast<int>(screen)];
+        if (!ReplaceScreen(core::AddBackslash(folder) + name, windowsDirectory + name))
             mirroredAll = false;
     }
     return mirroredAll ? Outcome::Done : Outcome::ScreenNotCopied;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

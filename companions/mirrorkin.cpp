@@ -12,15 +12,16 @@ int main(int count, char** arguments) {
     using namespace vistrel;
     const bool atStart =
         std::any_of(arguments + std::min(count, 1), arguments + count,
-                    [](const char* argument) { return UpperCase(argument) == "/AUTO"; });
+                    [](const char* argument) { return core::UpperCase(argument) == "/AUTO"; });
     if (!atStart) {
-        Ask(nullptr,
+        platform::Ask(
+            nullptr,
             "Mirrorkin brings the wait and shutdown screens of your logo set into place each time "
             "Windows starts. Vistrel starts it by itself while \"Synchronize logos\" is on.",
-            kInformationOk, "Mirrorkin");
-        return static_cast<int>(Outcome::Done);
+            platform::kInformationOk, "Mirrorkin");
+        return static_cast<int>(companions::Outcome::Done);
     }
-    const SystemLocations locations = FindSystemLocations();
-    return static_cast<int>(
-        MirrorScreens(ReadSynchronizedPath(locations.programFolder), locations.windowsDirectory));
+    const core::SystemLocations locations = core::FindSystemLocations();
+    return static_cast<int>(companions::MirrorScreens(
+        core::ReadSynchronizedPath(locations.programFolder), locations.windowsDirectory));
 }

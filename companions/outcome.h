@@ -1,7 +1,7 @@
 // What a companion program returns when it ends.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::companions {
 
 enum class Outcome {
     Done = 0,
@@ -15,4 +15,4 @@ enum class Outcome {
     LogoFolderNotThere = 8,  ///< nothing was changed: the stored logo folder is not there
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

@@ -4,7 +4,7 @@
 #include "platform/characters.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::companions {
 
 namespace {
 
@@ -17,7 +17,7 @@ struct ScreenNames {
 
 /// "~LOGOW.NEW" and "~LOGOW.OLD" beside "LOGOW.SYS".
 ScreenNames NamesOf(const std::string& installed) {
-    const std::size_t name = LastBackslash(installed) + 1;
+    const std::size_t name = platform::LastBackslash(installed) + 1;
     const std::string stem =
         installed.substr(0, name) + "~" + installed.substr(name, installed.find('.', name) - name);
     return {installed, stem + ".NEW", stem + ".OLD"};
@@ -25,29 +25,29 @@ ScreenNames NamesOf(const std::string& installed) {
 
 /// Deletes a file of ours, read-only or not.
 void Discard(const std::string& path) {
-    SetAttributes(path, kNormalFile);
-    Remove(path);
+    platform::SetAttributes(path, platform::kNormalFile);
+    platform::Remove(path);
 }
 
 /// Puts the complete incoming file into the place of the installed one, if there is one.
 bool TakeThePlace(const ScreenNames& names) {
     Discard(names.aside);
-    const bool hadOld = Rename(names.installed, names.aside);
-    if (Rename(names.incoming, names.installed)) return true;
-    if (hadOld) Rename(names.aside, names.installed);
+    const bool hadOld = platform::Rename(names.installed, names.aside);
+    if (platform::Rename(names.incoming, names.installed)) return true;
+    if (hadOld) platform::Rename(names.aside, names.installed);
     return false;
 }
 
 bool Replace(const std::string& from, const ScreenNames& names) {
-    SetAttributes(names.incoming, kNormalFile);
-    Error error;
-    if (!CopyOver(from, names.incoming, &error)) {
-        if (error.IsFileNotFound()) Remove(names.installed);
+    platform::SetAttributes(names.incoming, platform::kNormalFile);
+    platform::Error error;
+    if (!platform::CopyOver(from, names.incoming, &error)) {
+        if (error.IsFileNotFound()) platform::Remove(names.installed);
         return false;
     }
-    SetAttributes(names.incoming, kNormalFile);
+    platform::SetAttributes(names.incoming, platform::kNormalFile);
     // The rename may reach the disk before the contents do; hence the flush.
-    return FlushToDisk(names.incoming) && TakeThePlace(names);
+    return platform::FlushToDisk(names.incoming) && TakeThePlace(names);
 }
 
 }  // namespace
@@ -55,12 +55,12 @@ bool Replace(const std::string& from, const ScreenNames& names) {
 bool ReplaceScreen(const std::string& from, const std::string& to) {
     const ScreenNames names = NamesOf(to);
     // Succeeds only where an earlier run was cut off between its two renames.
-    Rename(names.aside, names.installed);
-    SetAttributes(names.installed, kNormalFile);
-    const bool replaced = SameContents(from, names.installed) || Replace(from, names);
+    platform::Rename(names.aside, names.installed);
+    platform::SetAttributes(names.installed, platform::kNormalFile);
+    const bool replaced = platform::SameContents(from, names.installed) || Replace(from, names);
     if (replaced) Discard(names.aside);
     Discard(names.incoming);
     return replaced;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

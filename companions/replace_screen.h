@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::companions {
 
 /// Makes the installed screen at the path `to` equal to the file `from`, with normal attributes.
 /// What is equal already is left as it is; where `from` does not exist the installed screen ends up
@@ -14,4 +14,4 @@ namespace vistrel {
 /// screen's own name: the old one is then found aside and put back by the next run.
 bool ReplaceScreen(const std::string& from, const std::string& to);
 
-}  // namespace vistrel
+}  // namespace vistrel::companions

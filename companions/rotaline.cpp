@@ -5,7 +5,7 @@
 int main() {
     using namespace vistrel;
     const auto next = [](const std::vector<std::string>& sets, const std::string& installed) {
-        return *NextLogoSet(sets, installed);
+        return *core::NextLogoSet(sets, installed);
     };
-    return static_cast<int>(ChangeLogoSet(next));
+    return static_cast<int>(companions::ChangeLogoSet(next));
 }

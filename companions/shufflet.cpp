@@ -6,8 +6,8 @@
 int main() {
     using namespace vistrel;
     const auto other = [](const std::vector<std::string>& sets, const std::string& installed) {
-        RandomGenerator generator(SecondsSinceMidnight());
-        return RandomOtherSet(generator, sets, installed);
+        core::RandomGenerator generator(platform::SecondsSinceMidnight());
+        return core::RandomOtherSet(generator, sets, installed);
     };
-    return static_cast<int>(ChangeLogoSet(other));
+    return static_cast<int>(companions::ChangeLogoSet(other));
 }

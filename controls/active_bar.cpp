@@ -7,7 +7,7 @@
 #include "controls/window.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 /// What a menu shows for a tool: its caption and, at the right, its key.
@@ -36,7 +36,7 @@ const Tool* ActiveBar::ToolOfName(const std::string& name) const {
     return nullptr;
 }
 
-MenuHandle ActiveBar::MenuOf(const Band& band) {
+platform::MenuHandle ActiveBar::MenuOf(const Band& band) {
     if (const auto made = menus_.find(band.name); made != menus_.end()) return made->second;
     const HMENU menu = band.kind == BandKind::MenuBar ? CreateMenu() : CreatePopupMenu();
     menus_[band.name] = menu;
@@ -57,10 +57,10 @@ void ActiveBar::MakeButtons(const Band& band, int bitmapResource, long transpare
     bar_ = CreateWindowExA(0, TOOLBARCLASSNAMEA, "",
                            WS_CHILD | WS_VISIBLE | TBSTYLE_TOOLTIPS | TBSTYLE_FLAT, 0, 0, 0, 0,
                            window_->handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(barId)),
-                           ProgramInstance(), nullptr);
+                           platform::ProgramInstance(), nullptr);
     SendMessageA(bar_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-    images_ = ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
-                                   static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
+    images_ = ImageList_LoadImageA(platform::ProgramInstance(), MAKEINTRESOURCEA(bitmapResource),
+                                   16, 0, static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
     SendMessageA(bar_, TB_SETBITMAPSIZE, 0, MAKELPARAM(16, 16));
     SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_));
     for (const char* name : band.tools) {
@@ -153,4 +153,4 @@ std::intptr_t ActiveBar::OnNotify(void* header) {
     return 0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

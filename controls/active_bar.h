@@ -12,7 +12,7 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Window;
 
@@ -56,7 +56,7 @@ class ActiveBar {
     void PopUp(const std::string& band, Point screen);
     /// Fits the bar of buttons to the window's width; its height in pixels.
     int Resize();
-    WindowHandle bar() const { return bar_; }
+    platform::WindowHandle bar() const { return bar_; }
 
     /// A tool was clicked.
     std::function<void(const Tool& tool)> Click;
@@ -77,16 +77,16 @@ class ActiveBar {
     };
 
     const State& StateOf(const std::string& tool) const { return states_.at(tool); }
-    MenuHandle MenuOf(const Band& band);
+    platform::MenuHandle MenuOf(const Band& band);
     void MakeButtons(const Band& band, int bitmapResource, long transparent, int barId);
 
     std::span<const Tool> tools_;
     std::span<const Band> bands_;
     std::map<std::string, State> states_;
-    std::map<std::string, MenuHandle> menus_;
+    std::map<std::string, platform::MenuHandle> menus_;
     Window* window_ = nullptr;
-    WindowHandle bar_ = nullptr;
-    ImageListHandle images_ = nullptr;
+    platform::WindowHandle bar_ = nullptr;
+    platform::ImageListHandle images_ = nullptr;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void Button::OnCommand(int code) {
     if (code == BN_CLICKED && Click) Click();
@@ -55,4 +55,4 @@ void Frame::ShowWithAll(bool visible) {
     SetVisible(visible);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

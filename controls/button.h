@@ -8,7 +8,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Button : public Control {
  public:
@@ -70,4 +70,4 @@ class Frame : public Control {
     std::vector<Control*> held_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

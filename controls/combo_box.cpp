@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 int ComboBox::Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
 
@@ -54,4 +54,4 @@ void ComboBox::OnCommand(int code) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -6,7 +6,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class ComboBox : public Control {
  public:
@@ -39,4 +39,4 @@ class ComboBox : public Control {
     bool fillingField_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,7 +4,7 @@
 
 #include "controls/window.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// The window procedure that stands before the control's own.
 struct ControlProcedure {
@@ -173,4 +173,4 @@ bool Control::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t l
     return false;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -9,7 +9,7 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Window;
 
@@ -28,7 +28,7 @@ class Control {
     /// would otherwise. False when the parent has no such child.
     bool Attach(Window& parent, int id);
 
-    WindowHandle handle() const { return handle_; }
+    platform::WindowHandle handle() const { return handle_; }
     int id() const { return id_; }
 
     std::string Text() const;
@@ -80,7 +80,7 @@ class Control {
     /// The colour of the control's text; negative for the system's.
     virtual long TextColor() const { return -1; }
     /// What the control's background is painted with; null for the window's own.
-    virtual BrushHandle BackBrush() const { return nullptr; }
+    virtual platform::BrushHandle BackBrush() const { return nullptr; }
     /// A WM_DRAWITEM with this DRAWITEMSTRUCT.
     virtual void OnDrawItem(const void*) {}
     /// Sets a pointer picture of the control's own; false to leave it to the window.
@@ -112,7 +112,7 @@ class Control {
     void Released(int button, Point at);
 
     Window* parent_ = nullptr;
-    WindowHandle handle_ = nullptr;
+    platform::WindowHandle handle_ = nullptr;
     int id_ = 0;
     int helpNumber_ = 0;
     int pressed_ = 0;  ///< the button that went down last over the control and is not up yet
@@ -126,4 +126,4 @@ void EnableControls(bool enabled, Controls&... controls) {
     (controls.SetEnabled(enabled), ...);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

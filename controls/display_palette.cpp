@@ -4,27 +4,27 @@
 
 #include "platform/display_colors.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 struct Colors {
     WORD version = 0x300;
-    WORD count = kDisplayColors;
-    PALETTEENTRY entries[kDisplayColors];
+    WORD count = platform::kDisplayColors;
+    PALETTEENTRY entries[platform::kDisplayColors];
 
     Colors() {
         PALETTEENTRY* next = entries;
-        for (int red = 0; red < kDisplayLevels[0]; ++red)
-            for (int green = 0; green < kDisplayLevels[1]; ++green)
-                for (int blue = 0; blue < kDisplayLevels[2]; ++blue)
-                    *next++ = {DisplayLevel(0, red), DisplayLevel(1, green), DisplayLevel(2, blue),
-                               0};
+        for (int red = 0; red < platform::kDisplayLevels[0]; ++red)
+            for (int green = 0; green < platform::kDisplayLevels[1]; ++green)
+                for (int blue = 0; blue < platform::kDisplayLevels[2]; ++blue)
+                    *next++ = {platform::DisplayLevel(0, red), platform::DisplayLevel(1, green),
+                               platform::DisplayLevel(2, blue), 0};
     }
 };
 
 }  // namespace
 
-bool HasPalette(DeviceContext device) {
+bool HasPalette(platform::DeviceContext device) {
     return (GetDeviceCaps(device, RASTERCAPS) & RC_PALETTE) != 0;
 }
 
@@ -44,7 +44,7 @@ PaletteHandle DisplayPalette() {
     return palette;
 }
 
-BitmapHandle DisplayPaletteBitmap(int width, int height) {
+platform::BitmapHandle DisplayPaletteBitmap(int width, int height) {
     struct {
         BITMAPINFOHEADER header{};
         RGBQUAD colors[256] = {};
@@ -54,9 +54,9 @@ BitmapHandle DisplayPaletteBitmap(int width, int height) {
     info.header.biHeight = -height;
     info.header.biPlanes = 1;
     info.header.biBitCount = 8;
-    info.header.biClrUsed = kDisplayColors;
+    info.header.biClrUsed = platform::kDisplayColors;
     const Colors palette;
-    for (int i = 0; i < kDisplayColors; ++i) {
+    for (int i = 0; i < platform::kDisplayColors; ++i) {
         const PALETTEENTRY& color = palette.entries[i];
         info.colors[i] = {color.peBlue, color.peGreen, color.peRed, 0};
     }
@@ -65,8 +65,8 @@ BitmapHandle DisplayPaletteBitmap(int width, int height) {
                             &pixels, nullptr, 0);
 }
 
-void PaintThroughPalette(DeviceContext target, BitmapHandle bitmap, int width, int height,
-                         bool active) {
+void PaintThroughPalette(platform::DeviceContext target, platform::BitmapHandle bitmap, int width,
+                         int height, bool active) {
     DIBSECTION section{};
     GetObjectA(bitmap, sizeof section, &section);
     const BITMAP& facts = section.dsBm;
@@ -81,8 +81,8 @@ void PaintThroughPalette(DeviceContext target, BitmapHandle bitmap, int width, i
     info.header.biHeight = -facts.bmHeight;
     info.header.biPlanes = 1;
     info.header.biBitCount = 8;
-    info.header.biClrUsed = kDisplayColors;
-    for (WORD i = 0; i < kDisplayColors; ++i) info.entries[i] = i;
+    info.header.biClrUsed = platform::kDisplayColors;
+    for (WORD i = 0; i < platform::kDisplayColors; ++i) info.entries[i] = i;
 
     const HPALETTE former = SelectPalette(target, DisplayPalette(), !active);
     RealizePalette(target);
@@ -93,4 +93,4 @@ void PaintThroughPalette(DeviceContext target, BitmapHandle bitmap, int width, i
     SelectPalette(target, former, FALSE);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

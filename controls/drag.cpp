@@ -6,16 +6,18 @@
 
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
-IconHandle LoadDragIcon(const char* resource) { return LoadIconA(ProgramInstance(), resource); }
+platform::IconHandle LoadDragIcon(const char* resource) {
+    return LoadIconA(platform::ProgramInstance(), resource);
+}
 
 bool IsDrag(Point from, Point to) {
     return std::abs(to.x - from.x) >= GetSystemMetrics(SM_CXDRAG) ||
            std::abs(to.y - from.y) >= GetSystemMetrics(SM_CYDRAG);
 }
 
-std::optional<Point> DragUntilLetGo(WindowHandle source, IconHandle pointer) {
+std::optional<Point> DragUntilLetGo(platform::WindowHandle source, platform::IconHandle pointer) {
     SetCapture(source);
     SetCursor(static_cast<HCURSOR>(pointer));
     std::optional<Point> letGo;
@@ -54,4 +56,4 @@ std::optional<Point> DragUntilLetGo(WindowHandle source, IconHandle pointer) {
     return letGo;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

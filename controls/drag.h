@@ -6,10 +6,10 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// The program's icon resource of this name, as a pointer for dragging.
-IconHandle LoadDragIcon(const char* resource);
+platform::IconHandle LoadDragIcon(const char* resource);
 
 /// True when a pointer that was pressed at `from` and is at `to` has moved so far that the user
 /// means to drag and not to click.
@@ -18,6 +18,6 @@ bool IsDrag(Point from, Point to);
 /// Shows `pointer` until the left button, which is down over `source`, is let go; other windows go
 /// on working meanwhile. The point of the screen where that was, or empty when the user broke off
 /// with Esc or the right button, or another window took the mouse.
-std::optional<Point> DragUntilLetGo(WindowHandle source, IconHandle pointer);
+std::optional<Point> DragUntilLetGo(platform::WindowHandle source, platform::IconHandle pointer);
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

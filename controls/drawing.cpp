@@ -2,14 +2,14 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
 
 }  // namespace
 
-void DrawSeparator(DeviceContext target, Point from, Point to) {
+void DrawSeparator(platform::DeviceContext target, Point from, Point to) {
     const int across = GetDeviceCaps(target, LOGPIXELSX);
     const int down = GetDeviceCaps(target, LOGPIXELSY);
     const int left = MulDiv(from.x, across, kTwipsPerInch);
@@ -21,4 +21,4 @@ void DrawSeparator(DeviceContext target, Point from, Point to) {
     FillRect(target, &light, GetSysColorBrush(COLOR_BTNHIGHLIGHT));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,10 +4,10 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// Draws a separator, a dark line with a light one below, between two points in twips (1,440 of
 /// them an inch).
-void DrawSeparator(DeviceContext target, Point from, Point to);
+void DrawSeparator(platform::DeviceContext target, Point from, Point to);
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -9,20 +9,20 @@
 #include "platform/files.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 constexpr int kIconSize = 16;
 
-int IconOfKind(DriveKind kind) {
+int IconOfKind(platform::DriveKind kind) {
     switch (kind) {
-        case DriveKind::Removable:
+        case platform::DriveKind::Removable:
             return 0;
-        case DriveKind::CdRom:
+        case platform::DriveKind::CdRom:
             return 2;
-        case DriveKind::Remote:
+        case platform::DriveKind::Remote:
             return 3;
-        case DriveKind::RamDisk:
+        case platform::DriveKind::RamDisk:
             return 4;
         default:
             return 1;
@@ -30,9 +30,10 @@ int IconOfKind(DriveKind kind) {
 }
 
 /// What stands in the list for a drive. Asking a floppy drive for its label would start its motor.
-std::string Caption(const std::string& root, DriveKind kind) {
+std::string Caption(const std::string& root, platform::DriveKind kind) {
     const std::string letter = root.substr(0, 2);
-    const std::string label = kind == DriveKind::Removable ? std::string() : VolumeLabel(root);
+    const std::string label =
+        kind == platform::DriveKind::Removable ? std::string() : platform::VolumeLabel(root);
     return label.empty() ? letter : letter + " [" + label + "]";
 }
 
@@ -51,14 +52,15 @@ void DriveList::OnAttach() {
 }
 
 void DriveList::LoadIcons(int bitmapResource, long transparent) {
-    icons_ = ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), kIconSize, 0,
-                                  static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
+    icons_ =
+        ImageList_LoadImageA(platform::ProgramInstance(), MAKEINTRESOURCEA(bitmapResource),
+                             kIconSize, 0, static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
 }
 
 void DriveList::Fill() {
     Send(CB_RESETCONTENT);
-    for (const std::string& root : DriveRoots()) {
-        const DriveKind kind = KindOfDrive(root);
+    for (const std::string& root : platform::DriveRoots()) {
+        const platform::DriveKind kind = platform::KindOfDrive(root);
         const auto index = SendPointer(CB_ADDSTRING, 0, Caption(root, kind).c_str());
         Send(CB_SETITEMDATA, static_cast<WPARAM>(index), IconOfKind(kind));
     }
@@ -109,4 +111,4 @@ void DriveList::OnDrawItem(const void* item) {
     if (draw.itemState & ODS_FOCUS) DrawFocusRect(draw.hDC, &draw.rcItem);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -7,7 +7,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// The template makes the combo box an owner-drawn drop-down list that holds texts.
 class DriveList : public Control {
@@ -37,8 +37,8 @@ class DriveList : public Control {
     void OnAttach() override;
 
  private:
-    ImageListHandle icons_ = nullptr;
+    platform::ImageListHandle icons_ = nullptr;
     std::string lastDrive_;  ///< the choice that Change was last run for
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

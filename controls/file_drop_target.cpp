@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 FORMATETC FileListFormat() { return {CF_HDROP, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL}; }
@@ -82,7 +82,7 @@ class FileDropTarget::Receiver final : public IDropTarget {
     bool accepted_ = false;
 };
 
-FileDropTarget::FileDropTarget(WindowHandle window,
+FileDropTarget::FileDropTarget(platform::WindowHandle window,
                                std::function<void(const std::vector<std::string>&)> dropped)
     : window_(window), receiver_(new Receiver(std::move(dropped))) {
     RegisterDragDrop(window_, receiver_);
@@ -93,4 +93,4 @@ FileDropTarget::~FileDropTarget() {
     receiver_->Release();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -7,13 +7,13 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class FileDropTarget {
  public:
     /// `dropped` gets the full paths of each drop that offers the file-list format; others are
     /// refused. The thread must have called OleInitialize.
-    FileDropTarget(WindowHandle window,
+    FileDropTarget(platform::WindowHandle window,
                    std::function<void(const std::vector<std::string>& paths)> dropped);
     ~FileDropTarget();
     FileDropTarget(const FileDropTarget&) = delete;
@@ -22,8 +22,8 @@ class FileDropTarget {
  private:
     class Receiver;
 
-    WindowHandle window_;
+    platform::WindowHandle window_;
     Receiver* receiver_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

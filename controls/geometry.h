@@ -1,7 +1,7 @@
 // Places and sizes in pixels.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::controls {
 
 struct Point {
     int x = 0;
@@ -23,4 +23,4 @@ struct Rect {
     int bottom() const { return top + height; }
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

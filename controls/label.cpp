@@ -4,7 +4,7 @@
 
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 Label::~Label() {
     if (font_) DeleteObject(font_);
@@ -53,7 +53,7 @@ void Label::SetBackColor(long color) {
     Repaint();
 }
 
-BrushHandle Label::BackBrush() const {
+platform::BrushHandle Label::BackBrush() const {
     return seeThrough_ ? static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH)) : background_;
 }
 
@@ -65,8 +65,8 @@ void Label::OnCommand(int code) {
 
 bool Label::SetPointer() {
     if (!cursor_) return false;
-    SetCursor(LoadCursorA(ProgramInstance(), cursor_));
+    SetCursor(LoadCursorA(platform::ProgramInstance(), cursor_));
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -5,7 +5,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// How a label's font differs from the dialog's; 0 points and an empty face keep the dialog's.
 struct FontChange {
@@ -40,15 +40,15 @@ class Label : public Control {
     ~Label() override;
     void OnCommand(int code) override;
     long TextColor() const override { return color_; }
-    BrushHandle BackBrush() const override;
+    platform::BrushHandle BackBrush() const override;
     bool SetPointer() override;
 
  private:
     long color_ = -1;
-    BrushHandle background_ = nullptr;
+    platform::BrushHandle background_ = nullptr;
     bool seeThrough_ = false;
-    FontHandle font_ = nullptr;
+    platform::FontHandle font_ = nullptr;
     const char* cursor_ = nullptr;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void ListBox::AddItem(const std::string& text) { SendPointer(LB_ADDSTRING, 0, text.c_str()); }
 
@@ -23,4 +23,4 @@ void ListBox::OnCommand(int code) {
     if (code == LBN_SELCHANGE && Change) Change();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -6,7 +6,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class ListBox : public Control {
  public:
@@ -21,4 +21,4 @@ class ListBox : public Control {
     void OnCommand(int code) override;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -10,7 +10,7 @@
 #include "controls/window.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 // Longer than any file name, so that a whole label always fits.
@@ -36,7 +36,7 @@ void ListView::LoadIcons(int bitmapResource, long transparent,
     iconKeys_ = keys;
     // The list destroys them with itself.
     const HIMAGELIST icons =
-        ImageList_LoadImageA(ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
+        ImageList_LoadImageA(platform::ProgramInstance(), MAKEINTRESOURCEA(bitmapResource), 16, 0,
                              static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
     SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons);
 }
@@ -301,4 +301,4 @@ bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
     return Control::OnMessage(message, wParam, lParam, result);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

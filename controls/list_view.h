@@ -9,7 +9,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 enum class ListViewMode { List = 2, Report = 3 };
 
@@ -110,4 +110,4 @@ class ListView : public Control {
     std::unique_ptr<FileDropTarget> dropTarget_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,43 +4,47 @@
 
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
-MenuHandle LoadMenuResource(int id) { return LoadMenuA(ProgramInstance(), MAKEINTRESOURCEA(id)); }
+platform::MenuHandle LoadMenuResource(int id) {
+    return LoadMenuA(platform::ProgramInstance(), MAKEINTRESOURCEA(id));
+}
 
-void FreeMenu(MenuHandle menu) { DestroyMenu(menu); }
+void FreeMenu(platform::MenuHandle menu) { DestroyMenu(menu); }
 
-MenuHandle SubMenu(MenuHandle menu, int place) { return GetSubMenu(menu, place); }
+platform::MenuHandle SubMenu(platform::MenuHandle menu, int place) {
+    return GetSubMenu(menu, place);
+}
 
-MenuHandle NewPopUpMenu() { return CreatePopupMenu(); }
+platform::MenuHandle NewPopUpMenu() { return CreatePopupMenu(); }
 
-void AddMenuItem(MenuHandle menu, int id, const std::string& caption) {
+void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption) {
     AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(id), caption.c_str());
 }
 
-void EmptyMenu(MenuHandle menu) {
+void EmptyMenu(platform::MenuHandle menu) {
     while (DeleteMenu(menu, 0, MF_BYPOSITION)) {
     }
 }
 
-void SetMenuMark(MenuHandle menu, int id, bool checked) {
+void SetMenuMark(platform::MenuHandle menu, int id, bool checked) {
     CheckMenuItem(menu, static_cast<UINT>(id), checked ? MF_CHECKED : MF_UNCHECKED);
 }
 
-bool HasMenuMark(MenuHandle menu, int id) {
+bool HasMenuMark(platform::MenuHandle menu, int id) {
     return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) & MF_CHECKED) != 0;
 }
 
-void SetMenuEnabled(MenuHandle menu, int id, bool enabled) {
+void SetMenuEnabled(platform::MenuHandle menu, int id, bool enabled) {
     EnableMenuItem(menu, static_cast<UINT>(id), enabled ? MF_ENABLED : MF_GRAYED);
 }
 
-bool IsMenuEnabled(MenuHandle menu, int id) {
+bool IsMenuEnabled(platform::MenuHandle menu, int id) {
     return (GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) ==
            0;
 }
 
-void SetMenuCaption(MenuHandle menu, int id, const std::string& caption) {
+void SetMenuCaption(platform::MenuHandle menu, int id, const std::string& caption) {
     // ModifyMenu would take the mark away.
     MENUITEMINFOA info{};
     info.cbSize = 44;  // the size that Windows 95 knows on 32 bits; others are told apart below
@@ -53,11 +57,11 @@ void SetMenuCaption(MenuHandle menu, int id, const std::string& caption) {
     SetMenuItemInfoA(menu, static_cast<UINT>(id), FALSE, &info);
 }
 
-std::string MenuCaption(MenuHandle menu, int id) {
+std::string MenuCaption(platform::MenuHandle menu, int id) {
     std::string text(256, '\0');
     text.resize(static_cast<std::size_t>(
         GetMenuStringA(menu, static_cast<UINT>(id), text.data(), 256, MF_BYCOMMAND)));
     return text;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

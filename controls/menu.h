@@ -5,23 +5,23 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
-MenuHandle LoadMenuResource(int id);
-void FreeMenu(MenuHandle menu);
+platform::MenuHandle LoadMenuResource(int id);
+void FreeMenu(platform::MenuHandle menu);
 /// The drop-down at a place of a menu bar, from 0.
-MenuHandle SubMenu(MenuHandle menu, int place);
+platform::MenuHandle SubMenu(platform::MenuHandle menu, int place);
 
-MenuHandle NewPopUpMenu();
-void AddMenuItem(MenuHandle menu, int id, const std::string& caption);
-void EmptyMenu(MenuHandle menu);
+platform::MenuHandle NewPopUpMenu();
+void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption);
+void EmptyMenu(platform::MenuHandle menu);
 
 // Each finds the item by its number, in drop-downs too.
-void SetMenuMark(MenuHandle menu, int id, bool checked);
-bool HasMenuMark(MenuHandle menu, int id);
-void SetMenuEnabled(MenuHandle menu, int id, bool enabled);
-bool IsMenuEnabled(MenuHandle menu, int id);
-void SetMenuCaption(MenuHandle menu, int id, const std::string& caption);
-std::string MenuCaption(MenuHandle menu, int id);
+void SetMenuMark(platform::MenuHandle menu, int id, bool checked);
+bool HasMenuMark(platform::MenuHandle menu, int id);
+void SetMenuEnabled(platform::MenuHandle menu, int id, bool enabled);
+bool IsMenuEnabled(platform::MenuHandle menu, int id);
+void SetMenuCaption(platform::MenuHandle menu, int id, const std::string& caption);
+std::string MenuCaption(platform::MenuHandle menu, int id);
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -3,12 +3,12 @@
 
 #include "controls/menu.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class MenuItem {
  public:
     /// `menu` or one of its drop-downs holds the item with number `id`.
-    void Attach(MenuHandle menu, int id) {
+    void Attach(platform::MenuHandle menu, int id) {
         menu_ = menu;
         id_ = id;
     }
@@ -16,8 +16,8 @@ class MenuItem {
     void SetEnabled(bool enabled) { SetMenuEnabled(menu_, id_, enabled); }
 
  private:
-    MenuHandle menu_ = nullptr;
+    platform::MenuHandle menu_ = nullptr;
     int id_ = 0;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

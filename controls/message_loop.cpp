@@ -7,7 +7,7 @@
 
 #include "controls/window.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 std::vector<Window*>& openWindows() {
@@ -41,7 +41,7 @@ void LeaveLoop(Window& window) {
     windows.erase(std::remove(windows.begin(), windows.end(), &window), windows.end());
 }
 
-Window* OpenWindowOf(WindowHandle handle) {
+Window* OpenWindowOf(platform::WindowHandle handle) {
     for (Window* window : openWindows())
         if (window->handle() == handle) return window;
     return nullptr;
@@ -75,4 +75,4 @@ bool HandleWaitingMessages() {
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

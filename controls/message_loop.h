@@ -3,7 +3,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Window;
 
@@ -12,7 +12,7 @@ void EnterLoop(Window& window);
 void LeaveLoop(Window& window);
 
 /// The window of ours with this handle; null when there is none open.
-Window* OpenWindowOf(WindowHandle handle);
+Window* OpenWindowOf(platform::WindowHandle handle);
 
 /// Tells all open windows, the one in front first, that the system's session ends: it tells each
 /// window itself, but in an order of its own, and may end the program after the first. Told again,
@@ -25,4 +25,4 @@ void RunLoopWhileOpen(const Window& window);
 /// end.
 bool HandleWaitingMessages();
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

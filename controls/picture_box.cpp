@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 /// Grey as the system draws it: pressed into the ground, with light at its lower right.
@@ -29,7 +29,7 @@ void RegisterPictureBoxClass() {
     c.cbSize = sizeof c;
     c.style = CS_DBLCLKS;
     c.lpfnWndProc = DefWindowProcA;
-    c.hInstance = ProgramInstance();
+    c.hInstance = platform::ProgramInstance();
     c.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
     c.lpszClassName = "PictureBox";
     RegisterClassExA(&c);  // a second time it fails, and the first still stands
@@ -83,10 +83,10 @@ void PictureBox::FindWhyEmpty() {
     if (path.empty())
         whyEmpty_ = kNoPicture;
     else
-        whyEmpty_ = FileAttributes(path) ? "cannot be read as a picture" : "no file";
+        whyEmpty_ = platform::FileAttributes(path) ? "cannot be read as a picture" : "no file";
 }
 
-DeviceContext PictureBox::Canvas() {
+platform::DeviceContext PictureBox::Canvas() {
     const Size size{ScaleWidth(), ScaleHeight()};
     if (canvas_ && canvasSize_.width == size.width && canvasSize_.height == size.height)
         return canvas_;
@@ -116,7 +116,7 @@ void PictureBox::Keep() {
 
 bool PictureBox::InActiveWindow() const { return GetActiveWindow() == parent()->handle(); }
 
-void PictureBox::PaintEmpty(DeviceContext target) const {
+void PictureBox::PaintEmpty(platform::DeviceContext target) const {
     const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
     FillRect(target, &all, GetSysColorBrush(COLOR_BTNFACE));
     const auto font = reinterpret_cast<HFONT>(SendMessageA(parent()->handle(), WM_GETFONT, 0, 0));
@@ -127,7 +127,7 @@ void PictureBox::PaintEmpty(DeviceContext target) const {
     SelectObject(target, former);
 }
 
-void PictureBox::Paint(DeviceContext target) {
+void PictureBox::Paint(platform::DeviceContext target) {
     if (PaintInstead) {
         PaintInstead(target);
         return;
@@ -183,4 +183,4 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

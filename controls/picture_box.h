@@ -7,7 +7,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class PictureBox : public Control {
  public:
@@ -25,7 +25,7 @@ class PictureBox : public Control {
     /// A device context of the drawing area's size to draw the next picture into; empty at first.
     /// What is drawn is seen after Keep. Null when the system has no room for so large a picture:
     /// the box then stays empty.
-    DeviceContext Canvas();
+    platform::DeviceContext Canvas();
     /// Makes what was drawn into the canvas the picture.
     void Keep();
     bool HasPicture() const { return hasPicture_; }
@@ -34,7 +34,7 @@ class PictureBox : public Control {
     /// two windows of different colours would make each other paint anew for ever.
     bool InActiveWindow() const;
     /// Paints the drawing area in place of the picture while it is set.
-    std::function<void(DeviceContext target)> PaintInstead;
+    std::function<void(platform::DeviceContext target)> PaintInstead;
 
     /// A point of the drawing area as one of the screen.
     Point OnScreen(Point at) const;
@@ -50,11 +50,11 @@ class PictureBox : public Control {
 
  private:
     bool OnKeyboard(unsigned message, std::uintptr_t key);
-    void DrawFocusMark(DeviceContext target) const;
+    void DrawFocusMark(platform::DeviceContext target) const;
     void LetTabStop();
     void ReleaseCanvas();
-    void Paint(DeviceContext target);
-    void PaintEmpty(DeviceContext target) const;
+    void Paint(platform::DeviceContext target);
+    void PaintEmpty(platform::DeviceContext target) const;
     void FindWhyEmpty();
 
     static constexpr const char* kNoPicture = "no picture";
@@ -63,8 +63,8 @@ class PictureBox : public Control {
     const char* whyEmpty_ = kNoPicture;
     bool tabStop_ = false;    ///< its template lets Tab stop here
     bool spaceDown_ = false;  ///< and not up again, with the focus here all the time
-    DeviceContext canvas_ = nullptr;
-    BitmapHandle bitmap_ = nullptr;
+    platform::DeviceContext canvas_ = nullptr;
+    platform::BitmapHandle bitmap_ = nullptr;
     void* formerBitmap_ = nullptr;
     Size canvasSize_;
 };
@@ -72,4 +72,4 @@ class PictureBox : public Control {
 /// Makes the window class that templates name "PictureBox" known to the system.
 void RegisterPictureBoxClass();
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,7 +4,7 @@
 
 #include "controls/picture_box.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 /// Pixels between the box's edge and the mark.
@@ -31,7 +31,7 @@ Point PictureBox::OnScreen(Point at) const {
     return {static_cast<int>(point.x), static_cast<int>(point.y)};
 }
 
-void PictureBox::DrawFocusMark(DeviceContext target) const {
+void PictureBox::DrawFocusMark(platform::DeviceContext target) const {
     if (!HasFocus()) return;
     RECT mark{0, 0, ScaleWidth(), ScaleHeight()};
     InflateRect(&mark, -kMarkInset, -kMarkInset);
@@ -64,4 +64,4 @@ bool PictureBox::OnKeyboard(unsigned message, std::uintptr_t key) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 int PixelsPerInch() {
     const HDC screen = GetDC(nullptr);
@@ -24,4 +24,4 @@ Point PointerPosition() {
     return {static_cast<int>(at.x), static_cast<int>(at.y)};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -3,7 +3,7 @@
 
 #include "controls/geometry.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 /// Dots of an inch across, 96 with small fonts.
 int PixelsPerInch();
@@ -17,4 +17,4 @@ inline constexpr int kKeyF1 = 112;
 inline constexpr int kKeyF2 = 113;
 inline constexpr int kKeyF5 = 116;
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,7 +4,7 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void TabStrip::AddTab(const std::string& caption) {
     TCITEMA item{};
@@ -45,4 +45,4 @@ std::intptr_t TabStrip::OnNotify(void* header) {
     return 0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

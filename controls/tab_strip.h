@@ -6,7 +6,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class TabStrip : public Control {
  public:
@@ -28,4 +28,4 @@ class TabStrip : public Control {
     std::intptr_t OnNotify(void* header) override;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

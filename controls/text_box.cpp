@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void TextBox::OnCommand(int code) {
     if (code == EN_CHANGE && Change) Change();
@@ -12,4 +12,4 @@ void SelectAllText(TextBox& box) {
     SendMessageA(box.handle(), EM_SETSEL, 0, GetWindowTextLengthA(box.handle()));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

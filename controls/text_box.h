@@ -5,7 +5,7 @@
 
 #include "controls/control.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class TextBox : public Control {
  public:
@@ -18,4 +18,4 @@ class TextBox : public Control {
 /// Selects all of a text box's text.
 void SelectAllText(TextBox& box);
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

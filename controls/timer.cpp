@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::controls {
 
 void Timer::SetEnabled(bool enabled) {
     // The timer's address is its number, so the window finds it by its message alone.
@@ -15,4 +15,4 @@ void Timer::SetEnabled(bool enabled) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -5,7 +5,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Timer {
  public:
@@ -15,7 +15,7 @@ class Timer {
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
-    void Attach(WindowHandle window) { window_ = window; }
+    void Attach(platform::WindowHandle window) { window_ = window; }
     bool Enabled() const { return enabled_; }
     /// Starting it anew begins a whole interval.
     void SetEnabled(bool enabled);
@@ -24,8 +24,8 @@ class Timer {
 
  private:
     unsigned interval_;
-    WindowHandle window_ = nullptr;
+    platform::WindowHandle window_ = nullptr;
     bool enabled_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

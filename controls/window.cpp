@@ -12,7 +12,7 @@
 #include "controls/timer.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 /// A class of its own name for each window, so that it can be told from others from outside. The
@@ -20,14 +20,14 @@ namespace {
 void RegisterFormClass(const char* name) {
     WNDCLASSEXA c{};
     c.cbSize = sizeof c;
-    if (GetClassInfoExA(ProgramInstance(), name, &c)) return;
+    if (GetClassInfoExA(platform::ProgramInstance(), name, &c)) return;
     c = {};
     c.cbSize = sizeof c;
     c.style = CS_DBLCLKS;
     c.lpfnWndProc = DefDlgProcA;
     c.cbWndExtra = DLGWINDOWEXTRA;
-    c.hInstance = ProgramInstance();
-    c.hIcon = LoadIconA(ProgramInstance(), "logoicon");
+    c.hInstance = platform::ProgramInstance();
+    c.hIcon = LoadIconA(platform::ProgramInstance(), "logoicon");
     c.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
     c.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     c.lpszClassName = name;
@@ -78,17 +78,18 @@ void Window::Add(Control& control, int id, const char* tip) {
 
 void Window::Add(Timer& timer) { timers_.push_back(&timer); }
 
-bool Window::Create(WindowHandle owner) {
+bool Window::Create(platform::WindowHandle owner) {
     InitCommonControls();
     RegisterPictureBoxClass();
     RegisterFormClass(className_);
-    const HWND handle = CreateDialogParamA(ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
-                                           &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
+    const HWND handle =
+        CreateDialogParamA(platform::ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
+                           &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
     if (!handle) return false;
     handle_ = handle;
     tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_,
-                            nullptr, ProgramInstance(), nullptr);
+                            nullptr, platform::ProgramInstance(), nullptr);
     for (auto& [id, control] : controls_) control->Attach(*this, id);
     for (Timer* timer : timers_) timer->Attach(handle_);
     EnterLoop(*this);
@@ -104,7 +105,7 @@ void Window::Show() {
     if (handle_) UpdateWindow(handle_);
 }
 
-void Window::ShowModal(WindowHandle owner) {
+void Window::ShowModal(platform::WindowHandle owner) {
     if (Window* below = OpenWindowOf(owner)) below->EndEdits();
     if (!Create(owner)) return;
     if (owner && IsWindowEnabled(owner)) {
@@ -155,7 +156,7 @@ Control* Window::ControlAt(Point screen) const {
     return ControlOf(WindowFromPoint({screen.x, screen.y}));
 }
 
-Control* Window::ControlOf(WindowHandle child) const {
+Control* Window::ControlOf(platform::WindowHandle child) const {
     while (child && child != handle_) {
         Control* control = Find(GetDlgCtrlID(child));
         if (control && control->handle() == child) return control;
@@ -226,7 +227,7 @@ Rect Window::FromDialogUnits(const Rect& units) const {
             static_cast<int>(r.bottom - r.top)};
 }
 
-void Window::ShowTip(WindowHandle child, const std::string& tip) {
+void Window::ShowTip(platform::WindowHandle child, const std::string& tip) {
     TOOLINFOA info{};
     info.cbSize = TTTOOLINFOA_V1_SIZE;  // the size that Windows 95 knows
     info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
@@ -238,7 +239,7 @@ void Window::ShowTip(WindowHandle child, const std::string& tip) {
     SendMessageA(tips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&info));
 }
 
-void Window::PopUpMenu(MenuHandle menu, Point screen, int defaultItem) {
+void Window::PopUpMenu(platform::MenuHandle menu, Point screen, int defaultItem) {
     SetMenuDefaultItem(menu, defaultItem ? static_cast<UINT>(defaultItem) : UINT(-1), FALSE);
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
 }
@@ -247,4 +248,4 @@ void Window::EndEdits() {
     for (const auto& [id, control] : controls_) control->EndEdit();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -12,7 +12,7 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 class Timer;
 
@@ -26,15 +26,15 @@ class Window {
 
     /// Makes the real window with its controls, not yet visible, and runs Form_Load. False when the
     /// system refuses.
-    bool Create(WindowHandle owner);
+    bool Create(platform::WindowHandle owner);
     void Show();
     /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns
     /// when it has been closed.
-    void ShowModal(WindowHandle owner);
+    void ShowModal(platform::WindowHandle owner);
     /// Closes the window unless Form_Unload refuses. False when it did.
     bool Unload();
 
-    WindowHandle handle() const { return handle_; }
+    platform::WindowHandle handle() const { return handle_; }
     bool IsOpen() const { return handle_ != nullptr; }
     /// False while a window in front of it waits for the user.
     bool IsEnabled() const;
@@ -58,10 +58,10 @@ class Window {
     /// Paints the window and its controls now, not when messages have been handled.
     void PaintAtOnce();
     /// Shows a short text when the pointer rests on a child window; an empty text takes it away.
-    void ShowTip(WindowHandle child, const std::string& tip);
+    void ShowTip(platform::WindowHandle child, const std::string& tip);
     /// Pops up a menu at a point of the screen; what is chosen arrives at MenuCommand.
     /// `defaultItem` is shown in bold; 0 for none.
-    void PopUpMenu(MenuHandle menu, Point screen, int defaultItem = 0);
+    void PopUpMenu(platform::MenuHandle menu, Point screen, int defaultItem = 0);
 
     /// Ends what the user edits within a control, taken as typed. Every command does this first,
     /// and so do the closing, a click on a picture and a window that opens in front: the edit may
@@ -89,7 +89,7 @@ class Window {
     /// Called when the window is about to close; false keeps it open.
     virtual bool Form_Unload() { return true; }
     virtual void Form_Resize(Size) {}
-    virtual void Form_Paint(DeviceContext) {}
+    virtual void Form_Paint(platform::DeviceContext) {}
     /// The system asks whether its session may end, and waits: the last moment at which the user
     /// can be asked. False keeps the session going.
     virtual bool MayEndSession() { return true; }
@@ -106,7 +106,7 @@ class Window {
     /// system.
     virtual bool Form_ContextMenu(Point) { return false; }
     /// A menu is about to open.
-    virtual void MenuOpens(MenuHandle) {}
+    virtual void MenuOpens(platform::MenuHandle) {}
     /// A notification of a child window that is no Control, a toolbar for instance.
     virtual std::intptr_t OnNotify(void*) { return 0; }
     /// The smallest size of the whole window that the user can drag it to.
@@ -131,23 +131,23 @@ class Window {
                    std::intptr_t& result);
     bool OnCommand(std::uintptr_t wParam, std::intptr_t lParam);
     bool OnHelp(std::intptr_t lParam);
-    bool OnContextMenu(WindowHandle child, Point screen, bool byKeyboard);
+    bool OnContextMenu(platform::WindowHandle child, Point screen, bool byKeyboard);
     void ShowTopic(const Control& control);
     void RepaintPictures();
-    Control* ControlOf(WindowHandle child) const;
+    Control* ControlOf(platform::WindowHandle child) const;
 
     /// The command of the menu that a right click on a control opens.
     static constexpr int kWhatsThis = 0x7f00;
 
     const char* className_;
     int templateId_;
-    WindowHandle handle_ = nullptr;
-    WindowHandle tips_ = nullptr;
-    WindowHandle disabledOwner_ = nullptr;
+    platform::WindowHandle handle_ = nullptr;
+    platform::WindowHandle tips_ = nullptr;
+    platform::WindowHandle disabledOwner_ = nullptr;
     bool unloading_ = false;
     unsigned long helpTopic_ = 0;
     std::map<int, Control*> controls_;
     std::vector<Timer*> timers_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,7 +4,7 @@
 #include "controls/window.h"
 #include "platform/help_viewer.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 namespace {
 
 std::string& helpFile() {
@@ -26,8 +26,8 @@ void Window::SetHelpFile(const std::string& path) { helpFile() = path; }
 const std::string& Window::HelpFile() { return helpFile(); }
 
 void Window::ShowTopic(const Control& control) {
-    ShowHelp(control.handle(), HelpFile(), HelpCommand::ContextPopup,
-             static_cast<unsigned long>(control.helpNumber()));
+    platform::ShowHelp(control.handle(), HelpFile(), platform::HelpCommand::ContextPopup,
+                       static_cast<unsigned long>(control.helpNumber()));
 }
 
 bool Window::OnHelp(std::intptr_t lParam) {
@@ -37,13 +37,13 @@ bool Window::OnHelp(std::intptr_t lParam) {
     if (control && control->helpNumber() != 0)
         ShowTopic(*control);
     else if (helpTopic_ != 0)
-        ShowHelp(handle_, HelpFile(), HelpCommand::Context, helpTopic_);
+        platform::ShowHelp(handle_, HelpFile(), platform::HelpCommand::Context, helpTopic_);
     else
         return false;
     return true;
 }
 
-bool Window::OnContextMenu(WindowHandle child, Point screen, bool byKeyboard) {
+bool Window::OnContextMenu(platform::WindowHandle child, Point screen, bool byKeyboard) {
     Control* control = ControlOf(child);
     // The title bar and the frame have the system's menu.
     if (!control) return !byKeyboard && IsInside(handle_, screen) && Form_ContextMenu(screen);
@@ -62,4 +62,4 @@ bool Window::OnContextMenu(WindowHandle child, Point screen, bool byKeyboard) {
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

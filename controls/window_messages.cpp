@@ -9,7 +9,7 @@
 #include "controls/window.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 bool Window::TranslateKey(const void* message) {
     const auto& m = *static_cast<const MSG*>(message);
@@ -62,7 +62,7 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             SetTextColor(reinterpret_cast<HDC>(wParam),
                          static_cast<COLORREF>(control->TextColor()));
             SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            const BrushHandle own = control->BackBrush();
+            const platform::BrushHandle own = control->BackBrush();
             result = reinterpret_cast<std::intptr_t>(own ? own : GetSysColorBrush(COLOR_BTNFACE));
             return true;
         }
@@ -75,7 +75,7 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             return true;
         }
         case WM_SETCURSOR: {
-            if (BusyPointer::Shown()) {
+            if (platform::BusyPointer::Shown()) {
                 SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
                 result = TRUE;
                 return true;
@@ -152,4 +152,4 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

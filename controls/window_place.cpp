@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::controls {
 
-WindowPlace PlaceOf(WindowHandle window) {
+WindowPlace PlaceOf(platform::WindowHandle window) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(window, &placement);
@@ -22,7 +22,7 @@ WindowPlace PlaceOf(WindowHandle window) {
             maximized};
 }
 
-void PlaceWithin(WindowHandle window, Rect place, const Rect& area) {
+void PlaceWithin(platform::WindowHandle window, Rect place, const Rect& area) {
     place.width = std::min(place.width, area.width);
     place.height = std::min(place.height, area.height);
     place.left = std::clamp(place.left, area.left, area.right() - place.width);
@@ -31,8 +31,8 @@ void PlaceWithin(WindowHandle window, Rect place, const Rect& area) {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Maximize(WindowHandle window) { ShowWindow(window, SW_MAXIMIZE); }
+void Maximize(platform::WindowHandle window) { ShowWindow(window, SW_MAXIMIZE); }
 
-void BringToFront(WindowHandle window) { SetForegroundWindow(window); }
+void BringToFront(platform::WindowHandle window) { SetForegroundWindow(window); }
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

@@ -4,20 +4,20 @@
 #include "controls/geometry.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::controls {
 
 struct WindowPlace {
     Rect normal;  ///< while it is neither maximised nor minimised
     bool maximized = false;
 };
 
-WindowPlace PlaceOf(WindowHandle window);
+WindowPlace PlaceOf(platform::WindowHandle window);
 
 /// Gives a window its place while it is not maximised, moved and made smaller so that it lies in
 /// `area`: the screen may have been larger when the place was kept.
-void PlaceWithin(WindowHandle window, Rect place, const Rect& area);
+void PlaceWithin(platform::WindowHandle window, Rect place, const Rect& area);
 
-void Maximize(WindowHandle window);
-void BringToFront(WindowHandle window);
+void Maximize(platform::WindowHandle window);
+void BringToFront(platform::WindowHandle window);
 
-}  // namespace vistrel
+}  // namespace vistrel::controls

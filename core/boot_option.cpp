@@ -6,7 +6,7 @@
 #include "platform/files.h"
 #include "platform/profile.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -17,7 +17,7 @@ constexpr std::int16_t kShown = 1;
 }  // namespace
 
 std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile) {
-    const int option = ReadProfileInt(bootConfigurationFile, kSection, kKey, kShown);
+    const int option = platform::ReadProfileInt(bootConfigurationFile, kSection, kKey, kShown);
     using Limits = std::numeric_limits<std::int16_t>;
     if (option < Limits::min() || option > Limits::max()) return kShown;
     return static_cast<std::int16_t>(option);
@@ -30,12 +30,12 @@ std::string BootLogoOptionText(std::int16_t option) {
 }
 
 void KeepBootLogoOption(const std::string& bootConfigurationFile) {
-    SetAttributes(bootConfigurationFile, kReadOnlyFile);
+    platform::SetAttributes(bootConfigurationFile, platform::kReadOnlyFile);
 }
 
 void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option) {
-    SetAttributes(bootConfigurationFile, kNormalFile);
-    WriteProfileText(bootConfigurationFile, kSection, kKey, BootLogoOptionText(option));
+    platform::SetAttributes(bootConfigurationFile, platform::kNormalFile);
+    platform::WriteProfileText(bootConfigurationFile, kSection, kKey, BootLogoOptionText(option));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The option's value; 1 when file or key is missing.
 std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile);
@@ -19,4 +19,4 @@ std::string BootLogoOptionText(std::int16_t option);
 /// Takes the file's attributes off and writes the option.
 void WriteBootLogoOption(const std::string& bootConfigurationFile, std::int16_t option);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

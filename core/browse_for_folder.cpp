@@ -2,11 +2,11 @@
 #include "core/generali.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
-std::string BrowseForFolder(WindowHandle owner, const std::string& prompt,
+std::string BrowseForFolder(platform::WindowHandle owner, const std::string& prompt,
                             const std::string& start) {
-    return PickFolder(owner, prompt, start);
+    return platform::PickFolder(owner, prompt, start);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -4,7 +4,7 @@
 #include "core/boot_option.h"
 #include "core/synchronizing.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 void WriteBackOnClose(const SystemLocations& locations, const ClosingState& state) {
     const std::string bootFile = locations.BootConfigurationFile();
@@ -24,4 +24,4 @@ void WriteBackOnClose(const SystemLocations& locations, const ClosingState& stat
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -6,7 +6,7 @@
 
 #include "core/settings.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// What the main window hands over when it closes.
 struct ClosingState {
@@ -22,4 +22,4 @@ struct ClosingState {
 /// that fails is passed over.
 void WriteBackOnClose(const SystemLocations& locations, const ClosingState& state);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -5,7 +5,7 @@
 #include "core/generali.h"
 #include "platform/open_dialog.h"
 
-namespace vistrel {
+namespace vistrel::core {
 namespace {
 
 /// The file must exist (0x1000), and there is no check box for opening it read-only (4).
@@ -22,9 +22,9 @@ std::string DialogFilter(std::string filter) {
     return filter;
 }
 
-std::string ShowOpenDialog(WindowHandle owner, const std::string& filter, const std::string& title,
-                           const std::string& initialFolder) {
-    OpenDialogRequest request;
+std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filter,
+                           const std::string& title, const std::string& initialFolder) {
+    platform::OpenDialogRequest request;
     request.owner = owner;
     request.filter = DialogFilter(filter);
     request.title = title;
@@ -32,9 +32,9 @@ std::string ShowOpenDialog(WindowHandle owner, const std::string& filter, const 
     request.flags = kFileMustExistHideReadOnly;
     request.file = std::string(kBufferLength, ' ');
     request.fileTitle = std::string(kBufferLength, '\0');
-    const bool chosen = RunOpenDialog(request);
+    const bool chosen = platform::RunOpenDialog(request);
     FileTitle = CutAtNul(request.fileTitle);
     return chosen ? Trim(request.file) : std::string();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -5,7 +5,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The name, without its folder, of the file that ShowOpenDialog gave last.
 extern std::string FileTitle;
@@ -13,10 +13,10 @@ extern std::string FileTitle;
 /// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, all parted
 /// by
 /// "|". The full path, with the NUL that the dialog wrote after it; empty when the user cancels.
-std::string ShowOpenDialog(WindowHandle owner, const std::string& filter, const std::string& title,
-                           const std::string& initialFolder);
+std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filter,
+                           const std::string& title, const std::string& initialFolder);
 
 /// The filter as the dialog expects it: each part ended by a NUL.
 std::string DialogFilter(std::string filter);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

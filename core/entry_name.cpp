@@ -8,7 +8,7 @@
 #include "core/generali.h"
 #include "platform/characters.h"
 
-namespace vistrel {
+namespace vistrel::core {
 namespace {
 
 /// MAX_PATH without the NUL at its end.
@@ -24,7 +24,7 @@ std::string WithoutBlanksAndDotsAtTheEnd(const std::string& typed) {
 
 bool HasForbiddenCharacter(const std::string& name) {
     constexpr std::string_view kForbidden = "\\/:*?\"<>|";
-    for (std::size_t at = 0; at < name.size(); at += CharacterLength(name, at)) {
+    for (std::size_t at = 0; at < name.size(); at += platform::CharacterLength(name, at)) {
         const auto first = static_cast<unsigned char>(name[at]);
         if (first < ' ' || kForbidden.find(name[at]) != std::string_view::npos) return true;
     }
@@ -61,4 +61,4 @@ std::optional<std::string> EntryName(const std::string& typed, const std::string
     return name;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

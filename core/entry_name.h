@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The name that a new or renamed set's folder in `parent` (which ends in a backslash) gets when
 /// `typed` is asked for: blanks and dots at the end are cut, as the file system would do. Empty
@@ -16,4 +16,4 @@ std::optional<std::string> SetFolderName(const std::string& typed, const std::st
 /// The same for a file or any other folder: its own path is what must not be too long.
 std::optional<std::string> EntryName(const std::string& typed, const std::string& parent);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

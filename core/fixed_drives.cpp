@@ -3,13 +3,14 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 std::vector<std::string> FixedDriveLetters() {
     std::vector<std::string> letters;
-    for (const std::string& root : DriveRoots())
-        if (KindOfDrive(root) == DriveKind::Fixed) letters.push_back(UpperCase(root.substr(0, 1)));
+    for (const std::string& root : platform::DriveRoots())
+        if (platform::KindOfDrive(root) == platform::DriveKind::Fixed)
+            letters.push_back(UpperCase(root.substr(0, 1)));
     return letters;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The letters of the fixed disks, in capitals, in their order.
 std::vector<std::string> FixedDriveLetters();
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -9,7 +9,7 @@
 #include "platform/characters.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -17,40 +17,41 @@ constexpr const char* kShellFoldersKey =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\explorer\\Shell folders";
 
 /// The attributes that hide an entry from a search that does not ask for them.
-constexpr std::uint32_t kAskedForOnly = kHiddenFile | kSystemFile | kDirectory;
+constexpr std::uint32_t kAskedForOnly =
+    platform::kHiddenFile | platform::kSystemFile | platform::kDirectory;
 
 /// Where each character of a text begins.
 std::vector<std::size_t> CharacterStarts(const std::string& text) {
     std::vector<std::size_t> starts;
-    for (std::size_t at = 0; at < text.size(); at += CharacterLength(text, at))
+    for (std::size_t at = 0; at < text.size(); at += platform::CharacterLength(text, at))
         starts.push_back(at);
     return starts;
 }
 
 }  // namespace
 
-std::string GetWindowsDir() { return SystemWindowsDirectory(); }
+std::string GetWindowsDir() { return platform::SystemWindowsDirectory(); }
 
-std::string GetTempFile() { return MakeTempFile(SystemTempFolder(), "~tm"); }
+std::string GetTempFile() { return platform::MakeTempFile(platform::SystemTempFolder(), "~tm"); }
 
-std::string GetShortPath(const std::string& path) { return Trim(SystemShortPath(path)); }
+std::string GetShortPath(const std::string& path) { return Trim(platform::SystemShortPath(path)); }
 
 std::string GetStartupFolder() {
     return AddBackslash(
-        CutAtNul(TextOf(QueryValue(Hive::CurrentUser, kShellFoldersKey, "Startup"))));
+        CutAtNul(TextOf(QueryValue(platform::Hive::CurrentUser, kShellFoldersKey, "Startup"))));
 }
 
 std::string AddBackslash(const std::string& path) {
-    if (EndsInBackslash(path)) return path;
+    if (platform::EndsInBackslash(path)) return path;
     return Trim(path) + "\\";
 }
 
 bool FileExists(const std::string& path, unsigned attributes) {
     if (path.empty()) return false;
     // A folder's name with a backslash searches what the folder holds.
-    const std::string pattern = EndsInBackslash(path) ? path + "*.*" : path;
+    const std::string pattern = platform::EndsInBackslash(path) ? path + "*.*" : path;
     bool found = false;
-    ForEachEntry(pattern, [&](const FolderEntry& entry) {
+    platform::ForEachEntry(pattern, [&](const platform::FolderEntry& entry) {
         found = (entry.attributes & kAskedForOnly & ~attributes) == 0;
         return !found;
     });
@@ -58,8 +59,8 @@ bool FileExists(const std::string& path, unsigned attributes) {
 }
 
 std::string GetFileName(std::string& path) {
-    if (EndsInBackslash(path)) path.pop_back();
-    return path.substr(LastBackslash(path) + 1);
+    if (platform::EndsInBackslash(path)) path.pop_back();
+    return path.substr(platform::LastBackslash(path) + 1);
 }
 
 std::string CompactPath(const std::string& path, int maximum) {
@@ -89,7 +90,7 @@ std::string Trim(const std::string& text) {
 std::string UpperCase(std::string_view text) {
     // The endings that are compared are plain letters: no other character has to change.
     std::string upper(text);
-    for (std::size_t at = 0; at < upper.size(); at += CharacterLength(upper, at)) {
+    for (std::size_t at = 0; at < upper.size(); at += platform::CharacterLength(upper, at)) {
         char& letter = upper[at];
         if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
     }
@@ -101,4 +102,4 @@ std::string UpperEnding(std::string_view name) {
     return upper.substr(upper.size() - std::min<std::size_t>(upper.size(), 4));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -6,7 +6,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The Windows directory, without a trailing backslash.
 std::string GetWindowsDir();
@@ -28,7 +28,7 @@ std::string GetFileName(std::string& path);
 /// `path` shortened to about `maximum` characters: its first three, "...", and its tail.
 std::string CompactPath(const std::string& path, int maximum);
 /// The folder that the user picks; empty when the user cancels.
-std::string BrowseForFolder(WindowHandle owner, const std::string& prompt,
+std::string BrowseForFolder(platform::WindowHandle owner, const std::string& prompt,
                             const std::string& start = {});
 
 /// A text up to its first NUL.
@@ -39,4 +39,4 @@ std::string UpperCase(std::string_view text);
 /// The last four characters in upper case: the ending by which files and sets are told apart.
 std::string UpperEnding(std::string_view name);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

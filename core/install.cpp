@@ -4,12 +4,12 @@
 #include "core/library.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 void ToggleReadOnlyAttrib(const InstallTargets& targets) {
     for (const std::string& screen :
          InstalledScreenPaths(targets.bootRoot, targets.windowsDirectory)) {
-        SetAttributes(screen, kNormalFile);
+        platform::SetAttributes(screen, platform::kNormalFile);
     }
 }
 
@@ -19,15 +19,15 @@ void InstallLogoSet(const InstallTargets& targets, const std::string& setName, b
     const auto [startup, wait, shutdown] =
         InstalledScreenPaths(targets.bootRoot, targets.windowsDirectory);
 
-    Remove(startup);
-    CopyOver(setStartup, startup);
+    platform::Remove(startup);
+    platform::CopyOver(setStartup, startup);
     if (synchronize) return;
 
     // Both go before either comes.
-    Remove(wait);
-    Remove(shutdown);
-    CopyOver(setWait, wait);
-    CopyOver(setShutdown, shutdown);
+    platform::Remove(wait);
+    platform::Remove(shutdown);
+    platform::CopyOver(setWait, wait);
+    platform::CopyOver(setShutdown, shutdown);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 struct InstallTargets {
     std::string logoFolder;  ///< ends in a backslash, as all of these
@@ -19,4 +19,4 @@ void ToggleReadOnlyAttrib(const InstallTargets& targets);
 /// screen is copied; Mirrorkin brings the other two at the next start.
 void InstallLogoSet(const InstallTargets& targets, const std::string& setName, bool synchronize);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

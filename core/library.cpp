@@ -6,7 +6,7 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 bool IsSingleLogoSet(const std::string& setName) {
     return UpperEnding(setName) == kSingleLogoEnding;
@@ -36,12 +36,14 @@ std::array<std::string, 3> InstalledScreenPaths(const std::string& bootRoot,
 
 void ForEachLogoSet(const std::string& logoFolder,
                     const std::function<void(const std::string& name)>& visit) {
-    ForEachEntry(AddBackslash(logoFolder) + "*.*", [&](const FolderEntry& entry) {
-        const bool hidden = (entry.attributes & (kHiddenFile | kSystemFile)) != 0;
-        if (entry.IsFolder() && !hidden && entry.name != "." && entry.name != "..")
-            visit(entry.name);
-        return true;
-    });
+    platform::ForEachEntry(
+        AddBackslash(logoFolder) + "*.*", [&](const platform::FolderEntry& entry) {
+            const bool hidden =
+                (entry.attributes & (platform::kHiddenFile | platform::kSystemFile)) != 0;
+            if (entry.IsFolder() && !hidden && entry.name != "." && entry.name != "..")
+                visit(entry.name);
+            return true;
+        });
 }
 
 std::vector<std::string> LogoSetNames(const std::string& logoFolder) {
@@ -65,4 +67,4 @@ std::optional<std::string> NextLogoSet(const std::vector<std::string>& sets,
     return *(found + 1);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -9,7 +9,7 @@
 
 #include "core/locations.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// What the label of the installed set shows when none is known.
 inline constexpr const char* kUnknownSet = "<Don't know>";
@@ -47,4 +47,4 @@ std::string CountLine(int sets);
 std::optional<std::string> NextLogoSet(const std::vector<std::string>& sets,
                                        const std::string& installed);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -4,10 +4,10 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 SystemLocations FindSystemLocations() {
-    return {AddBackslash(ProgramFolder()), AddBackslash(GetWindowsDir()), {}};
+    return {AddBackslash(platform::ProgramFolder()), AddBackslash(GetWindowsDir()), {}};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

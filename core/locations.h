@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The three pictures that the system shows. Arrays of three are always in this order.
 enum class LogoScreen { Startup = 0, Wait = 1, Shutdown = 2 };
@@ -31,4 +31,4 @@ struct SystemLocations {
 /// main window asks for it (GetStartupFolder) when it loads.
 SystemLocations FindSystemLocations();
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -9,7 +9,7 @@
 #include "core/settings.h"
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 class MainWindow {
  public:
@@ -37,12 +37,12 @@ class MainWindow {
     /// picture): 0 shows it in actual size, 1 opens Paint, 2 the custom program. `owner` is the
     /// window in front.
     virtual void SetCurrentPicture(const std::string& path) = 0;
-    virtual void AzioneSuImmagine(int index, WindowHandle owner) = 0;
+    virtual void AzioneSuImmagine(int index, platform::WindowHandle owner) = 0;
     /// The menu of those actions and its default item. What is chosen arrives at the window that
     /// pops it up, which hands it to OpenWithCommand: false for a number that is not of the menu.
-    virtual MenuHandle OpenWithMenu() = 0;
+    virtual platform::MenuHandle OpenWithMenu() = 0;
     virtual int DefaultOpenWithItem() const = 0;
-    virtual bool OpenWithCommand(int id, WindowHandle owner) = 0;
+    virtual bool OpenWithCommand(int id, platform::WindowHandle owner) = 0;
     /// Captions the custom program's menu item: its name, or "Custom Program" for an empty one.
     virtual void ShowCustomProgramName() = 0;
     /// The mark of "Autoshow animation".
@@ -55,4 +55,4 @@ class MainWindow {
     virtual void RaiseBootLogoOptionChanged() = 0;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::core

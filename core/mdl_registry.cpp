@@ -1,58 +1,60 @@
 // The registry operations of this program.
 #include "core/mdl_registry.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
-constexpr RegistryStatus kUnknownType = -1;
+constexpr platform::RegistryStatus kUnknownType = -1;
 
 }  // namespace
 
-RegistryStatus CreateNewKey(Hive hive, const std::string& path) {
-    RegistryKey key;
+platform::RegistryStatus CreateNewKey(platform::Hive hive, const std::string& path) {
+    platform::RegistryKey key;
     return key.Create(hive, path);
 }
 
-RegistryStatus SetKeyValue(Hive hive, const std::string& path, const std::string& name,
-                           const RegistryValue& value, std::uint32_t type) {
-    RegistryKey key;
-    const RegistryStatus status = key.Open(hive, path);
+platform::RegistryStatus SetKeyValue(platform::Hive hive, const std::string& path,
+                                     const std::string& name, const RegistryValue& value,
+                                     std::uint32_t type) {
+    platform::RegistryKey key;
+    const platform::RegistryStatus status = key.Open(hive, path);
     if (status != 0) return status;
     return SetValueEx(key, name, type, value);
 }
 
-RegistryStatus SetValueEx(RegistryKey& key, const std::string& name, std::uint32_t type,
-                          const RegistryValue& value) {
-    if (type == kRegistryText) {
+platform::RegistryStatus SetValueEx(platform::RegistryKey& key, const std::string& name,
+                                    std::uint32_t type, const RegistryValue& value) {
+    if (type == platform::kRegistryText) {
         const std::string text = TextOf(value);
         return key.Set(name, type, text.data(), static_cast<std::uint32_t>(text.size()));
     }
     const auto* number = std::get_if<std::uint32_t>(&value);
-    if (type != kRegistryNumber || !number) return kUnknownType;
+    if (type != platform::kRegistryNumber || !number) return kUnknownType;
     return key.Set(name, type, number, sizeof *number);
 }
 
-RegistryValue QueryValue(Hive hive, const std::string& path, const std::string& name) {
-    RegistryKey key;
+RegistryValue QueryValue(platform::Hive hive, const std::string& path, const std::string& name) {
+    platform::RegistryKey key;
     RegistryValue value;
     if (key.Open(hive, path) == 0) QueryValueEx(key, name, value);
     return value;
 }
 
-RegistryStatus QueryValueEx(RegistryKey& key, const std::string& name, RegistryValue& value) {
+platform::RegistryStatus QueryValueEx(platform::RegistryKey& key, const std::string& name,
+                                      RegistryValue& value) {
     value = {};
     std::uint32_t type = 0;
     std::uint32_t size = 0;
-    RegistryStatus status = key.Measure(name, type, size);
+    platform::RegistryStatus status = key.Measure(name, type, size);
     if (status != 0) return status;
-    if (type == kRegistryText) {
+    if (type == platform::kRegistryText) {
         std::string text(size, '\0');
         status = key.Read(name, text.data(), size);
         if (status == 0) value = std::move(text);
         return status;
     }
-    if (type == kRegistryNumber) {
+    if (type == platform::kRegistryNumber) {
         std::uint32_t number = 0;
         size = sizeof number;
         status = key.Read(name, &number, size);
@@ -62,9 +64,10 @@ RegistryStatus QueryValueEx(RegistryKey& key, const std::string& name, RegistryV
     return kUnknownType;
 }
 
-RegistryStatus DeleteValue(Hive hive, const std::string& path, const std::string& name) {
-    RegistryKey key;
-    const RegistryStatus status = key.Open(hive, path);
+platform::RegistryStatus DeleteValue(platform::Hive hive, const std::string& path,
+                                     const std::string& name) {
+    platform::RegistryKey key;
+    const platform::RegistryStatus status = key.Open(hive, path);
     if (status != 0) return status;
     return key.Delete(name);
 }
@@ -75,4 +78,4 @@ std::string TextOf(const RegistryValue& value) {
     return {};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

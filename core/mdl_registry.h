@@ -7,29 +7,32 @@
 
 #include "platform/registry_key.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// A value read or to be written: nothing, a text (which may hold NULs) or a number.
 using RegistryValue = std::variant<std::monostate, std::string, std::uint32_t>;
 
 /// Creates the key if it is absent.
-RegistryStatus CreateNewKey(Hive hive, const std::string& path);
+platform::RegistryStatus CreateNewKey(platform::Hive hive, const std::string& path);
 /// Opens the key and writes the value through SetValueEx.
-RegistryStatus SetKeyValue(Hive hive, const std::string& path, const std::string& name,
-                           const RegistryValue& value, std::uint32_t type);
+platform::RegistryStatus SetKeyValue(platform::Hive hive, const std::string& path,
+                                     const std::string& name, const RegistryValue& value,
+                                     std::uint32_t type);
 /// Type 1 writes the text with a size equal to its length, without a terminating NUL; type 4 the
 /// number; other types write nothing.
-RegistryStatus SetValueEx(RegistryKey& key, const std::string& name, std::uint32_t type,
-                          const RegistryValue& value);
+platform::RegistryStatus SetValueEx(platform::RegistryKey& key, const std::string& name,
+                                    std::uint32_t type, const RegistryValue& value);
 /// Opens the key and reads the value through QueryValueEx; nothing when it is missing.
-RegistryValue QueryValue(Hive hive, const std::string& path, const std::string& name);
+RegistryValue QueryValue(platform::Hive hive, const std::string& path, const std::string& name);
 /// Reads one value. A stored terminating NUL stays in the text; a type that is neither text nor
 /// number gives status -1 and no value.
-RegistryStatus QueryValueEx(RegistryKey& key, const std::string& name, RegistryValue& value);
+platform::RegistryStatus QueryValueEx(platform::RegistryKey& key, const std::string& name,
+                                      RegistryValue& value);
 /// Removes one value.
-RegistryStatus DeleteValue(Hive hive, const std::string& path, const std::string& name);
+platform::RegistryStatus DeleteValue(platform::Hive hive, const std::string& path,
+                                     const std::string& name);
 
 /// A value as text: a number in decimal, nothing as the empty text, a text as it is.
 std::string TextOf(const RegistryValue& value);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

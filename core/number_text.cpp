@@ -3,7 +3,7 @@
 
 #include <charconv>
 
-namespace vistrel {
+namespace vistrel::core {
 
 std::optional<std::int16_t> LeadingNumber(const std::string& text) {
     const char* first = text.data();
@@ -17,4 +17,4 @@ std::optional<std::int16_t> LeadingNumber(const std::string& text) {
     return error == std::errc{} ? number : std::int16_t{0};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstdint>
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::string RandomOtherSet(RandomGenerator& generator, const std::vector<std::st
     return sets[DrawOther(generator, static_cast<int>(sets.size()), current) - 1];
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// Uniform numbers, seeded from the seconds since midnight with their fractions.
 class RandomGenerator {
@@ -25,4 +25,4 @@ std::string RandomOtherSet(RandomGenerator& generator, const std::vector<std::st
 /// A number of 1 to `count` other than `current`, each equally likely. `count` is at least 2.
 int DrawOther(RandomGenerator& generator, int count, int current);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -3,7 +3,7 @@
 
 #include "platform/running_window.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -14,16 +14,16 @@ constexpr unsigned long kPause = 100;
 
 }  // namespace
 
-bool VistrelIsRunning() { return WindowOfClassExists(kMainWindowClass); }
+bool VistrelIsRunning() { return platform::WindowOfClassExists(kMainWindowClass); }
 
 OnlyCopy::OnlyCopy() : mutex_("Vistrel is open") {}
 
 bool OnlyCopy::Take() {
     for (int look = 0; look < kLooks; ++look) {
         if (mutex_.TakeWithin(kPause)) return true;
-        if (BringToFront(kMainWindowClass)) return false;
+        if (platform::BringToFront(kMainWindowClass)) return false;
     }
     return false;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -3,7 +3,7 @@
 
 #include "platform/named_mutex.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The window class of the main window.
 inline constexpr const char* kMainWindowClass = "Principale";
@@ -22,7 +22,7 @@ class OnlyCopy {
     bool Take();
 
  private:
-    NamedMutex mutex_;
+    platform::NamedMutex mutex_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::core

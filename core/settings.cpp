@@ -12,7 +12,7 @@
 #include "core/number_text.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -78,7 +78,7 @@ const SettingRow& RowOf(const char* valueName) {
 }
 
 std::string StoredText(const SettingRow& row) {
-    return CutAtNul(TextOf(QueryValue(Hive::LocalMachine, kSettingsKey, row.valueName)));
+    return CutAtNul(TextOf(QueryValue(platform::Hive::LocalMachine, kSettingsKey, row.valueName)));
 }
 
 std::string TextByRule(Rule rule, const std::string& stored, const Settings& settings,
@@ -90,7 +90,8 @@ std::string TextByRule(Rule rule, const std::string& stored, const Settings& set
             return settings.customProgName.empty() ? std::string() : stored;
         case Rule::Folder:
             // An empty text with a backslash would be the root of the current drive.
-            if (stored.empty() || !IsFolder(AddBackslash(stored))) return locations.programFolder;
+            if (stored.empty() || !platform::IsFolder(AddBackslash(stored)))
+                return locations.programFolder;
             return AddBackslash(stored);
         default:
             return stored;
@@ -135,18 +136,19 @@ std::string TextToStore(const SettingRow& row, const Settings& settings) {
 }
 
 bool WriteRow(const SettingRow& row, const std::string& text) {
-    return SetKeyValue(Hive::LocalMachine, kSettingsKey, row.valueName, text, kRegistryText) == 0;
+    return SetKeyValue(platform::Hive::LocalMachine, kSettingsKey, row.valueName, text,
+                       platform::kRegistryText) == 0;
 }
 
 // Keeps the screens that are installed now as a set, so that the user can go back to them. A screen
 // that is missing or cannot be copied is left out.
 void SetUpFirstRun(const SystemLocations& locations, Settings& settings) {
     const std::string setFolder = settings.logoPath + kOriginalLogos + "\\";
-    if (!IsFolder(setFolder)) {
-        MakeFolder(settings.logoPath + kOriginalLogos);
+    if (!platform::IsFolder(setFolder)) {
+        platform::MakeFolder(settings.logoPath + kOriginalLogos);
         const auto installed = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
         for (std::size_t screen = 0; screen < installed.size(); ++screen) {
-            CopyOver(installed[screen], setFolder + kScreenFileNames[screen]);
+            platform::CopyOver(installed[screen], setFolder + kScreenFileNames[screen]);
         }
         settings.defaultLogoSet = kOriginalLogos;
     }
@@ -176,15 +178,15 @@ Settings LoadSettings(const SystemLocations& locations) {
 }
 
 void SaveSettings(const Settings& settings) {
-    CreateNewKey(Hive::LocalMachine, kSettingsKey);
+    CreateNewKey(platform::Hive::LocalMachine, kSettingsKey);
     for (const SettingRow& row : kRows) {
         if (!WriteRow(row, TextToStore(row, settings))) return;
     }
 }
 
 bool SaveDefaultLogoSet(const std::string& setName) {
-    CreateNewKey(Hive::LocalMachine, kSettingsKey);
+    CreateNewKey(platform::Hive::LocalMachine, kSettingsKey);
     return WriteRow(RowOf("DefaultLogoSet"), setName);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

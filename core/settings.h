@@ -6,7 +6,7 @@
 
 #include "core/locations.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 inline constexpr const char* kSettingsKey = "SOFTWARE\\Tarnwick\\Vistrel";
 
@@ -57,4 +57,4 @@ void SaveSettings(const Settings& settings);
 /// could not be written.
 bool SaveDefaultLogoSet(const std::string& setName);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -19,7 +19,7 @@ bool LeadsTo(const std::string& link, const std::string& program) {
     const auto known = [](const std::string& path) {
         return UpperCase(CutAtNul(GetShortPath(path)));
     };
-    return known(ShellLinkTarget(link)) == known(program);
+    return known(platform::ShellLinkTarget(link)) == known(program);
 }
 
 }  // namespace
@@ -30,9 +30,10 @@ void MakeMissingLinks(const std::string& programFolder, const std::string& start
         const std::string program = programFolder + companion;
         if (!FileExists(program)) return;
         const std::string own = programFolder + link;
-        if (!LeadsTo(own, program)) WriteShellLink(own, program, "", programFolder, description);
+        if (!LeadsTo(own, program))
+            platform::WriteShellLink(own, program, "", programFolder, description);
         const std::string started = startupFolder + link;
-        if (FileExists(started) && !LeadsTo(started, program)) CopyOver(own, started);
+        if (FileExists(started) && !LeadsTo(started, program)) platform::CopyOver(own, started);
     };
     mend(kRotalineLink, "Rotaline.exe", "Installs the next logo set in turn");
     mend(kShuffletLink, "Shufflet.exe", "Installs a logo set at random");
@@ -49,11 +50,11 @@ std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFol
 void ApplyStartUpAction(StartUpActionKind action, const std::string& programFolder,
                         const std::string& startupFolder) {
     for (const char* link : {kShuffletLink, kRotalineLink}) {
-        if (FileExists(startupFolder + link)) Remove(startupFolder + link);
+        if (FileExists(startupFolder + link)) platform::Remove(startupFolder + link);
     }
     if (action == StartUpActionKind::Nothing) return;
     const char* chosen = action == StartUpActionKind::Rotaline ? kRotalineLink : kShuffletLink;
-    CopyOver(programFolder + chosen, startupFolder + chosen);
+    platform::CopyOver(programFolder + chosen, startupFolder + chosen);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

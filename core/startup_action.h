@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 enum class StartUpActionKind { Rotaline = 0, Shufflet = 1, Nothing = 2 };
 
@@ -23,4 +23,4 @@ std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFol
 void ApplyStartUpAction(StartUpActionKind action, const std::string& programFolder,
                         const std::string& startupFolder);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

@@ -6,7 +6,7 @@
 #include "platform/files.h"
 #include "platform/profile.h"
 
-namespace vistrel {
+namespace vistrel::core {
 
 namespace {
 
@@ -26,20 +26,21 @@ std::string SynchronizedPath(const std::string& logoFolder, const std::string& s
 
 bool RegisterMirrorkin(const std::string& programFolder, const std::string& logoFolder,
                        const std::string& setName) {
-    const bool entered = SetKeyValue(Hive::LocalMachine, kRunKey, kEntry,
-                                     programFolder + "Mirrorkin.exe /auto", kRegistryText) == 0;
-    const bool written = WriteProfileText(IniFile(programFolder), kSection, kPathKey,
-                                          SynchronizedPath(logoFolder, setName));
+    const bool entered =
+        SetKeyValue(platform::Hive::LocalMachine, kRunKey, kEntry,
+                    programFolder + "Mirrorkin.exe /auto", platform::kRegistryText) == 0;
+    const bool written = platform::WriteProfileText(IniFile(programFolder), kSection, kPathKey,
+                                                    SynchronizedPath(logoFolder, setName));
     return entered && written;
 }
 
 void RemoveMirrorkin(const std::string& programFolder) {
-    Remove(IniFile(programFolder));
-    DeleteValue(Hive::LocalMachine, kRunKey, kEntry);
+    platform::Remove(IniFile(programFolder));
+    DeleteValue(platform::Hive::LocalMachine, kRunKey, kEntry);
 }
 
 std::string ReadSynchronizedPath(const std::string& programFolder) {
-    return ReadProfileText(IniFile(programFolder), kSection, kPathKey);
+    return platform::ReadProfileText(IniFile(programFolder), kSection, kPathKey);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::core

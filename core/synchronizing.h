@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::core {
 
 /// The folder that Mirrorkin copies from: the logo folder itself for a single-logo set, otherwise
 /// the set's own folder without a trailing backslash. Where no set is known (an empty name) it is
@@ -20,4 +20,4 @@ void RemoveMirrorkin(const std::string& programFolder);
 /// The folder that Mirrorkin's ini file names; empty when there is none.
 std::string ReadSynchronizedPath(const std::string& programFolder);
 
-}  // namespace vistrel
+}  // namespace vistrel::core

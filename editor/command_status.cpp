@@ -1,6 +1,6 @@
 #include "editor/command_status.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 CommandStatus StatusOfCommands(const SessionFacts& facts, CommandStatus before) {
     CommandStatus status = before;
@@ -14,4 +14,4 @@ CommandStatus StatusOfCommands(const SessionFacts& facts, CommandStatus before) 
     return status;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -1,7 +1,7 @@
 // Which commands of the Action menu are available, decided from what the session holds.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::editor {
 
 /// What the decision depends on.
 struct SessionFacts {
@@ -23,4 +23,4 @@ struct CommandStatus {
 /// The status that follows from the facts; what they leave open stays as `before` has it.
 CommandStatus StatusOfCommands(const SessionFacts& facts, CommandStatus before);
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -6,29 +6,30 @@
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
-bool EliminaLogoSet(WindowHandle owner, MainWindow& main, const std::string& FolderToKill,
-                    const std::string& LogoName, const std::string& editorSetName) {
-    const Settings& settings = main.Preferences();
+bool EliminaLogoSet(platform::WindowHandle owner, core::MainWindow& main,
+                    const std::string& FolderToKill, const std::string& LogoName,
+                    const std::string& editorSetName) {
+    const core::Settings& settings = main.Preferences();
     if (settings.confirmLogosetDelete == 1 &&
-        Ask(owner,
-            "Are you sure you want to delete " + LogoName +
-                " logo set? This operation will delete all files contained in '" + FolderToKill +
-                "' folder!",
-            kQuestionYesNo, "Confirm deletions") != Answer::Yes)
+        platform::Ask(owner,
+                      "Are you sure you want to delete " + LogoName +
+                          " logo set? This operation will delete all files contained in '" +
+                          FolderToKill + "' folder!",
+                      platform::kQuestionYesNo, "Confirm deletions") != platform::Answer::Yes)
         return false;
 
     // Every step is done whether or not the ones before it succeeded.
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     const std::string everything = FolderToKill + "\\*.*";
     if (settings.deleteInTheRecycleBin == 1)
         DeleteToRecycleBin(owner, {everything});
     else
-        RemoveMatching(everything);
-    RemoveFolder(FolderToKill);
-    if (main.CurrentSet() == editorSetName) main.SetCurrentSet(kUnknownSet);
+        platform::RemoveMatching(everything);
+    platform::RemoveFolder(FolderToKill);
+    if (main.CurrentSet() == editorSetName) main.SetCurrentSet(core::kUnknownSet);
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

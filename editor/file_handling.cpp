@@ -2,7 +2,7 @@
 
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 /// SHFileOperation's flag that allows the operation to be undone.
@@ -10,12 +10,12 @@ constexpr unsigned short kAllowUndo = 64;
 
 }  // namespace
 
-void DeleteToRecycleBin(WindowHandle owner, const std::vector<std::string>& paths) {
+void DeleteToRecycleBin(platform::WindowHandle owner, const std::vector<std::string>& paths) {
     std::string list;
     for (const std::string& path : paths) list += path + '\0';
     list += '\0';
     // What became of it is not asked: the shell has told the user.
-    ShellDelete(owner, list, kAllowUndo);
+    platform::ShellDelete(owner, list, kAllowUndo);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

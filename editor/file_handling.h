@@ -6,11 +6,11 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 /// Hands full paths, which may hold wildcards, to the shell in one operation that moves them into
 /// the recycle bin. The shell asks and reports by itself; a refusal leaves the files where they
 /// are.
-void DeleteToRecycleBin(WindowHandle owner, const std::vector<std::string>& paths);
+void DeleteToRecycleBin(platform::WindowHandle owner, const std::vector<std::string>& paths);
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -4,7 +4,7 @@
 
 #include "core/generali.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 void SortIgnoringCase(std::vector<std::string>& names) {
@@ -20,23 +20,23 @@ void SortIgnoringCase(std::vector<std::string>& names) {
 
 }  // namespace
 
-bool IsOutOfSight(const FolderEntry& entry) {
-    return (entry.attributes & (kHiddenFile | kSystemFile)) != 0;
+bool IsOutOfSight(const platform::FolderEntry& entry) {
+    return (entry.attributes & (platform::kHiddenFile | platform::kSystemFile)) != 0;
 }
 
-bool IsScreenName(const std::string& name) { return UpperEnding(name) == ".SYS"; }
+bool IsScreenName(const std::string& name) { return core::UpperEnding(name) == ".SYS"; }
 
 bool IsPictureName(const std::string& name) {
-    const std::string ending = UpperEnding(name);
+    const std::string ending = core::UpperEnding(name);
     return ending == ".SYS" || ending == ".BMP" || ending == ".GIF" || ending == ".JPG";
 }
 
 bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     found = {};
-    Error error;
-    const bool read = ForEachEntry(
+    platform::Error error;
+    const bool read = platform::ForEachEntry(
         folder + "*.*",
-        [&](const FolderEntry& entry) {
+        [&](const platform::FolderEntry& entry) {
             // ".." may have what hides the folder above, and is the way out of there.
             if (entry.name == "." || (IsOutOfSight(entry) && entry.name != "..")) return true;
             if (entry.IsFolder())
@@ -49,7 +49,7 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     SortIgnoringCase(found.folders);
     SortIgnoringCase(found.pictures);
     // The root of an empty disk holds no entry at all.
-    return read || (error.IsFileNotFound() && IsFolder(folder));
+    return read || (error.IsFileNotFound() && platform::IsFolder(folder));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -6,7 +6,7 @@
 
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 /// True for a name that ends in ".SYS", ".BMP", ".GIF" or ".JPG", in any case.
 bool IsPictureName(const std::string& name);
@@ -14,7 +14,7 @@ bool IsPictureName(const std::string& name);
 bool IsScreenName(const std::string& name);
 
 /// True for a hidden or system entry, which no list shows.
-bool IsOutOfSight(const FolderEntry& entry);
+bool IsOutOfSight(const platform::FolderEntry& entry);
 
 /// Names of one folder, each group sorted without regard to case.
 struct PictureFolder {
@@ -26,4 +26,4 @@ struct PictureFolder {
 /// system entries stay out. False when the folder cannot be read; `found` is then empty.
 bool ReadPictureFolder(const std::string& folder, PictureFolder& found);
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -11,14 +11,14 @@
 #include "platform/pointer.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 constexpr long kIconTransparent = 0xFF00FF;
 
 }  // namespace
 
-SelPictureForm::SelPictureForm(MainWindow& main)
+SelPictureForm::SelPictureForm(core::MainWindow& main)
     : Window("SelPictureForm", IDD_SelPictureForm), main_(main) {
     AddControls();
     ConnectBrowser();
@@ -26,7 +26,7 @@ SelPictureForm::SelPictureForm(MainWindow& main)
     AttachMenus();
 }
 
-SelPictureForm::~SelPictureForm() { FreeMenu(menus_); }
+SelPictureForm::~SelPictureForm() { controls::FreeMenu(menus_); }
 
 void SelPictureForm::AddControls() {
     Add(Drive1, ID_Drive1);
@@ -63,8 +63,8 @@ void SelPictureForm::ConnectBrowser() {
     LogoList.DblClick = [this] { LogoList_DblClick(); };
     LogoList.KeyPress = [this](char character) { LogoList_KeyPress(character); };
     LogoList.KeyUp = [this](int key) { LogoList_KeyUp(key); };
-    LogoList.MouseUp = [this](int button, Point) { LogoList_MouseUp(button); };
-    LogoList.ContextMenu = [this](Point screen, bool byKeyboard) {
+    LogoList.MouseUp = [this](int button, controls::Point) { LogoList_MouseUp(button); };
+    LogoList.ContextMenu = [this](controls::Point screen, bool byKeyboard) {
         if (byKeyboard) ShowManageMenu(screen);
     };
     LogoList.BeginDrag = [this] { LogoList_BeginDrag(); };
@@ -72,9 +72,11 @@ void SelPictureForm::ConnectBrowser() {
     LogoList.AfterLabelEdit = [this](const std::string& name) {
         return LogoList_AfterLabelEdit(name);
     };
-    CurView.MouseDown = [this](int, Point at) { CurView_MouseDown(at); };
-    CurView.MouseMove = [this](int button, Point at) { CurView_MouseMove(button, at); };
-    CurView.MouseUp = [this](int button, Point at) { Picture_MouseUp(CurView, button, at); };
+    CurView.MouseDown = [this](int, controls::Point at) { CurView_MouseDown(at); };
+    CurView.MouseMove = [this](int button, controls::Point at) { CurView_MouseMove(button, at); };
+    CurView.MouseUp = [this](int button, controls::Point at) {
+        Picture_MouseUp(CurView, button, at);
+    };
 }
 
 void SelPictureForm::ConnectSlots() {
@@ -84,7 +86,7 @@ void SelPictureForm::ConnectSlots() {
     NameLogoSet.Change = [this] { NameLogoSet_Change(); };
     NameLogoSet.Click = [this] { NameLogoSet_Click(); };
     for (int i = 0; i < 3; ++i) {
-        ImgPreview[i].MouseUp = [this, i](int button, Point at) {
+        ImgPreview[i].MouseUp = [this, i](int button, controls::Point at) {
             Picture_MouseUp(ImgPreview[i], button, at);
         };
         AddButton[i].Click = [this, i] { AddButton_Click(i); };
@@ -95,7 +97,7 @@ void SelPictureForm::ConnectSlots() {
 }
 
 void SelPictureForm::AttachMenus() {
-    menus_ = LoadMenuResource(IDM_SelPictureForm);
+    menus_ = controls::LoadMenuResource(IDM_SelPictureForm);
     for (int i = 0; i < 2; ++i) OkButton[i].Attach(menus_, ID_OkButton + i);
     EliminaSetBtn.Attach(menus_, ID_EliminaSetBtn);
     ClearAllButton.Attach(menus_, ID_ClearAllButton);
@@ -106,15 +108,16 @@ void SelPictureForm::AttachMenus() {
 }
 
 void SelPictureForm::Form_Load() {
-    ShowDefaultPointer();
-    dragIcon_ = LoadDragIcon("drag");
+    platform::ShowDefaultPointer();
+    dragIcon_ = controls::LoadDragIcon("drag");
     ImgPreview[0].SetTip("LOGO.SYS: startup screen");
     ImgPreview[1].SetTip("LOGOW.SYS: wait screen");
     ImgPreview[2].SetTip("LOGOS.SYS: shutdown screen");
     SetHelpNumbers();
 
     for (int i = 0; i < 3; ++i)
-        LblSlot[i].SetText(std::string(kScreenFileNames[i]) + "\r\n" + kScreenTitles[i]);
+        LblSlot[i].SetText(std::string(core::kScreenFileNames[i]) + "\r\n" +
+                           core::kScreenTitles[i]);
     LogoList.AddColumn("", 0);
     LogoList.LoadIcons(IDB_Browser, kIconTransparent, {"closed", "sys", "im"});
     Drive1.LoadIcons(IDB_Drives, kIconTransparent);
@@ -155,11 +158,11 @@ void SelPictureForm::Form_Activate() {
     ListNames();
     NameLogoSet.SetListIndex(main_.SelectedSet());
     NameLogoSet.SelectText();
-    if (IsSingleLogoSet(NameLogoSet.Text())) ChooseByCode(SetType::OnlyStartup);
+    if (core::IsSingleLogoSet(NameLogoSet.Text())) ChooseByCode(SetType::OnlyStartup);
 
     const std::string& lastBrowsed = main_.Preferences().searchLogoPath;
-    const std::string folder =
-        AddBackslash(IsFolder(lastBrowsed) ? lastBrowsed : main_.Locations().programFolder);
+    const std::string folder = core::AddBackslash(
+        platform::IsFolder(lastBrowsed) ? lastBrowsed : main_.Locations().programFolder);
     if (Drive1.SetDrive(folder)) Drive1_Change();
     BrowseTo(folder);
 }
@@ -171,8 +174,9 @@ void SelPictureForm::ListNames() {
 
 bool SelPictureForm::MayEndSession() {
     if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
-    return Ask(handle(), "You haven't saved the last changes. Would you like to discard them?",
-               kQuestionYesNoDefaultNo) == Answer::Yes;
+    return platform::Ask(handle(),
+                         "You haven't saved the last changes. Would you like to discard them?",
+                         platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
 }
 
 // What the user was asked about is discarded; the list of sets is read at the next start.
@@ -180,7 +184,7 @@ void SelPictureForm::SessionEnds() {
     GoWhereAFolderIs();
     main_.Preferences().searchLogoPath = CurrentFolder;
     // One that is gone already is passed over.
-    for (int i = 0; i < List1.Count(); ++i) Remove(List1.Item(i));
+    for (int i = 0; i < List1.Count(); ++i) platform::Remove(List1.Item(i));
 }
 
 bool SelPictureForm::Form_Unload() {
@@ -207,12 +211,12 @@ void SelPictureForm::CheckBtnStatus() {
 
 void SelPictureForm::EnableImage() {
     SlotsEnabled = true;
-    EnableControls(true, AddButton[0], AddButton[1], AddButton[2]);
+    controls::EnableControls(true, AddButton[0], AddButton[1], AddButton[2]);
 }
 
 void SelPictureForm::DisableImage() {
     SlotsEnabled = false;
-    EnableControls(false, AddButton[0], AddButton[1], AddButton[2]);
+    controls::EnableControls(false, AddButton[0], AddButton[1], AddButton[2]);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

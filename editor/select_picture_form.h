@@ -15,53 +15,54 @@
 #include "controls/window.h"
 #include "core/main_window.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 /// Colours of ImageInfo, which are the verdict on the examined picture.
 inline constexpr long kReadyColor = 32768;    ///< a logo screen, used as it is
 inline constexpr long kConvertColor = 65535;  ///< converted when it is put into a slot
 inline constexpr long kNoPictureColor = 255;
 
-class SelPictureForm : public Window {
+class SelPictureForm : public controls::Window {
  public:
-    explicit SelPictureForm(MainWindow& main);
+    explicit SelPictureForm(core::MainWindow& main);
     ~SelPictureForm() override;
 
     // The browser
-    DriveList Drive1;
-    Label CurPath;
-    Label Label1;
-    ListView LogoList;
-    PictureBox CurView;
-    Label ImageInfo;
-    ListBox Dir1;  ///< hidden; see Dir1_Change
+    controls::DriveList Drive1;
+    controls::Label CurPath;
+    controls::Label Label1;
+    controls::ListView LogoList;
+    controls::PictureBox CurView;
+    controls::Label ImageInfo;
+    controls::ListBox Dir1;  ///< hidden; see Dir1_Change
 
     // The set; arrays are in the order of LogoScreen
-    Frame Frame1;
-    OptionButton OptCompSet;
-    OptionButton OptDefShut;
-    OptionButton OptOnlyStart;
-    Label Label3;
-    ComboBox NameLogoSet;
-    PictureBox ImgPreview[3];  ///< the slots; a tag is the path of the file that fills the slot
-    Label LblSlot[3];
-    Button AddButton[3];
-    Button DeleteButton[3];
-    Label LblNotAval[3];  ///< shown over a slot that the type of set does not use
-    Label SlotFrame[3];   ///< with it
-    Button ActButton;
-    Button CloseButton;
-    ListBox List1;     ///< hidden: the temporary files of this session
-    Label LblWritten;  ///< what the last command that saved has written
+    controls::Frame Frame1;
+    controls::OptionButton OptCompSet;
+    controls::OptionButton OptDefShut;
+    controls::OptionButton OptOnlyStart;
+    controls::Label Label3;
+    controls::ComboBox NameLogoSet;
+    controls::PictureBox
+        ImgPreview[3];  ///< the slots; a tag is the path of the file that fills the slot
+    controls::Label LblSlot[3];
+    controls::Button AddButton[3];
+    controls::Button DeleteButton[3];
+    controls::Label LblNotAval[3];  ///< shown over a slot that the type of set does not use
+    controls::Label SlotFrame[3];   ///< with it
+    controls::Button ActButton;
+    controls::Button CloseButton;
+    controls::ListBox List1;     ///< hidden: the temporary files of this session
+    controls::Label LblWritten;  ///< what the last command that saved has written
 
     // Menus mnuAction and MnuManage
-    MenuItem OkButton[2];  ///< create, update
-    MenuItem EliminaSetBtn;
-    MenuItem ClearAllButton;
-    MenuItem ItmRename;
-    MenuItem ItmDelete;
-    MenuItem itmRefresh;
-    MenuItem ItmSetLogo[3];
+    controls::MenuItem OkButton[2];  ///< create, update
+    controls::MenuItem EliminaSetBtn;
+    controls::MenuItem ClearAllButton;
+    controls::MenuItem ItmRename;
+    controls::MenuItem ItmDelete;
+    controls::MenuItem itmRefresh;
+    controls::MenuItem ItmSetLogo[3];
 
     // What one session holds
     bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
@@ -93,10 +94,10 @@ class SelPictureForm : public Window {
     bool Form_Unload() override;
     bool MayEndSession() override;
     void SessionEnds() override;
-    void Form_Resize(Size client) override;
-    Size SmallestSize() const override;
+    void Form_Resize(controls::Size client) override;
+    controls::Size SmallestSize() const override;
     void MenuCommand(int id) override;
-    void MenuOpens(MenuHandle menu) override;
+    void MenuOpens(platform::MenuHandle menu) override;
 
  private:
     enum class SetType { Complete, DefaultScreens, OnlyStartup };
@@ -117,13 +118,13 @@ class SelPictureForm : public Window {
     };
     Columns ColumnsFor(int width, int height) const;
     void GrowToScreen();
-    void PlaceList(const Rect& column);
-    void PlacePreview(const Rect& column);
-    void PlaceTypeAndName(const Rect& column);
-    void PlaceSlots(const Rect& column, const Columns& columns);
-    void PlaceSlot(int index, const Rect& slot);
-    void PlaceBeside(int index, const Rect& slot);
-    void PlaceBeneath(int index, const Rect& slot);
+    void PlaceList(const controls::Rect& column);
+    void PlacePreview(const controls::Rect& column);
+    void PlaceTypeAndName(const controls::Rect& column);
+    void PlaceSlots(const controls::Rect& column, const Columns& columns);
+    void PlaceSlot(int index, const controls::Rect& slot);
+    void PlaceBeside(int index, const controls::Rect& slot);
+    void PlaceBeneath(int index, const controls::Rect& slot);
     int RoomAbovePreview() const;
     int RoomBelowPreview() const;
     int TypeFrameHeight() const;
@@ -140,12 +141,12 @@ class SelPictureForm : public Window {
     void LogoList_BeginDrag();
     bool LogoList_BeforeLabelEdit();
     bool LogoList_AfterLabelEdit(const std::string& newName);
-    void CurView_MouseDown(Point at);
-    void CurView_MouseMove(int button, Point at);
-    void Picture_MouseUp(const PictureBox& box, int button, Point at);
+    void CurView_MouseDown(controls::Point at);
+    void CurView_MouseMove(int button, controls::Point at);
+    void Picture_MouseUp(const controls::PictureBox& box, int button, controls::Point at);
     void ItmRename_Click();
     void ItmDelete_Click();
-    void ShowManageMenu(Point screen);
+    void ShowManageMenu(controls::Point screen);
     void BrowseTo(const std::string& folder);
     void ShowPath(const std::string& path);
     void GoUp();
@@ -154,7 +155,7 @@ class SelPictureForm : public Window {
     void ShowVerdict(long color, const std::string& text);
     void ForgetPicture();
     std::string SelectedName() const;
-    void DragPicture(const Control& source);
+    void DragPicture(const controls::Control& source);
     bool RunOpenWith(int id);
 
     // What follows when something is renamed or deleted
@@ -211,16 +212,16 @@ class SelPictureForm : public Window {
     const std::string& LogoFolder() const { return main_.Preferences().logoPath; }
     std::string ReadTag(int index);
 
-    MainWindow& main_;
-    MenuHandle menus_ = nullptr;
-    IconHandle dragIcon_ = nullptr;
+    core::MainWindow& main_;
+    platform::MenuHandle menus_ = nullptr;
+    platform::IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
-    Size smallest_;                ///< of the whole window: what fits a screen of 640 x 480
-    Point pressedAt_;              ///< where the left button went down over CurView
+    controls::Size smallest_;      ///< of the whole window: what fits a screen of 640 x 480
+    controls::Point pressedAt_;    ///< where the left button went down over CurView
     std::string oldName_;          ///< of the item whose label is edited
     std::string setsOwnTag_[3];    ///< of slots 1 and 2 while they show the shared screens
     std::string shownLogoFolder_;  ///< whose sets the session is about
     std::string lastRead_;         ///< the last text that a save command read from a control
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -9,7 +9,7 @@
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 constexpr char kBackspace = 8;
@@ -24,7 +24,7 @@ constexpr const char* kFixedFolder = "c:\\programmi\\vistrel95\\";
 const char* IconOfPicture(const std::string& name) { return IsScreenName(name) ? "sys" : "im"; }
 
 std::string FolderAbove(std::string folder) {
-    const std::string name = GetFileName(folder);
+    const std::string name = core::GetFileName(folder);
     return folder.substr(0, folder.size() - name.size());
 }
 
@@ -38,7 +38,7 @@ long long ColorsOfDepth(int depth) { return depth >= 0 && depth <= 32 ? 1LL << d
 
 bool SelPictureForm::FillList(const std::string& folder) {
     PictureFolder found;
-    const bool read = ReadPictureFolder(AddBackslash(folder), found);
+    const bool read = ReadPictureFolder(core::AddBackslash(folder), found);
     LogoList.SuspendPainting();
     LogoList.Clear();
     for (const std::string& name : found.folders) LogoList.AddItem(name, "closed");
@@ -55,7 +55,7 @@ void SelPictureForm::AggiornaDir() {
 // The folder may have been deleted, here or elsewhere: then the nearest one above is shown.
 void SelPictureForm::GoWhereAFolderIs() {
     std::string folder = CurrentFolder;
-    while (folder.size() > kRootLength && !IsFolder(folder)) folder = FolderAbove(folder);
+    while (folder.size() > kRootLength && !platform::IsFolder(folder)) folder = FolderAbove(folder);
     if (folder == CurrentFolder) return;
     CurrentFolder = folder;
     ShowPath(CurrentFolder);
@@ -75,13 +75,14 @@ void SelPictureForm::ShowPath(const std::string& path) {
 
 void SelPictureForm::Drive1_Change() {
     const std::string drive = Drive1.Drive().substr(0, 2);
-    const std::string root = AddBackslash(drive);
+    const std::string root = core::AddBackslash(drive);
     if (FillList(root)) {
         CurrentFolder = root;
         ShowPath(CurrentFolder.substr(0, 2));
         return;
     }
-    Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.", kCriticalOk);
+    platform::Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.",
+                  platform::kCriticalOk);
     Drive1.SetDrive(CurrentFolder);
     AggiornaDir();
 }
@@ -89,11 +90,13 @@ void SelPictureForm::Drive1_Change() {
 // The folder is fixed: neither the drive list nor CurrentFolder count.
 void SelPictureForm::Dir1_Change() {
     LogoList.Clear();
-    ForEachEntry(std::string(kFixedFolder) + "*.*", [&](const FolderEntry& entry) {
-        if (entry.name != "." && entry.name != kParentFolder && !IsOutOfSight(entry))
-            LogoList.AddItem(entry.name, entry.IsFolder() ? "closed" : IconOfPicture(entry.name));
-        return true;
-    });
+    platform::ForEachEntry(
+        std::string(kFixedFolder) + "*.*", [&](const platform::FolderEntry& entry) {
+            if (entry.name != "." && entry.name != kParentFolder && !IsOutOfSight(entry))
+                LogoList.AddItem(entry.name,
+                                 entry.IsFolder() ? "closed" : IconOfPicture(entry.name));
+            return true;
+        });
 }
 
 std::string SelPictureForm::SelectedName() const {
@@ -103,7 +106,8 @@ std::string SelPictureForm::SelectedName() const {
 
 void SelPictureForm::LogoList_ItemClick(int index) {
     const std::string name = LogoList.ItemText(index);
-    if (name != kParentFolder && !IsFolder(CurrentFolder + name)) CheckImage(CurrentFolder + name);
+    if (name != kParentFolder && !platform::IsFolder(CurrentFolder + name))
+        CheckImage(CurrentFolder + name);
 }
 
 void SelPictureForm::LogoList_DblClick() {
@@ -111,10 +115,10 @@ void SelPictureForm::LogoList_DblClick() {
     if (name.empty()) return;
     if (name == kParentFolder)
         GoUp();
-    else if (IsFolder(CurrentFolder + name))
+    else if (platform::IsFolder(CurrentFolder + name))
         BrowseTo(CurrentFolder + name + "\\");
     else
-        Picture_MouseUp(CurView, kLeftButton, {});
+        Picture_MouseUp(CurView, controls::kLeftButton, {});
 }
 
 void SelPictureForm::LogoList_KeyPress(char character) {
@@ -124,7 +128,7 @@ void SelPictureForm::LogoList_KeyPress(char character) {
 // The folder that was left is selected, so that Enter goes back into it.
 void SelPictureForm::GoUp() {
     std::string inside = CurrentFolder;
-    const std::string name = GetFileName(inside);
+    const std::string name = core::GetFileName(inside);
     BrowseTo(FolderAbove(CurrentFolder));
     SelectInList(name);
 }
@@ -160,50 +164,52 @@ void SelPictureForm::CheckImage(const std::string& path) {
     }
     IsSysFile = IsScreenName(path);
 
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int16_t depth = 0;
-    DrawPreview(path, CurView, width, height, depth);
+    preview::DrawPreview(path, CurView, width, height, depth);
     SelectedPicture = path;
     CurView.SetTag(path);
     const bool logoForm = width == 320 && height == 400 && depth == 8;
     ShowVerdict(
         logoForm && IsSysFile ? kReadyColor : kConvertColor,
-        Trim(Signed(width)) + " x " + Signed(height) + " x " + Signed(ColorsOfDepth(depth)));
+        core::Trim(Signed(width)) + " x " + Signed(height) + " x " + Signed(ColorsOfDepth(depth)));
     EnableImage();
 }
 
-void SelPictureForm::CurView_MouseDown(Point at) { pressedAt_ = at; }
+void SelPictureForm::CurView_MouseDown(controls::Point at) { pressedAt_ = at; }
 
-void SelPictureForm::CurView_MouseMove(int button, Point at) {
-    if (button == kLeftButton && SlotsEnabled && IsDrag(pressedAt_, at)) DragPicture(CurView);
+void SelPictureForm::CurView_MouseMove(int button, controls::Point at) {
+    if (button == controls::kLeftButton && SlotsEnabled && controls::IsDrag(pressedAt_, at))
+        DragPicture(CurView);
 }
 
 void SelPictureForm::LogoList_BeginDrag() {
     if (SlotsEnabled && CurrentFolder + SelectedName() == SelectedPicture) DragPicture(LogoList);
 }
 
-void SelPictureForm::DragPicture(const Control& source) {
-    const auto dropped = DragUntilLetGo(source.handle(), dragIcon_);
+void SelPictureForm::DragPicture(const controls::Control& source) {
+    const auto dropped = controls::DragUntilLetGo(source.handle(), dragIcon_);
     if (!dropped) return;
-    const Control* target = ControlAt(*dropped);
+    const controls::Control* target = ControlAt(*dropped);
     for (int i = 0; i < 3; ++i)
         if (target == &ImgPreview[i]) AddButton_Click(i);
 }
 
-void SelPictureForm::Picture_MouseUp(const PictureBox& box, int button, Point at) {
+void SelPictureForm::Picture_MouseUp(const controls::PictureBox& box, int button,
+                                     controls::Point at) {
     if (!box.HasPicture()) return;
     main_.SetCurrentPicture(box.Tag());
-    if (button == kLeftButton) {
+    if (button == controls::kLeftButton) {
         // Windows that this opens close before it returns, and nothing is to be filled again then.
         ActivateOnce = true;
         main_.AzioneSuImmagine(main_.Preferences().defaultAction, handle());
         ActivateOnce = false;
         FollowLogoFolder();
-    } else if (button == kRightButton) {
+    } else if (button == controls::kRightButton) {
         PopUpMenu(main_.OpenWithMenu(), box.OnScreen(at), main_.DefaultOpenWithItem());
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -3,7 +3,7 @@
 #include "editor/select_picture_form.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 /// Places of the menus in their resource.
@@ -18,25 +18,25 @@ void SelPictureForm::ActButton_Click() {
         SaveDefaultScreens();
         return;
     }
-    const Rect button = ActButton.ScreenBounds();
-    PopUpMenu(SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
+    const controls::Rect button = ActButton.ScreenBounds();
+    PopUpMenu(controls::SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
 }
 
 void SelPictureForm::CloseButton_Click() { Unload(); }
 
 void SelPictureForm::LogoList_MouseUp(int button) {
-    if (button == kRightButton) ShowManageMenu(PointerPosition());
+    if (button == controls::kRightButton) ShowManageMenu(controls::PointerPosition());
 }
 
-void SelPictureForm::ShowManageMenu(Point screen) {
-    PopUpMenu(SubMenu(menus_, kManageMenu), screen);
+void SelPictureForm::ShowManageMenu(controls::Point screen) {
+    PopUpMenu(controls::SubMenu(menus_, kManageMenu), screen);
 }
 
-void SelPictureForm::MenuOpens(MenuHandle menu) {
-    if (menu != SubMenu(menus_, kManageMenu)) return;
+void SelPictureForm::MenuOpens(platform::MenuHandle menu) {
+    if (menu != controls::SubMenu(menus_, kManageMenu)) return;
     const std::string name = SelectedName();
     const bool changeable = !name.empty() && name != kParentFolder;
-    EnableControls(changeable, ItmRename, ItmDelete);
+    controls::EnableControls(changeable, ItmRename, ItmDelete);
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
 }
 
@@ -44,9 +44,9 @@ void SelPictureForm::MenuOpens(MenuHandle menu) {
 void SelPictureForm::LogoList_KeyUp(int key) {
     // A key that ends or serves the editing of a label is not a command.
     if (LogoList.EditingLabel()) return;
-    if (key == kKeyF2) ItmRename_Click();
-    if (key == kKeyDelete) ItmDelete_Click();
-    if (key == kKeyF5) AggiornaDir();
+    if (key == controls::kKeyF2) ItmRename_Click();
+    if (key == controls::kKeyDelete) ItmDelete_Click();
+    if (key == controls::kKeyF5) AggiornaDir();
 }
 
 bool SelPictureForm::RunOpenWith(int id) {
@@ -88,4 +88,4 @@ void SelPictureForm::MenuCommand(int id) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -9,13 +9,13 @@
 #include "platform/files.h"
 #include "platform/message_box.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 constexpr const char* kParentFolder = "..";
 
 bool SameName(const std::string& name, const std::string& other) {
-    return UpperCase(name) == UpperCase(other);
+    return core::UpperCase(name) == core::UpperCase(other);
 }
 
 std::string WithoutBackslash(std::string folder) {
@@ -34,15 +34,15 @@ bool SelPictureForm::LogoList_BeforeLabelEdit() {
 
 bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& typed) {
     const std::string before = CurrentFolder + oldName_;
-    const bool folder = IsFolder(before);
+    const bool folder = platform::IsFolder(before);
     const auto name =
-        folder ? SetFolderName(typed, CurrentFolder) : EntryName(typed, CurrentFolder);
+        folder ? core::SetFolderName(typed, CurrentFolder) : core::EntryName(typed, CurrentFolder);
     if (name == oldName_) return false;
-    if (!name || !Rename(before, CurrentFolder + *name)) {
-        Ask(handle(),
-            "Cannot rename " + oldName_ + ". A file or folder named " + typed +
-                " already exists or the name is not valid.",
-            kExclamationOk);
+    if (!name || !platform::Rename(before, CurrentFolder + *name)) {
+        platform::Ask(handle(),
+                      "Cannot rename " + oldName_ + ". A file or folder named " + typed +
+                          " already exists or the name is not valid.",
+                      platform::kExclamationOk);
         return false;
     }
     const std::string after = CurrentFolder + *name;
@@ -60,11 +60,11 @@ void SelPictureForm::ItmDelete_Click() {
     const std::string name = SelectedName();
     if (name.empty() || name == kParentFolder) return;
     const std::string path = CurrentFolder + name;
-    const bool isSet = InLogoFolder() && IsFolder(path);
+    const bool isSet = InLogoFolder() && platform::IsFolder(path);
     DeleteToRecycleBin(handle(), {path});
     if (TouchesLibrary(path)) LibraryChanged = true;
     AggiornaDir();
-    if (FileAttributes(path)) return;
+    if (platform::FileAttributes(path)) return;
     if (IsAtOrIn(SelectedPicture, path)) ForgetPicture();
     if (!isSet) return;
     if (SameName(name, LoadedSet))
@@ -74,7 +74,7 @@ void SelPictureForm::ItmDelete_Click() {
 }
 
 bool SelPictureForm::InLogoFolder() const {
-    return SameName(CurrentFolder, AddBackslash(LogoFolder()));
+    return SameName(CurrentFolder, core::AddBackslash(LogoFolder()));
 }
 
 bool SelPictureForm::TouchesLibrary(const std::string& path) const {
@@ -83,7 +83,7 @@ bool SelPictureForm::TouchesLibrary(const std::string& path) const {
 }
 
 void SelPictureForm::FollowRename(const std::string& from, const std::string& to) {
-    for (PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
+    for (controls::PictureBox& slot : ImgPreview) slot.SetTag(Repointed(slot.Tag(), from, to));
     for (std::string& tag : setsOwnTag_) tag = Repointed(tag, from, to);
     SelectedPicture = Repointed(SelectedPicture, from, to);
     CurView.SetTag(Repointed(CurView.Tag(), from, to));
@@ -98,8 +98,9 @@ void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string
     const bool loaded = SameName(from, LoadedSet);
     ReplaceName(from, to);
     if (SameName(from, main_.CurrentSet())) main_.SetCurrentSet(to);
-    if (loaded && type_ != SetType::DefaultScreens && IsSingleLogoSet(from) != IsSingleLogoSet(to))
-        ChooseByCode(IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
+    if (loaded && type_ != SetType::DefaultScreens &&
+        core::IsSingleLogoSet(from) != core::IsSingleLogoSet(to))
+        ChooseByCode(core::IsSingleLogoSet(to) ? SetType::OnlyStartup : SetType::Complete);
 }
 
 // Gives a set another name in the combo box, in its field too where that shows the former one.
@@ -150,9 +151,9 @@ void SelPictureForm::FollowLogoFolder() {
     NameLogoSet.SetText(shown);
     LoadedSet.clear();
     LoadedIndex = -1;
-    EnableControls(false, OkButton[1], EliminaSetBtn);
+    controls::EnableControls(false, OkButton[1], EliminaSetBtn);
     CheckBtnStatus();
     if (type_ == SetType::DefaultScreens) OptDefShut_Click();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

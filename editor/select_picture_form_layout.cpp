@@ -6,11 +6,11 @@
 #include "editor/select_picture_form.h"
 #include "pictures/preview/draw_preview.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 /// Pixels at 96 dots an inch, made as many as this screen needs.
-int Scaled(int pixels) { return pixels * PixelsPerInch() / 96; }
+int Scaled(int pixels) { return pixels * controls::PixelsPerInch() / 96; }
 
 int Gap() { return Scaled(8); }
 
@@ -21,7 +21,7 @@ int ScreenHeight(int width) { return width * 3 / 4; }
 int ScreenWidth(int height) { return height * 4 / 3; }
 
 /// The width in dialog units that the texts of all columns need beside each other.
-constexpr Rect kNarrowest{0, 0, 384, 0};
+constexpr controls::Rect kNarrowest{0, 0, 384, 0};
 
 /// Pixels at 96 dots an inch.
 constexpr int kButtonWidth = 75;
@@ -31,13 +31,13 @@ constexpr int kDroppedLines = 10;
 
 }  // namespace
 
-Size SelPictureForm::SmallestSize() const { return smallest_; }
+controls::Size SelPictureForm::SmallestSize() const { return smallest_; }
 
 void SelPictureForm::GrowToScreen() {
     smallest_ = WholeSize();
-    Size least = ClientSize();
-    const Rect area = WorkArea();
-    const Size frame{smallest_.width - least.width, smallest_.height - least.height};
+    controls::Size least = ClientSize();
+    const controls::Rect area = controls::WorkArea();
+    const controls::Size frame{smallest_.width - least.width, smallest_.height - least.height};
     // What the screen leaves beside the frame.
     const int width = area.width - frame.width;
     const int height = area.height - frame.height;
@@ -49,7 +49,7 @@ void SelPictureForm::GrowToScreen() {
     CentreIn(area);
 }
 
-void SelPictureForm::Form_Resize(Size client) {
+void SelPictureForm::Form_Resize(controls::Size client) {
     const int gap = Gap();
     const int line = LblWritten.Bounds().height;
     const int height = client.height - 2 * gap - line;
@@ -71,7 +71,7 @@ void SelPictureForm::Form_Resize(Size client) {
 // leaves the pictures more of the width.
 SelPictureForm::Columns SelPictureForm::ColumnsFor(int width, int height) const {
     const int gap = Gap();
-    const Rect caption = LblSlot[0].Bounds();
+    const controls::Rect caption = LblSlot[0].Bounds();
     const int slotHeight = (height - ActButton.Bounds().height - 3 * gap) / 3;
     const int leastList = std::max(Scaled(140), width * 18 / 100);
     Columns columns;
@@ -104,7 +104,7 @@ int SelPictureForm::RoomBelowPreview() const {
     return 2 + ImageInfo.Bounds().height + Gap() + TypeFrameHeight() + Gap() + name;
 }
 
-void SelPictureForm::PlaceList(const Rect& column) {
+void SelPictureForm::PlaceList(const controls::Rect& column) {
     const int line = Label1.Bounds().height;
     const int drive = Drive1.Bounds().height;
     const int label = column.top + drive + Gap() / 2;
@@ -115,7 +115,7 @@ void SelPictureForm::PlaceList(const Rect& column) {
     LogoList.FitColumn();
 }
 
-void SelPictureForm::PlacePreview(const Rect& column) {
+void SelPictureForm::PlacePreview(const controls::Rect& column) {
     const int line = Label1.Bounds().height;
     const int drive = Drive1.Bounds().height;
     const int top = column.top + RoomAbovePreview();
@@ -127,7 +127,7 @@ void SelPictureForm::PlacePreview(const Rect& column) {
 }
 
 // At the bottom of the column: the frame with the types, the name below it.
-void SelPictureForm::PlaceTypeAndName(const Rect& column) {
+void SelPictureForm::PlaceTypeAndName(const controls::Rect& column) {
     const int line = Label3.Bounds().height;
     const int combo = NameLogoSet.Bounds().height;
     const int name = column.bottom() - combo;
@@ -140,21 +140,21 @@ void SelPictureForm::PlaceTypeAndName(const Rect& column) {
     const int top = name - 2 - line - Gap() - frame;
     Frame1.MoveTo({column.left, top, column.width, frame});
     int y = top + line + Gap() / 2;
-    for (OptionButton* type : {&OptCompSet, &OptDefShut, &OptOnlyStart}) {
+    for (controls::OptionButton* type : {&OptCompSet, &OptDefShut, &OptOnlyStart}) {
         type->MoveTo({column.left + Gap(), y, column.width - 2 * Gap(), option});
         y += step;
     }
 }
 
-void SelPictureForm::PlaceSlots(const Rect& column, const Columns& columns) {
+void SelPictureForm::PlaceSlots(const controls::Rect& column, const Columns& columns) {
     const int captions = columns.captionsBeneath ? Gap() / 2 + LblSlot[0].Bounds().height : 0;
     const int slotHeight = ScreenHeight(columns.slot);
-    const Rect button = ActButton.Bounds();
+    const controls::Rect button = ActButton.Bounds();
     const int below = column.bottom() - button.height;
     const int spare = below - Gap() - column.top - 3 * (slotHeight + captions);
     for (int i = 0; i < 3; ++i) {
         const int top = column.top + i * (slotHeight + captions + spare / 2);
-        const Rect slot{column.left, top, columns.slot, slotHeight};
+        const controls::Rect slot{column.left, top, columns.slot, slotHeight};
         PlaceSlot(i, slot);
         if (columns.captionsBeneath)
             PlaceBeneath(i, slot);
@@ -165,7 +165,7 @@ void SelPictureForm::PlaceSlots(const Rect& column, const Columns& columns) {
     CloseButton.MoveTo({column.right() - button.width, below, button.width, button.height});
 }
 
-void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
+void SelPictureForm::PlaceSlot(int index, const controls::Rect& slot) {
     ImgPreview[index].MoveTo(slot);
     SlotFrame[index].MoveTo(slot);
     const int text = LblSlot[index].Bounds().height;  // two lines, as the caption has
@@ -174,8 +174,8 @@ void SelPictureForm::PlaceSlot(int index, const Rect& slot) {
         {slot.left + Gap() / 2, slot.top + (slot.height - text) / 2, slot.width - Gap(), text});
 }
 
-void SelPictureForm::PlaceBeside(int index, const Rect& slot) {
-    const Rect caption = LblSlot[index].Bounds();
+void SelPictureForm::PlaceBeside(int index, const controls::Rect& slot) {
+    const controls::Rect caption = LblSlot[index].Bounds();
     const int width = Scaled(kButtonWidth);
     const int height = AddButton[index].Bounds().height;
     const int left = slot.right() + Gap();
@@ -185,8 +185,8 @@ void SelPictureForm::PlaceBeside(int index, const Rect& slot) {
     DeleteButton[index].MoveTo({left, lower, width, height});
 }
 
-void SelPictureForm::PlaceBeneath(int index, const Rect& slot) {
-    const Rect caption = LblSlot[index].Bounds();
+void SelPictureForm::PlaceBeneath(int index, const controls::Rect& slot) {
+    const controls::Rect caption = LblSlot[index].Bounds();
     const int room = slot.width - caption.width - 2 * Gap();
     const int width = std::min(Scaled(kButtonWidth), room / 2);
     const int height = AddButton[index].Bounds().height;
@@ -198,9 +198,9 @@ void SelPictureForm::PlaceBeneath(int index, const Rect& slot) {
 }
 
 void SelPictureForm::RedrawPictures() {
-    if (CurView.HasPicture()) DrawPreview(CurView.Tag(), CurView);
-    for (PictureBox& slot : ImgPreview)
-        if (slot.HasPicture()) DrawPreview(slot.Tag(), slot);
+    if (CurView.HasPicture()) preview::DrawPreview(CurView.Tag(), CurView);
+    for (controls::PictureBox& slot : ImgPreview)
+        if (slot.HasPicture()) preview::DrawPreview(slot.Tag(), slot);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -10,7 +10,7 @@
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 namespace {
 
 /// Places in arrays of the three screens.
@@ -21,7 +21,7 @@ constexpr int kShutdown = 2;
 /// The names of the screens that a folder holds, for the user to read.
 std::string ScreensIn(const std::string& folder) {
     std::string names;
-    for (const char* screen : kScreenFileNames) {
+    for (const char* screen : core::kScreenFileNames) {
         if (!HoldsPicture(folder + screen)) continue;
         if (!names.empty()) names += ", ";
         names += screen;
@@ -32,7 +32,7 @@ std::string ScreensIn(const std::string& folder) {
 /// True for a file that the folder has as the screen of another slot than this one.
 bool IsScreenOfAnotherSlot(int index, const std::string& path, const std::string& folder) {
     for (int other = 0; other < 3; ++other)
-        if (other != index && IsSameFile(path, folder + kScreenFileNames[other])) return true;
+        if (other != index && IsSameFile(path, folder + core::kScreenFileNames[other])) return true;
     return false;
 }
 
@@ -40,7 +40,7 @@ bool IsScreenOfAnotherSlot(int index, const std::string& path, const std::string
 
 void SelPictureForm::NameLogoSet_Change() {
     if (NameLogoSet.Text().empty()) {
-        EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
+        controls::EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
         LblWritten.SetText("");
         return;
     }
@@ -50,9 +50,9 @@ void SelPictureForm::NameLogoSet_Change() {
 
 void SelPictureForm::NameLogoSet_Click() {
     LoadedIndex = NameLogoSet.ListIndex();
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     LoadedSet = NameLogoSet.Text();
-    ChooseByCode(IsSingleLogoSet(LoadedSet) ? SetType::OnlyStartup : SetType::Complete);
+    ChooseByCode(core::IsSingleLogoSet(LoadedSet) ? SetType::OnlyStartup : SetType::Complete);
     LoadSlots(LogoFolder() + LoadedSet + "\\");
     EliminaSetBtn.SetEnabled(true);
     SetChanged = false;
@@ -61,15 +61,15 @@ void SelPictureForm::NameLogoSet_Click() {
 }
 
 void SelPictureForm::LoadSlots(const std::string& setFolder) {
-    for (int i = 0; i < 3; ++i) ShowInSlot(i, setFolder + kScreenFileNames[i]);
+    for (int i = 0; i < 3; ++i) ShowInSlot(i, setFolder + core::kScreenFileNames[i]);
 }
 
 // The name as a folder will have it. What no folder can be named stays as it was typed, and making
 // or renaming the folder then fails.
 std::string SelPictureForm::NameToSave() {
     const std::string typed = NameLogoSet.Text();
-    std::string name = SetFolderName(typed, LogoFolder()).value_or(typed);
-    if (OptOnlyStart.Value() && !IsSingleLogoSet(name)) name += ".sls";
+    std::string name = core::SetFolderName(typed, LogoFolder()).value_or(typed);
+    if (OptOnlyStart.Value() && !core::IsSingleLogoSet(name)) name += ".sls";
     if (name != typed) NameLogoSet.SetText(name);
     return name;
 }
@@ -77,7 +77,7 @@ std::string SelPictureForm::NameToSave() {
 void SelPictureForm::OkButton_Click(int index) {
     LibraryChanged = true;
     const std::string name = lastRead_ = NameToSave();
-    const std::string folder = AddBackslash(LogoFolder() + name);
+    const std::string folder = core::AddBackslash(LogoFolder() + name);
     if (index == 1 ? UpdateSet(name) : CreateSet(name))
         FinishSaving((index == 1 ? "Updated " : "Created ") + name, folder);
     else
@@ -87,7 +87,7 @@ void SelPictureForm::OkButton_Click(int index) {
 bool SelPictureForm::UpdateSet(const std::string& name) {
     const std::string oldName = NameLogoSet.Item(LoadedIndex);
     if (!RenameLoadedSet(oldName, name)) return false;
-    const std::string folder = AddBackslash(LogoFolder() + name);
+    const std::string folder = core::AddBackslash(LogoFolder() + name);
     if (!KeepSources(kStartup, OptCompSet.Value() ? kShutdown : kStartup, folder)) return false;
     if (!RemoveFilesOfEmptySlots(kStartup, kStartup, folder) ||
         !CopySlots(kStartup, kStartup, folder))
@@ -96,8 +96,8 @@ bool SelPictureForm::UpdateSet(const std::string& name) {
         if (!RemoveFilesOfEmptySlots(kWait, kShutdown, folder) ||
             !CopySlots(kWait, kShutdown, folder))
             return false;
-    } else if (!Remove(folder + kScreenFileNames[kWait]) ||
-               !Remove(folder + kScreenFileNames[kShutdown])) {
+    } else if (!platform::Remove(folder + core::kScreenFileNames[kWait]) ||
+               !platform::Remove(folder + core::kScreenFileNames[kShutdown])) {
         return false;
     }
     FollowInstalledSet(oldName, name);
@@ -117,8 +117,8 @@ void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::s
 bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::string& name) {
     if (oldName == name) return true;
     // Without a name the folder would be the logo folder itself.
-    if (oldName.empty() || !SetFolderName(name, LogoFolder())) return false;
-    if (!Rename(LogoFolder() + oldName, LogoFolder() + name)) return false;
+    if (oldName.empty() || !core::SetFolderName(name, LogoFolder())) return false;
+    if (!platform::Rename(LogoFolder() + oldName, LogoFolder() + name)) return false;
     ReplaceName(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
     FollowRename(LogoFolder() + oldName, LogoFolder() + name);
@@ -126,12 +126,13 @@ bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::stri
 }
 
 bool SelPictureForm::CreateSet(const std::string& name) {
-    if (!SetFolderName(name, LogoFolder()) || !MakeFolder(LogoFolder() + name)) return false;
-    const std::string folder = AddBackslash(LogoFolder() + name);
+    if (!core::SetFolderName(name, LogoFolder()) || !platform::MakeFolder(LogoFolder() + name))
+        return false;
+    const std::string folder = core::AddBackslash(LogoFolder() + name);
     const int last = OptCompSet.Value() ? kShutdown : kStartup;
     for (int i = kStartup; i <= last; ++i) {
         const std::string tag = ReadTag(i);
-        if (HoldsPicture(tag) && !CopyScreen(tag, folder + kScreenFileNames[i])) return false;
+        if (HoldsPicture(tag) && !CopyScreen(tag, folder + core::kScreenFileNames[i])) return false;
     }
     LoadedIndex = NameLogoSet.AddItem(name);
     NameLogoSet.SetListIndex(LoadedIndex);
@@ -153,14 +154,15 @@ std::string SelPictureForm::ReadTag(int index) { return lastRead_ = ImgPreview[i
 
 bool SelPictureForm::RemoveFilesOfEmptySlots(int first, int last, const std::string& folder) {
     for (int i = first; i <= last; ++i)
-        if (ReadTag(i).empty() && !Remove(folder + kScreenFileNames[i])) return false;
+        if (ReadTag(i).empty() && !platform::Remove(folder + core::kScreenFileNames[i]))
+            return false;
     return true;
 }
 
 // An empty slot is not passed over: there is nothing to copy then, which fails.
 bool SelPictureForm::CopySlots(int first, int last, const std::string& folder) {
     for (int i = first; i <= last; ++i)
-        if (!CopyScreen(ReadTag(i), folder + kScreenFileNames[i])) return false;
+        if (!CopyScreen(ReadTag(i), folder + core::kScreenFileNames[i])) return false;
     return true;
 }
 
@@ -176,7 +178,7 @@ bool SelPictureForm::KeepSources(int first, int last, const std::string& folder)
 }
 
 bool SelPictureForm::KeepSource(int index) {
-    const std::string kept = GetTempFile();
+    const std::string kept = core::GetTempFile();
     if (kept.empty()) return false;
     List1.AddItem(kept);
     if (!CopyScreen(ReadTag(index), kept)) return false;
@@ -185,7 +187,7 @@ bool SelPictureForm::KeepSource(int index) {
 }
 
 void SelPictureForm::FinishSaving(const std::string& what, const std::string& folder) {
-    EnableControls(false, OkButton[0], OkButton[1]);
+    controls::EnableControls(false, OkButton[0], OkButton[1]);
     EliminaSetBtn.SetEnabled(!NameLogoSet.Text().empty());
     SetChanged = false;
     NameChanged = false;
@@ -195,8 +197,9 @@ void SelPictureForm::FinishSaving(const std::string& what, const std::string& fo
 
 void SelPictureForm::ReportSaveError() {
     LblWritten.SetText("");
-    Ask(handle(), "A directory named " + lastRead_ + " already exist or bad directory name!",
-        kExclamationOk, "Cannot create directory");
+    platform::Ask(handle(),
+                  "A directory named " + lastRead_ + " already exist or bad directory name!",
+                  platform::kExclamationOk, "Cannot create directory");
 }
 
 void SelPictureForm::EliminaSetBtn_Click() {
@@ -209,4 +212,4 @@ void SelPictureForm::EliminaSetBtn_Click() {
     AggiornaDir();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

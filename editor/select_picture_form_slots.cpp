@@ -6,7 +6,7 @@
 #include "pictures/preview/draw_preview.h"
 #include "platform/pointer.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 void SelPictureForm::TypeChosen(SetType type) {
     // A click on the type that is chosen already changes nothing.
@@ -54,7 +54,7 @@ void SelPictureForm::OptCompSet_Click() {
     NameLogoSet.SetEnabled(true);
     ActButton.SetText("Ac&tion...");
     const std::string name = NameLogoSet.Text();
-    if (IsSingleLogoSet(name)) NameLogoSet.SetText(name.substr(0, name.size() - 4));
+    if (core::IsSingleLogoSet(name)) NameLogoSet.SetText(name.substr(0, name.size() - 4));
     OptionWasSet();
 }
 
@@ -82,13 +82,13 @@ void SelPictureForm::OptDefShut_Click() {
     ActButton.SetText("Save se&tting");
     for (int i = 1; i < 3; ++i) {
         ShowSlot(i, true);
-        ShowInSlot(i, LogoFolder() + kScreenFileNames[i]);
+        ShowInSlot(i, LogoFolder() + core::kScreenFileNames[i]);
     }
 }
 
 // Shows a file that is in the slot already, or none: unlike filling it with another one.
 void SelPictureForm::ShowInSlot(int index, const std::string& path) {
-    DrawPreview(path, ImgPreview[index]);
+    preview::DrawPreview(path, ImgPreview[index]);
     ImgPreview[index].SetTag(path);
     DeleteButton[index].SetEnabled(ImgPreview[index].HasPicture());
 }
@@ -102,24 +102,24 @@ void SelPictureForm::AddButton_Click(int index) {
         FillSlot(index, SelectedPicture);
         return;
     }
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     const std::string converted = ConvertSelected();
     // Without a temporary file the slot keeps what it holds.
     if (!converted.empty()) FillSlot(index, converted);
 }
 
 std::string SelPictureForm::ConvertSelected() {
-    const std::string converted = GetTempFile();
+    const std::string converted = core::GetTempFile();
     if (converted.empty()) return {};
     List1.AddItem(converted);
     // What cannot be read or written leaves the temporary file empty, and no set gets a copy of it.
-    ConvertToLogo(SelectedPicture, converted);
+    pictures::ConvertToLogo(SelectedPicture, converted);
     return converted;
 }
 
 void SelPictureForm::FillSlot(int index, const std::string& path) {
     // A file that is no picture leaves the box empty.
-    DrawPreview(path, ImgPreview[index]);
+    preview::DrawPreview(path, ImgPreview[index]);
     ImgPreview[index].SetTag(path);
     DeleteButton[index].SetEnabled(true);
 }
@@ -140,4 +140,4 @@ void SelPictureForm::EmptySlot(int index) {
     ImgPreview[index].SetTag("");
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

@@ -3,18 +3,19 @@
 #include "core/generali.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::editor {
 
 bool IsSameFile(const std::string& path, const std::string& other) {
-    if (UpperCase(path) == UpperCase(other)) return true;
-    const std::string shortPath = CutAtNul(GetShortPath(path));
-    return !shortPath.empty() && UpperCase(shortPath) == UpperCase(CutAtNul(GetShortPath(other)));
+    if (core::UpperCase(path) == core::UpperCase(other)) return true;
+    const std::string shortPath = core::CutAtNul(core::GetShortPath(path));
+    return !shortPath.empty() &&
+           core::UpperCase(shortPath) == core::UpperCase(core::CutAtNul(core::GetShortPath(other)));
 }
 
 bool HoldsPicture(const std::string& path) {
     bool holds = false;
     if (path.empty()) return false;
-    ForEachEntry(path, [&](const FolderEntry& entry) {
+    platform::ForEachEntry(path, [&](const platform::FolderEntry& entry) {
         holds = !entry.IsFolder() && entry.size > 0;
         return false;
     });
@@ -22,15 +23,15 @@ bool HoldsPicture(const std::string& path) {
 }
 
 bool CopyScreen(const std::string& slot, const std::string& target) {
-    if (IsSameFile(slot, target)) return FileAttributes(target).has_value();
-    if (!HoldsPicture(slot) || !CopyOver(slot, target)) return false;
+    if (IsSameFile(slot, target)) return platform::FileAttributes(target).has_value();
+    if (!HoldsPicture(slot) || !platform::CopyOver(slot, target)) return false;
     // A picture from a CD-ROM is read-only; its copy must not stay so.
-    SetAttributes(target, kNormalFile);
+    platform::SetAttributes(target, platform::kNormalFile);
     return true;
 }
 
 bool IsAtOrIn(const std::string& path, const std::string& folder) {
-    if (UpperCase(path.substr(0, folder.size())) != UpperCase(folder)) return false;
+    if (core::UpperCase(path.substr(0, folder.size())) != core::UpperCase(folder)) return false;
     return path.size() == folder.size() || path[folder.size()] == '\\';
 }
 
@@ -38,4 +39,4 @@ std::string Repointed(const std::string& path, const std::string& from, const st
     return IsAtOrIn(path, from) ? to + path.substr(from.size()) : path;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

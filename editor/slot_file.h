@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::editor {
 
 /// True when `path` names a file to fill a screen with. A picture that could not be converted has
 /// left an empty file, which is none.
@@ -24,4 +24,4 @@ bool IsAtOrIn(const std::string& path, const std::string& folder);
 /// it. Neither ends in a backslash.
 std::string Repointed(const std::string& path, const std::string& from, const std::string& to);
 
-}  // namespace vistrel
+}  // namespace vistrel::editor

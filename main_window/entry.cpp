@@ -15,28 +15,28 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 /// The image library is our own and asks for no code.
 constexpr const char* kImageLibraryCode = "";
 
 void Run() {
-    FailOnDrivesNotReady();
-    OnlyCopy onlyCopy;
+    platform::FailOnDrivesNotReady();
+    core::OnlyCopy onlyCopy;
     if (!onlyCopy.Take()) return;
-    const SystemLocations locations = FindSystemLocations();
-    MakeMissingLinks(locations.programFolder, GetStartupFolder());
-    Window::SetHelpFile(locations.HelpFile());
-    ImgDLLStringInitDLL(kImageLibraryCode);
+    const core::SystemLocations locations = core::FindSystemLocations();
+    core::MakeMissingLinks(locations.programFolder, core::GetStartupFolder());
+    controls::Window::SetHelpFile(locations.HelpFile());
+    pictures::ImgDLLStringInitDLL(kImageLibraryCode);
 
-    frmSplash splash;
-    const bool showSplash = ReadShowSplashScreen() == 1;
+    about::frmSplash splash;
+    const bool showSplash = core::ReadShowSplashScreen() == 1;
     double shownAt = 0;
     if (showSplash && splash.Create(nullptr)) {
         splash.Show();
         splash.PaintAtOnce();
-        shownAt = TimeOfDay();
+        shownAt = platform::TimeOfDay();
     }
 
     Principale principale(locations);
@@ -45,20 +45,20 @@ void Run() {
     if (splash.IsOpen()) {
         // The elapsed time is in days, so the splash stays about 700 ms after the main window has
         // loaded: kept so.
-        const double wait = 700 - 1000 * (TimeOfDay() - shownAt);
-        if (wait > 0) SleepMilliseconds(static_cast<unsigned long>(wait));
+        const double wait = 700 - 1000 * (platform::TimeOfDay() - shownAt);
+        if (wait > 0) platform::SleepMilliseconds(static_cast<unsigned long>(wait));
         splash.Unload();
     }
     principale.Show();
-    RunLoopWhileOpen(principale);
+    controls::RunLoopWhileOpen(principale);
 }
 
 }  // namespace
-}  // namespace vistrel
+}  // namespace vistrel::main_window
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     OleInitialize(nullptr);  // for folders dropped on the list
-    vistrel::Run();
+    vistrel::main_window::Run();
     OleUninitialize();
     return 0;
 }

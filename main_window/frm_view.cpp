@@ -7,7 +7,7 @@
 #include "pictures/preview/draw_preview.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 
 namespace {
 
@@ -24,19 +24,19 @@ FrmView::FrmView(std::string path, bool animate)
     Add(Preview, ID_Preview, "Click or press a key to close");
     Add(AnimationTimer);
     AnimationTimer.Tick = [this] { animation_->Step(); };
-    Preview.MouseUp = [this](int, Point) { Preview_Click(); };
+    Preview.MouseUp = [this](int, controls::Point) { Preview_Click(); };
 }
 
 void FrmView::Form_Load() {
     SetHelpTopic(help_number::ActualSize);
-    ShowPictureInBox(path_, Preview);
+    preview::ShowPictureInBox(path_, Preview);
     if (animate_ && Preview.HasPicture()) ShowAnimation();
     SetClientSize({Preview.ScaleWidth(), Preview.ScaleHeight()});
-    CentreIn(WorkArea());
+    CentreIn(controls::WorkArea());
 }
 
 void FrmView::ShowAnimation() {
-    animation_ = ScreenAnimation::Load(path_);
+    animation_ = preview::ScreenAnimation::Load(path_);
     if (!animation_) return;
     animation_->Attach(Preview);
     AnimationTimer.SetEnabled(true);
@@ -46,4 +46,4 @@ void FrmView::Form_KeyPress(char) { Unload(); }
 
 void FrmView::Preview_Click() { Unload(); }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

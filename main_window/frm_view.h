@@ -9,16 +9,16 @@
 #include "controls/window.h"
 #include "pictures/preview/draw_animation.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 
-class FrmView : public Window {
+class FrmView : public controls::Window {
  public:
     /// `animate`: a screen with animated palette entries moves as it does while the system starts.
     FrmView(std::string path, bool animate);
 
     bool HasDialogKeys() const override { return false; }
 
-    PictureBox Preview;
+    controls::PictureBox Preview;
 
  protected:
     void Form_Load() override;
@@ -30,8 +30,8 @@ class FrmView : public Window {
 
     std::string path_;
     bool animate_;
-    std::unique_ptr<ScreenAnimation> animation_;
-    Timer AnimationTimer;
+    std::unique_ptr<preview::ScreenAnimation> animation_;
+    controls::Timer AnimationTimer;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

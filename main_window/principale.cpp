@@ -14,7 +14,7 @@
 #include "main_window/tool_table.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 constexpr long kToolbarTransparent = 0xFF00FF;
@@ -24,7 +24,7 @@ constexpr unsigned kBrowserDelay = 50;
 
 }  // namespace
 
-Principale::Principale(SystemLocations locations)
+Principale::Principale(core::SystemLocations locations)
     : Window("Principale", IDD_Principale),
       ActiveBar1(MainTools(), MainBands()),
       Timer1(kBrowserDelay),
@@ -40,11 +40,11 @@ Principale::Principale(SystemLocations locations)
     Add(NumLogo, ID_NumLogo);
     Add(Timer1);
 
-    ActiveBar1.Click = [this](const Tool& tool) { ActiveBar1_Click(tool); };
+    ActiveBar1.Click = [this](const controls::Tool& tool) { ActiveBar1_Click(tool); };
     ActiveBar1.PreCustomizeMenu = [](bool& cancel) { cancel = true; };
     MyList.ItemClick = [this](int) { MyList_ItemClick(); };
-    MyList.MouseDown = [this](int, Point at) { MyList_MouseDown(at); };
-    MyList.MouseUp = [this](int button, Point) { MyList_MouseUp(button); };
+    MyList.MouseDown = [this](int, controls::Point at) { MyList_MouseDown(at); };
+    MyList.MouseUp = [this](int button, controls::Point) { MyList_MouseUp(button); };
     MyList.SelectionChanged = [this] {
         // While the installed screens are shown nothing is selected, but the tools keep their
         // state.
@@ -57,40 +57,43 @@ Principale::Principale(SystemLocations locations)
     MyList.OLEDragDrop = [this](const std::vector<std::string>& paths) {
         MyList_OLEDragDrop(paths);
     };
-    MyList.ContextMenu = [this](Point screen, bool byKeyboard) {
+    MyList.ContextMenu = [this](controls::Point screen, bool byKeyboard) {
         if (byKeyboard && !savedView_) ActiveBar1.PopUp("LogoBand", screen);
     };
     for (int i = 0; i < 3; ++i)
-        Imag[i].MouseUp = [this, i](int button, Point at) { Imag_MouseUp(i, button, at); };
+        Imag[i].MouseUp = [this, i](int button, controls::Point at) {
+            Imag_MouseUp(i, button, at);
+        };
     Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
 Principale::~Principale() {
-    if (classicMenus_) FreeMenu(classicMenus_);
+    if (classicMenus_) controls::FreeMenu(classicMenus_);
 }
 
 // Every step is done whether or not the ones before it succeeded.
 void Principale::Form_Load() {
-    classicMenus_ = LoadMenuResource(IDM_Principale);
+    classicMenus_ = controls::LoadMenuResource(IDM_Principale);
     ActiveBar1.Attach(*this, ID_ActiveBar1, IDB_Toolbar, kToolbarTransparent);
     MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
     DefaultLogo.SetFont({.bold = true});
-    DefaultLogo.SetForeColor(kBlue);
+    DefaultLogo.SetForeColor(controls::kBlue);
     // The list and the pictures have menus of their own at the right button, and F1 means the
     // help's contents here: only what cannot have the focus answers what it is.
     DefaultLogo.SetHelpNumber(help_number::DefaultLogo);
     LogoType.SetHelpNumber(help_number::LogoType);
     NumLogo.SetHelpNumber(help_number::NumLogo);
 
-    locations_.startupFolder = GetStartupFolder();
+    locations_.startupFolder = core::GetStartupFolder();
     for (int i = 0; i < 3; ++i)
-        LblScreen[i].SetText(std::string(kScreenFileNames[i]) + "\r\n" + kScreenTitles[i]);
-    const int margin = 600 * PixelsPerInch() / kTwipsPerInch;
+        LblScreen[i].SetText(std::string(core::kScreenFileNames[i]) + "\r\n" +
+                             core::kScreenTitles[i]);
+    const int margin = 600 * controls::PixelsPerInch() / kTwipsPerInch;
     MyList.AddColumn("Logoset name", MyList.Bounds().width - margin);
     MyList.FillWithColumn();
-    bootLogoOption_ = ReadBootLogoOption(locations_.BootConfigurationFile());
+    bootLogoOption_ = core::ReadBootLogoOption(locations_.BootConfigurationFile());
 
-    settings_ = LoadSettings(locations_);
+    settings_ = core::LoadSettings(locations_);
     ItmViewType_Click(settings_.view);
     ShowCustomProgramName();
     SetAnimationShown(settings_.autoshowAnimation != 0);
@@ -102,20 +105,20 @@ void Principale::Form_Load() {
 
 void Principale::PutBackWindow() {
     if (settings_.windowWidth > 0)
-        PlaceWithin(handle(),
-                    {settings_.windowLeft, settings_.windowTop, settings_.windowWidth,
-                     settings_.windowHeight},
-                    WorkArea());
+        controls::PlaceWithin(handle(),
+                              {settings_.windowLeft, settings_.windowTop, settings_.windowWidth,
+                               settings_.windowHeight},
+                              controls::WorkArea());
     else
         // With large fonts the window would be wider than a screen of 800 x 600.
-        FitInto(WorkArea());
+        FitInto(controls::WorkArea());
 }
 
 // Neither the focus nor the whole screen is for a window that is not shown yet.
 void Principale::Form_Activate() {
     if (std::exchange(hasBeenShown_, true)) return;
     MyList.Focus();
-    if (settings_.windowMaximized) Maximize(handle());
+    if (settings_.windowMaximized) controls::Maximize(handle());
 }
 
 bool Principale::Form_Unload() {
@@ -124,28 +127,28 @@ bool Principale::Form_Unload() {
 }
 
 void Principale::CloseAll() {
-    ClosingState state;
+    core::ClosingState state;
     if (bootLogoOptionChanged_) state.changedBootOption = bootLogoOption_;
     state.companionWanted = companionWanted_;
     state.settings = settings_;
     state.settings.view = MenuMark(ID_ItmViewType) ? 0 : 1;
     const std::string shown = CurrentSet();
-    state.settings.defaultLogoSet = shown == kUnknownSet ? std::string() : shown;
-    const WindowPlace place = PlaceOf(handle());
+    state.settings.defaultLogoSet = shown == core::kUnknownSet ? std::string() : shown;
+    const controls::WindowPlace place = controls::PlaceOf(handle());
     state.settings.windowLeft = static_cast<std::int16_t>(place.normal.left);
     state.settings.windowTop = static_cast<std::int16_t>(place.normal.top);
     state.settings.windowWidth = static_cast<std::int16_t>(place.normal.width);
     state.settings.windowHeight = static_cast<std::int16_t>(place.normal.height);
     state.settings.windowMaximized = place.maximized ? 1 : 0;
     state.settings.autoshowAnimation = AnimationShown() ? 1 : 0;
-    WriteBackOnClose(locations_, state);
+    core::WriteBackOnClose(locations_, state);
 }
 
-Size Principale::SmallestSize() const { return {520, 400}; }
+controls::Size Principale::SmallestSize() const { return {520, 400}; }
 
 // The list and the screens share the width; the screens get what their 4:3 shape can use of the
 // height: the startup screen with its label beside it, the other two below with theirs underneath.
-void Principale::Form_Resize(Size client) {
+void Principale::Form_Resize(controls::Size client) {
     if (!ActiveBar1.bar()) return;
     const int gap = 8;
     // Where the pictures of the tools and the menu's captions begin.
@@ -193,4 +196,4 @@ void Principale::Form_Resize(Size client) {
 
 std::intptr_t Principale::OnNotify(void* header) { return ActiveBar1.OnNotify(header); }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

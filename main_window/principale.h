@@ -15,19 +15,21 @@
 #include "controls/window.h"
 #include "core/main_window.h"
 
-namespace vistrel {
-
+namespace vistrel::options {
 class FrmOptions;
+}
 
-class Principale : public Window, public MainWindow {
+namespace vistrel::main_window {
+
+class Principale : public controls::Window, public core::MainWindow {
  public:
     /// `locations` lack the Startup folder, which is found when the window loads.
-    explicit Principale(SystemLocations locations);
+    explicit Principale(core::SystemLocations locations);
     ~Principale() override;
 
     // MainWindow
-    const SystemLocations& Locations() const override { return locations_; }
-    Settings& Preferences() override { return settings_; }
+    const core::SystemLocations& Locations() const override { return locations_; }
+    core::Settings& Preferences() override { return settings_; }
     std::vector<std::string> SetNames() const override;
     int SelectedSet() const override { return MyList.SelectedItem(); }
     void LeggiDatiDisco() override;
@@ -35,10 +37,10 @@ class Principale : public Window, public MainWindow {
     std::string CurrentSet() const override;
     void SetCurrentSet(const std::string& name) override;
     void SetCurrentPicture(const std::string& path) override { currentPicture_ = path; }
-    void AzioneSuImmagine(int index, WindowHandle owner) override;
-    MenuHandle OpenWithMenu() override;
+    void AzioneSuImmagine(int index, platform::WindowHandle owner) override;
+    platform::MenuHandle OpenWithMenu() override;
     int DefaultOpenWithItem() const override;
-    bool OpenWithCommand(int id, WindowHandle owner) override;
+    bool OpenWithCommand(int id, platform::WindowHandle owner) override;
     void ShowCustomProgramName() override;
     bool AnimationShown() const override;
     void SetAnimationShown(bool shown) override;
@@ -53,27 +55,27 @@ class Principale : public Window, public MainWindow {
     void SelItem(const std::string& name);
     void LogoRandomChange();
 
-    ActiveBar ActiveBar1;
-    ListView MyList;
-    PictureBox Imag[3];
-    Label LblScreen[3];
-    Label DefaultLogo;
-    Label LblDefaultLogo;
-    Label LogoType;
-    Label NumLogo;
-    Timer Timer1;
+    controls::ActiveBar ActiveBar1;
+    controls::ListView MyList;
+    controls::PictureBox Imag[3];
+    controls::Label LblScreen[3];
+    controls::Label DefaultLogo;
+    controls::Label LblDefaultLogo;
+    controls::Label LogoType;
+    controls::Label NumLogo;
+    controls::Timer Timer1;
 
  protected:
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
-    void Form_Resize(Size client) override;
+    void Form_Resize(controls::Size client) override;
     void Form_KeyUp(int key) override;
     void MenuCommand(int id) override;
-    bool Form_ContextMenu(Point screen) override;
-    void MenuOpens(MenuHandle menu) override;
+    bool Form_ContextMenu(controls::Point screen) override;
+    void MenuOpens(platform::MenuHandle menu) override;
     std::intptr_t OnNotify(void* header) override;
-    Size SmallestSize() const override;
+    controls::Size SmallestSize() const override;
 
  private:
     /// Where the user is in the list: what a command that reads it anew goes back to.
@@ -83,9 +85,9 @@ class Principale : public Window, public MainWindow {
     };
 
     // Where a click or a key arrives, in the order in which a user meets them.
-    void ActiveBar1_Click(const Tool& tool);
+    void ActiveBar1_Click(const controls::Tool& tool);
     void MyList_ItemClick();
-    void MyList_MouseDown(Point at);
+    void MyList_MouseDown(controls::Point at);
     void MyList_MouseUp(int button);
     void MyList_DblClick();
     void InstallOrBrowse();
@@ -93,9 +95,9 @@ class Principale : public Window, public MainWindow {
     bool MyList_BeforeLabelEdit();
     bool MyList_AfterLabelEdit(const std::string& newName);
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
-    void Imag_MouseUp(int index, int button, Point at);
+    void Imag_MouseUp(int index, int button, controls::Point at);
     void MnuListLogo_Click();
-    void ShowDrives(MenuHandle menu);
+    void ShowDrives(platform::MenuHandle menu);
     void ItmDriveList_Click(int index);
     void Timer1_Timer();
 
@@ -134,13 +136,13 @@ class Principale : public Window, public MainWindow {
     void SelectAfterDelete(int index);
     bool ConfirmFormatChange(bool toSingle);
     bool ConfirmOverwriting(const std::string& name);
-    void ShowActualSize(WindowHandle owner);
-    void OpenPaint(WindowHandle owner);
-    void OpenCustomProgram(WindowHandle owner);
-    void ShowPreferences(FrmOptions& options, WindowHandle owner);
+    void ShowActualSize(platform::WindowHandle owner);
+    void OpenPaint(platform::WindowHandle owner);
+    void OpenCustomProgram(platform::WindowHandle owner);
+    void ShowPreferences(options::FrmOptions& options, platform::WindowHandle owner);
     void OpenExplorer(const std::string& folder);
     void RedrawScreens();
-    MenuHandle ClassicMenu(int place) const;
+    platform::MenuHandle ClassicMenu(int place) const;
     bool MenuMark(int id) const;
 
     /// Places of the classic menus in their resource.
@@ -152,17 +154,17 @@ class Principale : public Window, public MainWindow {
         std::string selectedSet;
     };
 
-    SystemLocations locations_;
-    Settings settings_;
-    MenuHandle classicMenus_ = nullptr;
+    core::SystemLocations locations_;
+    core::Settings settings_;
+    platform::MenuHandle classicMenus_ = nullptr;
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;
     bool hasBeenShown_ = false;
     std::string currentPicture_;
     std::string oldName_;
-    Point lastMouseDown_;
+    controls::Point lastMouseDown_;
     std::optional<SavedView> savedView_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

@@ -20,7 +20,7 @@
 #include "platform/shell.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 constexpr unsigned long kTutorialTopic = 30;
@@ -36,7 +36,7 @@ void Principale::CheckSetCommands() {
         ActiveBar1.SetEnabled(tool, ASetIsSelected());
 }
 
-void Principale::ActiveBar1_Click(const Tool& tool) {
+void Principale::ActiveBar1_Click(const controls::Tool& tool) {
     const struct {
         std::string_view name;
         void (Principale::*run)();
@@ -92,51 +92,55 @@ void Principale::MenuCommand(int id) {
         ItmDriveList_Click(id - ID_ItmDriveList);
 }
 
-void Principale::MenuOpens(MenuHandle menu) {
+void Principale::MenuOpens(platform::MenuHandle menu) {
     if (menu == ClassicMenu(kMenuListLogo)) MnuListLogo_Click();
-    if (menu == SubMenu(ClassicMenu(kMenuTools), kPlaceOfDrives)) ShowDrives(menu);
+    if (menu == controls::SubMenu(ClassicMenu(kMenuTools), kPlaceOfDrives)) ShowDrives(menu);
 }
 
-bool Principale::Form_ContextMenu(Point screen) {
+bool Principale::Form_ContextMenu(controls::Point screen) {
     PopUpMenu(ClassicMenu(kMenuTools), screen);
     return true;
 }
 
-void Principale::ShowDrives(MenuHandle menu) {
-    EmptyMenu(menu);
+void Principale::ShowDrives(platform::MenuHandle menu) {
+    controls::EmptyMenu(menu);
     // Items are numbered from 1.
     int item = ID_ItmDriveList;
-    for (const std::string& letter : FixedDriveLetters()) {
-        AddMenuItem(menu, ++item, letter);
-        SetMenuMark(menu, item, letter == UpperCase(settings_.bootRoot.substr(0, 1)));
+    for (const std::string& letter : core::FixedDriveLetters()) {
+        controls::AddMenuItem(menu, ++item, letter);
+        controls::SetMenuMark(menu, item,
+                              letter == core::UpperCase(settings_.bootRoot.substr(0, 1)));
     }
 }
 
 void Principale::ItmDriveList_Click(int index) {
-    const auto letters = FixedDriveLetters();
+    const auto letters = core::FixedDriveLetters();
     if (index <= static_cast<int>(letters.size())) settings_.bootRoot = letters[index - 1] + ":\\";
 }
 
 void Principale::MnuListLogo_Click() {
     for (const int item : {ID_ItmRename, ID_ItmDelete, ID_ItmSetDefault})
-        SetMenuEnabled(ClassicMenu(kMenuListLogo), item, ASetIsSelected());
+        controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), item, ASetIsSelected());
 }
 
-MenuHandle Principale::ClassicMenu(int place) const { return SubMenu(classicMenus_, place); }
+platform::MenuHandle Principale::ClassicMenu(int place) const {
+    return controls::SubMenu(classicMenus_, place);
+}
 
-bool Principale::MenuMark(int id) const { return HasMenuMark(classicMenus_, id); }
+bool Principale::MenuMark(int id) const { return controls::HasMenuMark(classicMenus_, id); }
 
 void Principale::MyList_ItemClick() {
     EndInstalledView();
     ShowListaLogo();
 }
 
-void Principale::MyList_MouseDown(Point at) { lastMouseDown_ = at; }
+void Principale::MyList_MouseDown(controls::Point at) { lastMouseDown_ = at; }
 
 void Principale::MyList_MouseUp(int button) {
     CheckSetCommands();
     FollowDeselection();
-    if (button == kRightButton && !savedView_) ActiveBar1.PopUp("LogoBand", PointerPosition());
+    if (button == controls::kRightButton && !savedView_)
+        ActiveBar1.PopUp("LogoBand", controls::PointerPosition());
 }
 
 void Principale::FollowDeselection() {
@@ -159,13 +163,13 @@ void Principale::MyList_KeyUp(int key) {
     // A key that ends or serves the editing of a label is not a command.
     if (MyList.EditingLabel()) return;
     FollowDeselection();
-    if (key == kKeyDelete && ActiveBar1.Enabled("ToolDelete")) ItmDelete_Click();
-    if (key == kKeyF2 && ActiveBar1.Enabled("ToolRename")) ItmRename_Click();
-    if (key == kKeyF5) itmRefresh_Click();
+    if (key == controls::kKeyDelete && ActiveBar1.Enabled("ToolDelete")) ItmDelete_Click();
+    if (key == controls::kKeyF2 && ActiveBar1.Enabled("ToolRename")) ItmRename_Click();
+    if (key == controls::kKeyF5) itmRefresh_Click();
 }
 
 void Principale::Form_KeyUp(int key) {
-    if (key != kKeyF1) return;
+    if (key != controls::kKeyF1) return;
     EndEdits();
     ItmContents_Click();
 }
@@ -177,8 +181,8 @@ void Principale::ItmDelete_Click() {
     if (index < 0) return;
     const std::string name = MyList.ItemText(index);
     // No set is loaded in the editor here, so it has no name of its own to compare.
-    if (!EliminaLogoSet(handle(), *this, settings_.logoPath + name, name, "")) return;
-    if (CurrentSet() == name) SetCurrentSet(kUnknownSet);
+    if (!editor::EliminaLogoSet(handle(), *this, settings_.logoPath + name, name, "")) return;
+    if (CurrentSet() == name) SetCurrentSet(core::kUnknownSet);
     MyList.RemoveItem(index);
     SelectAfterDelete(index);
     VisualizzaNumLogo();
@@ -186,10 +190,10 @@ void Principale::ItmDelete_Click() {
 
 void Principale::ItmSetDefault_Click() {
     if (!ASetIsSelected()) return;
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     const bool synchronize = settings_.synchronizeLogos != 0;
-    InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
-                   MyList.ItemText(MyList.SelectedItem()), synchronize);
+    core::InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
+                         MyList.ItemText(MyList.SelectedItem()), synchronize);
     companionWanted_ = synchronize;
     SetCurrentSet(MyList.ItemText(MyList.SelectedItem()));
 }
@@ -203,11 +207,11 @@ void Principale::Timer1_Timer() {
     EndEdits();
     const ListPlace place = PlaceInList();
     {
-        const BusyPointer busy;  // until the browser's own Form_Load
-        SelPictureForm editor(*this);
+        const platform::BusyPointer busy;  // until the browser's own Form_Load
+        editor::SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
-    ShowDefaultPointer();
+    platform::ShowDefaultPointer();
     ReturnTo(place);
 }
 
@@ -218,7 +222,7 @@ void Principale::ItmExplore_Click() {
 }
 
 void Principale::OpenExplorer(const std::string& folder) {
-    ShellOpen(handle(), folder, locations_.programFolder, ShowState::Normal);
+    platform::ShellOpen(handle(), folder, locations_.programFolder, platform::ShowState::Normal);
 }
 
 void Principale::itmRefresh_Click() {
@@ -232,39 +236,42 @@ void Principale::ItmRandomSpin_Click() { LogoRandomChange(); }
 void Principale::LogoRandomChange() {
     const int count = MyList.Count();
     if (count <= 1 || savedView_) return;
-    RandomGenerator generator(SecondsSinceMidnight());
-    const int chosen = DrawOther(generator, count, MyList.SelectedItem() + 1);
+    core::RandomGenerator generator(platform::SecondsSinceMidnight());
+    const int chosen = core::DrawOther(generator, count, MyList.SelectedItem() + 1);
     SelItem(MyList.ItemText(chosen - 1));
     ItmSetDefault_Click();
 }
 
 void Principale::ItmPref_Click() {
-    FrmOptions options(*this);
+    options::FrmOptions options(*this);
     ShowPreferences(options, handle());
 }
 
-void Principale::ShowPreferences(FrmOptions& options, WindowHandle owner) {
+void Principale::ShowPreferences(options::FrmOptions& options, platform::WindowHandle owner) {
     const ListPlace place = PlaceInList();
     options.ShowModal(owner);
     ReturnTo(place);
 }
 
-void Principale::ItmContents_Click() { ShowHelp(handle(), HelpFile(), HelpCommand::Index, 0); }
+void Principale::ItmContents_Click() {
+    platform::ShowHelp(handle(), HelpFile(), platform::HelpCommand::Index, 0);
+}
 
 void Principale::ShowTutorial() {
-    ShowHelp(handle(), HelpFile(), HelpCommand::Context, kTutorialTopic);
+    platform::ShowHelp(handle(), HelpFile(), platform::HelpCommand::Context, kTutorialTopic);
 }
 
 void Principale::ItmBugReport_Click() {
-    ShellOpen(handle(), std::string("mailto:") + kSupportAddress + "?subject=Bug report",
-              locations_.programFolder, ShowState::Normal);
+    platform::ShellOpen(handle(),
+                        std::string("mailto:") + about::kSupportAddress + "?subject=Bug report",
+                        locations_.programFolder, platform::ShowState::Normal);
 }
 
 void Principale::ItmAbout_Click() {
-    FrmAboutReg about;
+    about::FrmAboutReg about;
     about.ShowModal(handle());
 }
 
 void Principale::ItmExit_Click() { Unload(); }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

@@ -11,7 +11,7 @@
 #include "platform/pointer.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 /// SHFileOperation's flag that answers yes to every question.
@@ -50,41 +50,41 @@ void Principale::LeggiDatiDisco() {
     bool installedFound = false;
     MyList.SuspendPainting();
     MyList.Clear();
-    ForEachLogoSet(AddBackslash(settings_.logoPath), [&](const std::string& name) {
+    core::ForEachLogoSet(core::AddBackslash(settings_.logoPath), [&](const std::string& name) {
         if (name == settings_.defaultLogoSet) installedFound = true;
-        MyList.AddItem(name, IconKeyOfSet(name));
+        MyList.AddItem(name, core::IconKeyOfSet(name));
     });
     MyList.ResumePainting();
     ShowListaLogo();
     VisualizzaNumLogo();
     if (installedFound) SelItem(settings_.defaultLogoSet);
-    DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : kUnknownSet);
+    DefaultLogo.SetText(installedFound ? settings_.defaultLogoSet : core::kUnknownSet);
 
     if (installedShown) ShowInstalledScreens();
 }
 
 void Principale::VisualizzaNumLogo() {
-    NumLogo.SetText(CountLine(MyList.Count()));
+    NumLogo.SetText(core::CountLine(MyList.Count()));
     if (MyList.Count() == 0) LogoType.SetText("");
 }
 
 void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
     for (int i = 0; i < 3; ++i) {
-        DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
+        preview::DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
         Imag[i].SetTag(paths[i]);
     }
 }
 
 void Principale::ClearScreens() {
-    for (PictureBox& box : Imag) {
+    for (controls::PictureBox& box : Imag) {
         box.SetTag("");
         box.Clear();
     }
 }
 
 void Principale::RedrawScreens() {
-    for (PictureBox& box : Imag)
-        if (box.HasPicture()) DrawPreview(box.Tag(), box);
+    for (controls::PictureBox& box : Imag)
+        if (box.HasPicture()) preview::DrawPreview(box.Tag(), box);
 }
 
 void Principale::ShowListaLogo() {
@@ -94,10 +94,10 @@ void Principale::ShowListaLogo() {
         LogoType.SetText("");
         return;
     }
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     const std::string name = MyList.ItemText(selected);
-    LogoType.SetText(TypeCaptionOfSet(name));
-    ShowScreens(ScreenPathsOfSet(settings_.logoPath, name));
+    LogoType.SetText(core::TypeCaptionOfSet(name));
+    ShowScreens(core::ScreenPathsOfSet(settings_.logoPath, name));
 }
 
 void Principale::SelItem(const std::string& name) {
@@ -117,25 +117,27 @@ bool Principale::ConfirmFormatChange(bool toSingle) {
     if (settings_.confirmLogoTypeChange != 1) return true;
     const std::string from = toSingle ? "Multi Logo" : "Single Logo";
     const std::string to = toSingle ? "Single Logo" : "Multi Logo";
-    return Ask(handle(),
+    return platform::Ask(
+               handle(),
                "Would you like to change your logoset format from " + from + " to " + to + "?",
-               kQuestionYesNo) == Answer::Yes;
+               platform::kQuestionYesNo) == platform::Answer::Yes;
 }
 
 bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
-    const auto folder = SetFolderName(typed, settings_.logoPath);
+    const auto folder = core::SetFolderName(typed, settings_.logoPath);
     if (folder == oldName_) return false;
     const std::string newName = folder.value_or(typed);
-    const bool toSingle = IsSingleLogoSet(newName);
-    const bool formatChanges = toSingle != IsSingleLogoSet(oldName_);
+    const bool toSingle = core::IsSingleLogoSet(newName);
+    const bool formatChanges = toSingle != core::IsSingleLogoSet(oldName_);
     if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
 
     const int edited = MyList.EditedItem();
     // The new icon stays although the renaming may fail: it is kept so until the next refresh.
-    if (formatChanges) MyList.SetItemIcon(edited, IconKeyOfSet(newName));
-    if (!folder || !Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
-        Ask(handle(), "Cannot rename folder. The folder already exists or has an invalid name",
-            kExclamationOk);
+    if (formatChanges) MyList.SetItemIcon(edited, core::IconKeyOfSet(newName));
+    if (!folder || !platform::Rename(settings_.logoPath + oldName_, settings_.logoPath + newName)) {
+        platform::Ask(handle(),
+                      "Cannot rename folder. The folder already exists or has an invalid name",
+                      platform::kExclamationOk);
         return false;
     }
     MyList.SetItemText(edited, newName);
@@ -156,12 +158,13 @@ void Principale::SelectAfterDelete(int index) {
 
 bool Principale::ConfirmOverwriting(const std::string& name) {
     // The folder came from another window, which is still the one in front.
-    BringToFront(handle());
-    return Ask(handle(),
+    controls::BringToFront(handle());
+    return platform::Ask(
+               handle(),
                "The selected folder '" + name +
                    "' already exist in your logo folder. Would you like to overwrite the existing "
                    "files?",
-               kQuestionYesNoDefaultNo) == Answer::Yes;
+               platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
 }
 
 void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
@@ -169,13 +172,13 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (IsDriveRoot(path) || !IsFolder(AddBackslash(path))) continue;
-        name = GetFileName(path);
-        const bool exists = IsFolder(settings_.logoPath + name);
+        if (IsDriveRoot(path) || !platform::IsFolder(core::AddBackslash(path))) continue;
+        name = core::GetFileName(path);
+        const bool exists = platform::IsFolder(settings_.logoPath + name);
         if (exists && !ConfirmOverwriting(name)) continue;
         // Whether the shell could copy it is not asked: the list catches up at the next refresh.
-        ShellCopy(handle(), path, settings_.logoPath, kYesToAll);
-        if (!exists) MyList.AddItem(name, IconKeyOfSet(name));
+        platform::ShellCopy(handle(), path, settings_.logoPath, kYesToAll);
+        if (!exists) MyList.AddItem(name, core::IconKeyOfSet(name));
         showLast = true;
     }
     if (!showLast) return;
@@ -185,4 +188,4 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     if (item >= 0) SelItem(MyList.ItemText(item));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

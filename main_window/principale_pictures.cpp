@@ -8,22 +8,22 @@
 #include "platform/shell.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 
-void Principale::Imag_MouseUp(int index, int button, Point at) {
+void Principale::Imag_MouseUp(int index, int button, controls::Point at) {
     if (!Imag[index].HasPicture()) return;
     SetCurrentPicture(Imag[index].Tag());
-    if (button == kLeftButton)
+    if (button == controls::kLeftButton)
         AzioneSuImmagine(settings_.defaultAction, handle());
-    else if (button == kRightButton)
+    else if (button == controls::kRightButton)
         PopUpMenu(OpenWithMenu(), Imag[index].OnScreen(at), DefaultOpenWithItem());
 }
 
-MenuHandle Principale::OpenWithMenu() { return ClassicMenu(kMenuOpenWith); }
+platform::MenuHandle Principale::OpenWithMenu() { return ClassicMenu(kMenuOpenWith); }
 
 int Principale::DefaultOpenWithItem() const { return ID_ItmOpenAct + settings_.defaultAction; }
 
-bool Principale::OpenWithCommand(int id, WindowHandle owner) {
+bool Principale::OpenWithCommand(int id, platform::WindowHandle owner) {
     if (id == ID_ItmAnimate)
         SetAnimationShown(!AnimationShown());
     else if (id >= ID_ItmOpenAct && id <= ID_ItmOpenAct + 2)
@@ -35,48 +35,53 @@ bool Principale::OpenWithCommand(int id, WindowHandle owner) {
 
 bool Principale::AnimationShown() const { return MenuMark(ID_ItmAnimate); }
 
-void Principale::SetAnimationShown(bool shown) { SetMenuMark(classicMenus_, ID_ItmAnimate, shown); }
-
-void Principale::ShowCustomProgramName() {
-    SetMenuCaption(classicMenus_, ID_ItmOpenAct + 2,
-                   settings_.customProgName.empty() ? "Custom Program" : settings_.customProgName);
+void Principale::SetAnimationShown(bool shown) {
+    controls::SetMenuMark(classicMenus_, ID_ItmAnimate, shown);
 }
 
-void Principale::AzioneSuImmagine(int index, WindowHandle owner) {
+void Principale::ShowCustomProgramName() {
+    controls::SetMenuCaption(
+        classicMenus_, ID_ItmOpenAct + 2,
+        settings_.customProgName.empty() ? "Custom Program" : settings_.customProgName);
+}
+
+void Principale::AzioneSuImmagine(int index, platform::WindowHandle owner) {
     if (index == 0) ShowActualSize(owner);
     if (index == 1) OpenPaint(owner);
     if (index == 2) OpenCustomProgram(owner);
 }
 
-void Principale::ShowActualSize(WindowHandle owner) {
+void Principale::ShowActualSize(platform::WindowHandle owner) {
     FrmView view(currentPicture_, AnimationShown());
     view.ShowModal(owner);
 }
 
-void Principale::OpenPaint(WindowHandle owner) {
-    if (StartProgram(locations_.windowsDirectory + "pbrush.exe " +
-                     CutAtNul(GetShortPath(currentPicture_))))
+void Principale::OpenPaint(platform::WindowHandle owner) {
+    if (platform::StartProgram(locations_.windowsDirectory + "pbrush.exe " +
+                               core::CutAtNul(core::GetShortPath(currentPicture_))))
         return;
-    Ask(owner,
+    platform::Ask(
+        owner,
         "Cannot find Paint! If you want to edit your logos install it from Add/Remove Software "
         "from the Control Panel.",
-        kExclamationOk);
+        platform::kExclamationOk);
 }
 
-void Principale::OpenCustomProgram(WindowHandle owner) {
+void Principale::OpenCustomProgram(platform::WindowHandle owner) {
     const std::string& program = settings_.customProgPath;
-    if (FileExists(program)) {
-        StartProgram(program + " " + CutAtNul(GetShortPath(currentPicture_)));
+    if (core::FileExists(program)) {
+        platform::StartProgram(program + " " + core::CutAtNul(core::GetShortPath(currentPicture_)));
     } else if (!program.empty()) {
-        Ask(owner,
-            "Cannot find the file " + program +
-                " or it is not an executable file. Check it out and retry.",
-            kExclamationOk);
-    } else if (Ask(owner, "You haven't specified a custom program. Would you like to do it now?",
-                   kQuestionYesNo) == Answer::Yes) {
-        FrmOptions options(*this, FrmOptions::kImages);
+        platform::Ask(owner,
+                      "Cannot find the file " + program +
+                          " or it is not an executable file. Check it out and retry.",
+                      platform::kExclamationOk);
+    } else if (platform::Ask(owner,
+                             "You haven't specified a custom program. Would you like to do it now?",
+                             platform::kQuestionYesNo) == platform::Answer::Yes) {
+        options::FrmOptions options(*this, options::FrmOptions::kImages);
         ShowPreferences(options, owner);
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

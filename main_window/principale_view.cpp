@@ -6,7 +6,7 @@
 #include "platform/pointer.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 constexpr long kGreen = 0x008000;
@@ -19,13 +19,13 @@ void Principale::ViewAsReport() { ItmViewType_Click(1); }
 
 void Principale::ItmViewType_Click(int index) {
     const int top = MyList.TopItem();
-    MyList.SetMode(index == 0 ? ListViewMode::List : ListViewMode::Report);
+    MyList.SetMode(index == 0 ? controls::ListViewMode::List : controls::ListViewMode::Report);
     MyList.ScrollTo(top);
     if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
     ActiveBar1.SetChecked("ToolListView", index == 0);
     ActiveBar1.SetChecked("ToolReportView", index != 0);
-    SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
-    SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
+    controls::SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
+    controls::SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
 }
 
 Principale::ListPlace Principale::PlaceInList() const {
@@ -53,7 +53,7 @@ void Principale::ToggleShowCurrent() {
 }
 
 void Principale::ItmViewDefOrActual_Click() {
-    const BusyPointer busy;
+    const platform::BusyPointer busy;
     if (ActiveBar1.Checked("ToolShowCurrent"))
         ShowInstalledScreens();
     else
@@ -66,11 +66,11 @@ void Principale::ShowInstalledScreens() {
     LogoType.SetVisible(false);
     LblDefaultLogo.SetVisible(false);
     ActiveBar1.SetEnabled("ToolRandom", false);
-    SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, false);
+    controls::SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, false);
     // Run again while they are shown already, there is nothing new to save.
     if (!savedView_) savedView_ = {DefaultLogo.Text(), PlaceInList().selectedSet};
     MyList.Select(-1);
-    ShowScreens(InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
+    ShowScreens(core::InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
     DefaultLogo.SetText("");
     DefaultLogo.SetForeColor(kGreen);
     DefaultLogo.SetText("Current logo setting");
@@ -90,8 +90,8 @@ void Principale::LeaveInstalledView() {
     DefaultLogo.SetTip("Default logo set");
     ActiveBar1.SetEnabled("MnuLogo", true);
     ActiveBar1.SetEnabled("ToolRandom", true);
-    SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, true);
-    DefaultLogo.SetForeColor(kBlue);
+    controls::SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, true);
+    DefaultLogo.SetForeColor(controls::kBlue);
     if (savedView_) DefaultLogo.SetText(savedView_->currentSet);
     savedView_.reset();
     LblDefaultLogo.SetVisible(true);
@@ -106,4 +106,4 @@ void Principale::EndInstalledView() {
     LeaveInstalledView();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

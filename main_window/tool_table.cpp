@@ -2,11 +2,11 @@
 
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 namespace {
 
 // The order is that of the dispatch; the pictures are numbered as they stand in the strip.
-constexpr Tool kTools[] = {
+constexpr controls::Tool kTools[] = {
     {"MnuLogo", 0, "&Logo", "", "Logo", -1, "LogoBand"},
     {"MnuOptions", 0, "&Options", "", "Options", -1, "OptionsBand"},
     {"MnuHelp", 0, "&Help", "", "Help", -1, "HelpBand"},
@@ -32,25 +32,27 @@ constexpr Tool kTools[] = {
     {"WhatIsThis", ID_WhatIsThis, "What's this?", "", "Help", -1, ""},
 };
 
-const Band kBands[] = {
+const controls::Band kBands[] = {
     {"LogoBand",
-     BandKind::DropDown,
+     controls::BandKind::DropDown,
      {"ToolRename", "ToolDelete", "ToolSetDefault", "ToolBrowser", "ToolExplore", "ToolRefresh"}},
     {"OptionsBand",
-     BandKind::DropDown,
+     controls::BandKind::DropDown,
      {"ToolListView", "ToolReportView", "ToolShowCurrent", "ToolRandom", "ToolPrefer"}},
-    {"HelpBand", BandKind::DropDown, {"ToolContents", "ToolTutorial", "ToolBug", "ToolAbout"}},
-    {"MainMenu", BandKind::MenuBar, {"MnuLogo", "MnuOptions", "MnuHelp", "MnuExit"}},
+    {"HelpBand",
+     controls::BandKind::DropDown,
+     {"ToolContents", "ToolTutorial", "ToolBug", "ToolAbout"}},
+    {"MainMenu", controls::BandKind::MenuBar, {"MnuLogo", "MnuOptions", "MnuHelp", "MnuExit"}},
     {"BarMain",
-     BandKind::ButtonBar,
+     controls::BandKind::ButtonBar,
      {"ToolRename", "ToolDelete", "ToolSetDefault", "", "ToolBrowser", "ToolRefresh", "",
       "ToolShowCurrent", "ToolRandom", "", "ToolContents", "ToolAbout"}},
 };
 
 }  // namespace
 
-std::span<const Tool> MainTools() { return kTools; }
+std::span<const controls::Tool> MainTools() { return kTools; }
 
-std::span<const Band> MainBands() { return kBands; }
+std::span<const controls::Band> MainBands() { return kBands; }
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

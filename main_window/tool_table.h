@@ -5,9 +5,9 @@
 
 #include "controls/active_bar.h"
 
-namespace vistrel {
+namespace vistrel::main_window {
 
-std::span<const Tool> MainTools();
-std::span<const Band> MainBands();
+std::span<const controls::Tool> MainTools();
+std::span<const controls::Band> MainBands();
 
-}  // namespace vistrel
+}  // namespace vistrel::main_window

@@ -11,10 +11,13 @@
 #include "help/context_numbers.h"
 #include "resources/ids.h"
 
-namespace vistrel {
+namespace vistrel::options {
 
-FrmOptions::FrmOptions(MainWindow& main, Page first)
-    : Window("FrmOptions", IDD_FrmOptions), main_(main), first_(first), MnuDrive_(NewPopUpMenu()) {
+FrmOptions::FrmOptions(core::MainWindow& main, Page first)
+    : Window("FrmOptions", IDD_FrmOptions),
+      main_(main),
+      first_(first),
+      MnuDrive_(controls::NewPopUpMenu()) {
     Add(TabStrip1, ID_TabStrip1);
     TabStrip1.Click = [this] { TabStrip1_Click(); };
     for (int i = 0; i < 4; ++i) Add(MyFrame[i], ID_MyFrame + i);
@@ -28,7 +31,7 @@ FrmOptions::FrmOptions(MainWindow& main, Page first)
     BtnCancel.Click = [this] { BtnCancel_Click(); };
 }
 
-FrmOptions::~FrmOptions() { FreeMenu(MnuDrive_); }
+FrmOptions::~FrmOptions() { controls::FreeMenu(MnuDrive_); }
 
 void FrmOptions::AddGeneral() {
     Add(LblLogoPath, ID_LblLogoPath);
@@ -44,7 +47,7 @@ void FrmOptions::AddGeneral() {
     MyFrame[0].Hold({&LblLogoPath, &TxtLogoPath, &btnBrwFolder, &LblDblAction, &DblAction,
                      &ChkShowSplash, &ChkSyncronize, &ActiveStart, &LblDriveHost, &DriveHost});
 
-    TxtLogoPath.GotFocus = [this] { SelectAllText(TxtLogoPath); };
+    TxtLogoPath.GotFocus = [this] { controls::SelectAllText(TxtLogoPath); };
     btnBrwFolder.Click = [this] { btnBrwFolder_Click(); };
     ActiveStart.Click = [this] { ActiveStart_Click(); };
     DriveHost.Click = [this] { DriveHost_Click(); };
@@ -69,9 +72,9 @@ void FrmOptions::AddImages() {
     MyFrame[2].Hold({&FrameOpen, &OptOpen[0], &OptOpen[1], &OptOpen[2], &LblCustomName, &CustomName,
                      &LblCustProg, &CustProg, &BtnBrowse, &ChkShowAnim});
 
-    for (TextBox* box : {&CustomName, &CustProg}) {
+    for (controls::TextBox* box : {&CustomName, &CustProg}) {
         box->Change = [this] { CustomProgram_Change(); };
-        box->GotFocus = [box] { SelectAllText(*box); };
+        box->GotFocus = [box] { controls::SelectAllText(*box); };
     }
     BtnBrowse.Click = [this] { BtnBrowse_Click(); };
 }
@@ -115,7 +118,7 @@ void FrmOptions::Form_Load() {
 }
 
 void FrmOptions::Form_Activate() {
-    const Settings& settings = main_.Preferences();
+    const core::Settings& settings = main_.Preferences();
     showingValues_ = true;
     DblAction.SetListIndex(settings.actionOnDoubleClick);
     DriveHost.SetText(settings.bootRoot.substr(0, 1));
@@ -143,7 +146,7 @@ void FrmOptions::Form_Activate() {
 }
 
 void FrmOptions::ShowStartUpAction() {
-    const auto inForce = ReadStartUpAction(main_.Locations().startupFolder);
+    const auto inForce = core::ReadStartUpAction(main_.Locations().startupFolder);
     for (int i = 0; i < 3; ++i)
         StartUpAction[i].SetMark(inForce && static_cast<int>(*inForce) == i);
     if (!inForce) StartUpAction[0].SetTabStop();
@@ -167,20 +170,21 @@ bool FrmOptions::Form_KeyDown(int key) { return TabStrip1.TurnPage(key); }
 
 void FrmOptions::btnBrwFolder_Click() {
     const std::string folder =
-        BrowseForFolder(handle(), "Choose the folder you want to add", TxtLogoPath.Text());
+        core::BrowseForFolder(handle(), "Choose the folder you want to add", TxtLogoPath.Text());
     if (!folder.empty()) TxtLogoPath.SetText(folder);
 }
 
 void FrmOptions::ActiveStart_Click() { main_.RaiseBootLogoOptionChanged(); }
 
-void FrmOptions::DriveHost_Click() { PopUpMenu(MnuDrive_, PointerPosition()); }
+void FrmOptions::DriveHost_Click() { PopUpMenu(MnuDrive_, controls::PointerPosition()); }
 
 void FrmOptions::GetDiskInfo() {
-    EmptyMenu(MnuDrive_);
-    driveLetters_ = FixedDriveLetters();
+    controls::EmptyMenu(MnuDrive_);
+    driveLetters_ = core::FixedDriveLetters();
     // Items are numbered from 1.
     int item = ID_ItmDriveList;
-    for (const std::string& letter : driveLetters_) AddMenuItem(MnuDrive_, ++item, letter);
+    for (const std::string& letter : driveLetters_)
+        controls::AddMenuItem(MnuDrive_, ++item, letter);
 }
 
 void FrmOptions::ItmDriveList_Click(int index) { DriveHost.SetText(driveLetters_[index - 1]); }
@@ -195,12 +199,13 @@ void FrmOptions::CustomProgram_Change() {
 }
 
 void FrmOptions::BtnBrowse_Click() {
-    const std::string program = CutAtNul(ShowOpenDialog(
+    const std::string program = core::CutAtNul(core::ShowOpenDialog(
         handle(), "Applications (*.exe)|*.exe", "Where is your favourite graphic program?", ""));
     if (program.empty()) return;
     CustProg.SetText(program);
     const std::size_t ending = 4;  // ".exe"
-    CustomName.SetText(FileTitle.substr(0, FileTitle.size() - std::min(ending, FileTitle.size())));
+    CustomName.SetText(core::FileTitle.substr(
+        0, core::FileTitle.size() - std::min(ending, core::FileTitle.size())));
 }
 
 void FrmOptions::StartUpAction_Click(int index) {
@@ -209,18 +214,18 @@ void FrmOptions::StartUpAction_Click(int index) {
 }
 
 void FrmOptions::ApplyStartUpChoice() {
-    const SystemLocations& locations = main_.Locations();
-    auto action = StartUpActionKind::Nothing;
+    const core::SystemLocations& locations = main_.Locations();
+    auto action = core::StartUpActionKind::Nothing;
     if (StartUpAction[0].Value())
-        action = StartUpActionKind::Rotaline;
+        action = core::StartUpActionKind::Rotaline;
     else if (StartUpAction[1].Value())
-        action = StartUpActionKind::Shufflet;
-    ApplyStartUpAction(action, locations.programFolder, locations.startupFolder);
+        action = core::StartUpActionKind::Shufflet;
+    core::ApplyStartUpAction(action, locations.programFolder, locations.startupFolder);
 }
 
 void FrmOptions::TakeLogoFolder() {
     if (TxtLogoPath.Text() == main_.Preferences().logoPath) return;
-    main_.Preferences().logoPath = AddBackslash(TxtLogoPath.Text());
+    main_.Preferences().logoPath = core::AddBackslash(TxtLogoPath.Text());
     main_.LeggiDatiDisco();
 }
 
@@ -228,13 +233,13 @@ void FrmOptions::TakeLogoFolder() {
 std::string FrmOptions::NameOfProgram() const {
     if (!CustomName.Text().empty()) return CustomName.Text();
     std::string path = CustProg.Text();
-    const std::string file = GetFileName(path);
+    const std::string file = core::GetFileName(path);
     return file.substr(0, file.rfind('.'));
 }
 
 // Every step is done whether or not the ones before it succeeded; no value is checked.
 void FrmOptions::BtnOK_Click() {
-    Settings& settings = main_.Preferences();
+    core::Settings& settings = main_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();
     settings.customProgName = NameOfProgram();
     settings.customProgPath = CustProg.Text();
@@ -256,4 +261,4 @@ void FrmOptions::BtnOK_Click() {
 
 void FrmOptions::BtnCancel_Click() { Unload(); }
 
-}  // namespace vistrel
+}  // namespace vistrel::options

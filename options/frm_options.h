@@ -9,49 +9,49 @@
 #include "controls/window.h"
 #include "core/main_window.h"
 
-namespace vistrel {
+namespace vistrel::options {
 
-class FrmOptions : public Window {
+class FrmOptions : public controls::Window {
  public:
     /// The pages, as the tabs are numbered.
     enum Page { kGeneral = 1, kConfirmations = 2, kImages = 3, kStartUp = 4 };
 
     /// `first` is the page that is shown at first.
-    explicit FrmOptions(MainWindow& main, Page first = kGeneral);
+    explicit FrmOptions(core::MainWindow& main, Page first = kGeneral);
     ~FrmOptions() override;
 
-    TabStrip TabStrip1;
-    Frame MyFrame[4];
+    controls::TabStrip TabStrip1;
+    controls::Frame MyFrame[4];
 
-    Label LblLogoPath;
-    TextBox TxtLogoPath;
-    Button btnBrwFolder;
-    Label LblDblAction;
-    ComboBox DblAction;
-    CheckBox ChkShowSplash;
-    CheckBox ChkSyncronize;
-    CheckBox ActiveStart;
-    Label LblDriveHost;
-    Label DriveHost;
+    controls::Label LblLogoPath;
+    controls::TextBox TxtLogoPath;
+    controls::Button btnBrwFolder;
+    controls::Label LblDblAction;
+    controls::ComboBox DblAction;
+    controls::CheckBox ChkShowSplash;
+    controls::CheckBox ChkSyncronize;
+    controls::CheckBox ActiveStart;
+    controls::Label LblDriveHost;
+    controls::Label DriveHost;
 
-    CheckBox ChkConfirmChange;
-    CheckBox ChkDelConfirm;
-    CheckBox ChkDeleteRecycle;
+    controls::CheckBox ChkConfirmChange;
+    controls::CheckBox ChkDelConfirm;
+    controls::CheckBox ChkDeleteRecycle;
 
-    Frame FrameOpen;
-    OptionButton OptOpen[3];
-    Label LblCustomName;
-    TextBox CustomName;
-    Label LblCustProg;
-    TextBox CustProg;
-    Button BtnBrowse;
-    CheckBox ChkShowAnim;
+    controls::Frame FrameOpen;
+    controls::OptionButton OptOpen[3];
+    controls::Label LblCustomName;
+    controls::TextBox CustomName;
+    controls::Label LblCustProg;
+    controls::TextBox CustProg;
+    controls::Button BtnBrowse;
+    controls::CheckBox ChkShowAnim;
 
-    Label LblStartUp;
-    OptionButton StartUpAction[3];
+    controls::Label LblStartUp;
+    controls::OptionButton StartUpAction[3];
 
-    Button BtnOK;
-    Button BtnCancel;
+    controls::Button BtnOK;
+    controls::Button BtnCancel;
 
  protected:
     void Form_Load() override;
@@ -84,13 +84,13 @@ class FrmOptions : public Window {
     void ApplyStartUpChoice();
     void TakeLogoFolder();
 
-    MainWindow& main_;
+    core::MainWindow& main_;
     Page first_;
-    MenuHandle MnuDrive_;
+    platform::MenuHandle MnuDrive_;
     std::vector<std::string> driveLetters_;
     bool StartupActionChanged_ = false;
     /// True while the dialog itself fills its boxes, which is no typing.
     bool showingValues_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::options

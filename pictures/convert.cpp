@@ -11,7 +11,7 @@
 #include "pictures/screen/screen_preview.h"
 #include "pictures/whole_file.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 namespace {
 
 char Upper(char letter) {
@@ -19,11 +19,11 @@ char Upper(char letter) {
 }
 
 std::unique_ptr<PictureRows> OpenRows(PictureFormat format, FileBytes file) {
-    return format == PictureFormat::Gif ? OpenGif(file) : OpenBmp(file);
+    return format == PictureFormat::Gif ? gif::OpenGif(file) : bmp::OpenBmp(file);
 }
 
 std::optional<RgbPicture> Decode(PictureFormat format, FileBytes file) {
-    if (format == PictureFormat::Jpg) return ReadJpg(file);
+    if (format == PictureFormat::Jpg) return jpg::ReadJpg(file);
     const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
     if (!rows) return std::nullopt;
     return ReadAll(*rows);
@@ -31,7 +31,7 @@ std::optional<RgbPicture> Decode(PictureFormat format, FileBytes file) {
 
 std::optional<ScaledPicture> DecodeScaled(PictureFormat format, FileBytes file, int width,
                                           int height) {
-    if (format == PictureFormat::Jpg) return ReadJpgScaled(file, width, height);
+    if (format == PictureFormat::Jpg) return jpg::ReadJpgScaled(file, width, height);
     const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
     if (!rows) return std::nullopt;
     return ReadScaled(*rows, width, height);
@@ -58,7 +58,7 @@ std::optional<RgbPicture> ReadPicture(const std::string& path) try {
 bool IsToBeTurned(const std::string& path) try {
     if (FormatOfName(path) != PictureFormat::Jpg) return false;
     const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
-    return file && IsJpgToBeTurned(*file);
+    return file && jpg::IsJpgToBeTurned(*file);
 } catch (const std::bad_alloc&) {
     return false;
 }
@@ -78,7 +78,7 @@ std::optional<ScaledPicture> ReadPicturePreview(const std::string& path, int wid
     if (!file) return std::nullopt;
     const PictureFormat format = FormatOfName(path);
     if (format == PictureFormat::Bmp)
-        if (auto preview = PreviewOfScreen(*file, width, height)) return preview;
+        if (auto preview = screen::PreviewOfScreen(*file, width, height)) return preview;
     return DecodeScaled(format, *file, width, height);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
@@ -92,14 +92,14 @@ ConversionResult TryConvertToLogo(const std::string& sourcePath,
     if (!scaled) return ConversionResult::NotRead;
     std::vector<std::uint8_t> indices(std::size_t{kLogoWidth} * kLogoHeight);
     std::vector<std::uint8_t> palette(kColors * 4);
-    if (!QuantizeRgb(scaled->picture.pixels.data(), kLogoWidth, kLogoHeight, kColors,
-                     indices.data(), palette.data())) {
+    if (!reduce::QuantizeRgb(scaled->picture.pixels.data(), kLogoWidth, kLogoHeight, kColors,
+                             indices.data(), palette.data())) {
         return ConversionResult::NotReduced;
     }
     const std::vector<std::uint8_t> file =
-        ColormappedBmp(indices.data(), kLogoWidth, kLogoHeight, kColors, palette.data());
-    return WriteWholeFile(targetPath, file) ? ConversionResult::Written
-                                            : ConversionResult::NotWritten;
+        bmp::ColormappedBmp(indices.data(), kLogoWidth, kLogoHeight, kColors, palette.data());
+    return bmp::WriteWholeFile(targetPath, file) ? ConversionResult::Written
+                                                 : ConversionResult::NotWritten;
 } catch (const std::bad_alloc&) {
     return ConversionResult::NotReduced;
 }
@@ -108,4 +108,4 @@ void ConvertToLogo(const std::string& sourcePath, const std::string& targetPath)
     TryConvertToLogo(sourcePath, targetPath);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -6,7 +6,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// The size of every screen file, in pixels.
 inline constexpr int kLogoWidth = 320;
@@ -41,4 +41,4 @@ ConversionResult TryConvertToLogo(const std::string& sourcePath, const std::stri
 /// The same, telling nothing.
 void ConvertToLogo(const std::string& sourcePath, const std::string& targetPath);
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -3,7 +3,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// Pictures up to this size are decoded however little a file holds: a blank one may be a few
 /// bytes long, and this much memory (12 MB) does no harm.
@@ -16,4 +16,4 @@ inline bool EnoughBytes(std::size_t bytes, std::int64_t pixels, std::int64_t mos
            static_cast<std::int64_t>(bytes) >= pixels / mostPixelsInAByte / 10;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -13,20 +13,20 @@
 #include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 namespace {
 
 /// The pixels in a new memory block; 0 when there is no memory.
-GlobalHandle BlockOf(const RgbPicture& picture) {
-    const GlobalHandle block = AllocateGlobal(picture.pixels.size());
-    void* const memory = LockGlobal(block);
+platform::GlobalHandle BlockOf(const RgbPicture& picture) {
+    const platform::GlobalHandle block = platform::AllocateGlobal(picture.pixels.size());
+    void* const memory = platform::LockGlobal(block);
     if (memory == nullptr) {
-        FreeGlobal(block);
+        platform::FreeGlobal(block);
         return nullptr;
     }
     std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint8_t*>(memory));
-    UnlockGlobal(block);
+    platform::UnlockGlobal(block);
     return block;
 }
 
@@ -38,11 +38,11 @@ std::optional<RgbPicture> ReadFrom(const char* path, Reader read) {
 }
 
 // No exception crosses the boundary: where memory runs out, the operation fails.
-GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
-                           std::int16_t* height) try {
+platform::GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
+                                     std::int16_t* height) try {
     const std::optional<RgbPicture> picture = ReadFrom(path, read);
     if (!picture) return nullptr;
-    const GlobalHandle block = BlockOf(*picture);
+    const platform::GlobalHandle block = BlockOf(*picture);
     if (block == nullptr) return nullptr;
     *width = static_cast<std::int16_t>(picture->width);  // readers give no larger ones
     *height = static_cast<std::int16_t>(picture->height);
@@ -56,25 +56,28 @@ GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
 // Everything the library needs is made where it is used: there is nothing to unlock or to prepare.
 void ImgDLLStringInitDLL(const char*) {}
 
-GlobalHandle ImgDLLReadRGBFromBMP(const char* path, std::int16_t* width, std::int16_t* height) {
-    return ReadIntoBlock(path, ReadBmp, width, height);
+platform::GlobalHandle ImgDLLReadRGBFromBMP(const char* path, std::int16_t* width,
+                                            std::int16_t* height) {
+    return ReadIntoBlock(path, bmp::ReadBmp, width, height);
 }
 
-GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* width, std::int16_t* height) {
-    return ReadIntoBlock(path, ReadGif, width, height);
+platform::GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* width,
+                                            std::int16_t* height) {
+    return ReadIntoBlock(path, gif::ReadGif, width, height);
 }
 
-GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width, std::int16_t* height) {
-    return ReadIntoBlock(path, ReadJpg, width, height);
+platform::GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width,
+                                            std::int16_t* height) {
+    return ReadIntoBlock(path, jpg::ReadJpg, width, height);
 }
 
-GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
-                             int newHeight) try {
+platform::GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
+                                       int newHeight) try {
     if (rgb == nullptr || !IsPlausibleSize(width, height) ||
         !IsPlausibleSize(newWidth, newHeight)) {
         return nullptr;
     }
-    return BlockOf(Resize(rgb, width, height, newWidth, newHeight));
+    return BlockOf(scale::Resize(rgb, width, height, newWidth, newHeight));
 } catch (const std::bad_alloc&) {
     return nullptr;
 }
@@ -82,7 +85,7 @@ GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int
 int ImgDLLQuantizeRGBTo8Bit(const std::uint8_t* rgb, std::uint8_t* indices, int width, int height,
                             int colors, std::uint8_t* palette) try {
     if (rgb == nullptr || indices == nullptr || palette == nullptr) return 0;
-    return QuantizeRgb(rgb, width, height, colors, indices, palette) ? 1 : 0;
+    return reduce::QuantizeRgb(rgb, width, height, colors, indices, palette) ? 1 : 0;
 } catch (const std::bad_alloc&) {
     return 0;
 }
@@ -93,9 +96,11 @@ int ImgDLLSaveColormappedToBMP(const char* path, const std::uint8_t* indices, in
         !IsPlausibleSize(width, height) || colors < 2 || colors > 256) {
         return 0;
     }
-    return WriteWholeFile(path, ColormappedBmp(indices, width, height, colors, palette)) ? 1 : 0;
+    return bmp::WriteWholeFile(path, bmp::ColormappedBmp(indices, width, height, colors, palette))
+               ? 1
+               : 0;
 } catch (const std::bad_alloc&) {
     return 0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -1,13 +1,13 @@
 // The image library's boundary: eight operations that take ANSI paths, plain pointers and handles
-// of global memory blocks. Whoever receives a handle frees it with FreeGlobal (GlobalFree on Windows).
-// The eighth draws on Windows: preview/draw_rgb.h.
+// of global memory blocks. Whoever receives a handle frees it with FreeGlobal (GlobalFree on
+// Windows). The eighth draws on Windows: preview/draw_rgb.h.
 #pragma once
 
 #include <cstdint>
 
 #include "platform/global_memory.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// Initialises the library once at start with the code that comes with it.
 void ImgDLLStringInitDLL(const char* code);
@@ -15,13 +15,16 @@ void ImgDLLStringInitDLL(const char* code);
 /// Each reads a file into a new memory block of 24-bit pixels (red, green, blue, rows from the top,
 /// no padding) and gives its size in pixels. 0 when the file cannot be read; the sizes are then
 /// left as they were.
-GlobalHandle ImgDLLReadRGBFromBMP(const char* path, std::int16_t* width, std::int16_t* height);
-GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* width, std::int16_t* height);
-GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width, std::int16_t* height);
+platform::GlobalHandle ImgDLLReadRGBFromBMP(const char* path, std::int16_t* width,
+                                            std::int16_t* height);
+platform::GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* width,
+                                            std::int16_t* height);
+platform::GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width,
+                                            std::int16_t* height);
 
 /// Scales 24-bit pixels to a new size; the handle of a new memory block, 0 on failure.
-GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
-                             int newHeight);
+platform::GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
+                                       int newHeight);
 
 /// Reduces 24-bit pixels to at most `colors` colours; see QuantizeRgb. 1 on success.
 int ImgDLLQuantizeRGBTo8Bit(const std::uint8_t* rgb, std::uint8_t* indices, int width, int height,
@@ -31,4 +34,4 @@ int ImgDLLQuantizeRGBTo8Bit(const std::uint8_t* rgb, std::uint8_t* indices, int 
 int ImgDLLSaveColormappedToBMP(const char* path, const std::uint8_t* indices, int width, int height,
                                int bitsPerPixel, int colors, const std::uint8_t* palette);
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -4,7 +4,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 inline std::uint32_t Byte(FileBytes file, std::size_t offset) {
     return offset < file.size() ? file[offset] : 0;
@@ -18,4 +18,4 @@ inline std::uint32_t DoubleWord(FileBytes file, std::size_t offset) {
     return Word(file, offset) | Word(file, offset + 2) << 16;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -3,7 +3,7 @@
 
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 RgbPicture ReadAll(PictureRows& rows) {
     RgbPicture picture{rows.width(), rows.height(), {}};
@@ -15,7 +15,7 @@ RgbPicture ReadAll(PictureRows& rows) {
 
 ScaledPicture ReadScaled(PictureRows& rows, int width, int height) {
     if (rows.width() == width && rows.height() == height) return {ReadAll(rows), width, height};
-    RgbScaler scaler(rows.width(), rows.height(), width, height);
+    scale::RgbScaler scaler(rows.width(), rows.height(), width, height);
     for (int y = 0; y < rows.height(); ++y) {
         rows.ReadNext(scaler.NextRow());
         scaler.EndRow();
@@ -23,4 +23,4 @@ ScaledPicture ReadScaled(PictureRows& rows, int width, int height) {
     return {scaler.TakePicture(), rows.width(), rows.height()};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -5,7 +5,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// A picture whose rows are read one after the other. What it reads from must outlive it.
 class PictureRows {
@@ -32,4 +32,4 @@ RgbPicture ReadAll(PictureRows& rows);
 /// the result is made of.
 ScaledPicture ReadScaled(PictureRows& rows, int width, int height);
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// 24-bit picture: rows from the top, no padding, each pixel as red, green, blue.
 struct RgbPicture {
@@ -38,4 +38,4 @@ inline bool IsPlausibleSize(std::int64_t width, std::int64_t height) {
            width * height <= kMostPixels;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <memory>
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 namespace {
 
@@ -31,4 +31,4 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path) 
     return bytes;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::pictures {
 
 /// The largest file that is read: the largest picture (kMostPixels) at 4 bytes a pixel and some
 /// headers. No honest picture file is larger, and nothing larger should be asked of the memory.
@@ -16,4 +16,4 @@ inline constexpr long kLargestFile = 264L * 1024 * 1024;
 /// or is larger than kLargestFile.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path);
 
-}  // namespace vistrel
+}  // namespace vistrel::pictures

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 std::size_t CharacterLength(std::string_view text, std::size_t at) {
     const bool pair = at + 1 < text.size() && IsDBCSLeadByte(static_cast<BYTE>(text[at]));
@@ -21,4 +21,4 @@ bool EndsInBackslash(std::string_view path) {
     return !path.empty() && LastBackslash(path) == path.size() - 1;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

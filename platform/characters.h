@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// The number of bytes, 1 or 2, of the character that begins at `at`; 1 for a first byte whose
 /// second is missing. `at` lies inside `text` and at a character's beginning.
@@ -16,4 +16,4 @@ std::size_t LastBackslash(std::string_view path);
 /// True when a path's last character is a backslash.
 bool EndsInBackslash(std::string_view path);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

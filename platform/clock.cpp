@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 double SecondsSinceMidnight() {
     SYSTEMTIME now;
@@ -15,4 +15,4 @@ double TimeOfDay() { return SecondsSinceMidnight() / 86400.0; }
 
 void SleepMilliseconds(unsigned long milliseconds) { Sleep(milliseconds); }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

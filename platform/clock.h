@@ -1,7 +1,7 @@
 // The time of day and waiting.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// Seconds since midnight, local time, with fractions.
 double SecondsSinceMidnight();
@@ -10,4 +10,4 @@ double TimeOfDay();
 /// Sleeps this many milliseconds.
 void SleepMilliseconds(unsigned long milliseconds);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

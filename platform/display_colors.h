@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 // The system keeps 20 of the 256 colours and leaves 236. Of these 240, the 8 that have only the
 // channels' ends are among the system's, so that all find room. The eye tells green best and blue
@@ -19,4 +19,4 @@ constexpr std::uint8_t DisplayLevel(int channel, int level) {
     return static_cast<std::uint8_t>(level * 255 / (kDisplayLevels[channel] - 1));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

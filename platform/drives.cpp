@@ -4,7 +4,7 @@
 #include "platform/fault.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 std::vector<std::string> DriveRoots() {
     if (fault::Strikes()) return {};
@@ -30,4 +30,4 @@ std::string VolumeLabel(const std::string& root) {
     return label;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

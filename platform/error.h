@@ -1,7 +1,7 @@
 // Why an operation failed.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// The system's error number (GetLastError); 0 while nothing has failed.
 struct Error {
@@ -11,4 +11,4 @@ struct Error {
     bool IsFileNotFound() const { return code == 2; }
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

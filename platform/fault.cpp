@@ -3,7 +3,7 @@
 
 #include <climits>
 
-namespace vistrel::fault {
+namespace vistrel::platform::fault {
 
 namespace {
 
@@ -32,4 +32,4 @@ bool Strikes() {
     return counted >= firstFailing && counted <= lastFailing;
 }
 
-}  // namespace vistrel::fault
+}  // namespace vistrel::platform::fault

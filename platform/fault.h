@@ -2,7 +2,7 @@
 // the n-th of them fail. The program itself never calls these.
 #pragma once
 
-namespace vistrel::fault {
+namespace vistrel::platform::fault {
 
 /// Starts counting from 0 with nothing made to fail.
 void Reset();
@@ -17,4 +17,4 @@ int Counted();
 /// Asked by each wrapper before it calls the system: true when this operation is to fail.
 bool Strikes();
 
-}  // namespace vistrel::fault
+}  // namespace vistrel::platform::fault

@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "platform/system_error.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -61,4 +61,4 @@ bool SameContents(const std::string& path, const std::string& other) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -7,7 +7,7 @@
 #include "platform/fault.h"
 #include "platform/system_error.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -141,4 +141,4 @@ bool RemoveFolder(const std::string& path, Error* error) {
     return Report(RemoveDirectoryA(path.c_str()), error);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -10,7 +10,7 @@
 
 #include "platform/error.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 inline constexpr std::uint32_t kNormalFile = 0;
 inline constexpr std::uint32_t kReadOnlyFile = 1;
@@ -87,4 +87,4 @@ DriveKind KindOfDrive(const std::string& root);
 /// The label of a drive's volume; empty when it has none or cannot be read.
 std::string VolumeLabel(const std::string& root);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

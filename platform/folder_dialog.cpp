@@ -7,7 +7,7 @@
 #include "platform/fault.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::string PickFolder(WindowHandle owner, const std::string& prompt, const std:
     return isFolder ? path : "";
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -7,7 +7,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 GlobalHandle AllocateGlobal(std::size_t bytes) {
     if (fault::Strikes()) return nullptr;
@@ -27,13 +27,13 @@ void FreeGlobal(GlobalHandle block) {
     if (block != nullptr) GlobalFree(block);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform
 
 #else
 
 #include <cstdlib>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 GlobalHandle AllocateGlobal(std::size_t bytes) { return std::malloc(bytes); }
 
@@ -44,6 +44,6 @@ void UnlockGlobal(GlobalHandle) {}
 
 void FreeGlobal(GlobalHandle block) { std::free(block); }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform
 
 #endif

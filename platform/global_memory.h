@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 using GlobalHandle = void*;
 
@@ -16,4 +16,4 @@ void* LockGlobal(GlobalHandle block);
 void UnlockGlobal(GlobalHandle block);
 void FreeGlobal(GlobalHandle block);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

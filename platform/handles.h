@@ -12,7 +12,7 @@ struct HBRUSH__;
 struct HINSTANCE__;
 struct _IMAGELIST;
 
-namespace vistrel {
+namespace vistrel::platform {
 
 using WindowHandle = HWND__*;
 using DeviceContext = HDC__*;
@@ -24,4 +24,4 @@ using BrushHandle = HBRUSH__*;
 using InstanceHandle = HINSTANCE__*;
 using ImageListHandle = _IMAGELIST*;
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

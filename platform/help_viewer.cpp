@@ -5,7 +5,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 bool ShowHelp(WindowHandle owner, const std::string& helpFile, HelpCommand command,
               unsigned long data) {
@@ -13,4 +13,4 @@ bool ShowHelp(WindowHandle owner, const std::string& helpFile, HelpCommand comma
     return WinHelpA(owner, helpFile.c_str(), static_cast<UINT>(command), data) != 0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -5,7 +5,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// Commands of the help viewer.
 enum class HelpCommand : unsigned { Context = 1, Quit = 2, Index = 3, ContextPopup = 8 };
@@ -14,4 +14,4 @@ enum class HelpCommand : unsigned { Context = 1, Quit = 2, Index = 3, ContextPop
 bool ShowHelp(WindowHandle owner, const std::string& helpFile, HelpCommand command,
               unsigned long data);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 InstanceHandle ProgramInstance() { return GetModuleHandleA(nullptr); }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

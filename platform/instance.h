@@ -3,8 +3,8 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 InstanceHandle ProgramInstance();
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

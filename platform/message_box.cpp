@@ -3,10 +3,10 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 Answer Ask(WindowHandle owner, const std::string& text, unsigned flags, const std::string& title) {
     return static_cast<Answer>(MessageBoxA(owner, text.c_str(), title.c_str(), flags));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

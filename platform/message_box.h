@@ -5,7 +5,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// The title of every message box that has none of its own.
 inline constexpr const char* kProgramTitle = "Vistrel";
@@ -23,4 +23,4 @@ enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 Answer Ask(WindowHandle owner, const std::string& text, unsigned flags,
            const std::string& title = kProgramTitle);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

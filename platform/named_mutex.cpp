@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 NamedMutex::NamedMutex(const std::string& name)
     : handle_(CreateMutexA(nullptr, FALSE, name.c_str())) {}
@@ -20,4 +20,4 @@ bool NamedMutex::TakeWithin(unsigned long milliseconds) {
     return taken_;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 class NamedMutex {
  public:
@@ -22,4 +22,4 @@ class NamedMutex {
     bool taken_ = false;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

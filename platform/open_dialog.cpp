@@ -7,7 +7,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 bool RunOpenDialog(OpenDialogRequest& request) {
     if (fault::Strikes()) return false;
@@ -27,4 +27,4 @@ bool RunOpenDialog(OpenDialogRequest& request) {
     return GetOpenFileNameA(&record) != 0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

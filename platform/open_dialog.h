@@ -5,7 +5,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// What the open-file dialog is asked for and what it answers.
 struct OpenDialogRequest {
@@ -23,4 +23,4 @@ struct OpenDialogRequest {
 /// Shows the dialog with the record that Windows 95 knows. True when the user chose a file.
 bool RunOpenDialog(OpenDialogRequest& request);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -32,4 +32,4 @@ void ShowDefaultPointer() {
     ShowSystemPointer(IDC_ARROW);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -1,7 +1,7 @@
 // The mouse pointer of the whole application.
 #pragma once
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// Shows the hourglass for as long as it lives; these may nest.
 class BusyPointer {
@@ -18,4 +18,4 @@ class BusyPointer {
 /// Puts the default pointer back, whatever BusyPointers live.
 void ShowDefaultPointer();
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -5,7 +5,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 int ReadProfileInt(const std::string& file, const std::string& section, const std::string& key,
                    int otherwise) {
@@ -29,4 +29,4 @@ bool WriteProfileText(const std::string& file, const std::string& section, const
            0;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// An integer key of a section; `otherwise` when file, section or key is missing.
 int ReadProfileInt(const std::string& file, const std::string& section, const std::string& key,
@@ -15,4 +15,4 @@ std::string ReadProfileText(const std::string& file, const std::string& section,
 bool WriteProfileText(const std::string& file, const std::string& section, const std::string& key,
                       const std::string& text);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -8,7 +8,7 @@
 #include "platform/fault.h"
 #include "platform/system_error.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -94,4 +94,4 @@ RegistryStatus RegistryKey::Delete(const std::string& name) {
     return RegDeleteValueA(key_, name.c_str());
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

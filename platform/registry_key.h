@@ -7,7 +7,7 @@
 
 struct HKEY__;
 
-namespace vistrel {
+namespace vistrel::platform {
 
 enum class Hive { ClassesRoot, CurrentUser, LocalMachine };
 
@@ -44,4 +44,4 @@ class RegistryKey {
     HKEY__* key_ = nullptr;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

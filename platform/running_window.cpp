@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 bool WindowOfClassExists(const std::string& windowClass) {
     return FindWindowA(windowClass.c_str(), nullptr) != nullptr;
@@ -19,4 +19,4 @@ bool BringToFront(const std::string& windowClass) {
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

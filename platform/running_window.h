@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// True while some program has a top-level window of this class, shown or hidden.
 bool WindowOfClassExists(const std::string& windowClass);
@@ -12,4 +12,4 @@ bool WindowOfClassExists(const std::string& windowClass);
 /// window that waits for an answer over it. False when there is none or it is hidden.
 bool BringToFront(const std::string& windowClass);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

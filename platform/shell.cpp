@@ -7,7 +7,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -63,4 +63,4 @@ bool ShellDelete(WindowHandle owner, const std::string& list, unsigned short fla
     return RunFileOperation(owner, FO_DELETE, list.c_str(), nullptr, flags);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -7,7 +7,7 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 enum class ShowState { Normal = 1, Maximized = 3 };
 
@@ -36,4 +36,4 @@ bool WriteShellLink(const std::string& linkPath, const std::string& target,
 /// The file that a shell link opens, whether or not it exists; empty when `linkPath` is no link.
 std::string ShellLinkTarget(const std::string& linkPath);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

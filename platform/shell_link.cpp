@@ -6,7 +6,7 @@
 #include "platform/fault.h"
 #include "platform/shell.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::string ShellLinkTarget(const std::string& linkPath) {
     return target;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -9,7 +9,7 @@
 
 #include "platform/fault.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 namespace {
 
 using LoadPicture = HRESULT(WINAPI*)(LPSTREAM, LONG, BOOL, REFIID, LPVOID*);
@@ -121,4 +121,4 @@ bool LoadStandardPicture(const std::string& path, StandardPicture& picture) {
     return rendered;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

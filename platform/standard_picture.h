@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::platform {
 
-/// A picture as the system loads it: 24-bit pixels (red, green, blue), rows from the top, no padding.
+/// A picture as the system loads it: 24-bit pixels (red, green, blue), rows from the top, no
+/// padding.
 struct StandardPicture {
     int width = 0;
     int height = 0;
@@ -18,4 +19,4 @@ struct StandardPicture {
 /// loader or refuses the file, and when there is not enough memory.
 bool LoadStandardPicture(const std::string& path, StandardPicture& picture);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

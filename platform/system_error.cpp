@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-namespace vistrel {
+namespace vistrel::platform {
 
 bool Failed(Error* error, unsigned long code) {
     if (error) error->code = code;
@@ -14,4 +14,4 @@ bool Report(int succeeded, Error* error) {
     return succeeded ? true : Failed(error, GetLastError());
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

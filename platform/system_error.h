@@ -3,7 +3,7 @@
 
 #include "platform/error.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 /// What an operation that a test makes to fail reports: "a device is not functioning".
 inline constexpr unsigned long kStruckError = 31;
@@ -14,4 +14,4 @@ bool Failed(Error* error, unsigned long code);
 /// Turns a system call's own success into ours, with the system's reason if it failed.
 bool Report(int succeeded, Error* error);
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

@@ -5,7 +5,7 @@
 #include "platform/fault.h"
 #include "platform/files.h"
 
-namespace vistrel {
+namespace vistrel::platform {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::string SystemShortPath(const std::string& path) {
     return shortPath;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::platform

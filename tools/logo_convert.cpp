@@ -11,7 +11,7 @@
 #include "pictures/convert.h"
 #include "pictures/whole_file.h"
 
-namespace vistrel {
+namespace vistrel::tools {
 namespace {
 
 constexpr char kUsage[] =
@@ -26,14 +26,14 @@ int Complain(const std::string& path, const char* what) {
 }
 
 int Convert(const std::string& source, const std::string& target) {
-    switch (TryConvertToLogo(source, target)) {
-        case ConversionResult::Written:
+    switch (pictures::TryConvertToLogo(source, target)) {
+        case pictures::ConversionResult::Written:
             return 0;
-        case ConversionResult::NotRead:
+        case pictures::ConversionResult::NotRead:
             return Complain(source, "cannot be read as the picture that its name stands for");
-        case ConversionResult::NotReduced:
+        case pictures::ConversionResult::NotReduced:
             return Complain(source, "there is not enough memory");
-        case ConversionResult::NotWritten:
+        case pictures::ConversionResult::NotWritten:
             break;
     }
     return Complain(target, "cannot be written");
@@ -41,30 +41,30 @@ int Convert(const std::string& source, const std::string& target) {
 
 /// As previews report it: 8 for GIF, 24 for JPG, what the header says for bitmaps.
 int DepthOf(const std::string& path) {
-    switch (FormatOfName(path)) {
-        case PictureFormat::Gif:
+    switch (pictures::FormatOfName(path)) {
+        case pictures::PictureFormat::Gif:
             return 8;
-        case PictureFormat::Jpg:
+        case pictures::PictureFormat::Jpg:
             return 24;
-        case PictureFormat::Bmp:
+        case pictures::PictureFormat::Bmp:
             break;
     }
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
-    const std::optional<BmpHeader> header = file ? ReadBmpHeader(*file) : std::nullopt;
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    const std::optional<bmp::BmpHeader> header = file ? bmp::ReadBmpHeader(*file) : std::nullopt;
     return header ? header->bitsPerPixel : 0;
 }
 
 int PrintInfo(const std::string& source) {
-    const std::optional<RgbPicture> picture = ReadPicture(source);
+    const std::optional<pictures::RgbPicture> picture = pictures::ReadPicture(source);
     if (!picture) return Complain(source, "cannot be read as the picture that its name stands for");
     std::printf("%d %d %d\n", picture->width, picture->height, DepthOf(source));
     return 0;
 }
 
 int WriteRgb(const std::string& source, const std::string& target) {
-    const std::optional<RgbPicture> picture = ReadPicture(source);
+    const std::optional<pictures::RgbPicture> picture = pictures::ReadPicture(source);
     if (!picture) return Complain(source, "cannot be read as the picture that its name stands for");
-    return WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
+    return bmp::WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
 }
 
 int Repeat(int times, const std::string& source, const std::string& target) {
@@ -95,8 +95,8 @@ int Run(const std::vector<std::string>& arguments) {
 }
 
 }  // namespace
-}  // namespace vistrel
+}  // namespace vistrel::tools
 
 int main(int count, char** arguments) {
-    return vistrel::Run(std::vector<std::string>(arguments + 1, arguments + count));
+    return vistrel::tools::Run(std::vector<std::string>(arguments + 1, arguments + count));
 }

@@ -86,8 +86,8 @@ void Painting::Change(const std::function<Tint(double, double, const Tint&)>& ch
     }
 }
 
-RgbPicture Painting::Picture() const {
-    RgbPicture picture{pixelWidth_, pixelHeight_, {}};
+pictures::RgbPicture Painting::Picture() const {
+    pictures::RgbPicture picture{pixelWidth_, pixelHeight_, {}};
     picture.pixels.reserve(tints_.size() * 3);
     for (const Tint& tint : tints_) {
         for (double part : {tint.r, tint.g, tint.b}) {

@@ -66,7 +66,7 @@ class Painting {
     void Change(const std::function<Tint(double x, double y, const Tint&)>& change);
 
     /// The painting as a picture of pixelWidth x pixelHeight.
-    RgbPicture Picture() const;
+    pictures::RgbPicture Picture() const;
 
  private:
     struct Area {

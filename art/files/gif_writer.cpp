@@ -6,7 +6,7 @@
 
 #include "pictures/reduce/quantize.h"
 
-namespace vistrel::samples {
+namespace vistrel::art {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -76,10 +76,10 @@ Bytes Packed(const Bytes& indices) {
 
 }  // namespace
 
-std::vector<std::uint8_t> GifFile(const RgbPicture& picture) {
+std::vector<std::uint8_t> GifFile(const pictures::RgbPicture& picture) {
     Bytes indices(std::size_t(picture.width) * picture.height), palette(256 * 4);
-    QuantizeRgb(picture.pixels.data(), picture.width, picture.height, 256, indices.data(),
-                palette.data());
+    reduce::QuantizeRgb(picture.pixels.data(), picture.width, picture.height, 256, indices.data(),
+                        palette.data());
     Bytes out = {'G', 'I', 'F', '8', '9', 'a'};
     Put16(out, picture.width);
     Put16(out, picture.height);
@@ -104,4 +104,4 @@ std::vector<std::uint8_t> GifFile(const RgbPicture& picture) {
     return out;
 }
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

@@ -6,9 +6,9 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel::samples {
+namespace vistrel::art {
 
 /// A GIF file of one picture in 256 colours.
-std::vector<std::uint8_t> GifFile(const RgbPicture& picture);
+std::vector<std::uint8_t> GifFile(const pictures::RgbPicture& picture);
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

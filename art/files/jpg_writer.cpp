@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 
-namespace vistrel::samples {
+namespace vistrel::art {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -144,7 +144,7 @@ void PutBlock(BitWriter& writer, const Block& samples, int& lastMean) {
 
 // Brightness or one of the two colour differences of the eight by eight pixels at x, y; beyond the
 // picture its last pixels go on.
-Block SamplesOf(const RgbPicture& picture, int x, int y, int component) {
+Block SamplesOf(const pictures::RgbPicture& picture, int x, int y, int component) {
     static const double kWeights[3][3] = {
         {.299, .587, .114}, {-.168736, -.331264, .5}, {.5, -.418688, -.081312}};
     Block block;
@@ -190,7 +190,7 @@ void PutTables(Bytes& out) {
 
 }  // namespace
 
-std::vector<std::uint8_t> JpgFile(const RgbPicture& picture) {
+std::vector<std::uint8_t> JpgFile(const pictures::RgbPicture& picture) {
     Bytes out = {0xFF, 0xD8};
     PutSegment(out, 0xE0, {'J', 'F', 'I', 'F', 0, 1, 1, 0, 0, 1, 0, 1, 0, 0});
     PutTables(out);
@@ -214,4 +214,4 @@ std::vector<std::uint8_t> JpgFile(const RgbPicture& picture) {
     return out;
 }
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

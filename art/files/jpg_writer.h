@@ -6,9 +6,9 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel::samples {
+namespace vistrel::art {
 
 /// A baseline JPG file with full colour resolution and fine quantization.
-std::vector<std::uint8_t> JpgFile(const RgbPicture& picture);
+std::vector<std::uint8_t> JpgFile(const pictures::RgbPicture& picture);
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

@@ -5,7 +5,7 @@
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
 
-namespace vistrel::samples {
+namespace vistrel::art {
 namespace {
 
 constexpr int kScreenWidth = 320;
@@ -18,16 +18,16 @@ struct Indexed {
     std::vector<std::uint8_t> palette;
 };
 
-Indexed Reduced(const RgbPicture& picture, int colors) {
+Indexed Reduced(const pictures::RgbPicture& picture, int colors) {
     Indexed result{std::vector<std::uint8_t>(std::size_t(picture.width) * picture.height),
                    std::vector<std::uint8_t>(256 * 4)};
-    QuantizeRgb(picture.pixels.data(), picture.width, picture.height, colors, result.indices.data(),
-                result.palette.data());
+    reduce::QuantizeRgb(picture.pixels.data(), picture.width, picture.height, colors,
+                        result.indices.data(), result.palette.data());
     return result;
 }
 
-RgbPicture AtScreenSize(const art::Painting& painting) {
-    return Resize(painting.Picture(), kScreenWidth, kScreenHeight);
+pictures::RgbPicture AtScreenSize(const art::Painting& painting) {
+    return scale::Resize(painting.Picture(), kScreenWidth, kScreenHeight);
 }
 
 void Put32(std::vector<std::uint8_t>& bytes, std::size_t at, std::uint32_t value) {
@@ -36,10 +36,10 @@ void Put32(std::vector<std::uint8_t>& bytes, std::size_t at, std::uint32_t value
 
 }  // namespace
 
-std::vector<std::uint8_t> IndexedBitmap(const RgbPicture& picture) {
+std::vector<std::uint8_t> IndexedBitmap(const pictures::RgbPicture& picture) {
     const Indexed reduced = Reduced(picture, 256);
-    return ColormappedBmp(reduced.indices.data(), picture.width, picture.height, 256,
-                          reduced.palette.data());
+    return bmp::ColormappedBmp(reduced.indices.data(), picture.width, picture.height, 256,
+                               reduced.palette.data());
 }
 
 std::vector<std::uint8_t> StillScreen(const art::Painting& painting) {
@@ -64,13 +64,13 @@ std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, const Movi
         entry[1] = static_cast<std::uint8_t>(bar.colors[i].g + .5);
         entry[2] = static_cast<std::uint8_t>(bar.colors[i].r + .5);
     }
-    std::vector<std::uint8_t> file = ColormappedBmp(screen.indices.data(), kScreenWidth,
-                                                    kScreenHeight, 256, screen.palette.data());
+    std::vector<std::uint8_t> file = bmp::ColormappedBmp(screen.indices.data(), kScreenWidth,
+                                                         kScreenHeight, 256, screen.palette.data());
     Put32(file, kColorsImportant, first);
     return file;
 }
 
-std::vector<std::uint8_t> TrueColorBitmap(const RgbPicture& picture) {
+std::vector<std::uint8_t> TrueColorBitmap(const pictures::RgbPicture& picture) {
     const int rowBytes = (picture.width * 3 + 3) / 4 * 4;
     std::vector<std::uint8_t> file(54 + std::size_t(rowBytes) * picture.height);
     file[0] = 'B';
@@ -94,4 +94,4 @@ std::vector<std::uint8_t> TrueColorBitmap(const RgbPicture& picture) {
     return file;
 }
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

@@ -6,7 +6,7 @@
 
 #include "art/brush/painting.h"
 
-namespace vistrel::samples {
+namespace vistrel::art {
 
 /// A bar across the screen whose colours the operating system moves while it starts.
 struct MovingBar {
@@ -23,9 +23,9 @@ std::vector<std::uint8_t> StillScreen(const art::Painting& painting);
 std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, const MovingBar& bar);
 
 /// An 8-bit bitmap of any size.
-std::vector<std::uint8_t> IndexedBitmap(const RgbPicture& picture);
+std::vector<std::uint8_t> IndexedBitmap(const pictures::RgbPicture& picture);
 
 /// A 24-bit bitmap.
-std::vector<std::uint8_t> TrueColorBitmap(const RgbPicture& picture);
+std::vector<std::uint8_t> TrueColorBitmap(const pictures::RgbPicture& picture);
 
-}  // namespace vistrel::samples
+}  // namespace vistrel::art

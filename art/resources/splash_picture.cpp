@@ -78,9 +78,10 @@ Pixels SplashPicture() {
     painting.Fill(Box(0, kHeight - 1, kWidth, kHeight), Hex(0x000000), .6);
     painting.Fill(Box(kWidth - 1, 0, kWidth, kHeight), Hex(0x000000), .6);
 
-    const RgbPicture picture = Resize(painting.Picture(), kWidth, kHeight);
+    const pictures::RgbPicture picture = scale::Resize(painting.Picture(), kWidth, kHeight);
     std::vector<std::uint8_t> indices(kWidth * kHeight), palette(256 * 4);
-    QuantizeRgb(picture.pixels.data(), kWidth, kHeight, 256, indices.data(), palette.data());
+    reduce::QuantizeRgb(picture.pixels.data(), kWidth, kHeight, 256, indices.data(),
+                        palette.data());
     Pixels pixels{kWidth, kHeight, {}};
     for (std::uint8_t index : indices) {
         const std::uint8_t* entry = &palette[index * 4];

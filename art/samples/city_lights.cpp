@@ -37,7 +37,7 @@ void Houses(Painting& painting, double low, double high, const Tint& wall, int l
 
 // The river shows the town upside down, shaken by the waves.
 void River(Painting& painting) {
-    const RgbPicture town = painting.Picture();
+    const pictures::RgbPicture town = painting.Picture();
     painting.Fill(Box(0, kQuay, kWidth, kHeight), [&town](double x, double y) {
         const double depth = y - kQuay;
         const double shift = (Clouds(x / 26, y / 3.2, 3, 91) - .5) * (6 + depth * .35);

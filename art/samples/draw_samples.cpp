@@ -44,7 +44,7 @@ const Set kSingleLogo[] = {
 
 void Write(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
     std::filesystem::create_directories(path.parent_path());
-    if (WriteWholeFile(path.string(), bytes)) return;
+    if (bmp::WriteWholeFile(path.string(), bytes)) return;
     std::fprintf(stderr, "cannot write %s\n", path.string().c_str());
     std::exit(1);
 }
@@ -63,8 +63,8 @@ void WriteTrio(const std::filesystem::path& folder, const Set& set) {
     WriteScreen(folder / "LOGOS.SYS", set.scene, Screen::Shutdown);
 }
 
-RgbPicture Painted(void (*scene)(Painting&), double width, double height, int pixelWidth,
-                   int pixelHeight) {
+pictures::RgbPicture Painted(void (*scene)(Painting&), double width, double height, int pixelWidth,
+                             int pixelHeight) {
     Painting painting(width, height, pixelWidth, pixelHeight);
     scene(painting);
     return painting.Picture();

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <map>
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 constexpr int kColors = 256;
@@ -194,4 +194,4 @@ MetricPicture ReduceByErrorDiffusion(const MetricPicture& picture) {
     return result;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

@@ -3,7 +3,7 @@
 
 #include "bench/pictures/metrics.h"
 
-namespace vistrel {
+namespace vistrel::bench {
 
 /// 256 colours by k-means on all distinct colours until nothing changes, each pixel the nearest
 /// colour: about the highest PSNR there is.
@@ -13,4 +13,4 @@ MetricPicture ReduceByKMeans(const MetricPicture& picture);
 /// directions.
 MetricPicture ReduceByErrorDiffusion(const MetricPicture& picture);
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

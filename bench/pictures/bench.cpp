@@ -17,7 +17,7 @@
 #include "pictures/convert.h"
 #include "pictures/reduce/quantize.h"
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 constexpr int kColors = 256;
@@ -89,12 +89,12 @@ std::vector<double> ScaledAndTurned(const std::vector<double>& source, int width
 
 /// Full decoding, then Lanczos in doubles on code values, rounded.
 MetricPicture Reference(const std::string& path) {
-    const auto whole = ReadPicture(path);
+    const auto whole = pictures::ReadPicture(path);
     if (!whole) Fail("cannot read " + path);
     std::vector<double> samples(whole->pixels.begin(), whole->pixels.end());
-    samples = ScaledAndTurned(samples, whole->width, whole->height, kLogoWidth);
-    samples = ScaledAndTurned(samples, whole->height, kLogoWidth, kLogoHeight);
-    MetricPicture picture{kLogoWidth, kLogoHeight, {}};
+    samples = ScaledAndTurned(samples, whole->width, whole->height, pictures::kLogoWidth);
+    samples = ScaledAndTurned(samples, whole->height, pictures::kLogoWidth, pictures::kLogoHeight);
+    MetricPicture picture{pictures::kLogoWidth, pictures::kLogoHeight, {}};
     for (const double sample : samples) {
         picture.pixels.push_back(std::uint8_t(std::lround(std::clamp(sample, 0.0, 255.0))));
     }
@@ -102,9 +102,10 @@ MetricPicture Reference(const std::string& path) {
 }
 
 MetricPicture Scaled(const std::string& path) {
-    const auto scaled = ReadPictureScaled(path, kLogoWidth, kLogoHeight);
+    const auto scaled =
+        pictures::ReadPictureScaled(path, pictures::kLogoWidth, pictures::kLogoHeight);
     if (!scaled) Fail("cannot read " + path);
-    return {kLogoWidth, kLogoHeight, scaled->picture.pixels};
+    return {pictures::kLogoWidth, pictures::kLogoHeight, scaled->picture.pixels};
 }
 
 /// A palette's entries in their places; `channels` red, green, blue.
@@ -121,12 +122,13 @@ MetricPicture Colored(const MetricPicture& size, const std::vector<std::uint8_t>
 using Triple = std::array<int, 3>;
 using Reduction = std::function<MetricPicture(const MetricPicture&, double& milliseconds)>;
 
-MetricPicture ReduceOurs(const MetricPicture& picture, Dither dither, double& milliseconds) {
+MetricPicture ReduceOurs(const MetricPicture& picture, reduce::Dither dither,
+                         double& milliseconds) {
     std::vector<std::uint8_t> indices(picture.pixels.size() / 3);
     std::vector<std::uint8_t> palette(kColors * 4);
     const double start = ProcessorTime();
-    QuantizeRgb(picture.pixels.data(), picture.width, picture.height, kColors, indices.data(),
-                palette.data(), dither);
+    reduce::QuantizeRgb(picture.pixels.data(), picture.width, picture.height, kColors,
+                        indices.data(), palette.data(), dither);
     milliseconds = ProcessorTime() - start;
     return Colored(picture, indices, [&](int i) {
         return Triple{palette[4 * i + 2], palette[4 * i + 1], palette[4 * i]};
@@ -172,10 +174,10 @@ MetricPicture ReduceByGd(const MetricPicture& picture, double& milliseconds) {
 Reduction ReductionOf(const std::string& name) {
     using Picture = MetricPicture;
     if (name == "ours") {
-        return [](const Picture& p, double& ms) { return ReduceOurs(p, Dither::On, ms); };
+        return [](const Picture& p, double& ms) { return ReduceOurs(p, reduce::Dither::On, ms); };
     }
     if (name == "ours-undithered") {
-        return [](const Picture& p, double& ms) { return ReduceOurs(p, Dither::Off, ms); };
+        return [](const Picture& p, double& ms) { return ReduceOurs(p, reduce::Dither::Off, ms); };
     }
     if (name == "imagequant-1") {
         return [](const Picture& p, double& ms) { return ReduceTheirs(p, 1, ms); };
@@ -229,8 +231,8 @@ int Run(const std::vector<std::string>& arguments) {
 }
 
 }  // namespace
-}  // namespace vistrel
+}  // namespace vistrel::bench
 
 int main(int count, char** arguments) {
-    return vistrel::Run(std::vector<std::string>(arguments + 1, arguments + count));
+    return vistrel::bench::Run(std::vector<std::string>(arguments + 1, arguments + count));
 }

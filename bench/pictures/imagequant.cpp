@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 std::vector<std::uint8_t> WithAlpha(const std::vector<std::uint8_t>& rgb) {
     std::vector<std::uint8_t> rgba;
@@ -38,4 +38,4 @@ IndexedPicture ReduceByImagequant(const std::vector<std::uint8_t>& rgba, int wid
     return picture;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 /// A picture of up to 256 colours: each palette entry is red, green, blue.
 struct IndexedPicture {
@@ -20,4 +20,4 @@ std::vector<std::uint8_t> WithAlpha(const std::vector<std::uint8_t>& rgb);
 IndexedPicture ReduceByImagequant(const std::vector<std::uint8_t>& rgba, int width, int height,
                                   int speed);
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

@@ -7,7 +7,7 @@
 #include "bench/pictures/planes.h"
 #include "bench/pictures/ssimulacra2.h"
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 constexpr double kHighestPsnr = 60;
@@ -161,4 +161,4 @@ PictureMetrics Compare(const MetricPicture& reference, const MetricPicture& cand
     return metrics;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

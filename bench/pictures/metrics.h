@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 /// 24-bit pictures of one size: red, green, blue, rows from the top.
 struct MetricPicture {
@@ -25,4 +25,4 @@ struct PictureMetrics {
 /// Compares a picture with its reference. Both must have the same size, at least 176 x 176.
 PictureMetrics Compare(const MetricPicture& reference, const MetricPicture& candidate);
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 std::vector<double> Gaussian(double sigma, int radius) {
@@ -59,4 +59,4 @@ Plane Halved(const Plane& plane) {
     return result;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

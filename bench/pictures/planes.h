@@ -4,7 +4,7 @@
 #include <cmath>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 struct Plane {
     int width = 0;
@@ -48,4 +48,4 @@ inline double ToCode(double light) {
     return 255 * (light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

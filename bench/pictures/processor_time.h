@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 /// The processor time that this process has used, in milliseconds.
 inline double ProcessorTime() {
@@ -12,4 +12,4 @@ inline double ProcessorTime() {
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

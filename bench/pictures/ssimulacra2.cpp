@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 constexpr int kScales = 6;
@@ -139,4 +139,4 @@ double Ssimulacra2(std::array<Plane, 3> reference, std::array<Plane, 3> candidat
     return fitted > 0 ? 100 - 10 * std::pow(fitted, 0.6276336467831387) : 100;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

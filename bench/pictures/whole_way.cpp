@@ -16,13 +16,13 @@
 #include "pictures/scale/resize.h"
 #include "pictures/whole_file.h"
 
-namespace vistrel {
+namespace vistrel::bench {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
 // `mostEighths`: how far the picture may be enlarged (16, the library's limit) or not (8).
-RgbPicture DecodeByTurbo(const Bytes& file, unsigned mostEighths) {
+pictures::RgbPicture DecodeByTurbo(const Bytes& file, unsigned mostEighths) {
     jpeg_decompress_struct reader;
     jpeg_error_mgr errors;
     reader.err = jpeg_std_error(&errors);  // ends the program on an error
@@ -33,13 +33,13 @@ RgbPicture DecodeByTurbo(const Bytes& file, unsigned mostEighths) {
     reader.scale_denom = 8;
     for (unsigned eighths = 1; eighths <= mostEighths; ++eighths) {
         reader.scale_num = eighths;
-        if (reader.image_width * eighths >= 8 * 2 * kLogoWidth &&
-            reader.image_height * eighths >= 8 * 2 * kLogoHeight) {
+        if (reader.image_width * eighths >= 8 * 2 * pictures::kLogoWidth &&
+            reader.image_height * eighths >= 8 * 2 * pictures::kLogoHeight) {
             break;
         }
     }
     jpeg_start_decompress(&reader);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = int(reader.output_width);
     picture.height = int(reader.output_height);
     const std::size_t rowBytes = std::size_t(picture.width) * 3;
@@ -54,22 +54,24 @@ RgbPicture DecodeByTurbo(const Bytes& file, unsigned mostEighths) {
 }
 
 Bytes FileOf(const std::string& path) {
-    auto file = ReadWholeFile(path);
+    auto file = pictures::ReadWholeFile(path);
     if (!file) std::abort();
     return *std::move(file);
 }
 
 void ConvertTheirs(const std::string& source, const std::string& target) {
-    const RgbPicture decoded = DecodeByTurbo(FileOf(source), 8);
-    const RgbPicture scaled = Resize(decoded, kLogoWidth, kLogoHeight);
-    const IndexedPicture reduced =
-        ReduceByImagequant(WithAlpha(scaled.pixels), kLogoWidth, kLogoHeight, 4);
+    const pictures::RgbPicture decoded = DecodeByTurbo(FileOf(source), 8);
+    const pictures::RgbPicture scaled =
+        scale::Resize(decoded, pictures::kLogoWidth, pictures::kLogoHeight);
+    const IndexedPicture reduced = ReduceByImagequant(
+        WithAlpha(scaled.pixels), pictures::kLogoWidth, pictures::kLogoHeight, 4);
     Bytes palette(256 * 4);
     for (std::size_t i = 0; i < reduced.palette.size(); ++i) {
         for (int c = 0; c < 3; ++c) palette[4 * i + 2 - c] = reduced.palette[i][c];
     }
-    if (!WriteWholeFile(target, ColormappedBmp(reduced.indices.data(), kLogoWidth, kLogoHeight, 256,
-                                               palette.data()))) {
+    if (!bmp::WriteWholeFile(target,
+                             bmp::ColormappedBmp(reduced.indices.data(), pictures::kLogoWidth,
+                                                 pictures::kLogoHeight, 256, palette.data()))) {
         std::abort();
     }
 }
@@ -86,11 +88,11 @@ double TimeOf(Action action) {
 WholeWayTimes MeasureWholeWay(const std::string& source, const std::string& target, int times) {
     const Bytes file = FileOf(source);
     const auto measure = [&] {
-        return WholeWayTimes{TimeOf([&] { ReadJpgScaled(file, kLogoWidth, kLogoHeight); }),
-                             TimeOf([&] { DecodeByTurbo(file, 16); }),
-                             TimeOf([&] { DecodeByTurbo(file, 8); }),
-                             TimeOf([&] { ConvertToLogo(source, target); }),
-                             TimeOf([&] { ConvertTheirs(source, target); })};
+        return WholeWayTimes{
+            TimeOf([&] { jpg::ReadJpgScaled(file, pictures::kLogoWidth, pictures::kLogoHeight); }),
+            TimeOf([&] { DecodeByTurbo(file, 16); }), TimeOf([&] { DecodeByTurbo(file, 8); }),
+            TimeOf([&] { pictures::ConvertToLogo(source, target); }),
+            TimeOf([&] { ConvertTheirs(source, target); })};
     };
     measure();
     WholeWayTimes least = measure();
@@ -105,4 +107,4 @@ WholeWayTimes MeasureWholeWay(const std::string& source, const std::string& targ
     return least;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

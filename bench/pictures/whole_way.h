@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace vistrel {
+namespace vistrel::bench {
 
 /// Processor times in milliseconds, each the smallest of several.
 struct WholeWayTimes {
@@ -20,4 +20,4 @@ struct WholeWayTimes {
 /// speed 4, dithered; our writing of the file.
 WholeWayTimes MeasureWholeWay(const std::string& source, const std::string& target, int times);
 
-}  // namespace vistrel
+}  // namespace vistrel::bench

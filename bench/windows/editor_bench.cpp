@@ -52,9 +52,9 @@ int main() {
     OleInitialize(nullptr);
     MakePictures();
     {
-        vistrel::Principale window(vistrel::FindSystemLocations());
+        vistrel::main_window::Principale window(vistrel::core::FindSystemLocations());
         window.Create(nullptr);
-        vistrel::SelPictureForm editor(window);
+        vistrel::editor::SelPictureForm editor(window);
         editor.Create(window.handle());
         editor.Show();
         const HWND plain = CreateWindowA(

@@ -27,8 +27,8 @@ void WriteScreen(const std::string& path) {
     for (std::size_t i = 0; i < indices.size(); ++i) indices[i] = static_cast<std::uint8_t>(i * 7);
     std::vector<std::uint8_t> palette(1024);
     for (std::size_t i = 0; i < palette.size(); ++i) palette[i] = static_cast<std::uint8_t>(i / 4);
-    vistrel::WriteWholeFile(path,
-                            vistrel::ColormappedBmp(indices.data(), 320, 400, 256, palette.data()));
+    vistrel::bmp::WriteWholeFile(
+        path, vistrel::bmp::ColormappedBmp(indices.data(), 320, 400, 256, palette.data()));
 }
 
 void PrepareMachine() {
@@ -70,7 +70,7 @@ void FillBareList(HWND list) {
 }
 
 /// Loads a set's three files as bitmaps and stretches them into the boxes.
-void BlitBare(vistrel::Principale& main, const std::string& set) {
+void BlitBare(vistrel::main_window::Principale& main, const std::string& set) {
     const char* names[] = {"\\LOGO.SYS", "\\LOGOW.SYS", "\\LOGOS.SYS"};
     for (int i = 0; i < 3; ++i) {
         const HWND box = main.Imag[i].handle();
@@ -130,7 +130,7 @@ int main() {
     OleInitialize(nullptr);
     PrepareMachine();
     {
-        vistrel::Principale window(vistrel::FindSystemLocations());
+        vistrel::main_window::Principale window(vistrel::core::FindSystemLocations());
         window.Create(nullptr);
         window.Show();
         const HWND plain =

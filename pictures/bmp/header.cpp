@@ -5,7 +5,7 @@
 
 #include "pictures/little_endian.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 namespace {
 
@@ -35,25 +35,25 @@ struct Fields {
     std::size_t PaletteEntryBytes() const { return headerSize == kCoreHeader ? 3 : 4; }
 };
 
-std::optional<Fields> ReadFields(FileBytes file) {
+std::optional<Fields> ReadFields(pictures::FileBytes file) {
     Fields fields;
-    fields.headerSize = DoubleWord(file, kFileHeader);
+    fields.headerSize = pictures::DoubleWord(file, kFileHeader);
     if (fields.headerSize == kCoreHeader) {
-        fields.width = Word(file, 18);
-        fields.height = Word(file, 20);
-        fields.bitsPerPixel = Word(file, 24);
+        fields.width = pictures::Word(file, 18);
+        fields.height = pictures::Word(file, 20);
+        fields.bitsPerPixel = pictures::Word(file, 24);
         return fields;
     }
     if (fields.headerSize < kSmallestOs2Header || fields.headerSize > kLargestHeader ||
         file.size() < kFileHeader + fields.headerSize) {
         return std::nullopt;
     }
-    const FileBytes header = file.first(kFileHeader + fields.headerSize);
-    fields.width = static_cast<std::int32_t>(DoubleWord(header, 18));
-    fields.height = static_cast<std::int32_t>(DoubleWord(header, 22));
-    fields.bitsPerPixel = Word(header, 28);
-    fields.compression = DoubleWord(header, 30);
-    fields.colorsUsed = DoubleWord(header, 46);
+    const pictures::FileBytes header = file.first(kFileHeader + fields.headerSize);
+    fields.width = static_cast<std::int32_t>(pictures::DoubleWord(header, 18));
+    fields.height = static_cast<std::int32_t>(pictures::DoubleWord(header, 22));
+    fields.bitsPerPixel = pictures::Word(header, 28);
+    fields.compression = pictures::DoubleWord(header, 30);
+    fields.colorsUsed = pictures::DoubleWord(header, 46);
     return fields;
 }
 
@@ -80,12 +80,12 @@ bool IsReadable(const Fields& fields) {
     }
 }
 
-std::array<std::uint32_t, 3> Masks(FileBytes file, const Fields& fields) {
+std::array<std::uint32_t, 3> Masks(pictures::FileBytes file, const Fields& fields) {
     // Behind a 40-byte header or within a longer one: the masks lie at the same place.
     constexpr std::size_t offset = kFileHeader + kInfoHeader;
     if (fields.HasMasks()) {
-        return {DoubleWord(file, offset), DoubleWord(file, offset + 4),
-                DoubleWord(file, offset + 8)};
+        return {pictures::DoubleWord(file, offset), pictures::DoubleWord(file, offset + 4),
+                pictures::DoubleWord(file, offset + 8)};
     }
     if (fields.bitsPerPixel == 16) return {0x7C00, 0x03E0, 0x001F};
     return {0xFF0000, 0x00FF00, 0x0000FF};
@@ -106,10 +106,10 @@ std::size_t PaletteEntries(const Fields& fields) {
 
 // The pixels' place as the file gives it, or behind the palette where that cannot be right: when
 // the header counts palette colours, at least one of them comes before the pixels.
-std::size_t PixelOffset(FileBytes file, const Fields& fields) {
+std::size_t PixelOffset(pictures::FileBytes file, const Fields& fields) {
     const std::size_t palette = PaletteOffset(fields);
     const std::size_t entry = fields.PaletteEntryBytes();
-    const std::size_t given = DoubleWord(file, 10);
+    const std::size_t given = pictures::DoubleWord(file, 10);
     const bool hasPalette = fields.bitsPerPixel <= 8 && fields.colorsUsed > 0;
     const std::size_t least = hasPalette ? palette + entry : palette;
     if (given >= least && given < file.size()) return given;
@@ -117,7 +117,8 @@ std::size_t PixelOffset(FileBytes file, const Fields& fields) {
     return palette + std::min(PaletteEntries(fields), room / entry) * entry;
 }
 
-std::array<RgbColor, 256> Palette(FileBytes file, const Fields& fields, std::size_t pixelOffset) {
+std::array<RgbColor, 256> Palette(pictures::FileBytes file, const Fields& fields,
+                                  std::size_t pixelOffset) {
     std::array<RgbColor, 256> palette{};
     if (fields.bitsPerPixel > 8) return palette;
     const std::size_t bytes = fields.PaletteEntryBytes();
@@ -126,7 +127,7 @@ std::array<RgbColor, 256> Palette(FileBytes file, const Fields& fields, std::siz
     const std::size_t entries = std::min(
         {PaletteEntries(fields), palette.size(), end > offset ? (end - offset) / bytes : 0});
     for (std::size_t i = 0; i < entries; ++i) {
-        const FileBytes entry = file.subspan(offset + i * bytes, bytes);
+        const pictures::FileBytes entry = file.subspan(offset + i * bytes, bytes);
         palette[i] = {entry[2], entry[1], entry[0]};  // stored as blue, green, red
     }
     return palette;
@@ -134,7 +135,7 @@ std::array<RgbColor, 256> Palette(FileBytes file, const Fields& fields, std::siz
 
 }  // namespace
 
-std::optional<BmpHeader> ReadBmpHeader(FileBytes file) {
+std::optional<BmpHeader> ReadBmpHeader(pictures::FileBytes file) {
     if (file.size() < kFileHeader + kCoreHeader || file[0] != 'B' || file[1] != 'M') {
         return std::nullopt;
     }
@@ -142,7 +143,7 @@ std::optional<BmpHeader> ReadBmpHeader(FileBytes file) {
     if (!fields || !IsReadable(*fields)) return std::nullopt;
     // A negative height stands for rows from the top.
     const std::int64_t height = fields->height < 0 ? -fields->height : fields->height;
-    if (!IsPlausibleSize(fields->width, height)) return std::nullopt;
+    if (!pictures::IsPlausibleSize(fields->width, height)) return std::nullopt;
 
     BmpHeader header;
     header.width = static_cast<int>(fields->width);
@@ -157,4 +158,4 @@ std::optional<BmpHeader> ReadBmpHeader(FileBytes file) {
     return header;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

@@ -5,7 +5,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 enum class BmpCompression { None, Rle8, Rle4 };
 
@@ -30,6 +30,6 @@ struct BmpHeader {
 /// Reads the headers and the palette: OS/2 1.x (12 bytes), OS/2 2.x (16 to 64 bytes) and Windows
 /// (40 to 124 bytes). Empty when the file is no bitmap, its pixels are of a kind that is not read
 /// or its size is out of range.
-std::optional<BmpHeader> ReadBmpHeader(FileBytes file);
+std::optional<BmpHeader> ReadBmpHeader(pictures::FileBytes file);
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

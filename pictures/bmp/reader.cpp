@@ -4,19 +4,19 @@
 #include "pictures/bmp/rle.h"
 #include "pictures/bmp/rows.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
-std::unique_ptr<PictureRows> OpenBmp(FileBytes file) {
+std::unique_ptr<pictures::PictureRows> OpenBmp(pictures::FileBytes file) {
     const std::optional<BmpHeader> header = ReadBmpHeader(file);
     if (!header) return nullptr;
     return header->compression == BmpCompression::None ? OpenBmpRows(file, *header)
                                                        : OpenBmpRle(file, *header);
 }
 
-std::optional<RgbPicture> ReadBmp(FileBytes file) {
-    const std::unique_ptr<PictureRows> rows = OpenBmp(file);
+std::optional<pictures::RgbPicture> ReadBmp(pictures::FileBytes file) {
+    const std::unique_ptr<pictures::PictureRows> rows = OpenBmp(file);
     if (!rows) return std::nullopt;
-    return ReadAll(*rows);
+    return pictures::ReadAll(*rows);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

@@ -7,7 +7,7 @@
 
 #include "pictures/enough_bytes.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 namespace {
 
@@ -25,7 +25,7 @@ struct RowStart {
 // The commands of a file one after the other.
 class RleCommands {
  public:
-    RleCommands(FileBytes data, bool fourBits, int width)
+    RleCommands(pictures::FileBytes data, bool fourBits, int width)
         : data_(data), fourBits_(fourBits), width_(width) {}
 
     // Goes through the commands from `start` on that belong to one row. `put(column, count,
@@ -88,15 +88,15 @@ class RleCommands {
         return Fill(column, pixelsThere, pixelAt, put);
     }
 
-    FileBytes data_;
+    pictures::FileBytes data_;
     bool fourBits_;
     int width_;
 };
 
-class RleRows : public PictureRows {
+class RleRows : public pictures::PictureRows {
  public:
-    RleRows(FileBytes data, const BmpHeader& header)
-        : PictureRows(header.width, header.height),
+    RleRows(pictures::FileBytes data, const BmpHeader& header)
+        : pictures::PictureRows(header.width, header.height),
           header_(header),
           commands_(data, header.compression == BmpCompression::Rle4, header.width),
           starts_(header.height) {
@@ -136,11 +136,12 @@ constexpr std::int64_t kMostPixelsInAByte = 128;
 
 }  // namespace
 
-std::unique_ptr<PictureRows> OpenBmpRle(FileBytes file, const BmpHeader& header) {
-    const FileBytes data = file.subspan(std::min(header.pixelOffset, file.size()));
+std::unique_ptr<pictures::PictureRows> OpenBmpRle(pictures::FileBytes file,
+                                                  const BmpHeader& header) {
+    const pictures::FileBytes data = file.subspan(std::min(header.pixelOffset, file.size()));
     const std::int64_t pixels = std::int64_t{header.width} * header.height;
-    if (!EnoughBytes(data.size(), pixels, kMostPixelsInAByte)) return nullptr;
+    if (!pictures::EnoughBytes(data.size(), pixels, kMostPixelsInAByte)) return nullptr;
     return std::make_unique<RleRows>(data, header);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

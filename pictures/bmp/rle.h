@@ -4,11 +4,12 @@
 #include "pictures/bmp/header.h"
 #include "pictures/picture_rows.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 /// The rows of a run-length-encoded bitmap. Pixels that the file skips, or that it ends before,
 /// have the colour of palette entry 0; what lies outside the picture is left out. Null when the
 /// picture is large and the file far too small for it. `file` must outlive the rows.
-std::unique_ptr<PictureRows> OpenBmpRle(FileBytes file, const BmpHeader& header);
+std::unique_ptr<pictures::PictureRows> OpenBmpRle(pictures::FileBytes file,
+                                                  const BmpHeader& header);
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

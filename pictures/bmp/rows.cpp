@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace vistrel {
+namespace vistrel::bmp {
 namespace {
 
 // One colour of a 16- or 32-bit pixel: full[(pixel & mask) >> shift] is its value up to 255.
@@ -33,10 +33,10 @@ Channel MakeChannel(std::uint32_t mask) {
     return channel;
 }
 
-class BmpRows : public PictureRows {
+class BmpRows : public pictures::PictureRows {
  public:
-    BmpRows(FileBytes pixels, const BmpHeader& header)
-        : PictureRows(header.width, header.height), header_(header), pixels_(pixels) {
+    BmpRows(pictures::FileBytes pixels, const BmpHeader& header)
+        : pictures::PictureRows(header.width, header.height), header_(header), pixels_(pixels) {
         for (int i = 0; i < 3; ++i) channels_[i] = MakeChannel(header.masks[i]);
     }
 
@@ -49,7 +49,7 @@ class BmpRows : public PictureRows {
     void UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const;
 
     const BmpHeader header_;
-    FileBytes pixels_;
+    pictures::FileBytes pixels_;
     std::array<Channel, 3> channels_;
     std::vector<std::uint8_t> cutRow_;  // the row in which the file ends, made up with zeros
     int y_ = 0;                         // of the next row
@@ -107,10 +107,11 @@ void BmpRows::UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const {
 
 }  // namespace
 
-std::unique_ptr<PictureRows> OpenBmpRows(FileBytes file, const BmpHeader& header) {
-    const FileBytes pixels = file.subspan(std::min(header.pixelOffset, file.size()));
+std::unique_ptr<pictures::PictureRows> OpenBmpRows(pictures::FileBytes file,
+                                                   const BmpHeader& header) {
+    const pictures::FileBytes pixels = file.subspan(std::min(header.pixelOffset, file.size()));
     if (pixels.size() < header.RowBytes() * header.height / 10) return nullptr;
     return std::make_unique<BmpRows>(pixels, header);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

@@ -4,11 +4,12 @@
 #include "pictures/bmp/header.h"
 #include "pictures/picture_rows.h"
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 /// The rows of an uncompressed bitmap. Pixels that the file does not have any more are read as if
 /// their bytes were 0. Null when more than nine tenths of the pixels are not in the file: then
 /// nobody would recognise the picture. `file` must outlive the rows.
-std::unique_ptr<PictureRows> OpenBmpRows(FileBytes file, const BmpHeader& header);
+std::unique_ptr<pictures::PictureRows> OpenBmpRows(pictures::FileBytes file,
+                                                   const BmpHeader& header);
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-namespace vistrel {
+namespace vistrel::bmp {
 namespace {
 
 constexpr std::size_t kFileHeader = 14;
@@ -124,4 +124,4 @@ bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& by
     return false;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

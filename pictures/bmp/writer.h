@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::bmp {
 
 /// The bytes of an uncompressed 8-bit bitmap: `indices` holds width * height bytes from the top,
 /// `palette` `colors` entries (2 to 256) of blue, green, red, 0. The header's biClrUsed is 0 (which
@@ -19,4 +19,4 @@ std::vector<std::uint8_t> ColormappedBmp(const std::uint8_t* indices, int width,
 /// the file could not be written; `path` is then as it was.
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes);
 
-}  // namespace vistrel
+}  // namespace vistrel::bmp

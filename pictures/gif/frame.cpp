@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::gif {
 namespace {
 
 constexpr int kFirst[] = {0, 4, 2, 1};
@@ -46,4 +46,4 @@ void GifFrameRows::DrawNext(std::uint8_t* rgb, int screenWidth) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::gif

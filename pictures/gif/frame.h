@@ -6,7 +6,7 @@
 
 #include "pictures/gif/lzw.h"
 
-namespace vistrel {
+namespace vistrel::gif {
 
 /// Red, green and blue of each colour number, black where the file has no entry.
 using GifPalette = std::array<std::array<std::uint8_t, 3>, 1 << GifLzw::kMostLiteralBits>;
@@ -40,4 +40,4 @@ class GifFrameRows {
     std::vector<GifColor> colors_;  // of one row
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::gif

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::gif {
 
 // False behind the last block, which an empty one or the end of the file follows.
 bool GifData::BeginBlock() {
@@ -107,4 +107,4 @@ void GifLzw::Spell(int code, GifColor* colors) const {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::gif

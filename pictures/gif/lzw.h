@@ -5,14 +5,15 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::gif {
 
 /// The compressed data of one GIF picture, which lie in sub-blocks of up to 255 bytes. The last one
 /// may be cut short.
 class GifData {
  public:
     /// `start` is where the first sub-block begins in `file`.
-    GifData(FileBytes file, std::size_t start) : file_(file), next_(start), blockEnd_(start) {}
+    GifData(pictures::FileBytes file, std::size_t start)
+        : file_(file), next_(start), blockEnd_(start) {}
 
     /// The next byte; -1 at the end.
     int Next() {
@@ -23,7 +24,7 @@ class GifData {
  private:
     bool BeginBlock();
 
-    FileBytes file_;
+    pictures::FileBytes file_;
     std::size_t next_;
     std::size_t blockEnd_;
 };
@@ -86,4 +87,4 @@ class GifLzw {
     std::array<GifColor, kMostCodes> spelt_{};  // the string of code_ when a part of it was read
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::gif

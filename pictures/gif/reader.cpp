@@ -7,7 +7,7 @@
 #include "pictures/gif/frame.h"
 #include "pictures/little_endian.h"
 
-namespace vistrel {
+namespace vistrel::gif {
 
 namespace {
 
@@ -30,11 +30,14 @@ constexpr std::uint8_t kPlainText = 0x01;
 constexpr std::int64_t kMostPixelsInAByte = 2729;
 
 // The picture over its screen.
-class GifRows : public PictureRows {
+class GifRows : public pictures::PictureRows {
  public:
     GifRows(int width, int height, const GifFrame& frame, const Color& ground,
             const GifLzw& decoder)
-        : PictureRows(width, height), frame_(frame), ground_(ground), rows_(frame_, decoder) {}
+        : pictures::PictureRows(width, height),
+          frame_(frame),
+          ground_(ground),
+          rows_(frame_, decoder) {}
 
     void ReadNext(std::uint8_t* rgb) override {
         for (int x = 0; x < width(); ++x) std::copy_n(ground_.begin(), 3, rgb + 3 * x);
@@ -51,15 +54,15 @@ class GifRows : public PictureRows {
 
 class GifFile {
  public:
-    explicit GifFile(FileBytes file) : file_(file) {}
+    explicit GifFile(pictures::FileBytes file) : file_(file) {}
 
-    std::unique_ptr<PictureRows> FirstPicture() {
+    std::unique_ptr<pictures::PictureRows> FirstPicture() {
         if (!IsGif()) return nullptr;
-        width_ = static_cast<int>(Word(file_, 6));
-        height_ = static_cast<int>(Word(file_, 8));
+        width_ = static_cast<int>(pictures::Word(file_, 6));
+        height_ = static_cast<int>(pictures::Word(file_, 8));
         offset_ = kScreenHeader;
         UseGreys();
-        ReadBackground(ReadPalette(Byte(file_, 10), globalPalette_));
+        ReadBackground(ReadPalette(pictures::Byte(file_, 10), globalPalette_));
         return FindFrame() ? Open() : nullptr;
     }
 
@@ -78,7 +81,7 @@ class GifFile {
 
     // A background that the palette does not have is left white.
     void ReadBackground(std::size_t paletteEntries) {
-        const std::uint32_t color = Byte(file_, 11);
+        const std::uint32_t color = pictures::Byte(file_, 11);
         if (color < paletteEntries) background_ = globalPalette_[color];
     }
 
@@ -89,7 +92,7 @@ class GifFile {
         const std::size_t entries = std::size_t{2} << (flags & 7);
         palette = {};
         for (std::size_t i = 0; i < entries * 3; ++i) {
-            palette[i / 3][i % 3] = static_cast<std::uint8_t>(Byte(file_, offset_ + i));
+            palette[i / 3][i % 3] = static_cast<std::uint8_t>(pictures::Byte(file_, offset_ + i));
         }
         offset_ += entries * 3;
         return entries;
@@ -116,10 +119,11 @@ class GifFile {
     }
 
     void ReadExtension() {
-        const std::uint32_t kind = Byte(file_, offset_++);
+        const std::uint32_t kind = pictures::Byte(file_, offset_++);
         if (kind == kGraphicControl) {
-            const bool transparent = (Byte(file_, offset_ + 1) & 1) != 0;
-            frame_.transparent = transparent ? static_cast<int>(Byte(file_, offset_ + 4)) : -1;
+            const bool transparent = (pictures::Byte(file_, offset_ + 1) & 1) != 0;
+            frame_.transparent =
+                transparent ? static_cast<int>(pictures::Byte(file_, offset_ + 4)) : -1;
         } else if (kind == kPlainText) {
             frame_.transparent = -1;  // the graphic control before a text is the text's
         }
@@ -129,16 +133,16 @@ class GifFile {
     // Reads where the picture lies; offset_ stays.
     bool ReadFrame() {
         if (file_.size() - offset_ < kFrameHeader) return false;
-        frame_.left = static_cast<int>(Word(file_, offset_));
-        frame_.top = static_cast<int>(Word(file_, offset_ + 2));
-        frame_.width = static_cast<int>(Word(file_, offset_ + 4));
-        frame_.height = static_cast<int>(Word(file_, offset_ + 6));
-        frame_.interlaced = (Byte(file_, offset_ + 8) & 0x40) != 0;
+        frame_.left = static_cast<int>(pictures::Word(file_, offset_));
+        frame_.top = static_cast<int>(pictures::Word(file_, offset_ + 2));
+        frame_.width = static_cast<int>(pictures::Word(file_, offset_ + 4));
+        frame_.height = static_cast<int>(pictures::Word(file_, offset_ + 6));
+        frame_.interlaced = (pictures::Byte(file_, offset_ + 8) & 0x40) != 0;
         return true;
     }
 
     void PassOverFrame() {
-        const std::uint32_t flags = Byte(file_, offset_ + 8);
+        const std::uint32_t flags = pictures::Byte(file_, offset_ + 8);
         const std::size_t palette = (flags & 0x80) != 0 ? std::size_t{6} << (flags & 7) : 0;
         offset_ += kFrameHeader + palette + 1;  // the last one: how many bits its codes have
         PassOverSubBlocks();
@@ -146,19 +150,20 @@ class GifFile {
     }
 
     // A screen without an extent is as large as its picture.
-    std::unique_ptr<PictureRows> Open() {
+    std::unique_ptr<pictures::PictureRows> Open() {
         frame_.palette = globalPalette_;
-        const std::uint32_t flags = Byte(file_, offset_ + 8);
+        const std::uint32_t flags = pictures::Byte(file_, offset_ + 8);
         offset_ += kFrameHeader;
         ReadPalette(flags, frame_.palette);
         if (width_ == 0) width_ = frame_.left + frame_.width;
         if (height_ == 0) height_ = frame_.top + frame_.height;
         const std::size_t bytesLeft = file_.size() - std::min(file_.size(), offset_);
-        if (!IsPlausibleSize(frame_.width, frame_.height) || !IsPlausibleSize(width_, height_) ||
-            !EnoughBytes(bytesLeft, std::int64_t{width_} * height_, kMostPixelsInAByte)) {
+        if (!pictures::IsPlausibleSize(frame_.width, frame_.height) ||
+            !pictures::IsPlausibleSize(width_, height_) ||
+            !pictures::EnoughBytes(bytesLeft, std::int64_t{width_} * height_, kMostPixelsInAByte)) {
             return nullptr;
         }
-        const int literalBits = static_cast<int>(Byte(file_, offset_++));
+        const int literalBits = static_cast<int>(pictures::Byte(file_, offset_++));
         if (literalBits < 1 || literalBits > GifLzw::kMostLiteralBits) return nullptr;
         GifLzw decoder(GifData(file_, offset_), literalBits);
         if (decoder.IsAtEnd()) return nullptr;
@@ -175,7 +180,7 @@ class GifFile {
         }
     }
 
-    FileBytes file_;
+    pictures::FileBytes file_;
     std::size_t offset_ = 0;
     int width_ = 0;  // of the logical screen
     int height_ = 0;
@@ -186,12 +191,14 @@ class GifFile {
 
 }  // namespace
 
-std::unique_ptr<PictureRows> OpenGif(FileBytes file) { return GifFile(file).FirstPicture(); }
-
-std::optional<RgbPicture> ReadGif(FileBytes file) {
-    const std::unique_ptr<PictureRows> rows = OpenGif(file);
-    if (!rows) return std::nullopt;
-    return ReadAll(*rows);
+std::unique_ptr<pictures::PictureRows> OpenGif(pictures::FileBytes file) {
+    return GifFile(file).FirstPicture();
 }
 
-}  // namespace vistrel
+std::optional<pictures::RgbPicture> ReadGif(pictures::FileBytes file) {
+    const std::unique_ptr<pictures::PictureRows> rows = OpenGif(file);
+    if (!rows) return std::nullopt;
+    return pictures::ReadAll(*rows);
+}
+
+}  // namespace vistrel::gif

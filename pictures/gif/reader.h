@@ -3,16 +3,16 @@
 
 #include "pictures/picture_rows.h"
 
-namespace vistrel {
+namespace vistrel::gif {
 
 /// The rows of the first picture of a GIF file that has an extent, composed over its logical
 /// screen. Transparent pixels are white; what the picture leaves uncovered is white too if it has a
 /// transparent colour, and otherwise the file's background colour: a picture that knows no
 /// transparency is meant to stand on that. Null when the file is no GIF or holds no picture. A file
 /// that is cut short gives the rows that it has. `file` must outlive the rows.
-std::unique_ptr<PictureRows> OpenGif(FileBytes file);
+std::unique_ptr<pictures::PictureRows> OpenGif(pictures::FileBytes file);
 
 /// All of them.
-std::optional<RgbPicture> ReadGif(FileBytes file);
+std::optional<pictures::RgbPicture> ReadGif(pictures::FileBytes file);
 
-}  // namespace vistrel
+}  // namespace vistrel::gif

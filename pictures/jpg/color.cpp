@@ -9,7 +9,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // The weights of JFIF, less the nearest whole numbers, times 65,536: so no product of theirs with a
@@ -228,4 +228,4 @@ void ConvertFineRow(const JpgColorKind& kind, const std::int16_t* const* rows, i
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -3,7 +3,7 @@
 
 #include "pictures/jpg/frame.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// How a file's components are to be shown.
 struct JpgColorKind {
@@ -24,4 +24,4 @@ inline constexpr int kFineBits = 6;
 void ConvertFineRow(const JpgColorKind& kind, const std::int16_t* const* rows, int width,
                     std::uint8_t* rgb);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -5,7 +5,7 @@
 #include "pictures/jpg/scan/progressive.h"
 #include "pictures/jpg/scan/sequential.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // A picture is shown when this part of it is there.
@@ -27,7 +27,7 @@ bool HasFirstComponent(const JpgScan& scan) {
 }
 
 // Every block takes a bit of the file at least, so that a short file cannot have a large picture.
-bool CanHoldEnough(FileBytes file, const JpgFrame& frame) {
+bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
     std::int64_t blocks = 0;
     for (const JpgComponent& component : frame.components) {
         blocks += static_cast<std::int64_t>(component.blocksAcross) * component.blocksDown;
@@ -35,8 +35,8 @@ bool CanHoldEnough(FileBytes file, const JpgFrame& frame) {
     return static_cast<std::int64_t>(file.size()) * 8 * kLeastPart >= blocks;
 }
 
-bool ReadSequential(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
-                    BlockRowTaker& taker) {
+bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
+                    std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
     const JpgFrame& frame = markers.frame();
     std::vector<bool> taken(frame.components.size());
     std::size_t left = taken.size();
@@ -70,8 +70,8 @@ bool ReadSequential(FileBytes file, JpgMarkers& markers, std::span<const KeptFre
     return isEnough;
 }
 
-bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
-                     BlockRowTaker& taker) {
+bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
+                     std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
     const JpgFrame& frame = markers.frame();
     std::vector<ProgressiveComponent> components;
     std::int64_t visitsLeft = static_cast<std::int64_t>(file.size()) * kMostVisits;
@@ -116,7 +116,7 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
     return bytes;
 }
 
-bool HasEnough(FileBytes file) {
+bool HasEnough(pictures::FileBytes file) {
     struct PassOver : BlockRowTaker {
         void TakeBlockRow(int, int, const std::int16_t*) override {}
     } passOver;
@@ -127,11 +127,11 @@ bool HasEnough(FileBytes file) {
     return ReadCoefficients(file, markers, means, passOver);
 }
 
-bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
-                      BlockRowTaker& taker) {
+bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+                      std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
     if (!CanHoldEnough(file, markers.frame())) return false;
     return markers.frame().progressive ? ReadProgressive(file, markers, kept, taker)
                                        : ReadSequential(file, markers, kept, taker);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

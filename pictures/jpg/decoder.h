@@ -6,7 +6,7 @@
 #include "pictures/jpg/markers.h"
 #include "pictures/jpg/scan/coefficients.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The memory that ReadCoefficients takes for what it has to keep: nothing to speak of unless the
 /// file is progressive.
@@ -16,11 +16,11 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
 /// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
 /// which stand for grey. False when the file has not even a tenth of the picture; `taker` has then
 /// had some rows or none.
-bool ReadCoefficients(FileBytes file, JpgMarkers& markers, std::span<const KeptFrequencies> kept,
-                      BlockRowTaker& taker);
+bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+                      std::span<const KeptFrequencies> kept, BlockRowTaker& taker);
 
 /// Whether ReadCoefficients would find a tenth of the picture in a file: told without the memory
 /// for all of it.
-bool HasEnough(FileBytes file);
+bool HasEnough(pictures::FileBytes file);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr std::uint8_t kExifMark[6] = {'E', 'x', 'i', 'f', 0, 0};
@@ -16,7 +16,7 @@ constexpr unsigned kShortType = 3;
 
 // Numbers of a TIFF structure, in the byte order that its header names. Beyond the end they are 0.
 struct TiffNumbers {
-    FileBytes bytes;
+    pictures::FileBytes bytes;
     bool bigEndian;
 
     unsigned Byte(std::size_t at) const { return at < bytes.size() ? bytes[at] : 0; }
@@ -52,10 +52,10 @@ Turning TurningOf(int orientation) {
     }
 }
 
-int ReadExifOrientation(FileBytes segment) {
+int ReadExifOrientation(pictures::FileBytes segment) {
     if (segment.size() < sizeof kExifMark + kHeaderBytes) return 0;
     if (std::memcmp(segment.data(), kExifMark, sizeof kExifMark) != 0) return 0;
-    const FileBytes tiff = segment.subspan(sizeof kExifMark);
+    const pictures::FileBytes tiff = segment.subspan(sizeof kExifMark);
     if (tiff[0] != tiff[1] || (tiff[0] != 'I' && tiff[0] != 'M')) return 0;
     const TiffNumbers numbers{tiff, tiff[0] == 'M'};
     const std::size_t directory = numbers.Long(4);
@@ -104,4 +104,4 @@ void UprightPlace::PutRow(const std::uint8_t* row, int y, std::uint8_t* pixels) 
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -3,7 +3,7 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// How a stored picture is turned upright: the sides are swapped first (the pixel of column x and
 /// row y goes to column y and row x), then the result is mirrored left to right and top to bottom.
@@ -18,7 +18,7 @@ Turning TurningOf(int orientation);
 
 /// The orientation that the content of an APP1 segment gives, 1 to 8; 0 when the segment is not
 /// EXIF data or gives none.
-int ReadExifOrientation(FileBytes segment);
+int ReadExifOrientation(pictures::FileBytes segment);
 
 /// Where the pixels of a stored picture go in the upright one.
 class UprightPlace {
@@ -42,4 +42,4 @@ class UprightPlace {
     std::ptrdiff_t stepY_;   // to the one below
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -7,7 +7,7 @@
 
 #include "pictures/jpg/entropy/huffman.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The steps of a component's coefficients, in the file's (zigzag) order.
 using QuantTable = std::array<std::uint16_t, kBlockSize>;
@@ -72,4 +72,4 @@ struct JpgTables {
     int restartInterval = 0;  ///< interleaved units between restart markers, 0 for none
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

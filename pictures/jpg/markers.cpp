@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr int kBaseline = 0xC0, kExtended = 0xC1, kProgressive = 0xC2;
@@ -16,7 +16,7 @@ constexpr int kQuantTables = 0xDB, kLines = 0xDC, kRestartInterval = 0xDD;
 constexpr int kJfif = 0xE0, kExif = 0xE1, kAdobe = 0xEE, kComment = 0xFE;
 constexpr int kTemporary = 0x01;
 
-int Word(FileBytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
+int Word(pictures::FileBytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
 
 int DivideUp(int value, int by) { return (value + by - 1) / by; }
 
@@ -36,7 +36,8 @@ bool IsNeedless(int marker) {
 
 }  // namespace
 
-JpgMarkers::JpgMarkers(FileBytes file) : file_(file), tables_(std::make_unique<JpgTables>()) {
+JpgMarkers::JpgMarkers(pictures::FileBytes file)
+    : file_(file), tables_(std::make_unique<JpgTables>()) {
     const bool isJpg = file.size() > 3 && file[0] == 0xFF && file[1] == kStart;
     position_ = isJpg ? 2 : file.size();
 }
@@ -55,7 +56,7 @@ bool JpgMarkers::NextScan() {
         if (given < 2 && !IsNeedless(marker)) return false;
         const std::size_t length = std::max<std::size_t>(given, 2);
         if (position_ + length > file_.size()) return false;
-        const FileBytes content = file_.subspan(position_ + 2, length - 2);
+        const pictures::FileBytes content = file_.subspan(position_ + 2, length - 2);
         position_ += length;
         if (!ReadSegment(marker, content)) return false;
         if (marker == kScan) return true;
@@ -63,7 +64,7 @@ bool JpgMarkers::NextScan() {
 }
 
 // False when the file cannot be read on.
-bool JpgMarkers::ReadSegment(int marker, FileBytes content) {
+bool JpgMarkers::ReadSegment(int marker, pictures::FileBytes content) {
     if (IsFrame(marker)) {
         if (marker != kBaseline && marker != kExtended && marker != kProgressive) return false;
         frame_.progressive = marker == kProgressive;
@@ -79,14 +80,14 @@ bool JpgMarkers::ReadSegment(int marker, FileBytes content) {
     return true;
 }
 
-bool JpgMarkers::ReadFrame(FileBytes content) {
+bool JpgMarkers::ReadFrame(pictures::FileBytes content) {
     if (content.size() < 6 || content[0] != 8) return false;
     frame_.height = Word(content, 1);
     frame_.width = Word(content, 3);
     const std::size_t count = content[5];
     if ((count != 1 && count != 3 && count != 4) || content.size() < 6 + count * 3) return false;
     for (std::size_t i = 0; i < count; ++i) {
-        const FileBytes entry = content.subspan(6 + i * 3, 3);
+        const pictures::FileBytes entry = content.subspan(6 + i * 3, 3);
         JpgComponent component;
         component.id = entry[0];
         component.across = entry[1] >> 4;
@@ -105,7 +106,7 @@ bool JpgMarkers::ReadFrame(FileBytes content) {
 
 // Works out how many samples and blocks each component has, once the height is known.
 bool JpgMarkers::LayOut() {
-    if (!IsPlausibleSize(frame_.width, frame_.height)) return false;
+    if (!pictures::IsPlausibleSize(frame_.width, frame_.height)) return false;
     frame_.unitsAcross = DivideUp(frame_.width, 8 * frame_.maxAcross);
     frame_.unitsDown = DivideUp(frame_.height, 8 * frame_.maxDown);
     for (JpgComponent& component : frame_.components) {
@@ -119,7 +120,7 @@ bool JpgMarkers::LayOut() {
     return true;
 }
 
-bool JpgMarkers::ReadScan(FileBytes content) {
+bool JpgMarkers::ReadScan(pictures::FileBytes content) {
     if (frame_.components.empty() || content.empty()) return false;
     const std::size_t count = content[0];
     if (count < 1 || count > 4 || content.size() < 4 + count * 2) return false;
@@ -144,7 +145,7 @@ bool JpgMarkers::ReadScan(FileBytes content) {
         }
     }
     if (frame_.progressive) {
-        const FileBytes band = content.subspan(1 + count * 2, 3);
+        const pictures::FileBytes band = content.subspan(1 + count * 2, 3);
         scan_.first = band[0];
         scan_.last = band[1];
         scan_.high = band[2] >> 4;
@@ -186,7 +187,7 @@ int JpgMarkers::HeightBehindScan() const {
     return isThere ? Word(file_, at + 4) : 0;
 }
 
-bool JpgMarkers::ReadQuantTables(FileBytes content) {
+bool JpgMarkers::ReadQuantTables(pictures::FileBytes content) {
     while (!content.empty()) {
         const std::size_t width = content[0] >> 4 ? 2 : 1;
         const std::size_t index = content[0] & 15;
@@ -201,12 +202,12 @@ bool JpgMarkers::ReadQuantTables(FileBytes content) {
     return true;
 }
 
-bool JpgMarkers::ReadHuffmanTables(FileBytes content) {
+bool JpgMarkers::ReadHuffmanTables(pictures::FileBytes content) {
     constexpr std::size_t kLengths = 16;
     while (content.size() > kLengths) {
         const bool isAc = content[0] >> 4 != 0;
         const std::size_t index = content[0] & 15;
-        const FileBytes counts = content.subspan(1, kLengths);
+        const pictures::FileBytes counts = content.subspan(1, kLengths);
         std::size_t symbols = 0;
         for (const std::uint8_t count : counts) symbols += count;
         if (index > 3 || content.size() < 1 + kLengths + symbols) return false;
@@ -217,7 +218,7 @@ bool JpgMarkers::ReadHuffmanTables(FileBytes content) {
     return true;
 }
 
-void JpgMarkers::ReadApplication(int marker, FileBytes content) {
+void JpgMarkers::ReadApplication(int marker, pictures::FileBytes content) {
     if (marker == kJfif && content.size() >= 5 && std::memcmp(content.data(), "JFIF", 5) == 0) {
         hasJfif_ = true;
     }
@@ -247,4 +248,4 @@ JpgColor JpgMarkers::Color() const {
     return namedRgb ? JpgColor::Rgb : JpgColor::Ycc;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

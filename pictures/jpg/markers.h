@@ -6,13 +6,13 @@
 #include "pictures/jpg/exif_orientation.h"
 #include "pictures/jpg/frame.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Reads the segments of a file in order. NextScan stops behind each scan header; the caller reads
 /// the coded data and says by ContinueAt where they ended.
 class JpgMarkers {
  public:
-    explicit JpgMarkers(FileBytes file);
+    explicit JpgMarkers(pictures::FileBytes file);
 
     /// Goes on to the next scan. False at the end of the picture and when nothing further can be
     /// understood. The frame is there when this has been true once.
@@ -37,19 +37,19 @@ class JpgMarkers {
     bool InksAreInverted() const { return adobeTransform_ >= 0; }
 
  private:
-    bool ReadSegment(int marker, FileBytes content);
-    bool ReadFrame(FileBytes content);
+    bool ReadSegment(int marker, pictures::FileBytes content);
+    bool ReadFrame(pictures::FileBytes content);
     bool LayOut();
-    bool ReadScan(FileBytes content);
-    bool ReadQuantTables(FileBytes content);
-    bool ReadHuffmanTables(FileBytes content);
-    void ReadApplication(int marker, FileBytes content);
+    bool ReadScan(pictures::FileBytes content);
+    bool ReadQuantTables(pictures::FileBytes content);
+    bool ReadHuffmanTables(pictures::FileBytes content);
+    void ReadApplication(int marker, pictures::FileBytes content);
     void SupplyUsualTables();
     template <class UseTable>
     bool ForEachTable(UseTable use);
     int HeightBehindScan() const;
 
-    FileBytes file_;
+    pictures::FileBytes file_;
     std::size_t position_ = 0;
     JpgFrame frame_;
     JpgScan scan_;
@@ -59,4 +59,4 @@ class JpgMarkers {
     int adobeTransform_ = -1;  // -1: no such segment
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -11,7 +11,7 @@
 #include "pictures/jpg/upsample.h"
 #include "pictures/jpg/whole.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // Makes a plane of samples of each component.
@@ -45,10 +45,11 @@ class PlaneMaker : public BlockRowTaker {
     std::vector<BlockSteps> steps_;
 };
 
-RgbPicture MakePicture(const JpgMarkers& markers, const std::vector<SamplePlane>& planes) {
+pictures::RgbPicture MakePicture(const JpgMarkers& markers,
+                                 const std::vector<SamplePlane>& planes) {
     const JpgFrame& frame = markers.frame();
     const UprightPlace place(TurningOf(markers.orientation()), frame.width, frame.height);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = place.width();
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(frame.width) *
@@ -74,10 +75,10 @@ std::vector<KeptFrequencies> AllFrequencies(const JpgFrame& frame) {
 
 // True of a large picture with less than a byte a block: before memory is asked for it, a look is
 // taken whether it is there.
-bool IsSuspect(FileBytes file, const JpgFrame& frame) {
+bool IsSuspect(pictures::FileBytes file, const JpgFrame& frame) {
     const std::int64_t pixels = std::int64_t{frame.width} * frame.height;
     const std::int64_t blocks = pixels / kBlockSize;
-    return pixels > kDecodedAnyway && static_cast<std::int64_t>(file.size()) < blocks;
+    return pixels > pictures::kDecodedAnyway && static_cast<std::int64_t>(file.size()) < blocks;
 }
 
 }  // namespace
@@ -93,14 +94,14 @@ std::int64_t BytesToReadWhole(const JpgFrame& frame) {
     return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
 }
 
-bool IsJpgToBeTurned(FileBytes file) {
+bool IsJpgToBeTurned(pictures::FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return false;
     const Turning turning = TurningOf(markers.orientation());
     return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
 }
 
-std::optional<RgbPicture> ReadJpg(FileBytes file) {
+std::optional<pictures::RgbPicture> ReadJpg(pictures::FileBytes file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();
@@ -111,4 +112,4 @@ std::optional<RgbPicture> ReadJpg(FileBytes file) {
     return MakePicture(markers, maker.planes());
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -11,7 +11,7 @@
 #include "pictures/jpg/whole.h"
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 struct Size {
@@ -65,8 +65,8 @@ int SpreadOf(bool isHalf, int frequencies) {
 
 // An axis of a component of which `frequencies` a block are kept: `part` / `whole` of the frame's
 // samples, of which each eight become so many.
-ScaleAxis AxisOf(int frameSamples, int part, int whole, int frequencies, int target) {
-    ScaleAxis axis;
+scale::ScaleAxis AxisOf(int frameSamples, int part, int whole, int frequencies, int target) {
+    scale::ScaleAxis axis;
     axis.extent65536 = (std::int64_t{frameSamples} * part * frequencies << 16) / (whole * 8);
     axis.samples = static_cast<int>((axis.extent65536 + 65535) >> 16);
     axis.target = target;
@@ -109,19 +109,19 @@ class ComponentScalers : public BlockRowTaker {
  private:
     struct Channel {
         std::unique_ptr<ReducedInverse> inverse;
-        std::unique_ptr<PlaneScaler> scaler;
+        std::unique_ptr<scale::PlaneScaler> scaler;
         std::vector<std::int16_t> rows;  // of samples, from one row of blocks
         int rowsLeft = 0;
     };
 
     // A component's steps are known from its first scan on.
     void Begin(const JpgComponent& component, const KeptFrequencies& kept, Channel& channel) {
-        const ScaleAxis across =
+        const scale::ScaleAxis across =
             AxisOf(frame_.width, component.across, frame_.maxAcross, kept.across, target_.width);
-        const ScaleAxis down =
+        const scale::ScaleAxis down =
             AxisOf(frame_.height, component.down, frame_.maxDown, kept.down, target_.height);
         channel.inverse = std::make_unique<ReducedInverse>(kept, component.quant);
-        channel.scaler = std::make_unique<PlaneScaler>(across, down);
+        channel.scaler = std::make_unique<scale::PlaneScaler>(across, down);
         channel.rows.resize(static_cast<std::size_t>(component.blocksAcross * kept.across) *
                             static_cast<std::size_t>(kept.down));
         channel.rowsLeft = down.samples;
@@ -172,15 +172,17 @@ std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size target) {
     return kept;
 }
 
-std::optional<ScaledPicture> ReadWhole(FileBytes file, int width, int height) {
-    const std::optional<RgbPicture> whole = ReadJpg(file);
+std::optional<pictures::ScaledPicture> ReadWhole(pictures::FileBytes file, int width, int height) {
+    const std::optional<pictures::RgbPicture> whole = ReadJpg(file);
     if (!whole) return std::nullopt;
-    return ScaledPicture{Resize(*whole, width, height), whole->width, whole->height};
+    return pictures::ScaledPicture{scale::Resize(*whole, width, height), whole->width,
+                                   whole->height};
 }
 
-RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers, Size stored) {
+pictures::RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scalers,
+                                 Size stored) {
     const UprightPlace place(TurningOf(markers.orientation()), stored.width, stored.height);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = place.width();
     picture.height = place.height();
     picture.pixels.resize(static_cast<std::size_t>(stored.width) *
@@ -196,9 +198,10 @@ RgbPicture MakePicture(const JpgMarkers& markers, const ComponentScalers& scaler
 
 }  // namespace
 
-std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height) {
+std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, int width,
+                                                     int height) {
     JpgMarkers markers(file);
-    if (!IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
+    if (!pictures::IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();
     // The target of the picture as it lies in the file.
     const bool isTurned = TurningOf(markers.orientation()).swapSides;
@@ -208,14 +211,14 @@ std::optional<ScaledPicture> ReadJpgScaled(FileBytes file, int width, int height
     const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, colors);
     ComponentScalers scalers(frame, kept, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
-    ScaledPicture result;
+    pictures::ScaledPicture result;
     result.picture = MakePicture(markers, scalers, colors);
     if (colors.width != target.width || colors.height != target.height) {
-        result.picture = Resize(result.picture, width, height);
+        result.picture = scale::Resize(result.picture, width, height);
     }
     result.fileWidth = isTurned ? frame.height : frame.width;
     result.fileHeight = isTurned ? frame.width : frame.height;
     return result;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

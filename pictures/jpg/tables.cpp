@@ -1,7 +1,7 @@
 // The usual Huffman codes of JPEG files.
 #include "pictures/jpg/tables.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 using std::uint8_t;
@@ -51,4 +51,4 @@ HuffmanCode UsualAcCode(bool chroma) {
     return {kAcLumaCounts, kAcLumaSymbols};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Coefficients in a block of 8 x 8.
 inline constexpr int kBlockSize = 64;
@@ -30,4 +30,4 @@ struct HuffmanCode {
 HuffmanCode UsualDcCode(bool chroma);
 HuffmanCode UsualAcCode(bool chroma);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 Upsampler::Upsampler(const JpgFrame& frame, const JpgComponent& component, const SamplePlane& plane)
     : component_(component),
@@ -81,4 +81,4 @@ void Upsampler::Repeat(const std::uint8_t* row) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

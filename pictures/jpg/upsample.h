@@ -6,7 +6,7 @@
 
 #include "pictures/jpg/frame.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The samples of one component, 8 bits each.
 struct SamplePlane {
@@ -44,4 +44,4 @@ class Upsampler {
     std::vector<std::uint8_t> row_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -9,13 +9,13 @@
 #include "pictures/screen/indexed_screen.h"
 #include "pictures/whole_file.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 struct ScreenAnimation::State {
-    IndexedScreen screen;
+    screen::IndexedScreen screen;
     std::vector<std::uint8_t> rows;  ///< as Windows draws them: padded to multiples of four
     HPALETTE palette = nullptr;      ///< the screen's own colours, on a display with a palette
-    PictureBox* box = nullptr;
+    controls::PictureBox* box = nullptr;
 
     ~State() {
         if (palette) DeleteObject(palette);
@@ -24,7 +24,7 @@ struct ScreenAnimation::State {
 
 namespace {
 
-std::vector<std::uint8_t> PaddedRows(const IndexedScreen& screen) {
+std::vector<std::uint8_t> PaddedRows(const screen::IndexedScreen& screen) {
     const std::size_t stride = (static_cast<std::size_t>(screen.width) + 3) & ~std::size_t{3};
     std::vector<std::uint8_t> rows(stride * screen.height);
     for (int y = 0; y < screen.height; ++y)
@@ -36,7 +36,7 @@ std::vector<std::uint8_t> PaddedRows(const IndexedScreen& screen) {
 /// All 256 colours, from the first that moves to the last one before it: the system has room for
 /// 236 beside its own and takes them in order, and those that move must not be left out. They are
 /// reserved, so that the system lets us change them.
-void FillEntries(const IndexedScreen& screen, PALETTEENTRY* entries) {
+void FillEntries(const screen::IndexedScreen& screen, PALETTEENTRY* entries) {
     for (int i = 0; i < 256; ++i) {
         const int from = (screen.firstAnimated + i) % 256;
         const auto& color = screen.palette[from];
@@ -45,7 +45,7 @@ void FillEntries(const IndexedScreen& screen, PALETTEENTRY* entries) {
     }
 }
 
-HPALETTE OwnPalette(const IndexedScreen& screen) {
+HPALETTE OwnPalette(const screen::IndexedScreen& screen) {
     struct {
         WORD version = 0x300;
         WORD count = 256;
@@ -64,9 +64,9 @@ ScreenAnimation::~ScreenAnimation() {
 }
 
 std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) {
-    const auto bytes = ReadWholeFile(path);
+    const auto bytes = pictures::ReadWholeFile(path);
     if (!bytes) return nullptr;
-    auto screen = ReadIndexedScreen(*bytes);
+    auto screen = screen::ReadIndexedScreen(*bytes);
     if (!screen || !screen->IsAnimated()) return nullptr;
     auto state = std::make_unique<State>();
     state->screen = std::move(*screen);
@@ -74,14 +74,14 @@ std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) 
     return std::unique_ptr<ScreenAnimation>(new ScreenAnimation(std::move(state)));
 }
 
-void ScreenAnimation::Attach(PictureBox& box) {
+void ScreenAnimation::Attach(controls::PictureBox& box) {
     state_->box = &box;
-    box.PaintInstead = [this](DeviceContext target) { Paint(target); };
-    if (DisplayHasPalette()) state_->palette = OwnPalette(state_->screen);
+    box.PaintInstead = [this](platform::DeviceContext target) { Paint(target); };
+    if (controls::DisplayHasPalette()) state_->palette = OwnPalette(state_->screen);
     box.Repaint();
 }
 
-void ScreenAnimation::Paint(DeviceContext target) {
+void ScreenAnimation::Paint(platform::DeviceContext target) {
     struct {
         BITMAPINFOHEADER header{};
         union {
@@ -115,7 +115,7 @@ void ScreenAnimation::Paint(DeviceContext target) {
 }
 
 void ScreenAnimation::Step() {
-    RotateColors(state_->screen);
+    screen::RotateColors(state_->screen);
     if (!state_->palette) {
         InvalidateRect(state_->box->handle(), nullptr, FALSE);
         return;
@@ -127,4 +127,4 @@ void ScreenAnimation::Step() {
                    entries);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

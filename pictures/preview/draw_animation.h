@@ -7,7 +7,7 @@
 
 #include "controls/picture_box.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 class ScreenAnimation {
  public:
@@ -18,16 +18,16 @@ class ScreenAnimation {
     ScreenAnimation& operator=(const ScreenAnimation&) = delete;
 
     /// Shows the screen in `box`, which has its size, from now on.
-    void Attach(PictureBox& box);
+    void Attach(controls::PictureBox& box);
     /// Moves the colours by one step. Only colours change: nothing is read or reduced again.
     void Step();
 
  private:
     struct State;
     explicit ScreenAnimation(std::unique_ptr<State> state);
-    void Paint(DeviceContext target);
+    void Paint(platform::DeviceContext target);
 
     std::unique_ptr<State> state_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

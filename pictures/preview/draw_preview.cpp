@@ -10,39 +10,40 @@
 #include "pictures/preview/draw_rgb.h"
 #include "platform/standard_picture.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 namespace {
 
 constexpr std::int16_t kGifDepth = 8;
 constexpr std::int16_t kJpgDepth = 24;
 
-void DrawOver(PictureBox& box, const std::uint8_t* rgb, int width, int height) {
+void DrawOver(controls::PictureBox& box, const std::uint8_t* rgb, int width, int height) {
     ImgDLLDrawRGB(box.Canvas(), rgb, width, height, 0, 0, box.ScaleWidth(), box.ScaleHeight(), 0);
     box.Keep();
 }
 
 /// Draws a picture scaled straight to the box: nobody here needs all of it. Its own size; empty
 /// when it cannot be read.
-std::optional<Size> DrawScaled(const std::string& path, PictureBox& target) {
-    const auto scaled = ReadPicturePreview(path, target.ScaleWidth(), target.ScaleHeight());
+std::optional<controls::Size> DrawScaled(const std::string& path, controls::PictureBox& target) {
+    const auto scaled =
+        pictures::ReadPicturePreview(path, target.ScaleWidth(), target.ScaleHeight());
     if (!scaled) {
         target.Clear();
         return std::nullopt;
     }
     DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width, scaled->picture.height);
-    return Size{scaled->fileWidth, scaled->fileHeight};
+    return controls::Size{scaled->fileWidth, scaled->fileHeight};
 }
 
-bool ShowByLoader(const std::string& path, PictureBox& box) {
-    StandardPicture standard;
-    if (!LoadStandardPicture(path, standard)) return false;
+bool ShowByLoader(const std::string& path, controls::PictureBox& box) {
+    platform::StandardPicture standard;
+    if (!platform::LoadStandardPicture(path, standard)) return false;
     box.SetScaleSize({standard.width, standard.height});
     DrawOver(box, standard.pixels.data(), standard.width, standard.height);
     return true;
 }
 
-bool ShowByReaders(const std::string& path, PictureBox& box) {
-    const auto picture = ReadPicture(path);
+bool ShowByReaders(const std::string& path, controls::PictureBox& box) {
+    const auto picture = pictures::ReadPicture(path);
     if (!picture) return false;
     box.SetScaleSize({picture->width, picture->height});
     DrawOver(box, picture->pixels.data(), picture->width, picture->height);
@@ -68,11 +69,11 @@ void ReadOs2Header(const std::string& path, std::int32_t& width, std::int32_t& h
                    std::int16_t& depth) {
     constexpr std::uint32_t kOs2HeaderSize = 12;
     const auto header = ReadHeaderBytes(path);
-    if (!header || DoubleWord(*header, 14) != kOs2HeaderSize) return;
-    const std::uint32_t across = Word(*header, 18);
-    const std::uint32_t down = Word(*header, 20);
-    const std::uint32_t bits = Word(*header, 24);
-    if (across == kLogoWidth && down == kLogoHeight && bits == 8) return;
+    if (!header || pictures::DoubleWord(*header, 14) != kOs2HeaderSize) return;
+    const std::uint32_t across = pictures::Word(*header, 18);
+    const std::uint32_t down = pictures::Word(*header, 20);
+    const std::uint32_t bits = pictures::Word(*header, 24);
+    if (across == pictures::kLogoWidth && down == pictures::kLogoHeight && bits == 8) return;
     width = static_cast<std::int32_t>(across);
     height = static_cast<std::int32_t>(down);
     depth = static_cast<std::int16_t>(bits);
@@ -84,39 +85,41 @@ void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t
                       std::int16_t& depth) {
     const auto header = ReadHeaderBytes(path);
     if (!header) return;
-    width = static_cast<std::int32_t>(DoubleWord(*header, 18));
-    height = static_cast<std::int32_t>(DoubleWord(*header, 22));
-    depth = static_cast<std::int16_t>(Word(*header, 28));
+    width = static_cast<std::int32_t>(pictures::DoubleWord(*header, 18));
+    height = static_cast<std::int32_t>(pictures::DoubleWord(*header, 22));
+    depth = static_cast<std::int16_t>(pictures::Word(*header, 28));
 }
 
-void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
+void DrawPreview(const std::string& path, controls::PictureBox& target, std::int32_t& width,
                  std::int32_t& height, std::int16_t& depth) {
     const auto size = DrawScaled(path, target);
-    const PictureFormat format = FormatOfName(path);
-    if (format == PictureFormat::Bmp) {
+    const pictures::PictureFormat format = pictures::FormatOfName(path);
+    if (format == pictures::PictureFormat::Bmp) {
         // The header tells the size even where the pixels cannot be read.
         ReadBitmapHeader(path, width, height, depth);
         if (size) ReadOs2Header(path, width, height, depth);
         return;
     }
-    depth = format == PictureFormat::Gif ? kGifDepth : kJpgDepth;
+    depth = format == pictures::PictureFormat::Gif ? kGifDepth : kJpgDepth;
     if (size) {
         width = size->width;
         height = size->height;
     }
 }
 
-void DrawPreview(const std::string& path, PictureBox& target) { DrawScaled(path, target); }
+void DrawPreview(const std::string& path, controls::PictureBox& target) {
+    DrawScaled(path, target);
+}
 
-void ShowPictureInBox(const std::string& path, PictureBox& box) {
+void ShowPictureInBox(const std::string& path, controls::PictureBox& box) {
     box.Clear();
     // Where the display has a palette, the system's loader brings a picture down to colours that
     // are there already, undithered; and a photograph it shows as it lies in the file, on its side
     // if the camera was. There it is left what our own readers do not know.
-    if (DisplayHasPalette() || IsToBeTurned(path))
+    if (controls::DisplayHasPalette() || pictures::IsToBeTurned(path))
         ShowByReaders(path, box) || ShowByLoader(path, box);
     else
         ShowByLoader(path, box) || ShowByReaders(path, box);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

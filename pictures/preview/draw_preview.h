@@ -7,25 +7,25 @@
 
 #include "controls/picture_box.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 /// Draws a BMP, SYS, GIF or JPG picture stretched over the whole of `target` and gives its size in
 /// pixels and its colour depth: 8 for GIF, 24 for JPG, the header's for anything else (as
 /// ReadBitmapHeader tells, except of OS/2 1.x bitmaps that can be drawn). What cannot be read
 /// leaves width, height and depth as they were.
-void DrawPreview(const std::string& path, PictureBox& target, std::int32_t& width,
+void DrawPreview(const std::string& path, controls::PictureBox& target, std::int32_t& width,
                  std::int32_t& height, std::int16_t& depth);
 
 /// The same for whoever does not need the facts.
-void DrawPreview(const std::string& path, PictureBox& target);
+void DrawPreview(const std::string& path, controls::PictureBox& target);
 
 /// Shows a picture at its own size, a photograph upright: makes the box's drawing area as large as
 /// the picture. What cannot be read leaves an empty box.
-void ShowPictureInBox(const std::string& path, PictureBox& box);
+void ShowPictureInBox(const std::string& path, controls::PictureBox& box);
 
 /// Reads width, height and bits a pixel from a bitmap file's header (offsets 18, 22 and 28). A
 /// missing or short file leaves them as they were.
 void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
                       std::int16_t& depth);
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

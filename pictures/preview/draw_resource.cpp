@@ -7,7 +7,7 @@
 #include "pictures/preview/draw_rgb.h"
 #include "platform/instance.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 namespace {
 
 struct Pixels {
@@ -41,9 +41,9 @@ Pixels PixelsOf(HBITMAP bitmap) {
 
 }  // namespace
 
-void ShowPictureResource(const char* name, PictureBox& box) {
+void ShowPictureResource(const char* name, controls::PictureBox& box) {
     const auto bitmap = static_cast<HBITMAP>(
-        LoadImageA(ProgramInstance(), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+        LoadImageA(platform::ProgramInstance(), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
     if (!bitmap) return;
     const Pixels pixels = PixelsOf(bitmap);
     DeleteObject(bitmap);
@@ -54,4 +54,4 @@ void ShowPictureResource(const char* name, PictureBox& box) {
     box.Keep();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

@@ -3,9 +3,9 @@
 
 #include "controls/picture_box.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 /// Shows the bitmap resource of this name in a box, at its own size.
-void ShowPictureResource(const char* name, PictureBox& box);
+void ShowPictureResource(const char* name, controls::PictureBox& box);
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

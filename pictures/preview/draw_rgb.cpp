@@ -8,7 +8,7 @@
 #include "controls/display_palette.h"
 #include "pictures/screen/display_dither.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 namespace {
 
 /// Header of a bitmap whose rows come from the top, with room for 256 colours.
@@ -43,17 +43,17 @@ std::vector<std::uint8_t> BlueGreenRedRows(const std::uint8_t* rgb, int width, i
 
 }  // namespace
 
-void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth, int pixelHeight,
-                   int x, int y, int width, int height, int) try {
+void ImgDLLDrawRGB(platform::DeviceContext target, const std::uint8_t* rgb, int pixelWidth,
+                   int pixelHeight, int x, int y, int width, int height, int) try {
     SetStretchBltMode(target, COLORONCOLOR);
-    if (HasPalette(target)) {
+    if (controls::HasPalette(target)) {
         // The display holds 256 colours: without dithering a sky would turn to bands.
         BitmapHeader header(pixelWidth, pixelHeight, 8);
         PALETTEENTRY entries[256];
-        const UINT count = GetPaletteEntries(DisplayPalette(), 0, 256, entries);
+        const UINT count = GetPaletteEntries(controls::DisplayPalette(), 0, 256, entries);
         for (UINT i = 0; i < count; ++i)
             header.colors[i] = {entries[i].peBlue, entries[i].peGreen, entries[i].peRed, 0};
-        const auto rows = DitherToDisplayColors(rgb, pixelWidth, pixelHeight);
+        const auto rows = screen::DitherToDisplayColors(rgb, pixelWidth, pixelHeight);
         StretchDIBits(target, x, y, width, height, 0, 0, pixelWidth, pixelHeight, rows.data(),
                       header.info(), DIB_RGB_COLORS, SRCCOPY);
         return;
@@ -66,4 +66,4 @@ void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth
     // Without memory nothing is drawn.
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

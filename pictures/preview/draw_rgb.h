@@ -6,11 +6,11 @@
 
 #include "platform/handles.h"
 
-namespace vistrel {
+namespace vistrel::preview {
 
 /// Draws 24-bit pixels of pixelWidth x pixelHeight at (x, y) of a device context, stretched to
 /// width x height. `reserved` is always 0.
-void ImgDLLDrawRGB(DeviceContext target, const std::uint8_t* rgb, int pixelWidth, int pixelHeight,
-                   int x, int y, int width, int height, int reserved);
+void ImgDLLDrawRGB(platform::DeviceContext target, const std::uint8_t* rgb, int pixelWidth,
+                   int pixelHeight, int x, int y, int width, int height, int reserved);
 
-}  // namespace vistrel
+}  // namespace vistrel::preview

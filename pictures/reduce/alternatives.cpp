@@ -1,7 +1,7 @@
 // The tables of changes.
 #include "pictures/reduce/alternatives.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 Alternatives::Alternatives(const Palette& palette) : changes_(palette.size) {
     const NeighborTable neighbors(palette);
@@ -21,4 +21,4 @@ Alternatives::Alternatives(const Palette& palette) : changes_(palette.size) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

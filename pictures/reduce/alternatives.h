@@ -12,7 +12,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// For each colour of a palette the changes to its neighbours, laid out to be weighed together.
 class Alternatives {
@@ -98,4 +98,4 @@ inline int Alternatives::Better(int own, const ColorPoint& field) const {
 }
 #endif
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -8,7 +8,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 /// exp(-d*d/4) for d = 0, 1, 2, brought to a sum of 256 over -2..2.
@@ -157,4 +157,4 @@ void ErrorField::BlurDown(int y) {
 #endif
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

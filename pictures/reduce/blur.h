@@ -7,7 +7,7 @@
 
 #include "pictures/reduce/space.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// For every pixel the blurred error plus lambda times its own error, (G e + lambda e) / c with
 /// c = G(0) + lambda: so divided, a pixel's own error counts just once, and taking the field's
@@ -72,4 +72,4 @@ class ErrorField {
     std::vector<ColorPoint> along_;   ///< and the same, blurred along the row
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 using Number = std::int64_t;
@@ -201,4 +201,4 @@ int PartIntoBoxes(Histogram& histogram, int colors) {
     return cutter.size();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

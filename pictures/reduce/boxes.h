@@ -3,7 +3,7 @@
 
 #include "pictures/reduce/histogram.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// Parts the cells into at most `colors` boxes, always cutting the box with the largest squared
 /// error across its principal axis, where the errors of both halves add up to the least. Writes the
@@ -11,4 +11,4 @@ namespace vistrel {
 /// `colors` when all boxes are single cells.
 int PartIntoBoxes(Histogram& histogram, int colors);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

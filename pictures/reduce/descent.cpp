@@ -8,7 +8,7 @@
 #include "pictures/reduce/alternatives.h"
 #include "pictures/reduce/blur.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 class Descent {
@@ -115,4 +115,4 @@ void Descend(const std::uint8_t* rgb, int width, int height, const WorkingSpace&
     descent.ChooseIndices();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

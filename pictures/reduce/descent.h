@@ -11,7 +11,7 @@
 
 #include "pictures/reduce/palette.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 struct DescentSettings {
     /// How much a pixel's own error counts beside the blurred one, in 1/256: 100 trusts the eye to
@@ -25,4 +25,4 @@ struct DescentSettings {
 void Descend(const std::uint8_t* rgb, int width, int height, const WorkingSpace& space,
              const DescentSettings& settings, std::uint8_t* indices, Palette& palette);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -4,7 +4,7 @@
 
 #include <bit>
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 constexpr int kFirstBits = 6;
@@ -115,4 +115,4 @@ std::vector<Rgb> FewColors(const std::uint8_t* rgb, std::size_t pixels, std::siz
     return colors;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

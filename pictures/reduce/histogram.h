@@ -7,7 +7,7 @@
 
 #include "pictures/reduce/space.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// The pixels whose colours begin with the same bits.
 struct Cell {
@@ -37,4 +37,4 @@ void SetMeans(Histogram& histogram, const WorkingSpace& space);
 std::vector<Rgb> FewColors(const std::uint8_t* rgb, std::size_t pixels, std::size_t most,
                            std::uint8_t* indices);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 namespace {
 
@@ -121,4 +121,4 @@ void ImproveByMeans(Histogram& histogram, Palette& palette) {
     }
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

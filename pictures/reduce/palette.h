@@ -7,7 +7,7 @@
 
 #include "pictures/reduce/histogram.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 inline constexpr int kMostColors = 256;
 
@@ -47,4 +47,4 @@ Palette MeansOfCells(const Histogram& histogram, int colors);
 /// becomes the mean of its cells. A colour that loses all its cells stays where it is.
 void ImproveByMeans(Histogram& histogram, Palette& palette);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -10,7 +10,7 @@
 #include "pictures/reduce/palette.h"
 #include "pictures/reduce/space.h"
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 /// Sums of bytes over all pixels of a picture must fit into 32 bits.
@@ -138,4 +138,4 @@ bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std
     return true;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// How strongly neighbouring pixels share their rounding errors.
 enum class Dither { On, Off };
@@ -16,4 +16,4 @@ enum class Dither { On, Off };
 bool QuantizeRgb(const std::uint8_t* rgb, int width, int height, int colors, std::uint8_t* indices,
                  std::uint8_t* palette, Dither dither = Dither::On);
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

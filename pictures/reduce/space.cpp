@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::reduce {
 namespace {
 
 constexpr int kUnit = 16;  // a level is this many units of a point
@@ -67,4 +67,4 @@ Rgb WorkingSpace::ToRgb(const ColorPoint& point) const {
     return {ToByte(red), ToByte(green), ToByte(blue)};
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstdint>
 
-namespace vistrel {
+namespace vistrel::reduce {
 
 /// A colour or a difference of colours in the working space, in sixteenths of a level. `w` is 0: it
 /// is there so that a point has the size of a machine word.
@@ -69,4 +69,4 @@ class WorkingSpace {
     std::array<std::array<std::uint64_t, 256>, 3> parts_{};
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::reduce

@@ -9,7 +9,7 @@
 #include <emmintrin.h>
 #endif
 
-namespace vistrel {
+namespace vistrel::scale {
 namespace {
 
 std::int16_t Narrow(std::int32_t value) {
@@ -190,4 +190,4 @@ void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
 }
 #endif
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

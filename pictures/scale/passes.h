@@ -6,7 +6,7 @@
 
 #include "pictures/scale/weights.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 
 /// Adds up `count` rows of `length` samples, each times its weight, and writes the sums shifted
 /// right by `shift`, rounded. The results must fit into 16 bits. Behind an odd number of rows and
@@ -33,4 +33,4 @@ struct RowGroup {
 void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
                 RowGroup<std::int16_t> results, int stride);
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

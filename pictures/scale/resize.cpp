@@ -8,7 +8,7 @@
 #include "pictures/scale/passes.h"
 #include "pictures/scale/weights.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 namespace {
 
 /// Fraction bits that a byte sample carries between the passes: 255 with all of them, and a half
@@ -69,7 +69,7 @@ class RgbPasses {
         if (inGroup == kRowsAtOnce - 1 || IsComplete()) FinishGroup(inGroup + 1);
     }
 
-    RgbPicture TakeResult() { return std::move(result_); }
+    pictures::RgbPicture TakeResult() { return std::move(result_); }
 
     const FilterAxis down;
     std::vector<const std::uint8_t*> rows;
@@ -90,18 +90,18 @@ class RgbPasses {
     std::vector<std::int16_t> mixed_;
     std::vector<std::int16_t> channels_;  ///< of the target rows that wait for being weighed along
     std::vector<std::int16_t> scaled_;
-    RgbPicture result_;
+    pictures::RgbPicture result_;
     int made_ = 0;
 };
 
 }  // namespace
 
-RgbPicture Resize(const RgbPicture& source, int width, int height) {
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, int width, int height) {
     return Resize(source.pixels.data(), source.width, source.height, width, height);
 }
 
-RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
-                  int height) {
+pictures::RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
+                            int height) {
     const std::size_t rowBytes = std::size_t(sourceWidth) * 3;
     if (width == sourceWidth && height == sourceHeight)
         return {width, height, std::vector<std::uint8_t>(rgb, rgb + rowBytes * height)};
@@ -149,7 +149,7 @@ void RgbScaler::EndRow() {
     state_->MakeWhatIsComplete();
 }
 
-RgbPicture RgbScaler::TakePicture() { return state_->passes.TakeResult(); }
+pictures::RgbPicture RgbScaler::TakePicture() { return state_->passes.TakeResult(); }
 
 struct PlaneScaler::State {
     State(const ScaleAxis& acrossAxis, const ScaleAxis& downAxis)
@@ -212,4 +212,4 @@ void PlaneScaler::AddRow(const std::int16_t* row) {
 
 const std::vector<std::int16_t>& PlaneScaler::plane() const { return state_->plane; }
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

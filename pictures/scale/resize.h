@@ -5,15 +5,15 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 
 /// Scales `source` to `width` x `height` pixels (both 1 to 32,767). The picture is stretched: its
 /// aspect ratio is not kept. The result is the same on every machine.
-RgbPicture Resize(const RgbPicture& source, int width, int height);
+pictures::RgbPicture Resize(const pictures::RgbPicture& source, int width, int height);
 
 /// The same for pixels that lie elsewhere: `rgb` holds sourceWidth * sourceHeight * 3 bytes.
-RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
-                  int height);
+pictures::RgbPicture Resize(const std::uint8_t* rgb, int sourceWidth, int sourceHeight, int width,
+                            int height);
 
 /// Scales a picture that comes row by row, keeping only as many rows as the filter reaches over.
 /// The result is that of Resize.
@@ -31,7 +31,7 @@ class RgbScaler {
     void EndRow();
 
     /// The finished picture: to be called once, when all source rows have been taken.
-    RgbPicture TakePicture();
+    pictures::RgbPicture TakePicture();
 
  private:
     struct State;
@@ -73,4 +73,4 @@ class PlaneScaler {
     std::unique_ptr<State> state_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

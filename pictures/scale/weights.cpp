@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-namespace vistrel {
+namespace vistrel::scale {
 namespace {
 
 constexpr int kLobes = 3;
@@ -132,4 +132,4 @@ FilterAxis MakeFilterAxis(const ScaleAxis& axis) {
     return filter;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

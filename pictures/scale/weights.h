@@ -6,7 +6,7 @@
 
 #include "pictures/scale/resize.h"
 
-namespace vistrel {
+namespace vistrel::scale {
 
 /// The taps of one target sample: weights[i] belongs to source sample first + i.
 struct FilterTaps {
@@ -33,4 +33,4 @@ inline constexpr int kTapGroup = 8;
 /// is cut and what is left is brought to a sum of 1.
 FilterAxis MakeFilterAxis(const ScaleAxis& axis);
 
-}  // namespace vistrel
+}  // namespace vistrel::scale

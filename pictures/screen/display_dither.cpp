@@ -4,7 +4,7 @@
 
 #include "platform/display_colors.h"
 
-namespace vistrel {
+namespace vistrel::screen {
 namespace {
 
 constexpr int kChannels = 3;
@@ -15,8 +15,8 @@ struct Channel {
     std::uint8_t nearest[256] = {};
 
     constexpr explicit Channel(int channel) {
-        const int levels = kDisplayLevels[channel];
-        for (int i = 0; i < levels; ++i) values[i] = DisplayLevel(channel, i);
+        const int levels = platform::kDisplayLevels[channel];
+        for (int i = 0; i < levels; ++i) values[i] = platform::DisplayLevel(channel, i);
         for (int value = 0; value < 256; ++value)
             nearest[value] = static_cast<std::uint8_t>((value * (levels - 1) + 127) / 255);
     }
@@ -43,7 +43,7 @@ std::vector<std::uint8_t> DitherToDisplayColors(const std::uint8_t* rgb, int wid
                 const int wanted = *rgb + ((*error + next[c] + 8) >> 4);
                 const int level = kScales[c].nearest[std::clamp(wanted, 0, 255)];
                 const int off = wanted - kScales[c].values[level];
-                index = index * kDisplayLevels[c] + level;
+                index = index * platform::kDisplayLevels[c] + level;
                 next[c] = 7 * off;
                 error[-kChannels] += 3 * off;
                 *error = corner[c] + 5 * off;
@@ -55,4 +55,4 @@ std::vector<std::uint8_t> DitherToDisplayColors(const std::uint8_t* rgb, int wid
     return indices;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <vector>
 
-namespace vistrel {
+namespace vistrel::screen {
 
 /// Dithers 24-bit pixels (red, green, blue, rows from the top, no padding) to numbers of the
 /// display's colours; rows from the top, padded to multiples of four.
 std::vector<std::uint8_t> DitherToDisplayColors(const std::uint8_t* rgb, int width, int height);
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

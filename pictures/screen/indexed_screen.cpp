@@ -5,7 +5,7 @@
 #include "pictures/bmp/header.h"
 #include "pictures/little_endian.h"
 
-namespace vistrel {
+namespace vistrel::screen {
 namespace {
 
 constexpr std::size_t kImportantColorsOffset = 50;
@@ -13,9 +13,9 @@ constexpr std::uint32_t kWindowsHeaderSize = 40;
 
 }  // namespace
 
-std::optional<IndexedScreen> ReadIndexedScreen(FileBytes file) {
-    const auto header = ReadBmpHeader(file);
-    if (!header || header->bitsPerPixel != 8 || header->compression != BmpCompression::None)
+std::optional<IndexedScreen> ReadIndexedScreen(pictures::FileBytes file) {
+    const auto header = bmp::ReadBmpHeader(file);
+    if (!header || header->bitsPerPixel != 8 || header->compression != bmp::BmpCompression::None)
         return std::nullopt;
     const std::size_t needed = header->RowBytes() * static_cast<std::size_t>(header->height);
     if (header->pixelOffset > file.size() || file.size() - header->pixelOffset < needed)
@@ -32,8 +32,8 @@ std::optional<IndexedScreen> ReadIndexedScreen(FileBytes file) {
         screen.indices.insert(screen.indices.end(), pixels.begin(), pixels.end());
     }
     // Older headers have no such field.
-    if (DoubleWord(file, 14) >= kWindowsHeaderSize) {
-        const std::uint32_t first = DoubleWord(file, kImportantColorsOffset);
+    if (pictures::DoubleWord(file, 14) >= kWindowsHeaderSize) {
+        const std::uint32_t first = pictures::DoubleWord(file, kImportantColorsOffset);
         screen.firstAnimated = first <= 255 ? static_cast<int>(first) : 0;
     }
     return screen;
@@ -45,4 +45,4 @@ void RotateColors(IndexedScreen& screen) {
                 screen.palette.begin() + screen.firstAnimated + 1, screen.palette.end());
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

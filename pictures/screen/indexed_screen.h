@@ -10,26 +10,26 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::screen {
 
 struct IndexedScreen {
     int width = 0;
     int height = 0;
     std::vector<std::uint8_t> indices;  ///< width * height bytes, rows from the top
     std::array<std::array<std::uint8_t, 3>, 256> palette{};  ///< red, green, blue
-    /// While the startup screen is on, the system rotates the colours from this entry to 255. 0 means
-    /// a still picture. It stands in the header's field biClrImportant (offset 50).
+    /// While the startup screen is on, the system rotates the colours from this entry to 255. 0
+    /// means a still picture. It stands in the header's field biClrImportant (offset 50).
     int firstAnimated = 0;
 
     bool IsAnimated() const { return firstAnimated > 0; }
 };
 
-/// Reads an uncompressed 8-bit bitmap, the only kind that the system shows. Empty for anything else.
-/// A first animated entry above 255 counts as none.
-std::optional<IndexedScreen> ReadIndexedScreen(FileBytes file);
+/// Reads an uncompressed 8-bit bitmap, the only kind that the system shows. Empty for anything
+/// else. A first animated entry above 255 counts as none.
+std::optional<IndexedScreen> ReadIndexedScreen(pictures::FileBytes file);
 
 /// One step of the animation: each entry takes the colour of the next higher one, and the last that
 /// of the first animated.
 void RotateColors(IndexedScreen& screen);
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

@@ -4,7 +4,7 @@
 
 #include "pictures/bmp/header.h"
 
-namespace vistrel {
+namespace vistrel::screen {
 namespace {
 
 /// Weights of a target sample add up to this, so that two averages fit into one 32-bit number.
@@ -48,9 +48,10 @@ struct Row {
 
 }  // namespace
 
-std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int height) {
-    const auto header = ReadBmpHeader(file);
-    if (!header || header->bitsPerPixel != 8 || header->compression != BmpCompression::None ||
+std::optional<pictures::ScaledPicture> PreviewOfScreen(pictures::FileBytes file, int width,
+                                                       int height) {
+    const auto header = bmp::ReadBmpHeader(file);
+    if (!header || header->bitsPerPixel != 8 || header->compression != bmp::BmpCompression::None ||
         width <= 0 || height <= 0 || header->width < width || header->height < height)
         return std::nullopt;
     const std::size_t stride = header->RowBytes();
@@ -61,7 +62,7 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
     std::array<std::uint32_t, 256> redBlue;
     std::array<std::uint32_t, 256> green;
     for (std::size_t i = 0; i < 256; ++i) {
-        const RgbColor& color = header->palette[i];
+        const bmp::RgbColor& color = header->palette[i];
         redBlue[i] = std::uint32_t{color[0]} << 16 | color[2];
         green[i] = color[1];
     }
@@ -93,7 +94,7 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
         }
     };
 
-    ScaledPicture scaled{{width, height, {}}, header->width, header->height};
+    pictures::ScaledPicture scaled{{width, height, {}}, header->width, header->height};
     scaled.picture.pixels.resize(columns * static_cast<std::size_t>(height) * 3);
     std::uint8_t* out = scaled.picture.pixels.data();
     std::vector<std::uint32_t> sums(columns * 3);
@@ -116,4 +117,4 @@ std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int heig
     return scaled;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

@@ -4,11 +4,12 @@
 
 #include "pictures/rgb_picture.h"
 
-namespace vistrel {
+namespace vistrel::screen {
 
-/// Shrinks an uncompressed 8-bit bitmap to `width` x `height` pixels by averaging the area that each
-/// of them covers. Empty when the file is of another kind, or smaller than that on either axis:
-/// other readers and a better filter serve these.
-std::optional<ScaledPicture> PreviewOfScreen(FileBytes file, int width, int height);
+/// Shrinks an uncompressed 8-bit bitmap to `width` x `height` pixels by averaging the area that
+/// each of them covers. Empty when the file is of another kind, or smaller than that on either
+/// axis: other readers and a better filter serve these.
+std::optional<pictures::ScaledPicture> PreviewOfScreen(pictures::FileBytes file, int width,
+                                                       int height);
 
-}  // namespace vistrel
+}  // namespace vistrel::screen

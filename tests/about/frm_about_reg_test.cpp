@@ -19,6 +19,10 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel {
+
+using namespace about;
+using namespace controls;
+
 namespace {
 
 void WithAboutBox(const std::function<void(FrmAboutReg&)>& user) {

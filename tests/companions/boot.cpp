@@ -8,6 +8,8 @@
 
 namespace vistrel::test {
 
+using namespace core;
+
 namespace {
 
 struct WindowSearch {

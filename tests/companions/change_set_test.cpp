@@ -12,6 +12,11 @@
 #include "tests/support/user/poll.h"
 
 namespace vistrel::test {
+
+using namespace companions;
+using namespace core;
+using namespace platform;
+
 namespace {
 
 using Names = std::vector<std::string>;

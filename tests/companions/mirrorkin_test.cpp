@@ -8,6 +8,11 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
+
+using namespace companions;
+using namespace core;
+using namespace platform;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -7,6 +7,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 constexpr const char* kBootFile = "C:\\msdos.sys";
@@ -96,8 +99,7 @@ TEST_F(CloseTest, AStepThatFailsIsPassedOver) {
             EXPECT_EQ((AttributesOf(kBootFile) & FILE_ATTRIBUTE_HIDDEN) == 0, failed != 1);
             EXPECT_EQ(ReadBootLogoOption(kBootFile), failed == 2 ? 1 : 0);
             // The last of the values is saved unless one before it could not be.
-            EXPECT_EQ(Stored("AutoshowAnimation").has_value(),
-                      failed <= key || failed >= entryKey);
+            EXPECT_EQ(Stored("AutoshowAnimation").has_value(), failed <= key || failed >= entryKey);
             EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin").has_value(),
                       failed < entryKey || failed > entryKey + 1);
             EXPECT_EQ(Ini().has_value(), failed != entryKey + 2);

@@ -12,6 +12,9 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel {
+
+using namespace core;
+
 namespace {
 
 TEST(DialogFilter, EndsEachPartWithANul) {

@@ -6,6 +6,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 constexpr const char* kParent = "C:\\Logos\\";

@@ -6,6 +6,10 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+using namespace platform;
+
 namespace {
 
 class FirstRunTest : public Machine {

@@ -7,6 +7,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 using Screens = std::vector<std::string>;

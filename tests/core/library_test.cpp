@@ -9,6 +9,10 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+using namespace platform;
+
 namespace {
 
 using Names = std::vector<std::string>;

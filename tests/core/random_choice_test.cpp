@@ -7,6 +7,9 @@
 #include <set>
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 TEST(RandomChoiceTest, NumbersLieBetweenZeroAndOne) {

@@ -8,6 +8,10 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+using namespace platform;
+
 namespace {
 
 /// A numeric value and what its texts load as.

@@ -6,6 +6,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace core;
+
 namespace {
 
 TEST(SynchronizedPathTest, IsTheLogoFolderForASingleLogoSetAndTheSetsOwnOtherwise) {

@@ -6,6 +6,12 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace core;
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Appearance = LogoBrowser;

@@ -5,6 +5,8 @@
 
 namespace vistrel {
 
+using namespace editor;
+
 void PrintTo(const CommandStatus& status, std::ostream* out) {
     *out << "create " << status.create << " update " << status.update << " delete "
          << status.deleteSet;

@@ -2,6 +2,11 @@
 #include "tests/editor/editor_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Dragging = LogoBrowser;

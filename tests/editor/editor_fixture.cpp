@@ -7,6 +7,12 @@
 #include "art/files/jpg_writer.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+using namespace pictures;
+
 namespace {
 
 std::string TextOf(const std::vector<std::uint8_t>& bytes) {
@@ -41,9 +47,9 @@ RgbPicture TestPicture(int width, int height) {
     return picture;
 }
 
-std::string JpgOf(const RgbPicture& picture) { return TextOf(samples::JpgFile(picture)); }
+std::string JpgOf(const RgbPicture& picture) { return TextOf(art::JpgFile(picture)); }
 
-std::string GifOf(const RgbPicture& picture) { return TextOf(samples::GifFile(picture)); }
+std::string GifOf(const RgbPicture& picture) { return TextOf(art::GifFile(picture)); }
 
 std::string BmpOf(const RgbPicture& picture) {
     const int stride = (picture.width * 3 + 3) / 4 * 4;

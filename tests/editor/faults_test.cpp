@@ -12,6 +12,13 @@
 #include "tests/editor/editor_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace core;
+using namespace editor;
+using namespace main_window;
+using namespace platform;
+
 namespace {
 
 const std::string kRedScreen = ScreenFile(255, 0, 0);

@@ -8,6 +8,10 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Following = LogoBrowser;

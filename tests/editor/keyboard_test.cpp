@@ -3,6 +3,11 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Keyboard = LogoBrowser;

@@ -2,6 +2,12 @@
 #include "tests/editor/editor_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace core;
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Saving = LogoBrowser;

@@ -2,6 +2,10 @@
 #include "tests/editor/editor_fixture.h"
 
 namespace vistrel::test {
+
+using namespace editor;
+using namespace main_window;
+
 namespace {
 
 using Session = LogoBrowser;

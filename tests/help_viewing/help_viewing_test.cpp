@@ -9,6 +9,9 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel {
+
+using namespace platform;
+
 namespace {
 
 using testing::HasSubstr;

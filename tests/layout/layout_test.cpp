@@ -13,6 +13,13 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace about;
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+using namespace options;
+
 namespace {
 
 /// What a control shows beside its text: the box of a check box, the edge of a push button.
@@ -170,8 +177,8 @@ int PixelsPerInchInTheRegistry() {
     return pixels ? static_cast<int>(pixels) : 96;
 }
 
-// Where a program is shown another screen than there is, as newer systems do unless told not to, the
-// other tests would look at the wrong thing.
+// Where a program is shown another screen than there is, as newer systems do unless told not to,
+// the other tests would look at the wrong thing.
 TEST_F(Layout, IsSeenOnTheScreenThatThereIs) {
     EXPECT_EQ(PixelsPerInch(), PixelsPerInchInTheRegistry());
     EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), PixelsPerInch() == 96 ? 640 : 800);

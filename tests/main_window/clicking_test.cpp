@@ -4,6 +4,9 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace main_window;
+
 namespace {
 
 class Clicking : public MainWindow98 {

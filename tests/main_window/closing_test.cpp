@@ -4,6 +4,11 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace about;
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 class Closing : public MainWindow98 {

@@ -3,6 +3,10 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 using Commands = MainWindow98;

@@ -8,6 +8,10 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 constexpr const char* kMailKey = "SOFTWARE\\Classes\\mailto\\shell\\open\\command";

@@ -11,6 +11,13 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace about;
+using namespace controls;
+using namespace editor;
+using namespace main_window;
+using namespace options;
+
 namespace {
 
 class EveryWindow : public MainWindow98 {

@@ -11,6 +11,10 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace main_window;
+using namespace platform;
+
 namespace {
 
 class Failing : public MainWindow98 {

@@ -3,6 +3,10 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 class InstalledView : public MainWindow98 {

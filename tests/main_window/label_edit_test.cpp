@@ -4,6 +4,10 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 class OpenLabelEdit : public MainWindow98 {

@@ -8,6 +8,9 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+
 namespace {
 
 /// A window whose list object can go before the list itself.

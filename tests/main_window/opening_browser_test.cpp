@@ -3,6 +3,9 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace main_window;
+
 namespace {
 
 bool pointerWasHourglass = false;

@@ -2,6 +2,9 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace main_window;
+
 namespace {
 
 using RandomChange = MainWindow98;

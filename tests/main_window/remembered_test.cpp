@@ -8,6 +8,10 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+
 namespace {
 
 class ListPlaceKept : public MainWindow98 {

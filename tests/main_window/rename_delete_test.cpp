@@ -7,6 +7,11 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace main_window;
+using namespace platform;
+
 namespace {
 
 class Renaming : public MainWindow98 {

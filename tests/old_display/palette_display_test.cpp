@@ -14,6 +14,14 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace about;
+using namespace bmp;
+using namespace controls;
+using namespace main_window;
+using namespace pictures;
+using namespace platform;
+
 namespace {
 
 /// A screen that needs many colours at once: a sky that grows lighter, a sun in it, and a hill.

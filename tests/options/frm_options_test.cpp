@@ -19,6 +19,12 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace core;
+using namespace options;
+using namespace platform;
+
 namespace {
 
 /// Stands for the main window: keeps what the dialog tells it.

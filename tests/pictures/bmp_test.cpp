@@ -7,6 +7,10 @@
 #include "tests/support/picture_files/bmp_file.h"
 
 namespace vistrel::test {
+
+using namespace bmp;
+using namespace pictures;
+
 namespace {
 
 void ExpectPicture(const Bytes& file, const RgbPicture& expected) {

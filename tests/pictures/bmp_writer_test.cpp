@@ -12,6 +12,10 @@
 #include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
+
+using namespace bmp;
+using namespace pictures;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -14,6 +14,10 @@
 #include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+using namespace scale;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -11,6 +11,11 @@
 
 namespace vistrel::test {
 
+using namespace bmp;
+using namespace gif;
+using namespace jpg;
+using namespace pictures;
+
 namespace {
 
 std::vector<std::string> Split(const std::string& line, char separator) {

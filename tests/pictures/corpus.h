@@ -32,9 +32,10 @@ struct CorpusFile {
 std::vector<CorpusFile> ReadCorpus(const std::string& folder, const std::string& ending);
 
 /// Reads a file in the format that its first bytes stand for: names may mislead.
-std::optional<RgbPicture> ReadByContent(FileBytes file);
+std::optional<pictures::RgbPicture> ReadByContent(pictures::FileBytes file);
 
 /// The same, scaled to a size.
-std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int height);
+std::optional<pictures::ScaledPicture> ReadScaledByContent(pictures::FileBytes file, int width,
+                                                           int height);
 
 }  // namespace vistrel::test

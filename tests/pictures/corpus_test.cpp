@@ -11,6 +11,9 @@
 #include "tests/support/picture_files/md5.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+
 namespace {
 
 const std::string kFolder = PICTURE_CORPUS;

@@ -8,6 +8,10 @@
 #include "tests/support/picture_files/gif_file.h"
 
 namespace vistrel::test {
+
+using namespace gif;
+using namespace pictures;
+
 namespace {
 
 constexpr std::array<std::uint8_t, 3> kWhite = {255, 255, 255};

@@ -14,6 +14,11 @@
 #include "tests/support/picture_files/gif_file.h"
 
 namespace vistrel::test {
+
+using namespace bmp;
+using namespace pictures;
+using namespace platform;
+
 namespace {
 
 /// A folder of its own for each test, gone afterwards.

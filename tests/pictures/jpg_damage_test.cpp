@@ -5,6 +5,10 @@
 #include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
+
+using namespace jpg;
+using namespace pictures;
+
 namespace {
 
 void ExpectHarmless(const Bytes& file) {

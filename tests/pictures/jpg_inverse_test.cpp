@@ -11,6 +11,9 @@
 #include "pictures/jpg/idct/reduced.h"
 
 namespace vistrel::test {
+
+using namespace jpg;
+
 namespace {
 
 constexpr int kFrequencies[] = {1, 2, 3, 4, 5, 8};

@@ -7,6 +7,11 @@
 #include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
+
+using namespace jpg;
+using namespace pictures;
+using namespace scale;
+
 namespace {
 
 // Waves and edges of several sizes in each channel, without noise.

@@ -38,6 +38,9 @@ std::size_t mostUsed = 0;
 void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
 
 namespace vistrel::test {
+
+using namespace pictures;
+
 namespace {
 
 constexpr std::size_t kAnyFile = 24 * 1024 * 1024;

@@ -11,6 +11,10 @@
 #include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+using namespace reduce;
+
 namespace {
 
 struct Reduced {

@@ -10,6 +10,10 @@
 #include "tests/support/picture_files/test_picture.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+using namespace scale;
+
 namespace {
 
 double Lanczos3(double x) {

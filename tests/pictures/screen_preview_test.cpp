@@ -9,6 +9,11 @@
 #include "pictures/bmp/writer.h"
 
 namespace vistrel {
+
+using namespace bmp;
+using namespace pictures;
+using namespace screen;
+
 namespace {
 
 /// A screen with gradients and a fine pattern.

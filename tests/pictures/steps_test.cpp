@@ -17,6 +17,11 @@ std::uint64_t steps = 0;
 extern "C" void __sanitizer_cov_trace_pc() { ++steps; }
 
 namespace vistrel::test {
+
+using namespace jpg;
+using namespace pictures;
+using namespace reduce;
+
 namespace {
 
 template <class Work>

@@ -8,6 +8,9 @@
 #include <fstream>
 
 namespace vistrel::test {
+
+using namespace pictures;
+
 namespace {
 
 class WholeFileTest : public testing::Test {

@@ -37,6 +37,13 @@ std::size_t refused = 0;
 void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
 
 namespace vistrel::test {
+
+using namespace bmp;
+using namespace main_window;
+using namespace pictures;
+using namespace platform;
+using namespace preview;
+
 namespace {
 
 class Drawing : public Machine {

@@ -7,6 +7,10 @@
 #include "controls/display_palette.h"
 
 namespace vistrel::test {
+
+using namespace controls;
+using namespace preview;
+
 namespace {
 
 TEST(ImgDLLDrawRGB, LeavesColorsAsTheyAreOnADisplayOfTrueColors) {

@@ -7,6 +7,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 /// In code page 932 one character, whose second byte is that of a backslash; in 1252 two.

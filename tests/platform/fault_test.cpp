@@ -6,6 +6,9 @@
 #include <vector>
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 std::vector<bool> NextFive() {

@@ -9,6 +9,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -10,6 +10,9 @@
 #include "platform/clock.h"
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 HCURSOR System(const char* name) { return LoadCursorA(nullptr, name); }

@@ -5,6 +5,9 @@
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 class ProfileTest : public Machine {

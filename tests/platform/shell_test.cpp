@@ -16,6 +16,9 @@
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
+
+using namespace platform;
+
 namespace {
 
 using Names = std::vector<std::string>;

@@ -6,6 +6,9 @@
 #include "tests/user/running_program.h"
 
 namespace vistrel::test {
+
+using namespace pictures;
+
 namespace {
 
 const std::string kPictures = "C:\\test\\pictures\\";

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr std::uint8_t kEscape = 0xFF;
@@ -17,7 +17,7 @@ bool IsRestart(std::uint8_t marker) {
 
 }  // namespace
 
-std::size_t FindMarker(FileBytes file, std::size_t from) {
+std::size_t FindMarker(pictures::FileBytes file, std::size_t from) {
     while (from < file.size()) {
         const void* found = std::memchr(file.data() + from, kEscape, file.size() - from);
         if (!found) break;
@@ -30,7 +30,7 @@ std::size_t FindMarker(FileBytes file, std::size_t from) {
     return file.size();
 }
 
-ScanBytes::ScanBytes(FileBytes file, std::size_t start)
+ScanBytes::ScanBytes(pictures::FileBytes file, std::size_t start)
     : file_(file), filePosition_(std::min(start, file.size())) {
     Fill();
 }
@@ -117,4 +117,4 @@ void ScanBytes::Restart(int expected) {
     Fill();
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

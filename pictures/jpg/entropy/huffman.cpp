@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr int kRunOfSixteen = 0xF0;
@@ -111,4 +111,4 @@ unsigned HuffmanTable::LongSymbol(unsigned window) const {
     return kMostSymbolBits << 8;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

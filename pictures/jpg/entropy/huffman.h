@@ -8,7 +8,7 @@
 #include "pictures/jpg/entropy/bits.h"
 #include "pictures/jpg/tables.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// One code with the bits behind it, found by the next kQuickBits bits of a scan.
 struct QuickEntry {
@@ -89,4 +89,4 @@ inline int ExtendSign(unsigned bits, int size) {
     return value < 1 << (size - 1) ? value - (1 << size) + 1 : value;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

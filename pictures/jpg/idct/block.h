@@ -6,7 +6,7 @@
 #include "pictures/jpg/idct/terms.h"
 #include "pictures/jpg/tables.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 namespace inverse_block {
 
@@ -79,4 +79,4 @@ void InverseBlock(const std::int16_t* block, const std::int32_t* steps, PutRow p
     for (int row = 0; row < 8; ++row) putRow(row, same);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

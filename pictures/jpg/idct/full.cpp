@@ -5,7 +5,7 @@
 
 #include "pictures/jpg/idct/block.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 BlockSteps StepsOf(const QuantTable& quant) {
     BlockSteps steps;
@@ -33,4 +33,4 @@ void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_
     });
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

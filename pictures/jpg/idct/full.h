@@ -4,7 +4,7 @@
 #include "pictures/jpg/frame.h"
 #include "pictures/jpg/idct/vectors.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Quantisation steps in the order of a block's rows.
 struct BlockSteps {
@@ -20,4 +20,4 @@ BlockSteps StepsOf(const QuantTable& quant);
 void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_t* samples,
                  std::ptrdiff_t stride);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -6,7 +6,7 @@
 #include "pictures/jpg/color.h"
 #include "pictures/jpg/idct/block.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr std::int32_t kMiddle = 128 << kFineBits;
@@ -141,4 +141,4 @@ void ReducedInverse::TransformBySingles(const std::int16_t* blocks, int count,
         {between_.data(), count, shape_.down, samples, stride});
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

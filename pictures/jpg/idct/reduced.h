@@ -9,7 +9,7 @@
 #include "pictures/jpg/idct/vectors.h"
 #include "pictures/jpg/scan/coefficients.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The most frequencies of an axis, short of all eight, that there is a transform for.
 inline constexpr int kMostReduced = 5;
@@ -40,4 +40,4 @@ class ReducedInverse {
     std::vector<Wrapping> between_;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -7,7 +7,7 @@
 #include <numbers>
 #include <utility>
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Sums are made modulo 2^32: whatever a damaged file asks for, no sum overflows in the language's
 /// sense, and sound files stay far within.
@@ -127,4 +127,4 @@ constexpr void InverseTerms<8>(const Wrapping* in, Wrapping* out) {
     out[4] = even3 - odd3;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

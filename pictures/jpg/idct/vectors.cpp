@@ -11,7 +11,7 @@
 #include "pictures/jpg/idct/terms.h"
 #endif
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 constexpr std::int32_t kMost16 = 32767;
@@ -262,4 +262,4 @@ bool InverseFullByVectors(const VectorSteps&, const std::int16_t*, std::uint8_t*
 
 #endif
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

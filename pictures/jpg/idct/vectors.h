@@ -8,7 +8,7 @@
 
 #include "pictures/jpg/tables.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Quantisation steps for the transforms below.
 struct VectorSteps {
@@ -40,4 +40,4 @@ int InverseByVectors(const VectorSteps& steps, const BlockShape& shape, const st
 bool InverseFullByVectors(const VectorSteps& steps, const std::int16_t* block,
                           std::uint8_t* samples, std::ptrdiff_t stride);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

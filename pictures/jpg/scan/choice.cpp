@@ -3,7 +3,7 @@
 
 #include "pictures/jpg/markers.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // Each scan brings one bit at least of one of the 64 coefficients of a component, of which the
@@ -12,7 +12,7 @@ std::size_t MostScans(std::size_t components) { return components * kBlockSize *
 
 }  // namespace
 
-std::vector<bool> ChooseScans(FileBytes file, std::span<const KeptFrequencies> kept) {
+std::vector<bool> ChooseScans(pictures::FileBytes file, std::span<const KeptFrequencies> kept) {
     std::vector<JpgScan> scans;
     JpgMarkers markers(file);
     while (scans.size() < MostScans(kept.size()) && markers.NextScan()) {
@@ -35,4 +35,4 @@ std::vector<bool> ChooseScans(FileBytes file, std::span<const KeptFrequencies> k
     return chosen;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

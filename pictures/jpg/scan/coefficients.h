@@ -8,7 +8,7 @@
 
 #include "pictures/jpg/frame.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The positions first..last of the file's order as a set of bits.
 inline std::uint64_t PositionBand(int first, int last) {
@@ -94,4 +94,4 @@ class BlockRowTaker {
     virtual void TakeBlockRow(int component, int row, const std::int16_t* blocks) = 0;
 };
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -3,7 +3,7 @@
 
 #include <bit>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // Constant terms, first the upper bits of all.
@@ -237,8 +237,8 @@ std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
     return BlocksOf(component) * (kept.stride * kNumber + (NeedsNonZero(kept) ? kBits : 0));
 }
 
-ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
-                                const JpgTables& tables,
+ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
+                                const JpgScan& scan, const JpgTables& tables,
                                 std::span<ProgressiveComponent> components) {
     const auto walk = [&](auto reader) {
         return WalkScan(file, frame, scan, tables.restartInterval, reader);
@@ -252,4 +252,4 @@ ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const Jpg
     return walk(AcFirstReader(scan, tables, component));
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -8,7 +8,7 @@
 #include "pictures/jpg/scan/coefficients.h"
 #include "pictures/jpg/scan/walk.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// The coefficients of one component while its scans come in. Later scans are coded by what earlier
 /// ones had, so of every coefficient it is known whether it is 0, even where its value is not kept.
@@ -25,8 +25,8 @@ struct ProgressiveComponent {
 };
 
 /// Reads one scan into `components`, which has an entry per component of the frame.
-ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
-                                const JpgTables& tables,
+ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
+                                const JpgScan& scan, const JpgTables& tables,
                                 std::span<ProgressiveComponent> components);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

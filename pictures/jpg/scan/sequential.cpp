@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace vistrel {
+namespace vistrel::jpg {
 namespace {
 
 // One component's part of the scan.
@@ -133,11 +133,11 @@ class SequentialReader {
 
 }  // namespace
 
-ScanOutcome ReadSequentialScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+ScanOutcome ReadSequentialScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                                JpgTables& tables, std::span<const KeptFrequencies> kept,
                                BlockRowTaker& taker) {
     SequentialReader reader(frame, scan, tables, kept, taker);
     return WalkScan(file, frame, scan, tables.restartInterval, reader);
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

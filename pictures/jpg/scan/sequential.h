@@ -6,13 +6,13 @@
 #include "pictures/jpg/scan/coefficients.h"
 #include "pictures/jpg/scan/walk.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// Reads one scan and hands its blocks, row by row, to `taker`. `kept` has an entry per component
 /// of the frame: what else a block holds is passed over as quickly as can be. Missing data give
 /// zeros.
-ScanOutcome ReadSequentialScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+ScanOutcome ReadSequentialScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                                JpgTables& tables, std::span<const KeptFrequencies> kept,
                                BlockRowTaker& taker);
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

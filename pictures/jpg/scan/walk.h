@@ -6,7 +6,7 @@
 #include "pictures/jpg/entropy/bits.h"
 #include "pictures/jpg/frame.h"
 
-namespace vistrel {
+namespace vistrel::jpg {
 
 /// How much of a scan was there.
 struct ScanOutcome {
@@ -34,7 +34,7 @@ struct ScanUnits {
 /// column, row)` for each block of a scan in the file's order and `Reader::EndUnitRow()` at the
 /// end of each row of units. Units that the file lacks are passed over in silence.
 template <class Reader>
-ScanOutcome WalkScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                      int restartInterval, Reader& reader) {
     const ScanUnits units(frame, scan);
     ScanBytes bytes(file, scan.dataStart);
@@ -72,4 +72,4 @@ ScanOutcome WalkScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,
     return outcome;
 }
 
-}  // namespace vistrel
+}  // namespace vistrel::jpg

@@ -47,12 +47,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string target = folder.File("LOGO.SYS");
     std::filesystem::remove(target);
     Write(source, data + 1, size - 1);
-    vistrel::ConvertToLogo(source, target);
+    vistrel::pictures::ConvertToLogo(source, target);
     if (!std::filesystem::exists(target)) return 0;
 
-    const auto screen = vistrel::ReadWholeFile(target);
+    const auto screen = vistrel::pictures::ReadWholeFile(target);
     if (!screen || screen->size() != 129078) std::abort();
-    const auto picture = vistrel::ReadBmp(*screen);
+    const auto picture = vistrel::bmp::ReadBmp(*screen);
     if (!picture || picture->width != 320 || picture->height != 400) std::abort();
     return 0;
 }

@@ -8,8 +8,8 @@
 namespace vistrel::fuzz {
 
 /// Stops the program unless a decoded picture has as many pixels as it says.
-inline void Demand(const RgbPicture& picture) {
-    const bool sound = IsPlausibleSize(picture.width, picture.height) &&
+inline void Demand(const pictures::RgbPicture& picture) {
+    const bool sound = pictures::IsPlausibleSize(picture.width, picture.height) &&
                        picture.pixels.size() == std::size_t{3} * picture.width * picture.height;
     if (!sound) std::abort();
 }

@@ -10,7 +10,7 @@
 namespace {
 
 using namespace vistrel::test;
-using vistrel::RgbPicture;
+using vistrel::pictures::RgbPicture;
 
 class SeedFolder {
  public:

@@ -16,6 +16,12 @@
 #include "tests/support/picture_files/md5.h"
 
 namespace vistrel::test {
+
+using namespace bmp;
+using namespace pictures;
+using namespace reduce;
+using namespace scale;
+
 namespace {
 
 /// The files lie beside this source, or beside the program where that runs on another system.

@@ -10,6 +10,8 @@
 
 namespace vistrel::test {
 
+using namespace platform;
+
 namespace {
 
 constexpr const char* kSettings = "SOFTWARE\\Tarnwick\\Vistrel";

@@ -111,7 +111,7 @@ class Machine : public testing::Test {
     const std::string logos = root + "logos\\";
     const std::string program = root + "program\\";
     const std::string startup = root + "startup\\";
-    const SystemLocations locations = {program, windows, startup};
+    const core::SystemLocations locations = {program, windows, startup};
 };
 
 }  // namespace vistrel::test

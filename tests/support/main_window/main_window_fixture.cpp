@@ -9,6 +9,11 @@
 
 namespace vistrel::test {
 
+using namespace bmp;
+using namespace controls;
+using namespace core;
+using namespace main_window;
+
 std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blue,
                        int firstAnimated) {
     std::vector<std::uint8_t> indices(320 * 400, static_cast<std::uint8_t>(firstAnimated));

@@ -22,14 +22,14 @@ std::string ScreenFile(unsigned char red, unsigned char green, unsigned char blu
                        int firstAnimated = 0);
 
 /// A colour that a picture box shows, in its middle.
-COLORREF MiddleOf(const PictureBox& box);
+COLORREF MiddleOf(const controls::PictureBox& box);
 
 inline constexpr COLORREF kRed = RGB(255, 0, 0);
 inline constexpr COLORREF kGreenScreen = RGB(0, 255, 0);
 inline constexpr COLORREF kBlueScreen = RGB(0, 0, 255);
 
 /// Whether an empty picture box says just this, in small grey letters in its middle.
-bool Says(const PictureBox& box, const std::string& text);
+bool Says(const controls::PictureBox& box, const std::string& text);
 
 /// A library with the sets "Blue", "Green.SLS" and "Red": each shows its colour as startup screen;
 /// the multi-logo sets have the other two too, the shared ones are white.
@@ -45,27 +45,30 @@ class MainWindow98 : public Machine {
 
     /// Opens the main window, lets `user` act in it on a thread of its own, and closes it. This
     /// thread handles the messages meanwhile, as the program does.
-    void WithMainWindow(const std::function<void(Principale& main)>& user);
+    void WithMainWindow(const std::function<void(main_window::Principale& main)>& user);
 
     /// For the user's thread: waits until the window has done what it was doing. What a handler
     /// does last is seen for sure only then.
-    static void Settle(Principale& main) { SendMessageA(main.handle(), WM_NULL, 0, 0); }
+    static void Settle(main_window::Principale& main) {
+        SendMessageA(main.handle(), WM_NULL, 0, 0);
+    }
     /// For the user's thread: selects a set by a click on it.
-    void ClickSet(Principale& main, const std::string& name);
-    POINT PointOfSet(Principale& main, const std::string& name);
+    void ClickSet(main_window::Principale& main, const std::string& name);
+    POINT PointOfSet(main_window::Principale& main, const std::string& name);
     /// For the user's thread: clicks below the last set, where nothing is.
-    void ClickBelowSets(Principale& main);
+    void ClickBelowSets(main_window::Principale& main);
     /// For the user's thread: clicks a set, begins to edit its name, and types; the edit stays
     /// open.
-    void BeginRenaming(Principale& main, const std::string& name, const std::string& typed);
+    void BeginRenaming(main_window::Principale& main, const std::string& name,
+                       const std::string& typed);
     /// The name of the selected set; empty when none is.
-    static std::string Selected(Principale& main);
+    static std::string Selected(main_window::Principale& main);
     /// Whether the list's commands on a set are enabled, as their real buttons say; all or none.
-    static bool SetToolsEnabled(Principale& main);
+    static bool SetToolsEnabled(main_window::Principale& main);
     /// Chooses a command as the toolbar, a menu or a key would send it, and waits until it is done.
-    void Command(Principale& main, int id);
+    void Command(main_window::Principale& main, int id);
     /// The same for a command that opens something that waits for an answer: does not wait.
-    void StartCommand(Principale& main, int id);
+    void StartCommand(main_window::Principale& main, int id);
 };
 
 }  // namespace vistrel::test

@@ -6,6 +6,9 @@
 
 namespace vistrel::test {
 
+using namespace bmp;
+using namespace pictures;
+
 namespace {
 
 void Append(Bytes& bytes, std::uint32_t value, int count) {

@@ -22,7 +22,7 @@ struct BmpFile {
     std::uint32_t compression = 0;
     std::uint32_t colorsUsed = 0;
     std::vector<std::uint32_t> masks;  ///< behind the 40 bytes that all Windows headers have
-    std::vector<RgbColor> palette;
+    std::vector<bmp::RgbColor> palette;
     Bytes gap;                                 ///< between palette and pixels
     Bytes pixels;                              ///< as they stand in the file
     std::optional<std::uint32_t> pixelOffset;  ///< what the header says; by default the truth
@@ -34,11 +34,11 @@ struct BmpFile {
 Bytes PackIndices(const Bytes& indices, int width, int height, int bitsPerPixel);
 
 /// Rows of 24-bit pixels, padded to 4 bytes, from the bottom.
-Bytes PackRgb24(const RgbPicture& picture);
+Bytes PackRgb24(const pictures::RgbPicture& picture);
 
 /// Rows of 16- or 32-bit pixels, padded to 4 bytes, from the bottom: each channel's highest bits
 /// where its mask is, all other bits set.
-Bytes PackMasked(const RgbPicture& picture, int bitsPerPixel,
+Bytes PackMasked(const pictures::RgbPicture& picture, int bitsPerPixel,
                  const std::vector<std::uint32_t>& masks);
 
 /// Run-length-encoded rows from the bottom, RLE8 or RLE4, with an end-of-picture mark: runs, and
@@ -46,10 +46,10 @@ Bytes PackMasked(const RgbPicture& picture, int bitsPerPixel,
 Bytes EncodeRle(const Bytes& indices, int width, int height, int bitsPerPixel);
 
 /// `count` colours, no two the same.
-std::vector<RgbColor> MakePalette(int count);
+std::vector<bmp::RgbColor> MakePalette(int count);
 
 /// What a reader should make of `indices` with a palette; colours beyond it are black.
-RgbPicture Colored(const Bytes& indices, int width, int height,
-                   const std::vector<RgbColor>& palette);
+pictures::RgbPicture Colored(const Bytes& indices, int width, int height,
+                             const std::vector<bmp::RgbColor>& palette);
 
 }  // namespace vistrel::test

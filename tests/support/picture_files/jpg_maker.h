@@ -37,7 +37,7 @@ inline void FailAtLibraryError(j_common_ptr info) {
     std::abort();
 }
 
-inline Bytes MakeJpg(const RgbPicture& picture, const JpgOptions& options) {
+inline Bytes MakeJpg(const pictures::RgbPicture& picture, const JpgOptions& options) {
     jpeg_compress_struct info;
     jpeg_error_mgr errors;
     info.err = jpeg_std_error(&errors);
@@ -90,7 +90,7 @@ inline Bytes MakeJpg(const RgbPicture& picture, const JpgOptions& options) {
 }
 
 /// What libjpeg makes of the file, inks with and without an Adobe segment as our reader takes them.
-inline RgbPicture DecodeByLibrary(const Bytes& file) {
+inline pictures::RgbPicture DecodeByLibrary(const Bytes& file) {
     jpeg_decompress_struct info;
     jpeg_error_mgr errors;
     info.err = jpeg_std_error(&errors);
@@ -103,7 +103,7 @@ inline RgbPicture DecodeByLibrary(const Bytes& file) {
     info.out_color_space = isInk ? JCS_CMYK : JCS_RGB;
     info.do_block_smoothing = FALSE;
     jpeg_start_decompress(&info);
-    RgbPicture picture;
+    pictures::RgbPicture picture;
     picture.width = static_cast<int>(info.output_width);
     picture.height = static_cast<int>(info.output_height);
     Bytes row(static_cast<std::size_t>(picture.width) * 4);

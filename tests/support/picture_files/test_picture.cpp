@@ -5,6 +5,8 @@
 
 namespace vistrel::test {
 
+using namespace pictures;
+
 std::uint32_t Numbers::Next(std::uint32_t below) {
     state_ ^= state_ << 13;
     state_ ^= state_ >> 17;

@@ -21,7 +21,7 @@ class Numbers {
 };
 
 /// Gradients with some noise.
-RgbPicture MakePicture(int width, int height);
+pictures::RgbPicture MakePicture(int width, int height);
 
 /// width * height colour numbers below `colors`: runs of several lengths, and single pixels.
 Bytes MakeIndices(int width, int height, int colors);
