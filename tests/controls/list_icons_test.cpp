@@ -1,11 +1,14 @@
 // Who destroys the small pictures of a list.
+#include <gtest/gtest.h>
 #include <windows.h>
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
 #include <memory>
 
-#include "tests/support/main_window/main_window_fixture.h"
+#include "controls/list_view.h"
+#include "controls/window.h"
+#include "resources/ids.h"
 
 namespace vistrel::test {
 
