@@ -6,6 +6,7 @@
 
 namespace vistrel::test {
 
+using namespace platform;
 using namespace core;
 
 namespace {

@@ -7,6 +7,7 @@
 
 namespace vistrel::test {
 
+using namespace platform;
 using namespace core;
 
 namespace {
@@ -121,7 +122,9 @@ TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
         for (const std::string& name : sets.Made())
             EXPECT_EQ(NamesIn(logos + name + "\\"), Names{"LOGO.SYS"}) << failing;
         EXPECT_EQ(sets.Made().size() + sets.NotWritten().size(), some.size()) << failing;
-        if (counted < failing) EXPECT_EQ(sets.Made().size(), some.size());
+        if (counted < failing) {
+            EXPECT_EQ(sets.Made().size(), some.size());
+        }
     }
 }
 
