@@ -11,3 +11,7 @@ if(IMAGEQUANT_LIBRARY AND GD_LIBRARY AND JPEG_LIBRARY)
     target_link_libraries(picture-bench PRIVATE pictures ${IMAGEQUANT_LIBRARY} ${GD_LIBRARY}
         ${JPEG_LIBRARY})
 endif()
+
+# What adjusting a picture takes (compare_adjusting).
+add_executable(compose-bench EXCLUDE_FROM_ALL compose_bench.cpp)
+target_link_libraries(compose-bench PRIVATE pictures)

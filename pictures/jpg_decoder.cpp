@@ -97,7 +97,7 @@ bool ReadProgressive(FileBytes file, JpgMarkers& markers, std::span<const KeptFr
     } while (number < chosen.size() && markers.NextScan());
     for (std::size_t i = 0; i < components.size() && isEnough; ++i) {
         for (int row = 0; row < frame.components[i].blocksDown; ++row) {
-            taker.TakeBlockRow(static_cast<int>(i), row, components[i].blocks.Block(0, row));
+            taker.TakeBlockRow(static_cast<int>(i), row, components[i].Block(0, row));
         }
         // The taker may need the memory for what it makes of the next component.
         components[i].blocks.numbers = {};

@@ -1,6 +1,7 @@
 // Decodes the scans of progressive files (ITU-T T.81, annex G).
 #include "pictures/jpg_progressive.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace vistrel {
@@ -25,7 +26,7 @@ class DcFirstReader {
             predictions_[index] =
                 static_cast<std::int16_t>(predictions_[index] + ExtendSign(bits.Take(size), size));
         }
-        *components_[static_cast<std::size_t>(part.component)].blocks.Block(column, row) =
+        *components_[static_cast<std::size_t>(part.component)].Block(column, row) =
             static_cast<std::int16_t>(predictions_[index] * (1 << scan_.low));
         return bits;
     }
@@ -50,7 +51,7 @@ class DcRefinementReader {
     BitReader ReadBlock(BitReader bits, std::size_t index, int column, int row) {
         if (bits.count < 1) bits.Refill();
         const std::size_t component = static_cast<std::size_t>(scan_.parts[index].component);
-        std::int16_t& constant = *components_[component].blocks.Block(column, row);
+        std::int16_t& constant = *components_[component].Block(column, row);
         constant = static_cast<std::int16_t>(constant | bits.Take(1) << scan_.low);
         return bits;
     }
@@ -109,7 +110,7 @@ class AcFirstReader : public AcReader {
             return bits;
         }
         const KeptFrequencies& kept = component_.kept;
-        std::int16_t* block = component_.blocks.Block(column, row);
+        std::int16_t* block = component_.Block(column, row);
         std::uint64_t found = 0;
         int k = first_;
         while (k <= last_) {
@@ -151,7 +152,7 @@ class AcRefinementReader : public AcReader {
         : AcReader(scan, tables, component), kept_(component.kept.Positions()) {}
 
     BitReader ReadBlock(BitReader bits, std::size_t, int column, int row) {
-        std::int16_t* block = component_.blocks.Block(column, row);
+        std::int16_t* block = component_.Block(column, row);
         std::uint64_t& nonZero = NonZero(column, row);
         const std::uint64_t old = nonZero;
         int k = first_;
@@ -223,18 +224,32 @@ class AcRefinementReader : public AcReader {
 // No scan but those of the constant terms is read where nothing else is kept.
 bool NeedsNonZero(const KeptFrequencies& kept) { return kept.last > 0; }
 
+int RowsKept(const JpgComponent& component, const KeptFrequencies& kept) {
+    return std::min(kept.endRow, component.paddedDown) - kept.firstRow;
+}
+
+// Where not all rows are kept, the others share one.
+int RowsOfMemory(const JpgComponent& component, const KeptFrequencies& kept) {
+    const int rows = RowsKept(component, kept);
+    return rows < component.paddedDown ? rows + 1 : rows;
+}
+
 }  // namespace
 
 ProgressiveComponent::ProgressiveComponent(const JpgComponent& component,
                                            const KeptFrequencies& keptFrequencies)
     : kept(keptFrequencies),
-      blocks(component.paddedAcross, component.paddedDown, keptFrequencies.stride),
+      rows(RowsKept(component, keptFrequencies)),
+      blocks(component.paddedAcross, RowsOfMemory(component, keptFrequencies),
+             keptFrequencies.stride),
       nonZero(NeedsNonZero(keptFrequencies) ? static_cast<std::size_t>(BlocksOf(component)) : 0) {}
 
 std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
                                             const KeptFrequencies& kept) {
     constexpr std::int64_t kNumber = sizeof(std::int16_t), kBits = sizeof(std::uint64_t);
-    return BlocksOf(component) * (kept.stride * kNumber + (NeedsNonZero(kept) ? kBits : 0));
+    const std::int64_t blocks =
+        std::int64_t{component.paddedAcross} * RowsOfMemory(component, kept);
+    return blocks * kept.stride * kNumber + (NeedsNonZero(kept) ? BlocksOf(component) * kBits : 0);
 }
 
 ScanOutcome ReadProgressiveScan(FileBytes file, const JpgFrame& frame, const JpgScan& scan,

@@ -185,14 +185,29 @@ Size SizeOfColors(const JpgFrame& frame, Size seen, Size target) {
 KeptFrequencies WithFewer(const KeptFrequencies& kept) {
     const auto fewer = [](int count) { return count == 8 ? kMostReduced : count - 1; };
     if (kept.across == 1 && kept.down == 1) return kept;
-    return kept.across >= kept.down ? KeptFrequencies::Of(fewer(kept.across), kept.down)
-                                    : KeptFrequencies::Of(kept.across, fewer(kept.down));
+    KeptFrequencies less = kept.across >= kept.down
+                               ? KeptFrequencies::Of(fewer(kept.across), kept.down)
+                               : KeptFrequencies::Of(kept.across, fewer(kept.down));
+    less.firstRow = kept.firstRow;
+    less.endRow = kept.endRow;
+    return less;
 }
 
-std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size seen, Size target) {
+// A row more on either side does no harm.
+void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component, const PictureArea& area,
+                  KeptFrequencies& kept) {
+    const SeenAxis down =
+        AxisOf(area.top, area.height, component.down, frame.maxDown, kept.down, 1);
+    kept.firstRow = std::max(down.first / kept.down - 1, 0);
+    kept.endRow = (down.first + down.axis.samples - 1) / kept.down + 2;
+}
+
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const PictureArea& area,
+                                           Size seen, Size target) {
     std::vector<KeptFrequencies> kept;
     for (const JpgComponent& component : frame.components) {
         kept.push_back(FrequenciesOf(frame, component, seen, target));
+        KeepSeenRows(frame, component, area, kept.back());
     }
     for (int i = 0; i < 2 * 8 && CoefficientBytes(frame, kept) > kMostCoefficientBytes; ++i) {
         for (KeptFrequencies& each : kept) each = WithFewer(each);
@@ -239,7 +254,7 @@ std::optional<RgbPicture> ReadPart(FileBytes file, JpgMarkers& markers, const Pi
         return Resize(*whole, area, width, height);
     }
     const Size colors = SizeOfColors(frame, seen, target);
-    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, seen, colors);
+    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, stored, seen, colors);
     ComponentScalers scalers(frame, kept, stored, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
     RgbPicture picture = MakePicture(markers, scalers, colors);

@@ -8,29 +8,47 @@
 
 #include "pictures/bmp_header.h"
 #include "pictures/bmp_writer.h"
+#include "pictures/compose/stages.h"
 #include "pictures/convert.h"
 #include "pictures/whole_file.h"
+#include "tools/options.h"
 
 namespace vistrel {
 namespace {
-
-constexpr char kUsage[] =
-    "usage: logo-convert SOURCE TARGET            make a screen file of a picture\n"
-    "       logo-convert --info SOURCE            print width, height and depth\n"
-    "       logo-convert --rgb SOURCE OUT         write 24-bit pixels, rows from the top\n"
-    "       logo-convert --repeat N SOURCE TARGET convert N times, print the median time in ms\n";
 
 int Complain(const std::string& path, const char* what) {
     std::fprintf(stderr, "logo-convert: %s: %s\n", path.c_str(), what);
     return 1;
 }
 
-int Convert(const std::string& source, const std::string& target) {
-    switch (TryConvertToLogo(source, target)) {
+constexpr char kNotRead[] = "cannot be read as the picture that its name stands for";
+
+/// True of a crop that has nothing of the picture. One that has some of it is taken so far.
+bool IsOutside(const compose::Crop& crop, const PictureSize& turned) {
+    return crop.left >= turned.width || crop.top >= turned.height ||
+           std::int64_t{crop.left} + crop.width <= 0 || std::int64_t{crop.top} + crop.height <= 0;
+}
+
+/// Complains about a crop outside the picture; 0 when there is none.
+int CheckCrop(const std::string& source, const compose::Composition& composition) {
+    if (!composition.crop) return 0;
+    const std::optional<PictureSize> size = compose::SizeOfPicture(source);
+    if (!size) return Complain(source, kNotRead);
+    const PictureSize turned = compose::SizeWhenTurned(*size, composition.orientation);
+    if (!IsOutside(*composition.crop, turned)) return 0;
+    const std::string what = "the crop lies outside the picture of " +
+                             std::to_string(turned.width) + " x " + std::to_string(turned.height) +
+                             " pixels";
+    return Complain(source, what.c_str());
+}
+
+int Convert(const std::string& source, const std::string& target,
+            const compose::Composition& composition) {
+    switch (compose::MakeScreen(source, target, composition)) {
         case ConversionResult::Written:
             return 0;
         case ConversionResult::NotRead:
-            return Complain(source, "cannot be read as the picture that its name stands for");
+            return Complain(source, kNotRead);
         case ConversionResult::NotReduced:
             return Complain(source, "there is not enough memory");
         case ConversionResult::NotWritten:
@@ -56,22 +74,23 @@ int DepthOf(const std::string& path) {
 
 int PrintInfo(const std::string& source) {
     const std::optional<RgbPicture> picture = ReadPicture(source);
-    if (!picture) return Complain(source, "cannot be read as the picture that its name stands for");
+    if (!picture) return Complain(source, kNotRead);
     std::printf("%d %d %d\n", picture->width, picture->height, DepthOf(source));
     return 0;
 }
 
 int WriteRgb(const std::string& source, const std::string& target) {
     const std::optional<RgbPicture> picture = ReadPicture(source);
-    if (!picture) return Complain(source, "cannot be read as the picture that its name stands for");
+    if (!picture) return Complain(source, kNotRead);
     return WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
 }
 
-int Repeat(int times, const std::string& source, const std::string& target) {
+int Repeat(int times, const std::string& source, const std::string& target,
+           const compose::Composition& composition) {
     std::vector<double> milliseconds;
     for (int i = 0; i < times; ++i) {
         const std::clock_t start = std::clock();
-        const int status = Convert(source, target);
+        const int status = Convert(source, target, composition);
         if (status != 0) return status;
         milliseconds.push_back(1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
@@ -81,22 +100,30 @@ int Repeat(int times, const std::string& source, const std::string& target) {
     return 0;
 }
 
-int Run(const std::vector<std::string>& arguments) {
-    const std::size_t count = arguments.size();
-    if (count == 2 && arguments[0] == "--info") return PrintInfo(arguments[1]);
-    if (count == 3 && arguments[0] == "--rgb") return WriteRgb(arguments[1], arguments[2]);
-    if (count == 4 && arguments[0] == "--repeat") {
-        const int times = std::atoi(arguments[1].c_str());
-        if (times > 0) return Repeat(times, arguments[2], arguments[3]);
-    }
-    if (count == 2) return Convert(arguments[0], arguments[1]);
-    std::fputs(kUsage, stderr);
-    return 1;
+int Misused(const std::string& complaint) {
+    std::fprintf(stderr, "logo-convert: %s\nlogo-convert --help tells what it can do.\n",
+                 complaint.c_str());
+    return 2;
+}
+
+int Run(const ConvertOptions& options) {
+    if (options.help) return std::fputs(kHelp, stdout) < 0;
+    if (!options.complaint.empty()) return Misused(options.complaint);
+    const std::vector<std::string>& files = options.files;
+    if (options.info)
+        return files.size() == 1 ? PrintInfo(files[0]) : Misused("--info wants one picture");
+    if (files.size() != 2) return Misused("a picture and a target are wanted");
+    if (options.rgb) return WriteRgb(files[0], files[1]);
+    const int status = CheckCrop(files[0], options.composition);
+    if (status != 0) return status;
+    return options.repeat > 0 ? Repeat(options.repeat, files[0], files[1], options.composition)
+                              : Convert(files[0], files[1], options.composition);
 }
 
 }  // namespace
 }  // namespace vistrel
 
 int main(int count, char** arguments) {
-    return vistrel::Run(std::vector<std::string>(arguments + 1, arguments + count));
+    return vistrel::Run(
+        vistrel::ReadOptions(std::vector<std::string>(arguments + 1, arguments + count)));
 }

@@ -1,4 +1,4 @@
-// Tables in fixed point: 1 is 65,536.
+// Tables in fixed point: 24 bits of fraction, so that much contrast finds enough of them.
 #include "pictures/compose/light.h"
 
 #include <algorithm>
@@ -7,7 +7,8 @@
 namespace vistrel::compose {
 namespace {
 
-constexpr std::int64_t kOne = 65536;
+constexpr int kOneBits = 24;
+constexpr std::int64_t kOne = 1 << kOneBits;
 
 // Logarithms have so many bits of fraction, roots of two 30.
 constexpr int kLogBits = 24;
@@ -25,11 +26,11 @@ constexpr auto kRootsOfTwo = [] {
     return roots;
 }();
 
-/// The logarithm to base 2 of value / 65,536, for values above 0: bit by bit, by squaring.
+/// The logarithm to base 2 of value / kOne, for values above 0: bit by bit, by squaring.
 std::int64_t LogOfTwo(std::uint64_t value) {
     const int highest = std::bit_width(value) - 1;
     std::uint64_t mantissa = value << (kRootBits - highest);
-    std::int64_t log = highest - 16;
+    std::int64_t log = highest - kOneBits;
     for (int i = 0; i < kLogBits; ++i) {
         mantissa = mantissa * mantissa >> kRootBits;
         const bool isTwo = mantissa >> (kRootBits + 1) != 0;
@@ -39,14 +40,14 @@ std::int64_t LogOfTwo(std::uint64_t value) {
     return log;
 }
 
-/// 2 to the power of `log`, which is not above 0, times 65,536.
+/// 2 to the power of `log`, which is not above 0, times kOne.
 std::int64_t PowerOfTwo(std::int64_t log) {
     const std::int64_t whole = log >> kLogBits;  // rounded down
-    if (whole < -16) return 0;
+    if (whole < -kOneBits) return 0;
     std::uint64_t power = std::uint64_t{1} << kRootBits;
     for (int i = 0; i < kLogBits; ++i)
         if (log >> (kLogBits - 1 - i) & 1) power = power * kRootsOfTwo[i] >> kRootBits;
-    return static_cast<std::int64_t>(power >> (kRootBits - 16 - whole));
+    return static_cast<std::int64_t>(power >> (kRootBits - kOneBits - whole));
 }
 
 /// value to the power of 100 / gamma.

@@ -59,7 +59,7 @@ TEST_F(OpenLabelEdit, IsTakenBeforeTheListIsReadAnew) {
 
 TEST_F(OpenLabelEdit, IsTakenBeforeAMenuItemOfTheMenuBar) {
     ExpectRenamedFirst(
-        [&](Principale& main) { StartCommand(main, ID_ToolReportView); },
+        [&](Principale& main) { user::ChooseFromMenuBar(main.handle(), ID_ToolReportView); },
         [&](Principale& main) {
             EXPECT_TRUE(WaitUntil([&] { return main.MyList.Mode() == ListViewMode::Report; }));
         });

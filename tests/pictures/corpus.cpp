@@ -97,4 +97,21 @@ std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int 
     return ReadScaled(*rows, width, height);
 }
 
+std::optional<RgbPicture> ReadPartByContent(FileBytes file, int part) {
+    const auto middle = [part](int width, int height) {
+        const PictureArea whole = PictureArea::WholeOf(width, height);
+        return PictureArea{(whole.width - whole.width / part) / 2,
+                           (whole.height - whole.height / part) / 2, whole.width / part,
+                           whole.height / part};
+    };
+    if (IsJpg(file)) {
+        const std::optional<PictureSize> size = SizeOfJpg(file);
+        if (!size) return std::nullopt;
+        return ReadJpgScaled(file, middle(size->width, size->height), 320, 400);
+    }
+    const std::unique_ptr<PictureRows> rows = OpenByContent(file);
+    if (!rows) return std::nullopt;
+    return ReadScaled(*rows, middle(rows->width(), rows->height()), 320, 400);
+}
+
 }  // namespace vistrel::test

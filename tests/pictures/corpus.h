@@ -37,4 +37,7 @@ std::optional<RgbPicture> ReadByContent(FileBytes file);
 /// The same, scaled to a size.
 std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int height);
 
+/// The same at a screen's size, of the middle, a `part`th of each side.
+std::optional<RgbPicture> ReadPartByContent(FileBytes file, int part);
+
 }  // namespace vistrel::test

@@ -50,6 +50,13 @@ void ExpectModestMemoryScaled(const Bytes& file) {
         ReadScaledByContent(file, width, height);
         EXPECT_LE(mostUsed - before, kAnyFile);
     }
+    // Parts of a picture, by as many of its pixels as a screen has and by few.
+    for (const int part : {3, 40}) {
+        const std::size_t before = used;
+        mostUsed = used;
+        ReadPartByContent(file, part);
+        EXPECT_LE(mostUsed - before, kAnyFile);
+    }
 }
 
 void ExpectModestMemory(const Bytes& file) {

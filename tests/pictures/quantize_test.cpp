@@ -149,6 +149,18 @@ TEST(QuantizeRgb, ShowsASmoothSkyWithoutSteps) {
     EXPECT_GT(Psnr(soft, sky, 4), 50);
 }
 
+TEST(QuantizeRgb, BlendsTheMoreFromAfarTheStrongerTheDithering) {
+    const RgbPicture sky = Sky(320, 400);
+    double near = 1000, far = 0;
+    for (const Dither dither : {Dither::Off, Dither::Light, Dither::Medium, Dither::Strong}) {
+        const RgbPicture shown = Shown(sky, Reduce(sky, 256, dither));
+        EXPECT_LT(Psnr(shown, sky, 1), near - 0.2) << int(dither);
+        EXPECT_GT(Psnr(shown, sky, 4), far + 1) << int(dither);
+        near = Psnr(shown, sky, 1);
+        far = Psnr(shown, sky, 4);
+    }
+}
+
 TEST(QuantizeRgb, LeavesFlatAreasWithoutNoise) {
     // A flat field beside a busy one: the flat one's colour is in the palette.
     Numbers numbers(2);

@@ -1,6 +1,8 @@
 // Finding windows, reading them, mouse and keyboard of the tests' user.
 #include "tests/support/user.h"
 
+#include <cstdlib>
+
 #include "tests/support/clean_start.h"
 
 namespace vistrel::user {
@@ -72,13 +74,22 @@ void Send(std::vector<INPUT> inputs) {
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+/// Whether a click here, now, would make the earlier one a double click.
+bool WouldDouble(POINT earlier, DWORD time, POINT point) {
+    return GetTickCount() - time <= GetDoubleClickTime() &&
+           std::abs(point.x - earlier.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+           std::abs(point.y - earlier.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+}
+
 /// Clicks `times` times at the point. Lets a possible double click with an earlier click pass by.
 void ClickButton(POINT point, DWORD down, DWORD up, int times) {
     static DWORD last_click = GetTickCount() - GetDoubleClickTime() - 1;
+    static POINT last_point = point;
     MoveTo(point);
-    WaitUntil([] { return GetTickCount() - last_click > GetDoubleClickTime(); });
+    WaitUntil([&] { return !WouldDouble(last_point, last_click, point); });
     for (int i = 0; i < times; ++i) Send({MouseInput(down, point), MouseInput(up, point)});
     last_click = GetTickCount();
+    last_point = point;
 }
 
 /// Whether a click at this point reaches the window or a part of it.

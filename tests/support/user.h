@@ -82,10 +82,10 @@ void Type(const std::string& text);
 
 // Menus of this process; use a `Meanwhile` when the menu belongs to the thread of the test.
 
-/// Chooses a command from the menu bar of the active window by keyboard, looking at what is marked.
-/// Returns false, without a key pressed, when the menu bar has no such command.
+/// Chooses a command from the menu bar of a window with the mouse. Returns false, without a click,
+/// when the menu bar has no such command.
 bool ChooseFromMenuBar(HWND window, unsigned command);
-/// Waits for a pop-up menu and chooses a command from it by keyboard. When the menu does not have
+/// Waits for a pop-up menu and chooses a command from it with the mouse. When the menu does not have
 /// it the menu is closed and the result is false.
 bool ChooseFromPopUp(unsigned command);
 /// The pop-up menu that is open (wait for it), or null.

@@ -31,27 +31,6 @@ bool FindCommand(HMENU menu, unsigned command, MenuPath* path) {
     return false;
 }
 
-/// Takes the marks away that menus have kept from an earlier time, so that the next one is told.
-void ForgetMarks(const MenuPath& path) {
-    for (const Step& step : path) {
-        for (int i = 0; i < GetMenuItemCount(step.menu); ++i) {
-            MENUITEMINFOA item = {};
-            item.cbSize = sizeof item;
-            item.fMask = MIIM_STATE;
-            GetMenuItemInfoA(step.menu, i, TRUE, &item);
-            item.fState &= ~MFS_HILITE;
-            SetMenuItemInfoA(step.menu, i, TRUE, &item);
-        }
-    }
-}
-
-/// The item that a user sees marked, or -1.
-int MarkedItem(HMENU menu) {
-    for (int i = IsMenu(menu) ? GetMenuItemCount(menu) - 1 : -1; i >= 0; --i)
-        if ((GetMenuState(menu, i, MF_BYPOSITION) & MF_HILITE) != 0) return i;
-    return -1;
-}
-
 BOOL CALLBACK CountPopUp(HWND window, LPARAM count) {
     if (IsWindowVisible(window) && ClassOf(window) == "#32768") ++*reinterpret_cast<int*>(count);
     return TRUE;
@@ -64,21 +43,22 @@ int OpenPopUps() {
     return count;
 }
 
-/// Presses a key and looks at what comes of it; presses it again when nothing does.
+/// Clicks an item of a menu and looks at what comes of it; clicks again when nothing does.
 template <typename Condition>
-bool PressUntil(WORD key, Condition condition) {
+bool ClickUntil(HWND window, const Step& step, Condition condition) {
     constexpr int kTries = 3;
     for (int i = 0; i < kTries; ++i) {
-        Press(key);
+        RECT area = {};
+        if (!GetMenuItemRect(window, step.menu, static_cast<UINT>(step.position), &area)) break;
+        ClickAt({(area.left + area.right) / 2, (area.top + area.bottom) / 2});
         if (WaitUntil(condition, 3000)) return true;
     }
     return false;
 }
 
-/// Opens the pop-up of the marked item. A menu keeps its mark while it is closed.
-bool OpenInner(HMENU inner, WORD key) {
+bool OpenInner(HWND window, const Step& step) {
     const int open = OpenPopUps();
-    return PressUntil(key, [&] { return OpenPopUps() > open && MarkedItem(inner) >= 0; });
+    return ClickUntil(window, step, [&] { return OpenPopUps() > open; });
 }
 
 /// Leaves all menus. Returns false, as whoever could not choose does.
@@ -91,23 +71,12 @@ bool LeaveMenus() {
     return false;
 }
 
-/// Marks an item of an open menu by going from one to the next.
-bool GoTo(const Step& step, WORD key) {
-    // Once around is enough.
-    for (int left = GetMenuItemCount(step.menu) + 1; left > 0; --left) {
-        const int marked = MarkedItem(step.menu);
-        if (marked == step.position) return true;
-        if (!PressUntil(key, [&] { return MarkedItem(step.menu) != marked; })) return false;
-    }
-    return false;
-}
-
 /// Goes the rest of the way in an open pop-up.
 bool WalkDown(MenuPath::const_iterator step, MenuPath::const_iterator end) {
     for (; step + 1 != end; ++step) {
-        if (!GoTo(*step, VK_DOWN) || !OpenInner((step + 1)->menu, VK_RIGHT)) return false;
+        if (!OpenInner(nullptr, *step)) return false;
     }
-    return GoTo(*step, VK_DOWN) && PressUntil(VK_RETURN, [] { return OpenPopUps() == 0; });
+    return ClickUntil(nullptr, *step, [] { return OpenPopUps() == 0; });
 }
 
 BOOL CALLBACK CollectChild(HWND window, LPARAM children) {
@@ -171,10 +140,7 @@ bool ChooseFromMenuBar(HWND window, unsigned command) {
     MenuPath path;
     const HMENU bar = GetMenu(window);
     if (!FindCommand(bar, command, &path)) return false;
-    ForgetMarks(path);
-    return (PressUntil(VK_F10, [&] { return MarkedItem(bar) >= 0; }) && GoTo(path[0], VK_RIGHT) &&
-            OpenInner(path[1].menu, VK_DOWN) && WalkDown(path.begin() + 1, path.end())) ||
-           LeaveMenus();
+    return (OpenInner(window, path[0]) && WalkDown(path.begin() + 1, path.end())) || LeaveMenus();
 }
 
 HMENU WaitForPopUp() {
@@ -189,7 +155,6 @@ bool ChooseFromPopUp(unsigned command) {
     MenuPath path;
     if (menu == nullptr) return false;
     if (!FindCommand(menu, command, &path)) return LeaveMenus();
-    ForgetMarks(path);
     return WalkDown(path.begin(), path.end()) || LeaveMenus();
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "pictures/bmp_writer.h"
+#include "pictures/compose/stages.h"
 #include "pictures/convert.h"
 #include "pictures/quantize.h"
 #include "pictures/resize.h"
@@ -71,6 +72,20 @@ std::string Line(const char* what, const std::string& digest) {
     return digest + "  " + what + "\n";
 }
 
+/// A part of a photograph that does not begin or end at a pixel, turned and lit.
+std::string DigestOfFramed(const char* name, compose::FramingKind kind) {
+    compose::Composition composition;
+    composition.orientation = {1, true};
+    composition.framing.kind = kind;
+    composition.framing.zoom = 1300;
+    composition.framing.centreX = compose::kWhole / 3;
+    composition.framing.border = compose::Border::BlurredEdge;
+    composition.light = {5, 20, 130, 40, true};
+    const auto framed = compose::ReadFramed(PathBeside(name), composition);
+    EXPECT_TRUE(framed.has_value()) << PathBeside(name);
+    return framed ? Md5(compose::Adjust(*framed, composition).pixels) : "";
+}
+
 std::string AllDigests() {
     return Line("bitmap larger than a screen", DigestOfBitmap(700, 900)) +
            Line("bitmap of a screen's size", DigestOfBitmap(320, 400)) +
@@ -84,7 +99,12 @@ std::string AllDigests() {
            Line("reduction to 31 colours", DigestOfReduction(31, Dither::On)) +
            Line("reduction without dithering", DigestOfReduction(256, Dither::Off)) +
            Line("resize for a preview", DigestOfResize(160, 120)) +
-           Line("resize to more pixels", DigestOfResize(640, 401));
+           Line("resize to more pixels", DigestOfResize(640, 401)) +
+           Line("reduction with much dithering", DigestOfReduction(256, Dither::Strong)) +
+           Line("photograph, filled and lit",
+                DigestOfFramed("baseline.jpg", compose::FramingKind::Fill)) +
+           Line("photograph, fitted and lit",
+                DigestOfFramed("progressive.jpg", compose::FramingKind::Fit));
 }
 
 TEST(Conversion, GivesTheRecordedBytesInThisBuild) {

@@ -1,0 +1,97 @@
+// compose-bench PICTURE [once]: what each step of adjusting a picture takes beside a whole
+// conversion of it, all in turn in one run. With "once" each is run once and nothing is printed,
+// for a program that counts instructions; see compare_adjusting.
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "bench/processor_time.h"
+#include "pictures/compose/stages.h"
+
+namespace vistrel::compose {
+
+[[gnu::noinline]] void RunOnce(const std::function<void()>& step) { step(); }
+
+namespace {
+
+struct Step {
+    std::string name;
+    std::function<void()> run;
+    std::vector<double> milliseconds = {};
+};
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// A photograph that is filled, moved, lit and lettered.
+Composition Busy() {
+    Composition composition;
+    composition.framing.kind = FramingKind::Fill;
+    composition.framing.zoom = 1200;
+    composition.framing.centreX = kWhole / 3;
+    composition.light = {10, 15, 120, 20, false};
+    TextMask line;
+    line.letters = {20, 300, 280, 60, std::vector<std::uint8_t>(280 * 60)};
+    for (std::size_t i = 0; i < line.letters.cover.size(); ++i)
+        line.letters.cover[i] = i / 8 % 4 == 0 ? 255 : 0;
+    line.edge = line.letters;
+    composition.text = {line};
+    return composition;
+}
+
+/// Times all in turn, so that whatever else the machine does meets each of them.
+void Compare(std::vector<Step>& steps) {
+    constexpr int kRounds = 15;
+    for (int round = 0; round < kRounds; ++round) {
+        for (Step& step : steps) {
+            const double begun = ProcessorTime();
+            step.run();
+            step.milliseconds.push_back(ProcessorTime() - begun);
+        }
+    }
+    const double whole = Median(steps[0].milliseconds);
+    for (const Step& step : steps) {
+        const double own = Median(step.milliseconds);
+        std::printf("%-16s %8.2f ms %8.3f\n", step.name.c_str(), own, own / whole);
+    }
+}
+
+int Run(const std::string& source, const std::string& only) {
+    const Composition composition = Busy();
+    Composition toneAlone = composition;
+    toneAlone.light.saturation = 0;
+    const auto intermediate = ReadComposed(source);
+    const auto framed = ReadFramed(source, composition);
+    if (!intermediate || !framed) {
+        std::fprintf(stderr, "compose-bench: cannot read %s\n", source.c_str());
+        return 1;
+    }
+    const RgbPicture screen = Adjust(*framed, composition);
+    std::vector<Step> steps = {
+        // To nowhere: the disk is not what is measured.
+        {"Conversion", [&] { TryConvertToLogo(source, "/dev/null/none"); }},
+        {"ReadComposed", [&] { ReadComposed(source); }},
+        {"ReadFramed", [&] { ReadFramed(source, composition); }},
+        {"Frame", [&] { Frame(*intermediate, composition); }},
+        {"FrameFinely", [&] { FrameFinely(*intermediate, composition); }},
+        {"Adjust", [&] { Adjust(*framed, composition); }},
+        {"AdjustToneAlone", [&] { Adjust(*framed, toneAlone); }},
+        {"Reduce", [&] { Reduce(screen, Dither::On); }},
+    };
+    if (only.empty()) Compare(steps);
+    for (const Step& step : steps)
+        if (step.name == only) RunOnce(step.run);
+    return 0;
+}
+
+}  // namespace
+}  // namespace vistrel::compose
+
+int main(int count, char** arguments) {
+    if (count < 2) return 1;
+    return vistrel::compose::Run(arguments[1], count > 2 ? arguments[2] : "");
+}
