@@ -40,17 +40,23 @@ void FrmAdjust::ShowQuick() {
 
 void FrmAdjust::ShowFinished() {
     restTimer_.SetEnabled(false);
-    DrawPicture(
-        Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight()),
-        ScreenBox);
+    finished_ =
+        Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight());
+    DrawPicture(finished_, ScreenBox);
 }
 
 void FrmAdjust::ShowHeld(bool original) {
-    if (!original) return ShowFinished();
-    restTimer_.SetEnabled(false);
-    DrawPicture(
-        Resize(live_.Original(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight()),
-        ScreenBox);
+    if (original) {
+        unfinished_ = restTimer_.Enabled();
+        restTimer_.SetEnabled(false);
+        DrawPicture(
+            Resize(live_.Original(composition_), ScreenBox.ScaleWidth(), ScreenBox.ScaleHeight()),
+            ScreenBox);
+    } else if (unfinished_) {
+        ShowFinished();
+    } else {
+        DrawPicture(finished_, ScreenBox);
+    }
 }
 
 Point FrmAdjust::ToScreen(Point at) const {
