@@ -83,7 +83,6 @@ class FrmAdjust : public controls::Window {
  protected:
     void Form_Load() override;
     void Form_Activate() override;
-    void SessionEnds() override {}
     bool Form_KeyDown(int key) override;
     void Form_KeyPress(char character) override;
     bool Form_MouseWheel(int turned, controls::Point screen) override;
@@ -169,6 +168,8 @@ class FrmAdjust : public controls::Window {
     compose::Composition composition_;  ///< as it is now, with the lines' masks
     std::vector<DrawnLine> lines_;
     std::vector<controls::Control*> pages_[4];
+    pictures::RgbPicture finished_;  ///< what ShowFinished showed last, in the box's size
+    bool unfinished_ = false;  ///< the original is shown over something that has changed since
     controls::Timer restTimer_;
     platform::MenuHandle readyMade_;
     bool fontsTold_ = false;

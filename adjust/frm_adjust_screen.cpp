@@ -40,17 +40,23 @@ void FrmAdjust::ShowQuick() {
 
 void FrmAdjust::ShowFinished() {
     restTimer_.SetEnabled(false);
-    preview::DrawPicture(scale::Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(),
-                                       ScreenBox.ScaleHeight()),
-                         ScreenBox);
+    finished_ = scale::Resize(live_.Finished(composition_), ScreenBox.ScaleWidth(),
+                              ScreenBox.ScaleHeight());
+    preview::DrawPicture(finished_, ScreenBox);
 }
 
 void FrmAdjust::ShowHeld(bool original) {
-    if (!original) return ShowFinished();
-    restTimer_.SetEnabled(false);
-    preview::DrawPicture(scale::Resize(live_.Original(composition_), ScreenBox.ScaleWidth(),
-                                       ScreenBox.ScaleHeight()),
-                         ScreenBox);
+    if (original) {
+        unfinished_ = restTimer_.Enabled();
+        restTimer_.SetEnabled(false);
+        preview::DrawPicture(scale::Resize(live_.Original(composition_), ScreenBox.ScaleWidth(),
+                                           ScreenBox.ScaleHeight()),
+                             ScreenBox);
+    } else if (unfinished_) {
+        ShowFinished();
+    } else {
+        preview::DrawPicture(finished_, ScreenBox);
+    }
 }
 
 controls::Point FrmAdjust::ToScreen(controls::Point at) const {

@@ -89,6 +89,7 @@ void FrmAdjust::ConnectText() {
             [this](TextLine& line) { line.edge = static_cast<LetterEdge>(EdgeKind.ListIndex()); });
     };
     AlignKind.Click = [this] {
+        if (!SelectedLine()) return;
         lines_[*SelectedLine()].Align(static_cast<Alignment>(AlignKind.ListIndex()));
         LinesChanged();
     };

@@ -25,6 +25,7 @@ TEST_F(Appearance, EveryCaptionIsAsItShouldBe) {
     } captions[] = {
         {ID_Label1, "Select log&os:"},
         {ID_ImageInfo, "No logo selected"},
+        {ID_AdjustButton, "Ad&just..."},
         {ID_LblSlot, "LOGO.SYS\r\nStartup screen"},
         {ID_LblSlot + 1, "LOGOW.SYS\r\nWait screen"},
         {ID_LblSlot + 2, "LOGOS.SYS\r\nShutdown screen"},
@@ -59,7 +60,8 @@ TEST_F(Appearance, TheMenusSayWhatTheyDo) {
         user::RightClickAt(PointOfItem(editor, ".."));
         EXPECT_EQ(seen::TextsOf(user::WaitForPopUp()),
                   (Names{"&Rename\tF2", "&Delete\tDel", "&Refresh\tF5", "-", "Set as &LOGO.SYS",
-                         "Set as LOGO&W.SYS", "Set as LOGO&S.SYS"}));
+                         "Set as LOGO&W.SYS", "Set as LOGO&S.SYS", "-", "Ad&just...",
+                         "&Make sets of these pictures..."}));
         DismissMenu();
     });
 }

@@ -48,9 +48,11 @@ bool IsPopup(const ReadTopic& topic) { return topic.band.empty(); }
 // The numbers that users' windows ask for, written down here once more: a number that is changed on
 // one side only would show another control's help.
 const std::set<std::uint32_t> kTopicNumbers = {30, 90, 91};
-const std::set<std::uint32_t> kPopupNumbers = {32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44,
-                                               54, 55, 60, 61, 62, 63, 64, 65, 66, 67, 68, 69, 70,
-                                               71, 72, 73, 74, 75, 76, 84, 85, 86};
+const std::set<std::uint32_t> kPopupNumbers = {
+    32,  33,  34,  35,  36,  37,  38,  39,  40,  41,  42,  43,  44,  54,  55,  60,  61,
+    62,  63,  64,  65,  66,  67,  68,  69,  70,  71,  72,  73,  74,  75,  76,  77,  84,
+    85,  86,  100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, 114,
+    115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 130, 131, 132, 133, 134, 135};
 
 // Every number that context_numbers.h gives to something: those behind a '='.
 std::set<std::uint32_t> NumbersOfTheProgram() {
@@ -136,6 +138,11 @@ INSTANTIATE_TEST_SUITE_P(
                     ControlTitle{help_number::ImgPreview[2], "Slot of the shutdown screen"},
                     ControlTitle{help_number::OptDefShut, "Default wait/shutdown screens"},
                     ControlTitle{help_number::CloseButton, "Finish"},
+                    ControlTitle{help_number::AdjustButton, "Adjust"},
+                    ControlTitle{help_number::OptFraming[2], "Fit"},
+                    ControlTitle{help_number::LightBar[3], "Saturation"},
+                    ControlTitle{help_number::AlignKind, "Align"},
+                    ControlTitle{help_number::ManyClose, "Cancel and Close"},
                     ControlTitle{help_number::DefaultLogo, "Default logo set"},
                     ControlTitle{help_number::LogoType, "Type of the set"},
                     ControlTitle{help_number::NumLogo, "Number of sets"}));
@@ -193,6 +200,8 @@ TEST(VistrelHelp, TellsWhatSurprisesAUser) {
     EXPECT_TRUE(Tells("Tutorial: your first logo set", "The first place is often empty"));
     EXPECT_TRUE(Tells("Removing Vistrel", "Add/Remove Programs"));
     EXPECT_TRUE(Tells("What Vistrel does", "MSDOS.SYS"));
+    EXPECT_TRUE(Tells("Adjusting a picture", "an animated screen becomes a"));
+    EXPECT_TRUE(Tells("Sets of many pictures", "sets that are made stay"));
 }
 
 TEST(VistrelHelp, EveryTopicThatIsNoPopupHasAKeyword) {

@@ -6,13 +6,19 @@
 
 #include "about/frm_about_reg.h"
 #include "about/frm_splash.h"
+#include "adjust/frm_adjust.h"
+#include "adjust/frm_many_sets.h"
 #include "controls/screen_metrics.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
+#include "pictures/preview/draw_letters.h"
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
+using namespace preview;
 
 using namespace about;
 using namespace controls;
@@ -231,6 +237,26 @@ TEST_F(Layout, OfThePreferences) {
         SendMessageA(options.TabStrip1.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
         Look(options, "preferences-" + std::to_string(page));
     }
+}
+
+TEST_F(Layout, OfAdjustingAPicture) {
+    TextLine line;
+    line.text = "A line that is much longer than the list is wide";
+    // What is missing would be told by a box.
+    line.font.face = FaceFor(line.font.face);
+    FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {line}}, [] { return std::string(); });
+    ASSERT_TRUE(adjust.ReadPicture());
+    Open(adjust);
+    for (int page = 0; page < 3; ++page) {
+        SendMessageA(adjust.AdjustPages.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
+        Look(adjust, "adjust-" + std::to_string(page));
+    }
+}
+
+TEST_F(Layout, OfMakingManySets) {
+    FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
+    Open(many);
+    Look(many, "many");
 }
 
 TEST_F(Layout, OfTheAboutBox) {

@@ -5,12 +5,16 @@
 
 #include "about/frm_about_reg.h"
 #include "about/frm_splash.h"
+#include "adjust/frm_adjust.h"
+#include "adjust/frm_many_sets.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
 
 using namespace about;
 using namespace controls;
@@ -48,10 +52,13 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
         FrmOptions options(main);
         SelPictureForm editor(main);
         FrmView view(logos + "Blue\\LOGO.SYS", false);
+        FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {}}, [] { return std::string(); });
+        ASSERT_TRUE(adjust.ReadPicture());
+        FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
         FrmAboutReg about;
         frmSplash splash;
-        for (Window* window :
-             std::initializer_list<Window*>{&options, &editor, &view, &about, &splash}) {
+        for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
+                                                             &view, &about, &splash}) {
             ASSERT_TRUE(window->Create(nullptr));
             Check(*window);
         }

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "about/frm_splash.h"
+#include "adjust/frm_adjust.h"
 #include "controls/display_palette.h"
 #include "main_window/frm_view.h"
 #include "pictures/bmp/writer.h"
@@ -14,6 +15,8 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
 
 using namespace about;
 using namespace bmp;
@@ -212,6 +215,16 @@ TEST_F(PaletteDisplay, KeepsTheActualSizeViewsColorsByDithering) {
     user::TakeShot("actual-size-256-colours");
     EXPECT_LT(error.mean, 2);
     EXPECT_LT(error.largest, 8);
+}
+
+TEST_F(PaletteDisplay, KeepsTheColorsOfAPictureThatIsAdjusted) {
+    FrmAdjust adjust({screen, {}, {}}, [] { return std::string(); });
+    ASSERT_TRUE(adjust.ReadPicture());
+    Open(adjust);
+    const Error error = BlockError(Shown(adjust.ScreenBox), Wanted(adjust.ScreenBox));
+    user::TakeShot("adjust-256-colours");
+    EXPECT_LT(error.mean, 2);
+    EXPECT_LT(error.largest, 12);
 }
 
 TEST_F(PaletteDisplay, BringsAllItsColorsAndLeavesTheSystemsOwn) {

@@ -1,11 +1,17 @@
 // A user composes logo sets of pictures in the Logo browser.
 #include <cstdlib>
 
+#include "adjust/text_line.h"
+#include "pictures/compose/stages.h"
 #include "pictures/convert.h"
+#include "pictures/preview/draw_letters.h"
 #include "resources/ids.h"
 #include "tests/user/running_program.h"
 
 namespace vistrel::test {
+
+using namespace adjust;
+using namespace preview;
 
 using namespace pictures;
 
@@ -79,6 +85,24 @@ class Composing : public RunningProgram {
         return made && source && Difference(made->picture, source->picture) < 6;
     }
 
+    /// Opens "Adjust picture" on the selected picture; null if it did not come.
+    HWND OpenAdjust() {
+        EXPECT_TRUE(user::Click(Part(ID_AdjustButton)));
+        const HWND window = user::WaitForTop("FrmAdjust", "Adjust picture", process);
+        return window && user::Activate(window) ? window : nullptr;
+    }
+
+    /// Adds a line of text on the page of the text.
+    static void AddLine(HWND window, const std::string& text) {
+        const HWND lines = user::Control(window, ID_TextLines);
+        const auto label = [&] { return FindWindowExA(lines, nullptr, "Edit", nullptr); };
+        EXPECT_TRUE(user::Click(user::Control(window, ID_BtnAddLine)));
+        EXPECT_TRUE(WaitUntil([&] { return label() != nullptr; }));
+        user::Type(text);
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(WaitUntil([&] { return label() == nullptr; }));
+    }
+
     HWND editor_ = nullptr;
 };
 
@@ -140,6 +164,53 @@ TEST_F(Composing, BuildsSetsByDraggingPicturesAndUpdatesConvertsAndDeletesThem) 
     Close();
     EXPECT_TRUE(Exists(logos + "Trip"));
     EXPECT_EQ(Stored("SearchLogoPath"), SavedText(kPictures));
+}
+
+TEST_F(Composing, AdjustsAPhotographForTheWaitScreen) {
+    HWND main = Start();
+    ASSERT_NE(main, nullptr);
+    ASSERT_TRUE(OpenBrowser(main));
+    SelectPicture(2, "Lighthouse.jpg");
+    const HWND window = OpenAdjust();
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(user::Click(user::Control(window, ID_OptFraming + 1)));
+    const HWND box = user::Control(window, ID_ScreenBox);
+    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(user::Control(window, ID_ZoomBar)); }));
+    RECT shown{};
+    GetClientRect(box, &shown);
+    const POINT middle = user::CentreOf(box);
+    user::Drag(middle, {middle.x + 30, middle.y - 40});
+    user::Press(VK_TAB, {VK_CONTROL});
+    user::Press(VK_TAB, {VK_CONTROL});
+    EXPECT_TRUE(
+        WaitUntil([&] { return IsWindowVisible(user::Control(window, ID_TextLines)) != 0; }));
+    AddLine(window, "Sea you soon");
+    user::TakeShot("story_adjusting", window);
+    EXPECT_TRUE(user::Click(user::Control(window, IDOK)));
+    EXPECT_TRUE(user::WaitUntilGone(window));
+    EXPECT_EQ(LabelOf(editor_, ID_ImageInfo), "320 x  400 x  256");
+    DragIntoSlot(1);
+    TypeName("Lettered");
+    ChooseAction(kCreate);
+
+    TextLine line;
+    line.text = "Sea you soon";
+    line.font.face = FaceFor(line.font.face);
+    line.y = kLogoHeight * 5 / 6;
+    compose::Composition composition;
+    composition.framing.kind = compose::FramingKind::Fill;
+    const std::string photograph = kPictures + "Lighthouse.jpg";
+    composition.framing = compose::MovedBy(*compose::SizeOfPicture(photograph), composition,
+                                           30.0 * kLogoWidth / static_cast<double>(shown.right),
+                                           -40.0 * kLogoHeight / static_cast<double>(shown.bottom));
+    composition.text = MasksOf({DrawnLine(line)});
+    const std::string expected = "C:\\test\\expected.sys";
+    EXPECT_EQ(compose::MakeScreen(photograph, expected, composition), ConversionResult::Written);
+    EXPECT_TRUE(
+        WaitUntil([&] { return Contents(logos + "Lettered\\LOGOW.SYS") == Contents(expected); }));
+    EXPECT_TRUE(user::Click(Part(ID_CloseButton)));
+    EXPECT_TRUE(user::WaitUntilGone(editor_));
+    Close();
 }
 
 }  // namespace
