@@ -274,7 +274,7 @@ std::intptr_t ListView::OnNotify(void* header) {
             if (SelectionChanged) SelectionChanged();
             if (!(change.uNewState & LVIS_SELECTED) || selectingByCode_ || !ItemClick) return 0;
             // Of many that are selected at once, the user means the one that the keys act on.
-            if (!HasKeys(change.iItem) && SelectedItems().size() > 1) return 0;
+            if (!HasKeys(change.iItem) && Send(LVM_GETSELECTEDCOUNT) > 1) return 0;
             clickTold_ = true;
             ItemClick(change.iItem);
             return 0;

@@ -77,3 +77,18 @@ draw shape.bmp 370x118 "
     push graphic-context $(monitor 254 '#00a0e0')
         stroke none fill #ffff80 ellipse 48,39 17,17 0,360
         fill black text 22,108 'At startup' pop graphic-context"
+
+# A picture twice as wide as high on screens of 76 x 52.
+draw framing.bmp 370x118 "
+    push graphic-context $(monitor 4 '#00a0e0')
+        stroke none fill #ffff80 ellipse 48,39 11,20 0,360
+        fill #00a000 rectangle 10,13 16,65 rectangle 79,13 85,65
+        $(label 26 'Stretch') pop graphic-context
+    push graphic-context $(monitor 134 '#00a0e0')
+        stroke none fill #ffff80 ellipse 48,39 20,20 0,360
+        $(label 40 'Fill') pop graphic-context
+    push graphic-context $(monitor 264 black)
+        stroke none fill #00a0e0 rectangle 10,20 85,57
+        fill #ffff80 ellipse 48,39 14,14 0,360
+        fill #00a000 rectangle 10,20 16,57 rectangle 79,20 85,57
+        $(label 42 'Fit') pop graphic-context"

@@ -145,6 +145,17 @@ TEST_F(Adjusting, ASlotsPictureIsMadeAnewOfThePhotographAndPutBack) {
     });
 }
 
+TEST_F(Adjusting, WhatWasAdjustedIsDraggedFromTheListToo) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        Press(window, ID_OptFraming + 2);
+        CloseBy(editor, window, IDOK);
+        const std::string screen = editor.CurView.Tag();
+        user::Drag(PointOfItem(editor, "photo.jpg"), user::CentreOf(editor.ImgPreview[0].handle()));
+        Await([&] { return editor.ImgPreview[0].Tag() == screen; }, "slot filled");
+    });
+}
+
 TEST_F(Adjusting, IsTheLastItemOfTheListsMenu) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         user::RightClickAt(PointOfItem(editor, "photo.jpg"));

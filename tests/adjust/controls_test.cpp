@@ -1,4 +1,5 @@
 // What every control of "Adjust picture" says of itself, and what is possible when.
+#include "adjust/frm_adjust.h"
 #include "help/context_numbers.h"
 #include "tests/adjust/adjust_fixture.h"
 #include "tests/support/user/help_requests.h"
@@ -115,6 +116,26 @@ TEST_F(AdjustControls, OfOtherPagesDoNotActOnTheirAccessKeys) {
         EXPECT_EQ(SendMessageA(Item(window, ID_OptFraming + 1), BM_GETCHECK, 0, 0), 0);
         CloseBy(editor, window, IDCANCEL);
     });
+}
+
+TEST_F(AdjustControls, AFontThatIsGoneAndADiskWithoutRoomAreTold) {
+    TextLine line;
+    line.text = "Soon";
+    line.font.face = "No Such Font";
+    FrmAdjust adjust({photo, {}, {line}}, [] { return std::string(); });
+    ASSERT_TRUE(adjust.ReadPicture());
+    std::string font, disk;
+    user::Meanwhile acting([&] {
+        font = user::AnswerBox(IDOK).text;
+        const HWND window = WaitForIt();
+        disk = PressOkAndAnswer(window).text;
+        PostMessageA(window, WM_CLOSE, 0, 0);
+    });
+    adjust.ShowModal(nullptr);
+    acting.Finish();
+    EXPECT_EQ(font, "The font No Such Font is not there any more. Another one stands for it.");
+    EXPECT_EQ(disk, "The screen cannot be written. The disk of temporary files may be full.");
+    EXPECT_EQ(adjust.Screen(), "");
 }
 
 TEST_F(AdjustControls, TheTabsAreTurnedByKeysToo) {

@@ -108,6 +108,45 @@ TEST_F(AdjustedScreen, IsTurnedAsSeenAndMirrored) {
     });
 }
 
+TEST_F(AdjustedScreen, KeepsItsMiddleWhenItIsTurnedAndMirrored) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        Press(window, ID_OptFraming + 1);
+        const SIZE box = BoxSize(window);
+        DragInBox(window, {100, 50}, {160, 50});
+        compose::Composition composition;
+        composition.framing.kind = compose::FramingKind::Fill;
+        composition.framing = compose::MovedBy({800, 300}, composition,
+                                               60.0 * kLogoWidth / static_cast<double>(box.cx), 0);
+        for (const int id :
+             {ID_BtnTurnRight, ID_BtnTurnRight, ID_BtnTurnLeft, ID_BtnTurnLeft, ID_ChkMirror})
+            Press(window, id);
+        CloseBy(editor, window, IDOK);
+        composition.orientation.mirrored = true;
+        composition.framing.centreX = compose::kWhole - composition.framing.centreX;
+        EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, composition));
+    });
+}
+
+TEST_F(AdjustedScreen, IsMadeLargerByTheWheelWhereThePointerIs) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        EXPECT_TRUE(user::Click(Item(window, ID_OptFraming + 1)));
+        user::MoveTo(OnScreen(window, 80, 100));
+        INPUT turn{};
+        turn.type = INPUT_MOUSE;
+        turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+        turn.mi.mouseData = WHEEL_DELTA;
+        SendInput(1, &turn, sizeof turn);
+        Await([&] { return user::TextOf(Item(window, ID_LblZoomValue)) == "109%"; }, "larger");
+        CloseBy(editor, window, IDOK);
+        compose::Composition composition;
+        composition.framing.kind = compose::FramingKind::Fill;
+        composition.framing = compose::ZoomedAt({800, 300}, composition, 1091, 80, 100);
+        EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, composition));
+    });
+}
+
 TEST_F(AdjustedScreen, HasABorderOfTheChosenColourOrOfThePicturesEdge) {
     Put(pictures + "wide.bmp", Plain(200, 40, 40, 300, 100));
     WithEditor([&](Principale&, SelPictureForm& editor) {
