@@ -125,5 +125,5 @@ int Run(const ConvertOptions& options) {
 
 int main(int count, char** arguments) {
     return vistrel::tools::Run(
-        vistrel::ReadOptions(std::vector<std::string>(arguments + 1, arguments + count)));
+        vistrel::tools::ReadOptions(std::vector<std::string>(arguments + 1, arguments + count)));
 }

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 namespace vistrel::test {
+
+using namespace adjust;
+
 namespace {
 
 Adjustment Filled(const std::string& source) {

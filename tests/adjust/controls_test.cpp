@@ -6,6 +6,8 @@
 
 namespace vistrel::test {
 
+using namespace adjust;
+
 using namespace controls;
 using namespace editor;
 using namespace main_window;
