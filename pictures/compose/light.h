@@ -7,7 +7,7 @@
 //   gamma       c' = c ^ (100 / gamma), after cutting to 0..1
 //   saturation  c' = l + (c - l) * (100 + saturation) / 100, l the luma of the three channels
 // The contrast is a line through middle grey as in the W3C's Filter Effects (contrast()), gamma
-// that of the PNG specification's appendix on gamma, saturation the one of Haeberli and Voorhies,
+// that of the PNG standard's appendix on gamma, saturation the one of Haeberli and Voorhies,
 // "Image Processing by Interpolation and Extrapolation" (1994), with the luma of ITU-R BT.601. All
 // but the last is a table of 256 entries. Everything is computed in integers and is the same
 // everywhere.
