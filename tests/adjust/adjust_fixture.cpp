@@ -4,6 +4,23 @@
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
+namespace {
+
+/// What the left button does, with the place where it does it.
+void SendMouse(DWORD what, POINT at) {
+    const auto part = [](LONG place, int metric) {
+        const int size = GetSystemMetrics(metric);
+        return (place * 65536 + size / 2) / size;
+    };
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = part(at.x, SM_CXSCREEN);
+    input.mi.dy = part(at.y, SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | what;
+    SendInput(1, &input, sizeof input);
+}
+
+}  // namespace
 
 using namespace editor;
 using namespace pictures;
@@ -88,6 +105,18 @@ SIZE Adjusting::BoxSize(HWND window) {
     GetClientRect(Item(window, ID_ScreenBox), &r);
     return {r.right, r.bottom};
 }
+
+void Adjusting::Hold(POINT at) {
+    user::MoveTo(at);
+    SendMouse(MOUSEEVENTF_LEFTDOWN, at);
+}
+
+void Adjusting::MoveHeld(POINT to) {
+    user::MoveTo(to);
+    SendMouse(0, to);
+}
+
+void Adjusting::LetGo(POINT at) { SendMouse(MOUSEEVENTF_LEFTUP, at); }
 
 POINT Adjusting::OnScreen(HWND window, int x, int y) {
     const SIZE size = BoxSize(window);

@@ -44,6 +44,10 @@ class Adjusting : public LogoBrowser {
     /// Drags something in the box; the points are told in its own pixels from its corner.
     static void DragInBox(HWND window, POINT from, POINT to);
     static SIZE BoxSize(HWND window);
+    /// Presses the left button at a point of the screen and holds it, moves it, lets it go.
+    static void Hold(POINT at);
+    static void MoveHeld(POINT to);
+    static void LetGo(POINT at);
 
     /// The bytes of the screen that a picture becomes.
     std::string MadeOf(const std::string& path, const compose::Composition& composition) const;

@@ -40,14 +40,9 @@ TEST_F(AdjustedScreen, ShowsTheOriginalWhileTheButtonIsHeld) {
         Slide(window, ID_LightBar, 100);
         Await([&] { return IsNear(ColorAt(window, 160, 200), 187, 187, 187); }, "lighter");
         const POINT button = user::CentreOf(Item(window, ID_BtnOriginal));
-        user::MoveTo(button);
-        INPUT press{};
-        press.type = INPUT_MOUSE;
-        press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-        SendInput(1, &press, sizeof press);
+        Hold(button);
         Await([&] { return IsNear(ColorAt(window, 160, 200), 60, 60, 60); }, "original");
-        press.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-        SendInput(1, &press, sizeof press);
+        LetGo(button);
         Await([&] { return IsNear(ColorAt(window, 160, 200), 187, 187, 187); }, "adjusted again");
         CloseBy(editor, window, IDCANCEL);
     });
@@ -209,33 +204,26 @@ TEST_F(AdjustedScreen, FollowsTheHandAndTheColorsFollowWhenItRests) {
         Press(window, ID_OptFraming + 1);
         TurnTo(window, 2);
         AddLine(window, "Here");
-        const POINT from = OnScreen(window, 160, 333);
+        // While the hand is down, dots mark where a line stops by itself.
+        const auto margin = [&] {
+            for (int y = 20; y < 60; ++y)
+                if (ColorAt(window, kMarginAcross, y) == RGB(255, 255, 255)) return true;
+            return false;
+        };
+        EXPECT_FALSE(margin());
         const POINT to = OnScreen(window, 160, 100);
-        user::MoveTo(from);
-        INPUT press{};
-        press.type = INPUT_MOUSE;
-        press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-        SendInput(1, &press, sizeof press);
-        user::MoveTo({from.x, from.y - 20});
-        user::MoveTo(to);
-        // While the hand is down, dots mark the middle of the screen.
+        Hold(OnScreen(window, 160, 333));
         Await(
             [&] {
-                for (int y = 300; y < 340; ++y)
-                    if (ColorAt(window, 160, y) == RGB(255, 255, 255)) return true;
-                return false;
+                // From place to place: dots vanish when the hand rests.
+                MoveHeld({to.x, to.y - 20});
+                MoveHeld(to);
+                return margin();
             },
             "guides");
         user::TakeShot("adjust-guides");
-        press.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-        SendInput(1, &press, sizeof press);
-        Await(
-            [&] {
-                for (int y = 300; y < 340; ++y)
-                    if (ColorAt(window, 160, y) == RGB(255, 255, 255)) return false;
-                return true;
-            },
-            "guides gone");
+        LetGo(to);
+        Await([&] { return !margin(); }, "guides gone");
         CloseBy(editor, window, IDCANCEL);
     });
 }
