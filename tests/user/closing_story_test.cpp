@@ -28,7 +28,7 @@ class Ending : public RunningProgram {
     }
 
     /// Types into the field of the set's name, and again where nothing has come there.
-    static bool TypesAName(HWND browser) {
+    bool TypesAName(HWND browser) {
         constexpr int kTries = 3;
         for (int i = 0; i < kTries; ++i) {
             user::Activate(browser);
