@@ -43,8 +43,13 @@ HWND Adjusting::OpenOn(SelPictureForm& editor, const std::string& picture) {
 }
 
 void Adjusting::CloseBy(SelPictureForm& editor, HWND window, int button) {
-    EXPECT_TRUE(user::Click(Item(window, button)));
-    EXPECT_TRUE(user::WaitUntilGone(window));
+    constexpr int kTries = 3;
+    bool gone = false;
+    for (int i = 0; i < kTries && !gone; ++i) {
+        EXPECT_TRUE(user::Click(Item(window, button)));
+        gone = user::WaitUntilGone(window, 7000);
+    }
+    EXPECT_TRUE(gone);
     Settle(editor);
 }
 
