@@ -142,9 +142,10 @@ void FrmAdjust::BtnAddLine_Click() {
 void FrmAdjust::BtnDeleteLine_Click() {
     const auto selected = SelectedLine();
     if (!selected) return;
-    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*selected));
-    TextLines.RemoveItem(static_cast<int>(*selected));
-    if (!lines_.empty()) SelectLine(std::min(*selected, lines_.size() - 1));
+    const std::size_t line = *selected;
+    lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(line));
+    TextLines.RemoveItem(static_cast<int>(line));
+    if (!lines_.empty()) SelectLine(line < lines_.size() ? line : lines_.size() - 1);
     LinesChanged();
     // The button may be grey now, and nobody would have the keys.
     TextLines.Focus();
