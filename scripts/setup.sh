@@ -44,8 +44,8 @@ unshare                                 util-linux
 flock                                   util-linux
 git                                     git'
 
-# One line a step.
-say() { echo "--- $*"; }
+# One line a step, with the minutes since the script began.
+say() { printf -- '--- %d:%02d %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*"; }
 
 fail() {
     echo "$(basename "$0"): $*" >&2
