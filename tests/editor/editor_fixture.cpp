@@ -5,6 +5,7 @@
 
 #include "art/files/gif_writer.h"
 #include "art/files/jpg_writer.h"
+#include "tests/support/user/clean_start.h"
 
 namespace vistrel::test {
 
@@ -29,6 +30,14 @@ std::string BinFolder() {
     GetEnvironmentVariableA("WINEHOMEDIR", home, sizeof home);
     // It begins with "\\??\\".
     return std::string(home).substr(4) + "\\.local\\share\\";
+}
+
+/// Closes the editor, with Yes to its question; whether that can be done.
+bool ClosesByItself(HWND editor) {
+    PostMessageA(editor, WM_CLOSE, 0, 0);
+    WaitUntil([&] { return !IsWindow(editor) || user::FindTop("#32770") != nullptr; });
+    if (IsWindow(editor)) user::AnswerBox(IDYES);
+    return user::WaitUntilGone(editor);
 }
 
 }  // namespace
@@ -98,11 +107,10 @@ void LogoBrowser::WithEditor(const Acting& user,
             user::Activate(window);
             Settle(editor);
             user(main, editor);
-            PostMessageA(window, WM_CLOSE, 0, 0);
-            WaitUntil([&] { return !IsWindow(window) || user::FindTop("#32770") != nullptr; });
-            if (IsWindow(window)) user::AnswerBox(IDYES);
-            if (user::WaitUntilGone(window)) return;
+            if (ClosesByItself(window)) return;
             ADD_FAILURE() << "the editor did not close";
+            user::CloseWhatIsOver(window);
+            if (ClosesByItself(window)) return;
             PostThreadMessageA(GetWindowThreadProcessId(window, nullptr), WM_QUIT, 1, 0);
         });
         editor.ShowModal(main.handle());

@@ -1,6 +1,7 @@
 // Takes away what a test has left behind, as far as a user at this screen meets it.
 #include "tests/support/user/clean_start.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "tests/support/user/user.h"
@@ -157,6 +158,25 @@ void StartClean() {
         },
         kPatience);
     Activate(Ground());
+}
+
+void CloseWhatIsOver(HWND window) {
+    const auto isOver = [&](HWND other) {
+        return other != window && other != Ground() && IsWindowEnabled(other) &&
+               ProcessOf(other) == GetCurrentProcessId();
+    };
+    WaitUntil(
+        [&] {
+            if (!IsWindow(window) || IsWindowEnabled(window)) return true;
+            const std::vector<HWND> open = OpenWindows();
+            const auto over = std::find_if(open.begin(), open.end(), isOver);
+            if (over != open.end()) {
+                Close(*over);
+                WaitUntilGone(*over, 2000);
+            }
+            return false;
+        },
+        kPatience);
 }
 
 std::string LeftBehind() {

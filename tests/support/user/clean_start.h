@@ -1,6 +1,8 @@
 // What a test finds: nothing that an earlier one has left behind.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 
 namespace vistrel::user {
@@ -13,6 +15,10 @@ void StartClean();
 /// What is in the way of a test: keys that are held, what is open and who is in front. A text for
 /// whoever reads of a failure; empty after StartClean.
 std::string LeftBehind();
+
+/// Closes what stands over a window and disables it, so that it can be used and closed again: the
+/// windows and boxes of this program that an input which never came has left open.
+void CloseWhatIsOver(HWND window);
 
 /// Whether the keyboard is nobody's: no window is in front, or only the desktop. It happens when
 /// the screen and Wine tell each other of two changes at once.

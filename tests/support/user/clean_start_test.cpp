@@ -98,6 +98,26 @@ TEST_F(LeavingBehind, AnotherProgram) {
     EXPECT_NE(nullptr, user::WaitForTop("Notepad", "", program.id()));
 }
 
+DWORD WINAPI ShowBoxOver(void* window) {
+    MessageBoxA(static_cast<HWND>(window), "Nobody answers.", "A box", MB_OKCANCEL);
+    return 0;
+}
+
+TEST(OverAWindow, WhatIsLeftOpenIsClosed) {
+    const HWND window = CreateWindowA("STATIC", "Below", WS_POPUP | WS_VISIBLE, 40, 40, 60, 60,
+                                      nullptr, nullptr, nullptr, nullptr);
+    DWORD id = 0;
+    const HANDLE box = CreateThread(nullptr, 0, ShowBoxOver, window, 0, &id);
+    // The window is this thread's: what another one asks of it comes while this one waits.
+    EXPECT_TRUE(WaitUntil([&] { return OpenBoxes() == 1 && !IsWindowEnabled(window); }));
+    user::CloseWhatIsOver(window);
+    EXPECT_TRUE(IsWindowEnabled(window));
+    EXPECT_EQ(0, OpenBoxes());
+    EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(box, 10000));
+    CloseHandle(box);
+    DestroyWindow(window);
+}
+
 TEST_F(LeavingBehind, NobodyInFront) {
     SetForegroundWindow(GetDesktopWindow());
     EXPECT_TRUE(WaitUntil(user::NobodyIsInFront));
