@@ -189,8 +189,7 @@ TEST_F(Keyboard, SpaceAndTheMenuKeyAreThePicturesButtons) {
             Settle(editor);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);  // the key that closed it opens none
             Await([&] { return FocusIn(editor) == box->handle(); }, "focus back");
-            user::Press(VK_APPS);
-            const HMENU menu = user::WaitForPopUp();
+            const HMENU menu = user::PopUpByKey();
             EXPECT_EQ(menu, main.OpenWithMenu(box->Tag()));
             RECT shown{};
             GetWindowRect(user::FindTop("#32768"), &shown);
@@ -206,7 +205,7 @@ TEST_F(Keyboard, TheMenuKeyOpensTheListsMenu) {
     Put(pictures + "new.sys", ScreenFile(0, 255, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "new.sys");
-        user::Press(VK_APPS);
+        ASSERT_NE(user::PopUpByKey(), nullptr);
         EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmSetLogo));
         Await([&] { return editor.ImgPreview[0].Tag() == pictures + "new.sys"; }, "slot filled");
     });

@@ -168,8 +168,7 @@ TEST_F(Clicking, TheListsMenuIsTheSameByKeyAndOpensAtTheSet) {
         user::Press(VK_ESCAPE);
         EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
 
-        user::Press(VK_APPS);
-        menu = user::WaitForPopUp();
+        menu = user::PopUpByKey();
         ASSERT_NE(menu, nullptr);
         EXPECT_EQ(seen::TextsOf(menu), byMouse);
         EXPECT_TRUE(seen::RowOf(menu, ID_ToolRename).enabled);

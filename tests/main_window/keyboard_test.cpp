@@ -48,8 +48,7 @@ TEST_F(Keyboard, TabReachesTheScreensWhereSpaceAndTheMenuKeyAreTheButtons) {
             Settle(main);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);
             EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == box.handle(); }));
-            user::Press(VK_APPS);
-            EXPECT_EQ(user::WaitForPopUp(), main.OpenWithMenu(box.Tag()));
+            EXPECT_EQ(user::PopUpByKey(), main.OpenWithMenu(box.Tag()));
             user::Press(VK_ESCAPE);
             EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
         }

@@ -168,8 +168,7 @@ TEST_F(ToolTable, PopsUpTheSameMenuByTheKeyboard) {
         for (const bool selected : {false, true}) {
             if (selected) ClickSet(main, "Red");
             main.MyList.Focus();
-            user::Press(VK_APPS);
-            const HMENU menu = user::WaitForPopUp();
+            const HMENU menu = user::PopUpByKey();
             EXPECT_EQ(menu, seen::RowsOf(GetMenu(main.handle())).at(0).opens);
             for (const unsigned id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault})
                 EXPECT_EQ(seen::RowOf(menu, id).enabled, selected) << id;

@@ -90,6 +90,9 @@ bool ChooseFromMenuBar(HWND window, unsigned command);
 bool ChooseFromPopUp(unsigned command);
 /// The pop-up menu that is open (wait for it), or null.
 HMENU WaitForPopUp();
+/// Opens the pop-up menu of what has the focus by the keyboard; presses again when none comes in
+/// seconds. Null when none comes at all.
+HMENU PopUpByKey();
 
 // Message boxes.
 

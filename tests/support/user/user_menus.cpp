@@ -150,6 +150,15 @@ HMENU WaitForPopUp() {
     return reinterpret_cast<HMENU>(SendMessageA(window, kGetMenu, 0, 0));
 }
 
+HMENU PopUpByKey() {
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        Press(VK_APPS);
+        if (WaitForTop("#32768", "", 0, 5000) != nullptr) break;
+    }
+    return WaitForPopUp();
+}
+
 bool ChooseFromPopUp(unsigned command) {
     const HMENU menu = WaitForPopUp();
     MenuPath path;
