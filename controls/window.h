@@ -130,11 +130,30 @@ class Window {
 
     void FreeOwner();
     void OnDestroy();
+
+    // A message each. True when it was dealt with; `result` is then the answer to the system, where
+    // it wants one.
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result);
     bool OnCommand(std::uintptr_t wParam, std::intptr_t lParam);
+    bool OnNotification(std::intptr_t lParam, std::intptr_t& result);
+    bool OnScroll(std::intptr_t lParam);
+    bool OnStaticColor(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result);
+    bool OnDrawItem(std::intptr_t lParam, std::intptr_t& result);
+    bool OnSetPointer(std::uintptr_t wParam, std::intptr_t& result);
+    bool OnTimer(std::uintptr_t wParam);
+    bool OnSize(std::uintptr_t wParam);
+    bool OnSizeLimits(std::intptr_t lParam);
+    bool OnPaint();
+    bool OnMenuOpens(std::uintptr_t wParam, std::intptr_t lParam);
     bool OnHelp(std::intptr_t lParam);
     bool OnContextMenu(platform::WindowHandle child, Point screen, bool byKeyboard);
+    bool OnPaletteChanged(std::uintptr_t wParam);
+    bool OnNewPalette(std::intptr_t& result);
+    bool OnClose();
+    bool OnSessionQuestion(std::intptr_t& result);
+    bool OnSessionEnd(std::uintptr_t wParam);
+
     void ShowTopic(const Control& control);
     void RepaintPictures();
     Control* ControlOf(platform::WindowHandle child) const;
