@@ -111,7 +111,6 @@ class SelPictureForm : public controls::Window {
     void ConnectBrowser();
     void ConnectSlots();
     void AttachMenus();
-    void SetHelpNumbers();
 
     // Layout
     /// Widths of the three columns' pictures and of the list.
