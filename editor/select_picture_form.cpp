@@ -1,6 +1,8 @@
 // The Logo browser's window: its controls and menus, and how a session begins and ends.
 #include "editor/select_picture_form.h"
 
+#include <utility>
+
 #include "controls/drag.h"
 #include "core/generali.h"
 #include "core/library.h"
@@ -108,17 +110,26 @@ void SelPictureForm::ConnectSlots() {
     CloseButton.Click = [this] { CloseButton_Click(); };
 }
 
+void SelPictureForm::AddItem(controls::MenuItem& item, int id, std::function<void()> click) {
+    item.Attach(menus_, id);
+    commands_[id] = std::move(click);
+}
+
 void SelPictureForm::AttachMenus() {
     menus_ = controls::LoadMenuResource(IDM_SelPictureForm);
-    for (int i = 0; i < 2; ++i) OkButton[i].Attach(menus_, ID_OkButton + i);
-    EliminaSetBtn.Attach(menus_, ID_EliminaSetBtn);
-    ClearAllButton.Attach(menus_, ID_ClearAllButton);
-    ItmRename.Attach(menus_, ID_BrowserRename);
-    ItmDelete.Attach(menus_, ID_BrowserDelete);
-    itmRefresh.Attach(menus_, ID_BrowserRefresh);
-    for (int i = 0; i < 3; ++i) ItmSetLogo[i].Attach(menus_, ID_ItmSetLogo + i);
-    ItmAdjust.Attach(menus_, ID_ItmAdjust);
-    ItmManySets.Attach(menus_, ID_ItmManySets);
+    for (int i = 0; i < 2; ++i)
+        AddItem(OkButton[i], ID_OkButton + i, [this, i] { OkButton_Click(i); });
+    AddItem(EliminaSetBtn, ID_EliminaSetBtn, [this] { EliminaSetBtn_Click(); });
+    AddItem(ClearAllButton, ID_ClearAllButton, [this] { ClearAllButton_Click(); });
+    AddItem(ItmRename, ID_BrowserRename, [this] { ItmRename_Click(); });
+    AddItem(ItmDelete, ID_BrowserDelete, [this] { ItmDelete_Click(); });
+    AddItem(itmRefresh, ID_BrowserRefresh, [this] { AggiornaDir(); });
+    for (int i = 0; i < 3; ++i)
+        AddItem(ItmSetLogo[i], ID_ItmSetLogo + i, [this, i] { AddButton_Click(i); });
+    AddItem(ItmAdjust, ID_ItmAdjust, [this] { AdjustButton_Click(); });
+    AddItem(ItmManySets, ID_ItmManySets, [this] { ItmManySets_Click(); });
+    // These join the main window's menu while it pops up over a slot.
+    for (int i = 0; i < 3; ++i) commands_[ID_ItmAdjustSlot + i] = [this, i] { AdjustSlot(i); };
 }
 
 void SelPictureForm::Form_Load() {
