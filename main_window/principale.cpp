@@ -11,7 +11,6 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "help/context_numbers.h"
-#include "main_window/tool_table.h"
 #include "resources/ids.h"
 
 namespace vistrel::main_window {
@@ -26,7 +25,7 @@ constexpr unsigned kBrowserDelay = 50;
 
 Principale::Principale(core::SystemLocations locations)
     : Window("Principale", IDD_Principale),
-      ActiveBar1(MainTools(), MainBands()),
+      ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
       locations_(std::move(locations)) {
     // The list and the pictures have menus of their own at the right button, and F1 means the
