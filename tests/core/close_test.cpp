@@ -5,6 +5,7 @@
 
 #include "core/boot_option.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/machine/setting_rows.h"
 
 namespace vistrel::test {
 
@@ -82,7 +83,7 @@ TEST_F(CloseTest, AStepThatFailsIsPassedOver) {
     // Attributes, option; the key and two operations for each value; then the entry's key, the
     // entry and the ini file.
     const int key = 3;
-    const int entryKey = key + 2 * 20 + 1;
+    const int entryKey = key + 2 * static_cast<int>(SettingNames().size()) + 1;
     int failing = 0;
     WithEachOperationFailing(
         [&] {
