@@ -1,4 +1,7 @@
 // The values that the preferences show, and what of them is taken when.
+#include <map>
+
+#include "resources/ids.h"
 #include "tests/options/options_fixture.h"
 
 namespace vistrel::test {
@@ -86,6 +89,43 @@ TEST_F(Preferences, AcceptsAtEnter) {
         EXPECT_TRUE(WaitUntil([&] { return !options.IsOpen(); }));
     });
     EXPECT_EQ(main.settings.synchronizeLogos, 1);
+}
+
+/// The numbers of the check boxes.
+std::vector<int> CheckBoxesOf(HWND dialog) {
+    std::vector<int> ids;
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        if (user::ClassOf(child) == "Button" &&
+            (GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == BS_AUTOCHECKBOX)
+            ids.push_back(GetDlgCtrlID(child));
+    return ids;
+}
+
+TEST_F(Preferences, KeepEachCheckBoxAsItWasLeftAndNoOtherWithIt) {
+    std::map<int, bool> left;
+    std::vector<int> ids;
+    WithDialog([&](FrmOptions& options) {
+        ids = CheckBoxesOf(options.handle());
+        for (const int id : ids) left[id] = IsDlgButtonChecked(options.handle(), id) != 0;
+    });
+    ASSERT_FALSE(ids.empty());
+    const auto expectAsLeft = [&](FrmOptions& options) {
+        for (const int id : ids)
+            EXPECT_EQ(IsDlgButtonChecked(options.handle(), id) != 0, left[id]) << id;
+    };
+    for (const int id : ids) {
+        SCOPED_TRACE("check box " + std::to_string(id));
+        WithDialog([&](FrmOptions& options) {
+            expectAsLeft(options);
+            const HWND box = GetDlgItem(options.handle(), id);
+            for (int tab = 1; tab <= 4 && !IsWindowVisible(box); ++tab) ClickTab(options, tab);
+            user::Click(box);
+            PressOk(options);
+        });
+        // That one opens clear, whatever was chosen.
+        if (id != ID_ChkShowAnim) left[id] = !left[id];
+    }
+    WithDialog(expectAsLeft);
 }
 
 TEST_F(Preferences, UncheckTheAnimationWhenTheBoxIsLeftAlone) {
