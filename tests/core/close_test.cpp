@@ -100,7 +100,8 @@ TEST_F(CloseTest, AStepThatFailsIsPassedOver) {
             EXPECT_EQ((AttributesOf(kBootFile) & FILE_ATTRIBUTE_HIDDEN) == 0, failed != 1);
             EXPECT_EQ(ReadBootLogoOption(kBootFile), failed == 2 ? 1 : 0);
             // The last of the values is saved unless one before it could not be.
-            EXPECT_EQ(Stored("AutoshowAnimation").has_value(), failed <= key || failed >= entryKey);
+            EXPECT_EQ(Stored(SettingNames().back()).has_value(),
+                      failed <= key || failed >= entryKey);
             EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin").has_value(),
                       failed < entryKey || failed > entryKey + 1);
             EXPECT_EQ(Ini().has_value(), failed != entryKey + 2);
