@@ -30,16 +30,21 @@ bool IsWebPage(int index) { return index == 1 || index == 3; }
 }  // namespace
 
 FrmAboutReg::FrmAboutReg() : Window("FrmAboutReg", IDD_FrmAboutReg) {
-    Add(Image1, ID_Image1);
-    Add(LblTitProgram, ID_LblTitProgram);
-    Add(LblVersion, ID_LblVersion);
-    Add(LblComments, ID_LblComments);
-    Add(Label4, ID_Label4);
-    Add(Label5, ID_Label5);
-    for (int i = 0; i < 4; ++i) Add(LblInternet[i], ID_LblInternet + i);
-    Add(Line1, ID_Line1);
-    Add(BtnOK, ID_BtnOK);
-
+    const controls::Part parts[] = {
+        {Image1, ID_Image1},
+        {LblTitProgram, ID_LblTitProgram},
+        {LblVersion, ID_LblVersion},
+        {LblComments, ID_LblComments},
+        {Label4, ID_Label4},
+        {Label5, ID_Label5},
+        {LblInternet[0], ID_LblInternet},
+        {LblInternet[1], ID_LblInternet + 1},
+        {LblInternet[2], ID_LblInternet + 2},
+        {LblInternet[3], ID_LblInternet + 3},
+        {Line1, ID_Line1},
+        {BtnOK, ID_BtnOK},
+    };
+    AddParts(parts);
     for (int i = 0; i < 4; ++i) LblInternet[i].Click = [this, i] { LblInternet_Click(i); };
     BtnOK.Click = [this] { BtnOK_Click(); };
 }

@@ -42,24 +42,23 @@ FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
 
 FrmAdjust::~FrmAdjust() { controls::FreeMenu(readyMade_); }
 
-void FrmAdjust::AddRow(const Row& row) {
-    Add(row.control, row.id, row.tip);
-    row.control.SetHelpNumber(static_cast<int>(row.help));
-    pages_[row.page].push_back(&row.control);
+void FrmAdjust::AddPage(Page page, std::span<const controls::Part> parts) {
+    AddParts(parts);
+    for (const controls::Part& part : parts) pages_[page].push_back(&part.control);
 }
 
 void FrmAdjust::AddFrame() {
     namespace number = help_number;
-    const Row rows[] = {
-        {ScreenBox, ID_ScreenBox, kAlways, number::ScreenBox, "The screen as it will be"},
-        {BtnOriginal, ID_BtnOriginal, kAlways, number::BtnOriginal,
+    const controls::Part parts[] = {
+        {ScreenBox, ID_ScreenBox, number::ScreenBox, "The screen as it will be"},
+        {BtnOriginal, ID_BtnOriginal, number::BtnOriginal,
          "Shows the picture as it was, while you hold this down"},
-        {LblHint, ID_LblHint, kAlways, 0, ""},
-        {AdjustPages, ID_AdjustPages, kAlways, 0, ""},
-        {BtnOK, ID_BtnOK, kAlways, number::AdjustOk, "Makes the screen"},
-        {BtnCancel, ID_BtnCancel, kAlways, number::AdjustCancel, "Leaves all as it was"},
+        {LblHint, ID_LblHint},
+        {AdjustPages, ID_AdjustPages},
+        {BtnOK, ID_BtnOK, number::AdjustOk, "Makes the screen"},
+        {BtnCancel, ID_BtnCancel, number::AdjustCancel, "Leaves all as it was"},
     };
-    for (const Row& row : rows) AddRow(row);
+    AddPage(kAlways, parts);
     ScreenBox.MouseDown = [this](int button, controls::Point at) { Screen_MouseDown(button, at); };
     ScreenBox.MouseMove = [this](int button, controls::Point at) { Screen_MouseMove(button, at); };
     // With this the box keeps the mouse while it is dragged beyond the edge.

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -91,15 +92,8 @@ class FrmAdjust : public controls::Window {
  private:
     /// Pages, as the tabs are numbered; what stands on none is always there.
     enum Page { kAlways = 0, kFraming = 1, kLight = 2, kText = 3 };
-    struct Row {
-        controls::Control& control;
-        int id;
-        Page page;
-        unsigned long help;
-        const char* tip;
-    };
 
-    void AddRow(const Row& row);
+    void AddPage(Page page, std::span<const controls::Part> parts);
     void AddFrame();
     void AddFraming();
     void AddLight();

@@ -31,29 +31,26 @@ int StepsOf(int zoom) {
 
 void FrmAdjust::AddFraming() {
     namespace number = help_number;
-    const Row rows[] = {
-        {OptFraming[0], ID_OptFraming, kFraming, number::OptFraming[0],
+    const controls::Part parts[] = {
+        {OptFraming[0], ID_OptFraming, number::OptFraming[0],
          "All of the picture over all of the screen: shapes change"},
-        {OptFraming[1], ID_OptFraming + 1, kFraming, number::OptFraming[1],
+        {OptFraming[1], ID_OptFraming + 1, number::OptFraming[1],
          "As much of the picture as fills the screen: shapes stay"},
-        {OptFraming[2], ID_OptFraming + 2, kFraming, number::OptFraming[2],
+        {OptFraming[2], ID_OptFraming + 2, number::OptFraming[2],
          "All of the picture, with a border: shapes stay"},
-        {LblZoom, ID_LblZoom, kFraming, number::ZoomBar, ""},
-        {LblZoomValue, ID_LblZoomValue, kFraming, number::ZoomBar, ""},
-        {ZoomBar, ID_ZoomBar, kFraming, number::ZoomBar, "How large the picture is"},
-        {LblBorder, ID_LblBorder, kFraming, number::BorderKind, ""},
-        {BorderKind, ID_BorderKind, kFraming, number::BorderKind,
-         "What is seen beside the picture"},
-        {BorderSwatch, ID_BorderSwatch, kFraming, number::BorderKind, ""},
-        {BtnBorderColor, ID_BtnBorderColor, kFraming, number::BorderKind,
-         "Chooses the colour of the border"},
-        {BtnTurnLeft, ID_BtnTurnLeft, kFraming, number::BtnTurn, "Turns the picture to the left"},
-        {BtnTurnRight, ID_BtnTurnRight, kFraming, number::BtnTurn,
-         "Turns the picture to the right"},
-        {ChkMirror, ID_ChkMirror, kFraming, number::ChkMirror,
+        {LblZoom, ID_LblZoom, number::ZoomBar},
+        {LblZoomValue, ID_LblZoomValue, number::ZoomBar},
+        {ZoomBar, ID_ZoomBar, number::ZoomBar, "How large the picture is"},
+        {LblBorder, ID_LblBorder, number::BorderKind},
+        {BorderKind, ID_BorderKind, number::BorderKind, "What is seen beside the picture"},
+        {BorderSwatch, ID_BorderSwatch, number::BorderKind},
+        {BtnBorderColor, ID_BtnBorderColor, number::BorderKind, "Chooses the colour of the border"},
+        {BtnTurnLeft, ID_BtnTurnLeft, number::BtnTurn, "Turns the picture to the left"},
+        {BtnTurnRight, ID_BtnTurnRight, number::BtnTurn, "Turns the picture to the right"},
+        {ChkMirror, ID_ChkMirror, number::ChkMirror,
          "Changes the left and the right of the picture"},
     };
-    for (const Row& row : rows) AddRow(row);
+    AddPage(kFraming, parts);
     for (int i = 0; i < 3; ++i)
         OptFraming[i].Click = [this, i] { OptFraming_Click(static_cast<compose::FramingKind>(i)); };
     ZoomBar.Change = [this] { ZoomBar_Change(); };

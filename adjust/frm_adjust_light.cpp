@@ -39,20 +39,23 @@ void FrmAdjust::AddLight() {
                           "Makes the middle darker or lighter; black and white stay",
                           "From grey to strong colours"};
     for (int i = 0; i < 4; ++i) {
-        AddRow({LblLight[i], ID_LblLight + i, kLight, number::LightBar[i], ""});
-        AddRow({LblLightValue[i], ID_LblLightValue + i, kLight, number::LightBar[i], ""});
-        AddRow({LightBar[i], ID_LightBar + i, kLight, number::LightBar[i], tips[i]});
+        const controls::Part slider[] = {
+            {LblLight[i], ID_LblLight + i, number::LightBar[i]},
+            {LblLightValue[i], ID_LblLightValue + i, number::LightBar[i]},
+            {LightBar[i], ID_LightBar + i, number::LightBar[i], tips[i]},
+        };
+        AddPage(kLight, slider);
         LightBar[i].Change = [this] { LightBar_Change(); };
     }
-    const Row rows[] = {
-        {ChkAuto, ID_ChkAuto, kLight, number::ChkAuto,
+    const controls::Part parts[] = {
+        {ChkAuto, ID_ChkAuto, number::ChkAuto,
          "Makes the darkest part black and the lightest white"},
-        {LblDither, ID_LblDither, kLight, number::DitherKind, ""},
-        {DitherKind, ID_DitherKind, kLight, number::DitherKind,
+        {LblDither, ID_LblDither, number::DitherKind},
+        {DitherKind, ID_DitherKind, number::DitherKind,
          "How colours that are missing are mixed from dots of others"},
-        {BtnReset, ID_BtnReset, kLight, number::BtnReset, "Sets light and dithering back"},
+        {BtnReset, ID_BtnReset, number::BtnReset, "Sets light and dithering back"},
     };
-    for (const Row& row : rows) AddRow(row);
+    AddPage(kLight, parts);
     ChkAuto.Click = [this] {
         composition_.light.autoLevels = ChkAuto.Value() != 0;
         Changed();

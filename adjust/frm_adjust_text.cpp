@@ -33,26 +33,24 @@ constexpr int kFirstLine = pictures::kLogoHeight * 5 / 6;
 
 void FrmAdjust::AddText() {
     namespace number = help_number;
-    const Row rows[] = {
-        {LblLines, ID_LblLines, kText, number::TextLines, ""},
-        {TextLines, ID_TextLines, kText, number::TextLines, "The lines of text on the screen"},
-        {BtnAddLine, ID_BtnAddLine, kText, number::BtnsOfLines, "Adds a line of your own"},
-        {BtnEditLine, ID_BtnEditLine, kText, number::BtnsOfLines, "Changes the words of the line"},
-        {BtnDeleteLine, ID_BtnDeleteLine, kText, number::BtnsOfLines, "Takes the line away"},
-        {BtnReadyMade, ID_BtnReadyMade, kText, number::BtnReadyMade,
+    const controls::Part parts[] = {
+        {LblLines, ID_LblLines, number::TextLines},
+        {TextLines, ID_TextLines, number::TextLines, "The lines of text on the screen"},
+        {BtnAddLine, ID_BtnAddLine, number::BtnsOfLines, "Adds a line of your own"},
+        {BtnEditLine, ID_BtnEditLine, number::BtnsOfLines, "Changes the words of the line"},
+        {BtnDeleteLine, ID_BtnDeleteLine, number::BtnsOfLines, "Takes the line away"},
+        {BtnReadyMade, ID_BtnReadyMade, number::BtnReadyMade,
          "Adds a line for a wait or a shutdown screen"},
-        {BtnFont, ID_BtnFont, kText, number::BtnFont, "Chooses the letters of the line"},
-        {BtnTextColor, ID_BtnTextColor, kText, number::BtnTextColor,
-         "Chooses the colour of the line"},
-        {TextSwatch, ID_TextSwatch, kText, number::BtnTextColor, ""},
-        {LblEdge, ID_LblEdge, kText, number::EdgeKind, ""},
-        {EdgeKind, ID_EdgeKind, kText, number::EdgeKind,
+        {BtnFont, ID_BtnFont, number::BtnFont, "Chooses the letters of the line"},
+        {BtnTextColor, ID_BtnTextColor, number::BtnTextColor, "Chooses the colour of the line"},
+        {TextSwatch, ID_TextSwatch, number::BtnTextColor},
+        {LblEdge, ID_LblEdge, number::EdgeKind},
+        {EdgeKind, ID_EdgeKind, number::EdgeKind,
          "What makes the letters stand out from the picture"},
-        {LblAlign, ID_LblAlign, kText, number::AlignKind, ""},
-        {AlignKind, ID_AlignKind, kText, number::AlignKind,
-         "Puts the line to a side or into the middle"},
+        {LblAlign, ID_LblAlign, number::AlignKind},
+        {AlignKind, ID_AlignKind, number::AlignKind, "Puts the line to a side or into the middle"},
     };
-    for (const Row& row : rows) AddRow(row);
+    AddPage(kText, parts);
     ConnectText();
     int id = ID_ReadyLine;
     for (const char* line : kReadyLines) {

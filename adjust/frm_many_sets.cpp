@@ -24,19 +24,27 @@ FrmManySets::FrmManySets(std::string library, std::vector<std::string> pictures)
       library_(std::move(library)),
       pictures_(std::move(pictures)),
       step_(kBetweenPictures) {
-    Add(LblMany, ID_LblMany);
-    Add(FrameFraming, ID_ManyFrames);
-    Add(OptFraming[0], ID_OptManyFraming, "Shapes stay; what does not fit is cut off");
-    Add(OptFraming[1], ID_OptManyFraming + 1, "All of each picture, with a black border");
-    Add(FrameKind, ID_ManyFrames + 1);
-    Add(OptKind[0], ID_OptManyKind, "Each set has the name of its picture");
-    Add(OptKind[1], ID_OptManyKind + 1, "Each set has the name of its first picture");
-    Add(LblDone, ID_LblManyDone);
-    Add(Progress, ID_ManyProgress);
-    Add(LblLeftOut, ID_LblLeftOut);
-    Add(LeftOut, ID_LeftOut, "Pictures that are in no set, and why");
-    Add(BtnMakeSets, ID_BtnMakeSets, "Makes the sets");
-    Add(BtnClose, ID_BtnCancel, "Stops after the picture that is being worked on, or closes");
+    namespace number = help_number;
+    const controls::Part parts[] = {
+        {LblMany, ID_LblMany},
+        {FrameFraming, ID_ManyFrames},
+        {OptFraming[0], ID_OptManyFraming, number::ManyFraming,
+         "Shapes stay; what does not fit is cut off"},
+        {OptFraming[1], ID_OptManyFraming + 1, number::ManyFraming,
+         "All of each picture, with a black border"},
+        {FrameKind, ID_ManyFrames + 1},
+        {OptKind[0], ID_OptManyKind, number::ManyKind, "Each set has the name of its picture"},
+        {OptKind[1], ID_OptManyKind + 1, number::ManyKind,
+         "Each set has the name of its first picture"},
+        {LblDone, ID_LblManyDone},
+        {Progress, ID_ManyProgress, number::ManyProgress},
+        {LblLeftOut, ID_LblLeftOut},
+        {LeftOut, ID_LeftOut, number::ManyLeftOut, "Pictures that are in no set, and why"},
+        {BtnMakeSets, ID_BtnMakeSets, number::ManyMake, "Makes the sets"},
+        {BtnClose, ID_BtnCancel, number::ManyClose,
+         "Stops after the picture that is being worked on, or closes"},
+    };
+    AddParts(parts);
     Add(step_);
     step_.Tick = [this] { Step(); };
     BtnMakeSets.Click = [this] { BtnMakeSets_Click(); };
@@ -48,13 +56,6 @@ std::vector<std::string> FrmManySets::Made() const {
 }
 
 void FrmManySets::Form_Load() {
-    for (controls::OptionButton& option : OptFraming)
-        option.SetHelpNumber(help_number::ManyFraming);
-    for (controls::OptionButton& option : OptKind) option.SetHelpNumber(help_number::ManyKind);
-    Progress.SetHelpNumber(help_number::ManyProgress);
-    LeftOut.SetHelpNumber(help_number::ManyLeftOut);
-    BtnMakeSets.SetHelpNumber(help_number::ManyMake);
-    BtnClose.SetHelpNumber(help_number::ManyClose);
     LblMany.SetText(Counted(pictures_.size(), "picture is", "pictures are") + " selected.");
     OptFraming[0].SetMark(true);
     OptKind[0].SetMark(true);

@@ -4,6 +4,8 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
+#include <utility>
+
 #include "controls/window.h"
 #include "platform/instance.h"
 
@@ -19,8 +21,8 @@ std::string MenuTextOf(const Tool& tool) {
 
 }  // namespace
 
-ActiveBar::ActiveBar(std::span<const Tool> tools, std::span<const Band> bands)
-    : tools_(tools), bands_(bands) {
+ActiveBar::ActiveBar(std::vector<Tool> tools, std::span<const Band> bands)
+    : tools_(std::move(tools)), bands_(bands) {
     for (const Tool& tool : tools_) states_[tool.name] = {};
 }
 

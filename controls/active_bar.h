@@ -16,15 +16,17 @@ namespace vistrel::controls {
 
 class Window;
 
+inline constexpr int kNoPicture = -1;
+
 struct Tool {
     const char* name;
     int id;  ///< number of its WM_COMMAND; 0 for one that only opens a band
     const char* caption;
     const char* tip;  ///< empty for none
     const char* category;
-    int image;             ///< number of its picture in the bar's strip; -1 for none
-    const char* opens;     ///< name of the band that it drops down; empty for none
-    const char* key = "";  ///< the key that does the same, as menus tell it; empty for none
+    int image;               ///< place of its picture in the bar's strip, or kNoPicture
+    const char* key = "";    ///< the key that does the same, as menus tell it; empty for none
+    const char* opens = "";  ///< name of the band that it drops down; empty for none
 };
 
 enum class BandKind { MenuBar, DropDown, ButtonBar };
@@ -37,7 +39,7 @@ struct Band {
 
 class ActiveBar {
  public:
-    ActiveBar(std::span<const Tool> tools, std::span<const Band> bands);
+    ActiveBar(std::vector<Tool> tools, std::span<const Band> bands);
     ~ActiveBar();
     ActiveBar(const ActiveBar&) = delete;
     ActiveBar& operator=(const ActiveBar&) = delete;
@@ -80,7 +82,7 @@ class ActiveBar {
     platform::MenuHandle MenuOf(const Band& band);
     void MakeButtons(const Band& band, int bitmapResource, long transparent, int barId);
 
-    std::span<const Tool> tools_;
+    std::vector<Tool> tools_;
     std::span<const Band> bands_;
     std::map<std::string, State> states_;
     std::map<std::string, platform::MenuHandle> menus_;

@@ -72,12 +72,23 @@ Window::~Window() {
     DestroyWindow(closing);
 }
 
-void Window::Add(Control& control, int id, const char* tip) {
-    controls_[id] = &control;
-    control.SetTip(tip);
-}
+void Window::Add(Control& control, int id) { controls_[id] = &control; }
 
 void Window::Add(Timer& timer) { timers_.push_back(&timer); }
+
+void Window::AddParts(std::span<const Part> parts) {
+    for (const Part& part : parts) {
+        Add(part.control, part.id);
+        part.control.SetHelpNumber(static_cast<int>(part.help));
+        part.control.SetTip(part.tip);
+    }
+}
+
+bool Window::AttachControls() {
+    return std::all_of(controls_.begin(), controls_.end(), [this](const auto& numbered) {
+        return numbered.second->Attach(*this, numbered.first);
+    });
+}
 
 bool Window::Create(platform::WindowHandle owner) {
     InitCommonControls();
@@ -91,7 +102,10 @@ bool Window::Create(platform::WindowHandle owner) {
     tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_,
                             nullptr, platform::ProgramInstance(), nullptr);
-    for (auto& [id, control] : controls_) control->Attach(*this, id);
+    if (!AttachControls()) {
+        DestroyWindow(handle_);
+        return false;
+    }
     for (Timer* timer : timers_) timer->Attach(handle_);
     EnterLoop(*this);
     Form_Load();

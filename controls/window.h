@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,14 @@ namespace vistrel::controls {
 
 class Timer;
 
+/// A row of a window's table of controls: all that is said of a control once.
+struct Part {
+    Control& control;
+    int id;                  ///< number of its child window
+    unsigned long help = 0;  ///< number of the topic that says what it is for; 0 for none
+    const char* tip = "";
+};
+
 class Window {
  public:
     /// `className` is the window class that the template names; `templateId` the template's number.
@@ -25,7 +34,7 @@ class Window {
     Window& operator=(const Window&) = delete;
 
     /// Makes the real window with its controls, not yet visible, and runs Form_Load. False when the
-    /// system refuses.
+    /// system refuses or the template lacks a control; there is no window then.
     bool Create(platform::WindowHandle owner);
     void Show();
     /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns
@@ -79,8 +88,10 @@ class Window {
 
  protected:
     /// Ties a member to the child window with number `id`.
-    void Add(Control& control, int id, const char* tip = "");
+    void Add(Control& control, int id);
     void Add(Timer& timer);
+    /// Ties each member of a table to its child window, its help and its tip.
+    void AddParts(std::span<const Part> parts);
 
     virtual void Form_Load() {}
     /// The window was shown, or became the active one again after a window of ours in front of it
@@ -128,13 +139,33 @@ class Window {
     friend struct WindowProcedure;
     friend void EndSession();
 
+    bool AttachControls();
     void FreeOwner();
     void OnDestroy();
+
+    // A message each. True when it was dealt with; `result` is then the answer to the system, where
+    // it wants one.
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result);
     bool OnCommand(std::uintptr_t wParam, std::intptr_t lParam);
+    bool OnNotification(std::intptr_t lParam, std::intptr_t& result);
+    bool OnScroll(std::intptr_t lParam);
+    bool OnStaticColor(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result);
+    bool OnDrawItem(std::intptr_t lParam, std::intptr_t& result);
+    bool OnSetPointer(std::uintptr_t wParam, std::intptr_t& result);
+    bool OnTimer(std::uintptr_t wParam);
+    bool OnSize(std::uintptr_t wParam);
+    bool OnSizeLimits(std::intptr_t lParam);
+    bool OnPaint();
+    bool OnMenuOpens(std::uintptr_t wParam, std::intptr_t lParam);
     bool OnHelp(std::intptr_t lParam);
     bool OnContextMenu(platform::WindowHandle child, Point screen, bool byKeyboard);
+    bool OnPaletteChanged(std::uintptr_t wParam);
+    bool OnNewPalette(std::intptr_t& result);
+    bool OnClose();
+    bool OnSessionQuestion(std::intptr_t& result);
+    bool OnSessionEnd(std::uintptr_t wParam);
+
     void ShowTopic(const Control& control);
     void RepaintPictures();
     Control* ControlOf(platform::WindowHandle child) const;

@@ -43,117 +43,166 @@ bool Window::OnCommand(std::uintptr_t wParam, std::intptr_t lParam) {
     return true;
 }
 
+bool Window::OnNotification(std::intptr_t lParam, std::intptr_t& result) {
+    auto* header = reinterpret_cast<NMHDR*>(lParam);
+    Control* control = Find(static_cast<int>(header->idFrom));
+    const bool isItsOwn = control && control->handle() == header->hwndFrom;
+    result = isItsOwn ? control->OnNotify(header) : OnNotify(header);
+    return true;
+}
+
+bool Window::OnScroll(std::intptr_t lParam) {
+    Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
+    if (!control) return false;
+    control->OnScroll();
+    return true;
+}
+
+bool Window::OnStaticColor(std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
+    const auto dc = reinterpret_cast<HDC>(wParam);
+    const Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
+    if (!control || control->TextColor() < 0) return false;
+    SetTextColor(dc, static_cast<COLORREF>(control->TextColor()));
+    SetBkMode(dc, TRANSPARENT);
+    const platform::BrushHandle own = control->BackBrush();
+    result = reinterpret_cast<std::intptr_t>(own ? own : GetSysColorBrush(COLOR_BTNFACE));
+    return true;
+}
+
+bool Window::OnDrawItem(std::intptr_t lParam, std::intptr_t& result) {
+    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+    Control* control = ControlOf(item.hwndItem);
+    if (!control) return false;
+    control->OnDrawItem(&item);
+    result = TRUE;
+    return true;
+}
+
+bool Window::OnSetPointer(std::uintptr_t wParam, std::intptr_t& result) {
+    if (platform::BusyPointer::Shown()) {
+        SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
+        result = TRUE;
+        return true;
+    }
+    Control* control = ControlOf(reinterpret_cast<HWND>(wParam));
+    if (!control || !control->SetPointer()) return false;
+    result = TRUE;
+    return true;
+}
+
+bool Window::OnTimer(std::uintptr_t wParam) {
+    for (Timer* timer : timers_) {
+        if (reinterpret_cast<std::uintptr_t>(timer) != wParam) continue;
+        // One that was stopped may have ticked before.
+        if (timer->Enabled() && timer->Tick) timer->Tick();
+        return true;
+    }
+    return false;
+}
+
+bool Window::OnSize(std::uintptr_t wParam) {
+    if (wParam != SIZE_MINIMIZED) Form_Resize(ClientSize());
+    return false;
+}
+
+bool Window::OnSizeLimits(std::intptr_t lParam) {
+    const Size least = SmallestSize();
+    auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
+    info.ptMinTrackSize = {least.width, least.height};
+    return least.width > 0;
+}
+
+bool Window::OnPaint() {
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(handle_, &paint);
+    Form_Paint(dc);
+    EndPaint(handle_, &paint);
+    return true;
+}
+
+bool Window::OnMenuOpens(std::uintptr_t wParam, std::intptr_t lParam) {
+    const bool isSystemMenu = HIWORD(lParam) != FALSE;
+    if (!isSystemMenu) MenuOpens(reinterpret_cast<HMENU>(wParam));
+    return false;
+}
+
+bool Window::OnPaletteChanged(std::uintptr_t wParam) {
+    // What its own picture boxes changed, they have just painted with.
+    const auto changer = reinterpret_cast<HWND>(wParam);
+    if (changer != handle_ && !IsChild(handle_, changer)) RepaintPictures();
+    return true;
+}
+
+// The window becomes the active one. Behind others its pictures were matched to colours of theirs;
+// now they bring in their own.
+bool Window::OnNewPalette(std::intptr_t& result) {
+    UnrealizeObject(DisplayPalette());
+    RepaintPictures();
+    result = TRUE;
+    return true;
+}
+
+bool Window::OnClose() {
+    // Whoever asks from outside asks every window: those behind a modal one stay, so that the user
+    // has somewhere to go back to.
+    if (IsEnabled()) Unload();
+    return true;
+}
+
+bool Window::OnSessionQuestion(std::intptr_t& result) {
+    EndEdits();
+    result = MayEndSession();
+    return true;
+}
+
+bool Window::OnSessionEnd(std::uintptr_t wParam) {
+    if (wParam) EndSession();
+    return true;
+}
+
 bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                        std::intptr_t& result) {
+    // Some messages carry a place on the screen.
+    const Point at{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     switch (message) {
         case WM_COMMAND:
             return OnCommand(wParam, lParam);
-        case WM_NOTIFY: {
-            const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-            Control* control = Find(static_cast<int>(header->idFrom));
-            result = control && control->handle() == header->hwndFrom
-                         ? control->OnNotify(reinterpret_cast<void*>(lParam))
-                         : OnNotify(reinterpret_cast<void*>(lParam));
-            return true;
-        }
-        case WM_HSCROLL: {
-            Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
-            if (!control) return false;
-            control->OnScroll();
-            return true;
-        }
+        case WM_NOTIFY:
+            return OnNotification(lParam, result);
+        case WM_HSCROLL:
+            return OnScroll(lParam);
         case WM_MOUSEWHEEL:
-            return Form_MouseWheel(
-                static_cast<short>(HIWORD(wParam)),
-                {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
-        case WM_CTLCOLORSTATIC: {
-            const Control* control = ControlOf(reinterpret_cast<HWND>(lParam));
-            if (!control || control->TextColor() < 0) return false;
-            SetTextColor(reinterpret_cast<HDC>(wParam),
-                         static_cast<COLORREF>(control->TextColor()));
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            const platform::BrushHandle own = control->BackBrush();
-            result = reinterpret_cast<std::intptr_t>(own ? own : GetSysColorBrush(COLOR_BTNFACE));
-            return true;
-        }
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            Control* control = ControlOf(item.hwndItem);
-            if (!control) return false;
-            control->OnDrawItem(&item);
-            result = TRUE;
-            return true;
-        }
-        case WM_SETCURSOR: {
-            if (platform::BusyPointer::Shown()) {
-                SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_WAIT)));
-                result = TRUE;
-                return true;
-            }
-            Control* control = ControlOf(reinterpret_cast<HWND>(wParam));
-            if (!control || !control->SetPointer()) return false;
-            result = TRUE;
-            return true;
-        }
+            return Form_MouseWheel(static_cast<short>(HIWORD(wParam)), at);
+        case WM_CTLCOLORSTATIC:
+            return OnStaticColor(wParam, lParam, result);
+        case WM_DRAWITEM:
+            return OnDrawItem(lParam, result);
+        case WM_SETCURSOR:
+            return OnSetPointer(wParam, result);
         case WM_TIMER:
-            for (Timer* timer : timers_) {
-                if (reinterpret_cast<std::uintptr_t>(timer) != wParam) continue;
-                // One that was stopped may have ticked before.
-                if (timer->Enabled() && timer->Tick) timer->Tick();
-                return true;
-            }
-            return false;
+            return OnTimer(wParam);
         case WM_SIZE:
-            if (wParam != SIZE_MINIMIZED) Form_Resize(ClientSize());
-            return false;
-        case WM_GETMINMAXINFO: {
-            const Size least = SmallestSize();
-            auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
-            info.ptMinTrackSize = {least.width, least.height};
-            return least.width > 0;
-        }
-        case WM_PAINT: {
-            PAINTSTRUCT paint{};
-            const HDC dc = BeginPaint(handle_, &paint);
-            Form_Paint(dc);
-            EndPaint(handle_, &paint);
-            return true;
-        }
+            return OnSize(wParam);
+        case WM_GETMINMAXINFO:
+            return OnSizeLimits(lParam);
+        case WM_PAINT:
+            return OnPaint();
         case WM_INITMENUPOPUP:
-            if (HIWORD(lParam) == FALSE) MenuOpens(reinterpret_cast<HMENU>(wParam));
-            return false;
+            return OnMenuOpens(wParam, lParam);
         case WM_HELP:
             return OnHelp(lParam);
         case WM_CONTEXTMENU:
-            return OnContextMenu(
-                reinterpret_cast<HWND>(wParam),
-                {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))},
-                lParam == -1);
-        case WM_PALETTECHANGED: {
-            // What its own picture boxes changed, they have just painted with.
-            const auto changer = reinterpret_cast<HWND>(wParam);
-            if (changer != handle_ && !IsChild(handle_, changer)) RepaintPictures();
-            return true;
-        }
+            return OnContextMenu(reinterpret_cast<HWND>(wParam), at, lParam == -1);
+        case WM_PALETTECHANGED:
+            return OnPaletteChanged(wParam);
         case WM_QUERYNEWPALETTE:
-            // The window becomes the active one. Behind others its pictures were matched to colours
-            // of theirs; now they bring in their own.
-            UnrealizeObject(DisplayPalette());
-            RepaintPictures();
-            result = TRUE;
-            return true;
+            return OnNewPalette(result);
         case WM_CLOSE:
-            // Whoever asks from outside asks every window: those behind a modal one stay, so that
-            // the user has somewhere to go back to.
-            if (IsEnabled()) Unload();
-            return true;
+            return OnClose();
         case WM_QUERYENDSESSION:
-            EndEdits();
-            result = MayEndSession();
-            return true;
+            return OnSessionQuestion(result);
         case WM_ENDSESSION:
-            if (wParam) EndSession();
-            return true;
+            return OnSessionEnd(wParam);
         case WM_DESTROY:
             OnDestroy();
             return false;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 #include <variant>
 
 #include "core/generali.h"
@@ -36,12 +38,12 @@ struct SettingRow {
     const char* valueName;
     std::variant<TextField, NumberField> field;
     Rule rule;
-    int loadPlace;  ///< later ones may depend on earlier ones
+    int loadPlace;  ///< from 0; later ones may depend on earlier ones
 };
 
 // In the order in which they are saved. The splash screen's flag is read first, since it counts
 // before there is any window. How the main window looks comes last: what matters is safe by then.
-constexpr std::array<SettingRow, 20> kRows = {{
+constexpr SettingRow kRows[] = {
     {"SearchLogoPath", &Settings::searchLogoPath, Rule::Text, 4},
     {"View", &Settings::view, Rule::UpToOne, 10},
     {"Synchronize logos", &Settings::synchronizeLogos, Rule::Number, 1},
@@ -62,17 +64,29 @@ constexpr std::array<SettingRow, 20> kRows = {{
     {"WindowHeight", &Settings::windowHeight, Rule::Number, 17},
     {"WindowMaximized", &Settings::windowMaximized, Rule::Number, 18},
     {"AutoshowAnimation", &Settings::autoshowAnimation, Rule::Number, 19},
-}};
+};
+
+/// Whether each place in the order of reading belongs to exactly one row.
+constexpr bool LoadPlacesAreAPermutation() {
+    bool taken[std::size(kRows)] = {};
+    for (const SettingRow& row : kRows) {
+        if (row.loadPlace < 0 || row.loadPlace >= std::ssize(kRows)) return false;
+        if (std::exchange(taken[row.loadPlace], true)) return false;
+    }
+    return true;
+}
+
+static_assert(LoadPlacesAreAPermutation());
 
 /// The same rows in the order in which they are read.
-std::array<SettingRow, kRows.size()> RowsInLoadOrder() {
-    std::array<SettingRow, kRows.size()> rows = kRows;
-    for (const SettingRow& row : kRows) rows[row.loadPlace] = row;
+std::array<const SettingRow*, std::size(kRows)> RowsInLoadOrder() {
+    std::array<const SettingRow*, std::size(kRows)> rows{};
+    for (const SettingRow& row : kRows) rows[row.loadPlace] = &row;
     return rows;
 }
 
 const SettingRow& RowOf(const char* valueName) {
-    return *std::find_if(kRows.begin(), kRows.end(), [&](const SettingRow& row) {
+    return *std::find_if(std::begin(kRows), std::end(kRows), [&](const SettingRow& row) {
         return std::string(row.valueName) == valueName;
     });
 }
@@ -167,7 +181,7 @@ std::int16_t ReadShowSplashScreen() {
 
 Settings ReadSettings(const SystemLocations& locations) {
     Settings settings;
-    for (const SettingRow& row : RowsInLoadOrder()) ReadRow(row, locations, settings);
+    for (const SettingRow* row : RowsInLoadOrder()) ReadRow(*row, locations, settings);
     return settings;
 }
 

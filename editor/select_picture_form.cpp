@@ -1,6 +1,8 @@
 // The Logo browser's window: its controls and menus, and how a session begins and ends.
 #include "editor/select_picture_form.h"
 
+#include <utility>
+
 #include "controls/drag.h"
 #include "core/generali.h"
 #include "core/library.h"
@@ -29,32 +31,42 @@ SelPictureForm::SelPictureForm(EditorHost& host)
 SelPictureForm::~SelPictureForm() { controls::FreeMenu(menus_); }
 
 void SelPictureForm::AddControls() {
-    Add(Drive1, ID_Drive1);
-    Add(CurPath, ID_CurPath);
-    Add(Label1, ID_Label1);
-    Add(LogoList, ID_LogoList);
-    Add(CurView, ID_CurView);
-    Add(ImageInfo, ID_ImageInfo);
-    Add(AdjustButton, ID_AdjustButton, "Frames, lightens and letters the selected picture");
-    Add(Dir1, ID_Dir1);
-    Add(Frame1, ID_Frame1);
-    Add(OptCompSet, ID_OptCompSet);
-    Add(OptDefShut, ID_OptDefShut);
-    Add(OptOnlyStart, ID_OptOnlyStart);
-    Add(Label3, ID_Label3);
-    Add(NameLogoSet, ID_NameLogoSet);
+    namespace number = help_number;
+    const controls::Part parts[] = {
+        {Drive1, ID_Drive1, number::Drive1},
+        {CurPath, ID_CurPath, number::CurPath},
+        {Label1, ID_Label1},
+        {LogoList, ID_LogoList, number::LogoList},
+        {CurView, ID_CurView, number::CurView},
+        {ImageInfo, ID_ImageInfo, number::ImageInfo},
+        {AdjustButton, ID_AdjustButton, number::AdjustButton,
+         "Frames, lightens and letters the selected picture"},
+        {Dir1, ID_Dir1},
+        {Frame1, ID_Frame1},
+        {OptCompSet, ID_OptCompSet, number::OptCompSet},
+        {OptDefShut, ID_OptDefShut, number::OptDefShut},
+        {OptOnlyStart, ID_OptOnlyStart, number::OptOnlyStart},
+        {Label3, ID_Label3},
+        {NameLogoSet, ID_NameLogoSet, number::NameLogoSet},
+        {ActButton, ID_ActButton, number::ActButton},
+        {CloseButton, ID_CloseButton, number::CloseButton},
+        {List1, ID_List1},
+        {LblWritten, ID_LblWritten, number::LblWritten},
+    };
+    AddParts(parts);
+    const char* screens[] = {"LOGO.SYS: startup screen", "LOGOW.SYS: wait screen",
+                             "LOGOS.SYS: shutdown screen"};
     for (int i = 0; i < 3; ++i) {
-        Add(ImgPreview[i], ID_ImgPreview + i);
-        Add(LblSlot[i], ID_LblSlot + i);
-        Add(AddButton[i], ID_AddButton + i);
-        Add(DeleteButton[i], ID_DeleteButton + i);
-        Add(LblNotAval[i], ID_LblNotAval + i);
-        Add(SlotFrame[i], ID_SlotFrame + i);
+        const controls::Part slot[] = {
+            {ImgPreview[i], ID_ImgPreview + i, number::ImgPreview[i], screens[i]},
+            {LblSlot[i], ID_LblSlot + i},
+            {AddButton[i], ID_AddButton + i, number::AddButton},
+            {DeleteButton[i], ID_DeleteButton + i, number::DeleteButton},
+            {LblNotAval[i], ID_LblNotAval + i},
+            {SlotFrame[i], ID_SlotFrame + i},
+        };
+        AddParts(slot);
     }
-    Add(ActButton, ID_ActButton);
-    Add(CloseButton, ID_CloseButton);
-    Add(List1, ID_List1);
-    Add(LblWritten, ID_LblWritten);
 }
 
 void SelPictureForm::ConnectBrowser() {
@@ -98,26 +110,31 @@ void SelPictureForm::ConnectSlots() {
     CloseButton.Click = [this] { CloseButton_Click(); };
 }
 
+void SelPictureForm::AddItem(controls::MenuItem& item, int id, std::function<void()> click) {
+    item.Attach(menus_, id);
+    commands_[id] = std::move(click);
+}
+
 void SelPictureForm::AttachMenus() {
     menus_ = controls::LoadMenuResource(IDM_SelPictureForm);
-    for (int i = 0; i < 2; ++i) OkButton[i].Attach(menus_, ID_OkButton + i);
-    EliminaSetBtn.Attach(menus_, ID_EliminaSetBtn);
-    ClearAllButton.Attach(menus_, ID_ClearAllButton);
-    ItmRename.Attach(menus_, ID_BrowserRename);
-    ItmDelete.Attach(menus_, ID_BrowserDelete);
-    itmRefresh.Attach(menus_, ID_BrowserRefresh);
-    for (int i = 0; i < 3; ++i) ItmSetLogo[i].Attach(menus_, ID_ItmSetLogo + i);
-    ItmAdjust.Attach(menus_, ID_ItmAdjust);
-    ItmManySets.Attach(menus_, ID_ItmManySets);
+    for (int i = 0; i < 2; ++i)
+        AddItem(OkButton[i], ID_OkButton + i, [this, i] { OkButton_Click(i); });
+    AddItem(EliminaSetBtn, ID_EliminaSetBtn, [this] { EliminaSetBtn_Click(); });
+    AddItem(ClearAllButton, ID_ClearAllButton, [this] { ClearAllButton_Click(); });
+    AddItem(ItmRename, ID_BrowserRename, [this] { ItmRename_Click(); });
+    AddItem(ItmDelete, ID_BrowserDelete, [this] { ItmDelete_Click(); });
+    AddItem(itmRefresh, ID_BrowserRefresh, [this] { AggiornaDir(); });
+    for (int i = 0; i < 3; ++i)
+        AddItem(ItmSetLogo[i], ID_ItmSetLogo + i, [this, i] { AddButton_Click(i); });
+    AddItem(ItmAdjust, ID_ItmAdjust, [this] { AdjustButton_Click(); });
+    AddItem(ItmManySets, ID_ItmManySets, [this] { ItmManySets_Click(); });
+    // These join the main window's menu while it pops up over a slot.
+    for (int i = 0; i < 3; ++i) commands_[ID_ItmAdjustSlot + i] = [this, i] { AdjustSlot(i); };
 }
 
 void SelPictureForm::Form_Load() {
     platform::ShowDefaultPointer();
     dragIcon_ = controls::LoadDragIcon("drag");
-    ImgPreview[0].SetTip("LOGO.SYS: startup screen");
-    ImgPreview[1].SetTip("LOGOW.SYS: wait screen");
-    ImgPreview[2].SetTip("LOGOS.SYS: shutdown screen");
-    SetHelpNumbers();
 
     for (int i = 0; i < 3; ++i)
         LblSlot[i].SetText(std::string(core::kScreenFileNames[i]) + "\r\n" +
@@ -131,27 +148,6 @@ void SelPictureForm::Form_Load() {
     OptCompSet.SetMark(true);
     GrowToScreen();
     LogoList.Focus();
-}
-
-void SelPictureForm::SetHelpNumbers() {
-    Drive1.SetHelpNumber(help_number::Drive1);
-    CurPath.SetHelpNumber(help_number::CurPath);
-    LogoList.SetHelpNumber(help_number::LogoList);
-    CurView.SetHelpNumber(help_number::CurView);
-    ImageInfo.SetHelpNumber(help_number::ImageInfo);
-    AdjustButton.SetHelpNumber(help_number::AdjustButton);
-    OptCompSet.SetHelpNumber(help_number::OptCompSet);
-    OptDefShut.SetHelpNumber(help_number::OptDefShut);
-    OptOnlyStart.SetHelpNumber(help_number::OptOnlyStart);
-    NameLogoSet.SetHelpNumber(help_number::NameLogoSet);
-    for (int i = 0; i < 3; ++i) {
-        ImgPreview[i].SetHelpNumber(help_number::ImgPreview[i]);
-        AddButton[i].SetHelpNumber(help_number::AddButton);
-        DeleteButton[i].SetHelpNumber(help_number::DeleteButton);
-    }
-    ActButton.SetHelpNumber(help_number::ActButton);
-    CloseButton.SetHelpNumber(help_number::CloseButton);
-    LblWritten.SetHelpNumber(help_number::LblWritten);
 }
 
 void SelPictureForm::Form_Activate() {

@@ -2,7 +2,10 @@
 // screens of a set, and the commands that make a set of them.
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "adjust/adjustments.h"
 #include "controls/button.h"
@@ -111,7 +114,7 @@ class SelPictureForm : public controls::Window {
     void ConnectBrowser();
     void ConnectSlots();
     void AttachMenus();
-    void SetHelpNumbers();
+    void AddItem(controls::MenuItem& item, int id, std::function<void()> click);
 
     // Layout
     /// Widths of the three columns' pictures and of the list.
@@ -229,6 +232,8 @@ class SelPictureForm : public controls::Window {
 
     EditorHost& host_;
     platform::MenuHandle menus_ = nullptr;
+    std::map<int, std::function<void()>>
+        commands_;  ///< what the menus' items run, by their numbers
     platform::IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
     controls::Size smallest_;          ///< of the whole window: what fits a screen of 640 x 480

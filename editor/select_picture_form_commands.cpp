@@ -62,40 +62,9 @@ bool SelPictureForm::RunOpenWith(int id) {
 
 void SelPictureForm::MenuCommand(int id) {
     if (RunOpenWith(id)) return;
-    switch (id) {
-        case ID_BtnOK:  // Enter
-            if (LogoList.HasFocus()) LogoList_DblClick();
-            return;
-        case ID_BtnCancel:  // Esc
-            return CloseButton_Click();
-        case ID_OkButton:
-        case ID_OkButton + 1:
-            return OkButton_Click(id - ID_OkButton);
-        case ID_EliminaSetBtn:
-            return EliminaSetBtn_Click();
-        case ID_ClearAllButton:
-            return ClearAllButton_Click();
-        case ID_BrowserRename:
-            return ItmRename_Click();
-        case ID_BrowserDelete:
-            return ItmDelete_Click();
-        case ID_BrowserRefresh:
-            return AggiornaDir();
-        case ID_ItmSetLogo:
-        case ID_ItmSetLogo + 1:
-        case ID_ItmSetLogo + 2:
-            return AddButton_Click(id - ID_ItmSetLogo);
-        case ID_ItmAdjust:
-            return AdjustButton_Click();
-        case ID_ItmManySets:
-            return ItmManySets_Click();
-        case ID_ItmAdjustSlot:
-        case ID_ItmAdjustSlot + 1:
-        case ID_ItmAdjustSlot + 2:
-            return AdjustSlot(id - ID_ItmAdjustSlot);
-        default:
-            return;
-    }
+    if (id == ID_BtnOK && LogoList.HasFocus()) LogoList_DblClick();  // Enter
+    if (id == ID_BtnCancel) CloseButton_Click();                     // Esc
+    if (const auto command = commands_.find(id); command != commands_.end()) command->second();
 }
 
 }  // namespace vistrel::editor

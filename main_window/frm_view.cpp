@@ -21,7 +21,8 @@ FrmView::FrmView(std::string path, bool animate)
       path_(std::move(path)),
       animate_(animate),
       AnimationTimer(kAnimationInterval) {
-    Add(Preview, ID_Preview, "Click or press a key to close");
+    const controls::Part parts[] = {{Preview, ID_Preview, 0, "Click or press a key to close"}};
+    AddParts(parts);
     Add(AnimationTimer);
     AnimationTimer.Tick = [this] { animation_->Step(); };
     Preview.MouseUp = [this](int, controls::Point) { Preview_Click(); };

@@ -11,7 +11,6 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "help/context_numbers.h"
-#include "main_window/tool_table.h"
 #include "resources/ids.h"
 
 namespace vistrel::main_window {
@@ -26,18 +25,25 @@ constexpr unsigned kBrowserDelay = 50;
 
 Principale::Principale(core::SystemLocations locations)
     : Window("Principale", IDD_Principale),
-      ActiveBar1(MainTools(), MainBands()),
+      ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
       locations_(std::move(locations)) {
-    Add(MyList, ID_MyList);
-    for (int i = 0; i < 3; ++i) {
-        Add(Imag[i], ID_Imag + i);
-        Add(LblScreen[i], ID_LblScreen + i);
-    }
-    Add(DefaultLogo, ID_DefaultLogo, "Default logo set");
-    Add(LblDefaultLogo, ID_LblDefaultLogo);
-    Add(LogoType, ID_LogoType);
-    Add(NumLogo, ID_NumLogo);
+    // The list and the pictures have menus of their own at the right button, and F1 means the
+    // help's contents here: only what cannot have the focus answers what it is.
+    const controls::Part parts[] = {
+        {MyList, ID_MyList},
+        {Imag[0], ID_Imag},
+        {Imag[1], ID_Imag + 1},
+        {Imag[2], ID_Imag + 2},
+        {LblScreen[0], ID_LblScreen},
+        {LblScreen[1], ID_LblScreen + 1},
+        {LblScreen[2], ID_LblScreen + 2},
+        {DefaultLogo, ID_DefaultLogo, help_number::DefaultLogo, "Default logo set"},
+        {LblDefaultLogo, ID_LblDefaultLogo},
+        {LogoType, ID_LogoType, help_number::LogoType},
+        {NumLogo, ID_NumLogo, help_number::NumLogo},
+    };
+    AddParts(parts);
     Add(Timer1);
 
     ActiveBar1.Click = [this](const controls::Tool& tool) { ActiveBar1_Click(tool); };
@@ -78,11 +84,6 @@ void Principale::Form_Load() {
     MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
     DefaultLogo.SetFont({.bold = true});
     DefaultLogo.SetForeColor(controls::kBlue);
-    // The list and the pictures have menus of their own at the right button, and F1 means the
-    // help's contents here: only what cannot have the focus answers what it is.
-    DefaultLogo.SetHelpNumber(help_number::DefaultLogo);
-    LogoType.SetHelpNumber(help_number::LogoType);
-    NumLogo.SetHelpNumber(help_number::NumLogo);
 
     locations_.startupFolder = core::GetStartupFolder();
     for (int i = 0; i < 3; ++i)

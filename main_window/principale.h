@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include "controls/timer.h"
 #include "controls/window.h"
 #include "editor/host.h"
+#include "main_window/tool_table.h"
 #include "options/host.h"
 
 namespace vistrel::options {
@@ -92,6 +94,10 @@ class Principale : public controls::Window, public editor::EditorHost, public op
         int top = 0;
     };
 
+    static const MainTool kTools[];
+    static std::span<const MainTool> Tools();
+    static std::vector<controls::Tool> BarTools();
+
     // Where a click or a key arrives, in the order in which a user meets them.
     void ActiveBar1_Click(const controls::Tool& tool);
     void MyList_ItemClick();
@@ -127,10 +133,12 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ItmBugReport_Click();
     void ItmAbout_Click();
     void ItmExit_Click();
+    void NoWork() {}
 
     void CloseAll();
     void PutBackWindow();
     void CheckSetCommands();
+    void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
     void FollowDeselection();
     void ShowScreens(const std::array<std::string, 3>& paths);

@@ -12,6 +12,7 @@
 #include "core/random_choice.h"
 #include "editor/elimina_logo_set.h"
 #include "editor/select_picture_form.h"
+#include "help/context_numbers.h"
 #include "main_window/principale.h"
 #include "options/frm_options.h"
 #include "platform/clock.h"
@@ -23,7 +24,6 @@
 namespace vistrel::main_window {
 namespace {
 
-constexpr unsigned long kTutorialTopic = 30;
 /// Where "StartUp logo in" stands in its menu.
 constexpr int kPlaceOfDrives = 9;
 
@@ -32,62 +32,22 @@ constexpr int kPlaceOfDrives = 9;
 bool Principale::ASetIsSelected() const { return MyList.SelectedItem() >= 0; }
 
 void Principale::CheckSetCommands() {
-    for (const char* tool : {"ToolRename", "ToolDelete", "ToolSetDefault"})
-        ActiveBar1.SetEnabled(tool, ASetIsSelected());
+    for (const MainTool& row : Tools())
+        if (row.needs == Needs::SelectedSet) ActiveBar1.SetEnabled(row.tool.name, ASetIsSelected());
 }
 
 void Principale::ActiveBar1_Click(const controls::Tool& tool) {
-    const struct {
-        std::string_view name;
-        void (Principale::*run)();
-    } actions[] = {
-        {"ToolRename", &Principale::ItmRename_Click},
-        {"ToolDelete", &Principale::ItmDelete_Click},
-        {"ToolSetDefault", &Principale::ItmSetDefault_Click},
-        {"ToolBrowser", &Principale::ItmLogoManager_Click},
-        {"ToolExplore", &Principale::ItmExplore_Click},
-        {"ToolRefresh", &Principale::itmRefresh_Click},
-        {"ToolListView", &Principale::ViewAsList},
-        {"ToolReportView", &Principale::ViewAsReport},
-        {"ToolShowCurrent", &Principale::ToggleShowCurrent},
-        {"ToolRandom", &Principale::ItmRandomSpin_Click},
-        {"ToolPrefer", &Principale::ItmPref_Click},
-        {"ToolContents", &Principale::ItmContents_Click},
-        {"ToolTutorial", &Principale::ShowTutorial},
-        {"ToolAbout", &Principale::ItmAbout_Click},
-        {"ToolBug", &Principale::ItmBugReport_Click},
-        {"MnuExit", &Principale::ItmExit_Click},
-    };
-    for (const auto& action : actions)
-        if (action.name == tool.name) (this->*action.run)();
+    for (const MainTool& row : Tools())
+        if (std::string_view(row.tool.name) == tool.name) (this->*row.run)();
 }
 
 void Principale::MenuCommand(int id) {
     if (ActiveBar1.OnCommand(id)) return;
     if (OpenWithCommand(id, handle())) return;
     if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected()) InstallOrBrowse();
-    const struct {
-        int id;
-        void (Principale::*run)();
-    } items[] = {
-        {ID_ItmRename, &Principale::ItmRename_Click},
-        {ID_ItmDelete, &Principale::ItmDelete_Click},
-        {ID_ItmSetDefault, &Principale::ItmSetDefault_Click},
-        {ID_ItmExplore, &Principale::ItmExplore_Click},
-        {ID_ItmRefresh, &Principale::itmRefresh_Click},
-        {ID_ItmLogoManager, &Principale::ItmLogoManager_Click},
-        {ID_ItmViewType, &Principale::ViewAsList},
-        {ID_ItmViewType + 1, &Principale::ViewAsReport},
-        {ID_ItmViewDefOrActual, &Principale::ItmViewDefOrActual_Click},
-        {ID_ItmRandomSpin, &Principale::ItmRandomSpin_Click},
-        {ID_ItmPref, &Principale::ItmPref_Click},
-        {ID_ItmContents, &Principale::ItmContents_Click},
-        {ID_ItmBugReport, &Principale::ItmBugReport_Click},
-        {ID_ItmAbout, &Principale::ItmAbout_Click},
-        {ID_ItmExit, &Principale::ItmExit_Click},
-    };
-    for (const auto& item : items)
-        if (item.id == id) (this->*item.run)();
+    if (id == ID_ItmViewDefOrActual) ItmViewDefOrActual_Click();
+    for (const MainTool& row : Tools())
+        if (row.item == id) (this->*row.run)();
     if (id > ID_ItmDriveList && id <= ID_ItmDriveList + 26)
         ItmDriveList_Click(id - ID_ItmDriveList);
 }
@@ -119,8 +79,9 @@ void Principale::ItmDriveList_Click(int index) {
 }
 
 void Principale::MnuListLogo_Click() {
-    for (const int item : {ID_ItmRename, ID_ItmDelete, ID_ItmSetDefault})
-        controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), item, ASetIsSelected());
+    for (const MainTool& row : Tools())
+        if (row.needs == Needs::SelectedSet)
+            controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), row.item, ASetIsSelected());
 }
 
 platform::MenuHandle Principale::ClassicMenu(int place) const {
@@ -260,7 +221,7 @@ void Principale::ItmContents_Click() {
 }
 
 void Principale::ShowTutorial() {
-    platform::ShowHelp(handle(), HelpFile(), platform::HelpCommand::Context, kTutorialTopic);
+    platform::ShowHelp(handle(), HelpFile(), platform::HelpCommand::Context, help_number::Tutorial);
 }
 
 void Principale::ItmBugReport_Click() {

@@ -60,13 +60,19 @@ void Principale::ItmViewDefOrActual_Click() {
         ShowSetScreens();
 }
 
+void Principale::EnableSetScreenCommands(bool enabled) {
+    for (const MainTool& row : Tools()) {
+        if (row.needs != Needs::SetScreens) continue;
+        ActiveBar1.SetEnabled(row.tool.name, enabled);
+        if (row.item != kNoItem) controls::SetMenuEnabled(classicMenus_, row.item, enabled);
+    }
+}
+
 void Principale::ShowInstalledScreens() {
     DefaultLogo.SetTip("Showing current logo setting");
-    ActiveBar1.SetEnabled("MnuLogo", false);
+    EnableSetScreenCommands(false);
     LogoType.SetVisible(false);
     LblDefaultLogo.SetVisible(false);
-    ActiveBar1.SetEnabled("ToolRandom", false);
-    controls::SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, false);
     // Run again while they are shown already, there is nothing new to save.
     if (!savedView_) savedView_ = {PlaceInList().selectedSet};
     MyList.Select(-1);
@@ -88,9 +94,7 @@ void Principale::ShowSetScreens() {
 /// Puts everything back but the selection and its screens.
 void Principale::LeaveInstalledView() {
     DefaultLogo.SetTip("Default logo set");
-    ActiveBar1.SetEnabled("MnuLogo", true);
-    ActiveBar1.SetEnabled("ToolRandom", true);
-    controls::SetMenuEnabled(classicMenus_, ID_ItmRandomSpin, true);
+    EnableSetScreenCommands(true);
     DefaultLogo.SetForeColor(controls::kBlue);
     savedView_.reset();
     ShowInstalledSet();

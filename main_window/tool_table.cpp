@@ -1,36 +1,10 @@
 #include "main_window/tool_table.h"
 
+#include "main_window/principale.h"
 #include "resources/ids.h"
 
 namespace vistrel::main_window {
 namespace {
-
-// The order is that of the dispatch; the pictures are numbered as they stand in the strip.
-constexpr controls::Tool kTools[] = {
-    {"MnuLogo", 0, "&Logo", "", "Logo", -1, "LogoBand"},
-    {"MnuOptions", 0, "&Options", "", "Options", -1, "OptionsBand"},
-    {"MnuHelp", 0, "&Help", "", "Help", -1, "HelpBand"},
-    {"ToolRename", ID_ToolRename, "&Rename", "Rename selected logo set", "Logo", 0, "", "F2"},
-    {"ToolDelete", ID_ToolDelete, "D&elete", "Delete selected logo set", "Logo", 1, "", "Del"},
-    {"ToolSetDefault", ID_ToolSetDefault, "Set as default", "Set as default", "Logo", 2, ""},
-    {"ToolBrowser", ID_ToolBrowser, "Logo &browser...", "Logo browser", "Logo", 3, ""},
-    {"ToolExplore", ID_ToolExplore, "&Explore", "Opens the folder in Explorer", "Logo", 4, ""},
-    {"ToolRefresh", ID_ToolRefresh, "&Refresh", "Refreshed the logo sets list", "Logo", 5, "",
-     "F5"},
-    {"ToolListView", ID_ToolListView, "View as &list", "", "Options", -1, ""},
-    {"ToolReportView", ID_ToolReportView, "View as &report", "", "Options", -1, ""},
-    {"ToolShowCurrent", ID_ToolShowCurrent, "Show current &logo setting",
-     "Show current logo setting", "Options", 6, ""},
-    {"ToolRandom", ID_ToolRandom, "Rando&m Change", "Random change", "Options", 7, ""},
-    {"ToolPrefer", ID_ToolPrefer, "&Preferences...", "", "Options", 10, ""},
-    {"Online", ID_Online, "&Online check...", "", "Options", -1, ""},
-    {"ToolContents", ID_ToolContents, "Contents", "Contents", "Logo", 8, "", "F1"},
-    {"ToolTutorial", ID_ToolTutorial, "Tutorial", "Tutorial", "Logo", 11, ""},
-    {"ToolAbout", ID_ToolAbout, "About...", "About...", "Logo", 9, ""},
-    {"ToolBug", ID_ToolBug, "&Bug report", "", "Logo", 12, ""},
-    {"MnuExit", ID_MnuExit, "E&xit", "", "Logo", -1, ""},
-    {"WhatIsThis", ID_WhatIsThis, "What's this?", "", "Help", -1, ""},
-};
 
 const controls::Band kBands[] = {
     {"LogoBand",
@@ -51,8 +25,86 @@ const controls::Band kBands[] = {
 
 }  // namespace
 
-std::span<const controls::Tool> MainTools() { return kTools; }
-
 std::span<const controls::Band> MainBands() { return kBands; }
+
+// The order is that of the dispatch. Those without work open a band, or stand in none.
+constinit const MainTool Principale::kTools[] = {
+    {{"MnuLogo", 0, "&Logo", "", "Logo", controls::kNoPicture, "", "LogoBand"},
+     &Principale::NoWork,
+     kNoItem,
+     Needs::SetScreens},
+    {{"MnuOptions", 0, "&Options", "", "Options", controls::kNoPicture, "", "OptionsBand"},
+     &Principale::NoWork},
+    {{"MnuHelp", 0, "&Help", "", "Help", controls::kNoPicture, "", "HelpBand"},
+     &Principale::NoWork},
+    {{"ToolRename", ID_ToolRename, "&Rename", "Rename selected logo set", "Logo", PICTURE_Rename,
+      "F2"},
+     &Principale::ItmRename_Click,
+     ID_ItmRename,
+     Needs::SelectedSet},
+    {{"ToolDelete", ID_ToolDelete, "D&elete", "Delete selected logo set", "Logo", PICTURE_Delete,
+      "Del"},
+     &Principale::ItmDelete_Click,
+     ID_ItmDelete,
+     Needs::SelectedSet},
+    {{"ToolSetDefault", ID_ToolSetDefault, "Set as default", "Set as default", "Logo",
+      PICTURE_SetDefault},
+     &Principale::ItmSetDefault_Click,
+     ID_ItmSetDefault,
+     Needs::SelectedSet},
+    {{"ToolBrowser", ID_ToolBrowser, "Logo &browser...", "Logo browser", "Logo", PICTURE_Browser},
+     &Principale::ItmLogoManager_Click,
+     ID_ItmLogoManager},
+    {{"ToolExplore", ID_ToolExplore, "&Explore", "Opens the folder in Explorer", "Logo",
+      PICTURE_Explore},
+     &Principale::ItmExplore_Click,
+     ID_ItmExplore},
+    {{"ToolRefresh", ID_ToolRefresh, "&Refresh", "Refreshed the logo sets list", "Logo",
+      PICTURE_Refresh, "F5"},
+     &Principale::itmRefresh_Click,
+     ID_ItmRefresh},
+    {{"ToolListView", ID_ToolListView, "View as &list", "", "Options", controls::kNoPicture},
+     &Principale::ViewAsList,
+     ID_ItmViewType},
+    {{"ToolReportView", ID_ToolReportView, "View as &report", "", "Options", controls::kNoPicture},
+     &Principale::ViewAsReport,
+     ID_ItmViewType + 1},
+    {{"ToolShowCurrent", ID_ToolShowCurrent, "Show current &logo setting",
+      "Show current logo setting", "Options", PICTURE_ShowCurrent},
+     &Principale::ToggleShowCurrent},
+    {{"ToolRandom", ID_ToolRandom, "Rando&m Change", "Random change", "Options", PICTURE_Random},
+     &Principale::ItmRandomSpin_Click,
+     ID_ItmRandomSpin,
+     Needs::SetScreens},
+    {{"ToolPrefer", ID_ToolPrefer, "&Preferences...", "", "Options", PICTURE_Preferences},
+     &Principale::ItmPref_Click,
+     ID_ItmPref},
+    {{"Online", ID_Online, "&Online check...", "", "Options", controls::kNoPicture},
+     &Principale::NoWork},
+    {{"ToolContents", ID_ToolContents, "Contents", "Contents", "Logo", PICTURE_Contents, "F1"},
+     &Principale::ItmContents_Click,
+     ID_ItmContents},
+    {{"ToolTutorial", ID_ToolTutorial, "Tutorial", "Tutorial", "Logo", PICTURE_Tutorial},
+     &Principale::ShowTutorial},
+    {{"ToolAbout", ID_ToolAbout, "About...", "About...", "Logo", PICTURE_About},
+     &Principale::ItmAbout_Click,
+     ID_ItmAbout},
+    {{"ToolBug", ID_ToolBug, "&Bug report", "", "Logo", PICTURE_Bug},
+     &Principale::ItmBugReport_Click,
+     ID_ItmBugReport},
+    {{"MnuExit", ID_MnuExit, "E&xit", "", "Logo", controls::kNoPicture},
+     &Principale::ItmExit_Click,
+     ID_ItmExit},
+    {{"WhatIsThis", ID_WhatIsThis, "What's this?", "", "Help", controls::kNoPicture},
+     &Principale::NoWork},
+};
+
+std::span<const MainTool> Principale::Tools() { return kTools; }
+
+std::vector<controls::Tool> Principale::BarTools() {
+    std::vector<controls::Tool> tools;
+    for (const MainTool& row : Tools()) tools.push_back(row.tool);
+    return tools;
+}
 
 }  // namespace vistrel::main_window

@@ -13,39 +13,57 @@
 
 namespace vistrel::options {
 
+using core::Settings;
+
 FrmOptions::FrmOptions(OptionsHost& host, Page first)
     : Window("FrmOptions", IDD_FrmOptions),
       host_(host),
       first_(first),
       MnuDrive_(controls::NewPopUpMenu()) {
-    Add(TabStrip1, ID_TabStrip1);
-    TabStrip1.Click = [this] { TabStrip1_Click(); };
-    for (int i = 0; i < 4; ++i) Add(MyFrame[i], ID_MyFrame + i);
+    const controls::Part parts[] = {
+        {TabStrip1, ID_TabStrip1},
+        {BtnOK, ID_BtnOK},
+        {BtnCancel, ID_BtnCancel},
+    };
+    AddParts(parts);
     AddGeneral();
     AddConfirmations();
     AddImages();
     AddStartUp();
-    Add(BtnOK, ID_BtnOK);
-    Add(BtnCancel, ID_BtnCancel);
+    TabStrip1.Click = [this] { TabStrip1_Click(); };
     BtnOK.Click = [this] { BtnOK_Click(); };
     BtnCancel.Click = [this] { BtnCancel_Click(); };
 }
 
 FrmOptions::~FrmOptions() { controls::FreeMenu(MnuDrive_); }
 
+void FrmOptions::AddPage(Page page, std::span<const Row> rows) {
+    const int index = page - 1;
+    Add(MyFrame[index], ID_MyFrame + index);
+    std::vector<controls::Control*> held;
+    for (const Row& row : rows) {
+        AddParts({&row.part, 1});
+        held.push_back(&row.part.control);
+        if (row.flag.setting) flags_.push_back(row.flag);
+    }
+    MyFrame[index].Hold(held);
+}
+
 void FrmOptions::AddGeneral() {
-    Add(LblLogoPath, ID_LblLogoPath);
-    Add(TxtLogoPath, ID_TxtLogoPath);
-    Add(btnBrwFolder, ID_btnBrwFolder);
-    Add(LblDblAction, ID_LblDblAction);
-    Add(DblAction, ID_DblAction);
-    Add(ChkShowSplash, ID_ChkShowSplash);
-    Add(ChkSyncronize, ID_ChkSyncronize);
-    Add(ActiveStart, ID_ActiveStart);
-    Add(LblDriveHost, ID_LblDriveHost);
-    Add(DriveHost, ID_DriveHost);
-    MyFrame[0].Hold({&LblLogoPath, &TxtLogoPath, &btnBrwFolder, &LblDblAction, &DblAction,
-                     &ChkShowSplash, &ChkSyncronize, &ActiveStart, &LblDriveHost, &DriveHost});
+    namespace number = help_number;
+    const Row rows[] = {
+        {LblLogoPath, ID_LblLogoPath},
+        {TxtLogoPath, ID_TxtLogoPath, number::TxtLogoPath},
+        {btnBrwFolder, ID_btnBrwFolder, number::btnBrwFolder},
+        {LblDblAction, ID_LblDblAction},
+        {DblAction, ID_DblAction, number::DblAction},
+        {ChkShowSplash, ID_ChkShowSplash, number::ChkShowSplash, &Settings::showSplashScreen},
+        {ChkSyncronize, ID_ChkSyncronize, number::ChkSyncronize, &Settings::synchronizeLogos},
+        {ActiveStart, ID_ActiveStart, number::ActiveStart},
+        {LblDriveHost, ID_LblDriveHost},
+        {DriveHost, ID_DriveHost, number::DriveHost},
+    };
+    AddPage(kGeneral, rows);
 
     TxtLogoPath.GotFocus = [this] { controls::SelectAllText(TxtLogoPath); };
     btnBrwFolder.Click = [this] { btnBrwFolder_Click(); };
@@ -54,23 +72,32 @@ void FrmOptions::AddGeneral() {
 }
 
 void FrmOptions::AddConfirmations() {
-    Add(ChkConfirmChange, ID_ChkConfirmChange);
-    Add(ChkDelConfirm, ID_ChkDelConfirm);
-    Add(ChkDeleteRecycle, ID_ChkDeleteRecycle);
-    MyFrame[1].Hold({&ChkConfirmChange, &ChkDelConfirm, &ChkDeleteRecycle});
+    namespace number = help_number;
+    const Row rows[] = {
+        {ChkConfirmChange, ID_ChkConfirmChange, number::ChkConfirmChange,
+         &Settings::confirmLogoTypeChange},
+        {ChkDelConfirm, ID_ChkDelConfirm, number::ChkDelConfirm, &Settings::confirmLogosetDelete},
+        {ChkDeleteRecycle, ID_ChkDeleteRecycle, number::ChkDeleteRecycle,
+         &Settings::deleteInTheRecycleBin},
+    };
+    AddPage(kConfirmations, rows);
 }
 
 void FrmOptions::AddImages() {
-    Add(FrameOpen, ID_FrameOpen);
-    for (int i = 0; i < 3; ++i) Add(OptOpen[i], ID_OptOpen + i);
-    Add(LblCustomName, ID_LblCustomName);
-    Add(CustomName, ID_CustomName);
-    Add(LblCustProg, ID_LblCustProg);
-    Add(CustProg, ID_CustProg);
-    Add(BtnBrowse, ID_BtnBrowse);
-    Add(ChkShowAnim, ID_ChkShowAnim);
-    MyFrame[2].Hold({&FrameOpen, &OptOpen[0], &OptOpen[1], &OptOpen[2], &LblCustomName, &CustomName,
-                     &LblCustProg, &CustProg, &BtnBrowse, &ChkShowAnim});
+    namespace number = help_number;
+    const Row rows[] = {
+        {FrameOpen, ID_FrameOpen},
+        {OptOpen[0], ID_OptOpen, number::OptOpen[0]},
+        {OptOpen[1], ID_OptOpen + 1, number::OptOpen[1]},
+        {OptOpen[2], ID_OptOpen + 2, number::OptOpen[2]},
+        {LblCustomName, ID_LblCustomName},
+        {CustomName, ID_CustomName, number::CustomName},
+        {LblCustProg, ID_LblCustProg},
+        {CustProg, ID_CustProg, number::CustProg},
+        {BtnBrowse, ID_BtnBrowse, number::BtnBrowse},
+        {ChkShowAnim, ID_ChkShowAnim},
+    };
+    AddPage(kImages, rows);
 
     for (controls::TextBox* box : {&CustomName, &CustProg}) {
         box->Change = [this] { CustomProgram_Change(); };
@@ -80,36 +107,23 @@ void FrmOptions::AddImages() {
 }
 
 void FrmOptions::AddStartUp() {
-    Add(LblStartUp, ID_LblStartUp);
+    namespace number = help_number;
+    const Row rows[] = {
+        {LblStartUp, ID_LblStartUp},
+        {StartUpAction[0], ID_StartUpAction, number::StartUpAction[0]},
+        {StartUpAction[1], ID_StartUpAction + 1, number::StartUpAction[1]},
+        {StartUpAction[2], ID_StartUpAction + 2},
+    };
+    AddPage(kStartUp, rows);
+
     const char* companions[] = {"Rotaline", "Shufflet", "Nothing"};
     for (int i = 0; i < 3; ++i) {
-        Add(StartUpAction[i], ID_StartUpAction + i);
         StartUpAction[i].Tag = companions[i];
         StartUpAction[i].Click = [this, i] { StartUpAction_Click(i); };
     }
-    MyFrame[3].Hold({&LblStartUp, &StartUpAction[0], &StartUpAction[1], &StartUpAction[2]});
-}
-
-void FrmOptions::SetHelpNumbers() {
-    ActiveStart.SetHelpNumber(help_number::ActiveStart);
-    ChkShowSplash.SetHelpNumber(help_number::ChkShowSplash);
-    ChkSyncronize.SetHelpNumber(help_number::ChkSyncronize);
-    DriveHost.SetHelpNumber(help_number::DriveHost);
-    btnBrwFolder.SetHelpNumber(help_number::btnBrwFolder);
-    TxtLogoPath.SetHelpNumber(help_number::TxtLogoPath);
-    DblAction.SetHelpNumber(help_number::DblAction);
-    ChkDeleteRecycle.SetHelpNumber(help_number::ChkDeleteRecycle);
-    ChkDelConfirm.SetHelpNumber(help_number::ChkDelConfirm);
-    ChkConfirmChange.SetHelpNumber(help_number::ChkConfirmChange);
-    for (int i = 0; i < 3; ++i) OptOpen[i].SetHelpNumber(help_number::OptOpen[i]);
-    CustomName.SetHelpNumber(help_number::CustomName);
-    CustProg.SetHelpNumber(help_number::CustProg);
-    BtnBrowse.SetHelpNumber(help_number::BtnBrowse);
-    for (int i = 0; i < 2; ++i) StartUpAction[i].SetHelpNumber(help_number::StartUpAction[i]);
 }
 
 void FrmOptions::Form_Load() {
-    SetHelpNumbers();
     for (const char* caption : {"General", "Confirmations", "Images", "StartUp settings"})
         TabStrip1.AddTab(caption);
     TabStrip1.Select(first_);
@@ -118,7 +132,7 @@ void FrmOptions::Form_Load() {
 }
 
 void FrmOptions::Form_Activate() {
-    const core::Settings& settings = host_.Preferences();
+    const Settings& settings = host_.Preferences();
     showingValues_ = true;
     DblAction.SetListIndex(settings.actionOnDoubleClick);
     DriveHost.SetText(settings.bootRoot.substr(0, 1));
@@ -129,13 +143,9 @@ void FrmOptions::Form_Activate() {
     // The box opens clear, whatever the main window's menu item shows: kept so.
     ChkShowAnim.SetValue(0);
     GetDiskInfo();
-    ChkDeleteRecycle.SetValue(settings.deleteInTheRecycleBin);
-    ChkDelConfirm.SetValue(settings.confirmLogosetDelete);
-    ChkConfirmChange.SetValue(settings.confirmLogoTypeChange);
-    ChkShowSplash.SetValue(settings.showSplashScreen);
+    for (const Flag& flag : flags_) flag.checkBox->SetValue(settings.*flag.setting);
     ShowStartUpAction();
     TxtLogoPath.SetText(settings.logoPath);
-    ChkSyncronize.SetValue(settings.synchronizeLogos);
     DefineVisible();
     showingValues_ = false;
     // Who is sent to the pictures is to say which program opens them.
@@ -239,7 +249,7 @@ std::string FrmOptions::NameOfProgram() const {
 
 // Every step is done whether or not the ones before it succeeded; no value is checked.
 void FrmOptions::BtnOK_Click() {
-    core::Settings& settings = host_.Preferences();
+    Settings& settings = host_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();
     settings.customProgName = NameOfProgram();
     settings.customProgPath = CustProg.Text();
@@ -247,12 +257,9 @@ void FrmOptions::BtnOK_Click() {
     for (int i = 2; i >= 0; --i)
         if (OptOpen[i].Value()) settings.defaultAction = static_cast<std::int16_t>(i);
     host_.SetAnimationShown(ChkShowAnim.Value() == 1);
-    settings.deleteInTheRecycleBin = static_cast<std::int16_t>(ChkDeleteRecycle.Value());
-    settings.confirmLogosetDelete = static_cast<std::int16_t>(ChkDelConfirm.Value());
-    settings.confirmLogoTypeChange = static_cast<std::int16_t>(ChkConfirmChange.Value());
+    for (const Flag& flag : flags_)
+        settings.*flag.setting = static_cast<std::int16_t>(flag.checkBox->Value());
     settings.actionOnDoubleClick = static_cast<std::int16_t>(DblAction.ListIndex());
-    settings.showSplashScreen = static_cast<std::int16_t>(ChkShowSplash.Value());
-    settings.synchronizeLogos = static_cast<std::int16_t>(ChkSyncronize.Value());
     settings.bootRoot = DriveHost.Text() + ":\\";
     host_.SetBootLogoOption(static_cast<std::int16_t>(ActiveStart.Value()));
     TakeLogoFolder();

@@ -1,6 +1,10 @@
 // The preferences dialog: it shows the settings in memory and changes them when OK is pressed.
 #pragma once
 
+#include <span>
+#include <string>
+#include <vector>
+
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/label.h"
@@ -60,11 +64,28 @@ class FrmOptions : public controls::Window {
     bool Form_KeyDown(int key) override;
 
  private:
+    /// A setting that is 0 or 1, and the check box that shows it and is asked at OK.
+    struct Flag {
+        controls::CheckBox* checkBox = nullptr;
+        std::int16_t core::Settings::*setting = nullptr;
+    };
+    /// A row of a page's table.
+    struct Row {
+        Row(controls::Control& control, int id, unsigned long help = 0) : part{control, id, help} {}
+        /// A check box that is a setting.
+        Row(controls::CheckBox& checkBox, int id, unsigned long help,
+            std::int16_t core::Settings::*setting)
+            : part{checkBox, id, help}, flag{&checkBox, setting} {}
+
+        controls::Part part;
+        Flag flag;
+    };
+
+    void AddPage(Page page, std::span<const Row> rows);
     void AddGeneral();
     void AddConfirmations();
     void AddImages();
     void AddStartUp();
-    void SetHelpNumbers();
 
     void TabStrip1_Click();
     void DefineVisible();
@@ -86,6 +107,7 @@ class FrmOptions : public controls::Window {
 
     OptionsHost& host_;
     Page first_;
+    std::vector<Flag> flags_;
     platform::MenuHandle MnuDrive_;
     std::vector<std::string> driveLetters_;
     bool StartupActionChanged_ = false;

@@ -19,6 +19,21 @@
 #define IDB_Browser 122
 #define IDB_Drives 123
 
+// Places of the pictures in the strip of the toolbar
+#define PICTURE_Rename 0
+#define PICTURE_Delete 1
+#define PICTURE_SetDefault 2
+#define PICTURE_Browser 3
+#define PICTURE_Explore 4
+#define PICTURE_Refresh 5
+#define PICTURE_ShowCurrent 6
+#define PICTURE_Random 7
+#define PICTURE_Contents 8
+#define PICTURE_About 9
+#define PICTURE_Preferences 10
+#define PICTURE_Tutorial 11
+#define PICTURE_Bug 12
+
 // Main window: 1000 to 1199
 #define ID_ActiveBar1 1000
 #define ID_MyList 1001

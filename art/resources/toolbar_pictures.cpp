@@ -1,6 +1,11 @@
 // The 16 x 16 pictures of the toolbar and the menus.
+#include <cassert>
+#include <map>
+#include <vector>
+
 #include "art/resources/pictures.h"
 #include "art/resources/screen.h"
+#include "resources/ids.h"
 
 namespace vistrel::art {
 namespace {
@@ -108,10 +113,27 @@ Grid Laid(const Grid& below, const Rows& above, int x, int y) {
 }  // namespace
 
 Grid ToolbarPictures() {
-    return Strip({Grid(kRename), Grid(kDelete), Laid(SmallMonitor(), kCheckMark, 5, 7),
-                  Grid(kBrowser), Grid(kExplore), Grid(kRefresh),
-                  Laid(SmallMonitor(), kMagnifier, 6, 6), Grid(kRandom), Grid(kContents),
-                  Grid(kAbout), Grid(kPreferences), Grid(kTutorial), Grid(kBug)});
+    const std::map<int, Grid> pictures = {
+        {PICTURE_Rename, Grid(kRename)},
+        {PICTURE_Delete, Grid(kDelete)},
+        {PICTURE_SetDefault, Laid(SmallMonitor(), kCheckMark, 5, 7)},
+        {PICTURE_Browser, Grid(kBrowser)},
+        {PICTURE_Explore, Grid(kExplore)},
+        {PICTURE_Refresh, Grid(kRefresh)},
+        {PICTURE_ShowCurrent, Laid(SmallMonitor(), kMagnifier, 6, 6)},
+        {PICTURE_Random, Grid(kRandom)},
+        {PICTURE_Contents, Grid(kContents)},
+        {PICTURE_About, Grid(kAbout)},
+        {PICTURE_Preferences, Grid(kPreferences)},
+        {PICTURE_Tutorial, Grid(kTutorial)},
+        {PICTURE_Bug, Grid(kBug)},
+    };
+    std::vector<Grid> strip;
+    for (const auto& [place, picture] : pictures) {
+        assert(place == static_cast<int>(strip.size()));
+        strip.push_back(picture);
+    }
+    return Strip(strip);
 }
 
 }  // namespace vistrel::art

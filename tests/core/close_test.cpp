@@ -5,6 +5,7 @@
 
 #include "core/boot_option.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/machine/setting_rows.h"
 
 namespace vistrel::test {
 
@@ -82,7 +83,7 @@ TEST_F(CloseTest, AStepThatFailsIsPassedOver) {
     // Attributes, option; the key and two operations for each value; then the entry's key, the
     // entry and the ini file.
     const int key = 3;
-    const int entryKey = key + 2 * 20 + 1;
+    const int entryKey = key + 2 * static_cast<int>(SettingNames().size()) + 1;
     int failing = 0;
     WithEachOperationFailing(
         [&] {
@@ -99,7 +100,8 @@ TEST_F(CloseTest, AStepThatFailsIsPassedOver) {
             EXPECT_EQ((AttributesOf(kBootFile) & FILE_ATTRIBUTE_HIDDEN) == 0, failed != 1);
             EXPECT_EQ(ReadBootLogoOption(kBootFile), failed == 2 ? 1 : 0);
             // The last of the values is saved unless one before it could not be.
-            EXPECT_EQ(Stored("AutoshowAnimation").has_value(), failed <= key || failed >= entryKey);
+            EXPECT_EQ(Stored(SettingNames().back()).has_value(),
+                      failed <= key || failed >= entryKey);
             EXPECT_EQ(StoredIn(kRunKey, "Mirrorkin").has_value(),
                       failed < entryKey || failed > entryKey + 1);
             EXPECT_EQ(Ini().has_value(), failed != entryKey + 2);

@@ -4,6 +4,7 @@
 #include "core/settings.h"
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/machine/setting_rows.h"
 
 namespace vistrel::test {
 
@@ -96,9 +97,9 @@ TEST_F(FirstRunTest, AKnownSetMakesNoFirstRun) {
 
 TEST_F(FirstRunTest, AStepThatFailsIsPassedOver) {
     Settings settings;
-    // Reading the values: 20 keys that do not open. Then the question for the folder, making it and
-    // three copies.
-    const int reading = 20;
+    // Reading the values: a key each that does not open. Then the question for the folder, making
+    // it and three copies.
+    const int reading = static_cast<int>(SettingNames().size());
     WithEachOperationFailing(
         [&] {
             RemoveTree(program);

@@ -6,6 +6,7 @@
 #include "core/library.h"
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/machine/setting_rows.h"
 
 namespace vistrel::test {
 
@@ -17,33 +18,26 @@ namespace {
 /// A numeric value and what its texts load as.
 struct NumberCase {
     const char* name;
-    std::int16_t Settings::*field;
+    SettingNumber field;
     int missing;
     int ofZero;
     int largest;  ///< the largest number that is kept
 };
 
-constexpr NumberCase kNumbers[] = {
-    {"View", &Settings::view, 0, 0, 1},
-    {"Synchronize logos", &Settings::synchronizeLogos, 0, 0, 32767},
-    {"DefaultAction", &Settings::defaultAction, 0, 0, 2},
-    {"DeleteInTheRecycleBin", &Settings::deleteInTheRecycleBin, 1, 1, 32767},
-    {"ConfirmLogosetDelete", &Settings::confirmLogosetDelete, 1, 1, 32767},
-    {"ConfirmLogoTypeChange", &Settings::confirmLogoTypeChange, 1, 1, 32767},
-    {"ShowSplashScreen", &Settings::showSplashScreen, 1, 0, 32767},
-    {"ActionOnDoubleClick", &Settings::actionOnDoubleClick, 0, 0, 32767},
-    {"WindowLeft", &Settings::windowLeft, 0, 0, 32767},
-    {"WindowTop", &Settings::windowTop, 0, 0, 32767},
-    {"WindowWidth", &Settings::windowWidth, 0, 0, 32767},
-    {"WindowHeight", &Settings::windowHeight, 0, 0, 32767},
-    {"WindowMaximized", &Settings::windowMaximized, 0, 0, 32767},
-    {"AutoshowAnimation", &Settings::autoshowAnimation, 0, 0, 32767},
-};
+std::vector<NumberCase> NumberCases() {
+    std::vector<NumberCase> cases;
+    for (const SettingRow& row : SettingRows())
+        if (const auto* field = std::get_if<SettingNumber>(&row.field))
+            cases.push_back({row.name, *field, row.missing, row.ofZero, row.largest});
+    return cases;
+}
+
+const std::vector<NumberCase> kNumbers = NumberCases();
 
 /// A text value that is read as it stands.
 struct TextCase {
     const char* name;
-    std::string Settings::*field;
+    SettingText field;
 };
 
 constexpr TextCase kTexts[] = {
@@ -187,26 +181,8 @@ TEST_F(SettingsTest, TheSplashScreenFlagIsReadOnItsOwn) {
 }
 
 TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
-    const std::vector<std::string> order = {"ShowSplashScreen",
-                                            "Synchronize logos",
-                                            "DefaultLogoSet",
-                                            "StartUpDrive",
-                                            "SearchLogoPath",
-                                            "LogoPath",
-                                            "ActionOnDoubleClick",
-                                            "CustomProgName",
-                                            "CustomProgPath",
-                                            "DefaultAction",
-                                            "View",
-                                            "DeleteInTheRecycleBin",
-                                            "ConfirmLogosetDelete",
-                                            "ConfirmLogoTypeChange",
-                                            "WindowLeft",
-                                            "WindowTop",
-                                            "WindowWidth",
-                                            "WindowHeight",
-                                            "WindowMaximized",
-                                            "AutoshowAnimation"};
+    std::vector<std::string> order(SettingRows().size());
+    for (const SettingRow& row : SettingRows()) order.at(row.loadPlace) = row.name;
     const auto store = [&] {
         ForgetSettings();
         for (const NumberCase& number : kNumbers) Store(number.name, TextValue("2"));
@@ -243,81 +219,36 @@ TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
 
 Settings UnlikeTheDefaults() {
     Settings settings;
-    settings.searchLogoPath = "C:\\PICS\\";
-    settings.view = 1;
-    settings.synchronizeLogos = 1;
-    settings.bootRoot = "D:\\";
-    settings.defaultLogoSet = OddName() + ".SLS";
-    settings.defaultAction = 2;
-    settings.customProgName = "Painter";
-    settings.customProgPath = "C:\\Tools\\PAINTER.EXE";
-    settings.deleteInTheRecycleBin = 0;
-    settings.confirmLogosetDelete = 1;
-    settings.confirmLogoTypeChange = 0;
-    settings.showSplashScreen = 0;
-    settings.logoPath = "C:\\machine\\logos\\";
-    settings.actionOnDoubleClick = -3;
-    settings.windowLeft = -4;
-    settings.windowTop = 25;
-    settings.windowWidth = 640;
-    settings.windowHeight = 452;
-    settings.windowMaximized = 1;
-    settings.autoshowAnimation = 1;
+    for (const SettingRow& row : SettingRows()) {
+        if (const auto* number = std::get_if<SettingNumber>(&row.field))
+            settings.*(*number) = static_cast<std::int16_t>(std::stoi(row.sample));
+        else
+            settings.*std::get<SettingText>(row.field) = row.sample;
+    }
+    settings.bootRoot += ":\\";
     return settings;
 }
 
 TEST_F(SettingsTest, AllValuesAreSavedAsTextsWithoutANul) {
     SaveSettings(UnlikeTheDefaults());
-    const std::vector<std::string> texts = {"C:\\PICS\\",
-                                            "1",
-                                            "1",
-                                            "D",
-                                            OddName() + ".SLS",
-                                            "2",
-                                            "Painter",
-                                            "C:\\Tools\\PAINTER.EXE",
-                                            "0",
-                                            "1",
-                                            "0",
-                                            "0",
-                                            "C:\\machine\\logos\\",
-                                            "-3",
-                                            "-4",
-                                            "25",
-                                            "640",
-                                            "452",
-                                            "1",
-                                            "1"};
-    ASSERT_EQ(texts.size(), kSettingNames.size());
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        EXPECT_EQ(Stored(kSettingNames[i]), SavedText(texts[i])) << kSettingNames[i];
-    }
+    for (const SettingRow& row : SettingRows())
+        EXPECT_EQ(Stored(row.name), SavedText(row.sample)) << row.name;
 }
 
 TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
     const Settings saved = UnlikeTheDefaults();
     SaveSettings(saved);
     const Settings loaded = ReadSettings(locations);
-    EXPECT_EQ(loaded.searchLogoPath, saved.searchLogoPath);
-    EXPECT_EQ(loaded.view, saved.view);
-    EXPECT_EQ(loaded.synchronizeLogos, saved.synchronizeLogos);
-    EXPECT_EQ(loaded.bootRoot, saved.bootRoot);
-    EXPECT_EQ(loaded.defaultLogoSet, saved.defaultLogoSet);
-    EXPECT_EQ(loaded.defaultAction, saved.defaultAction);
-    EXPECT_EQ(loaded.customProgName, saved.customProgName);
-    EXPECT_EQ(loaded.customProgPath, saved.customProgPath);
-    EXPECT_EQ(loaded.deleteInTheRecycleBin, 1);  // off holds only until the next start
-    EXPECT_EQ(loaded.confirmLogosetDelete, 1);
-    EXPECT_EQ(loaded.confirmLogoTypeChange, 1);
-    EXPECT_EQ(loaded.showSplashScreen, 0);
-    EXPECT_EQ(loaded.logoPath, saved.logoPath);
-    EXPECT_EQ(loaded.actionOnDoubleClick, saved.actionOnDoubleClick);
-    EXPECT_EQ(loaded.windowLeft, saved.windowLeft);
-    EXPECT_EQ(loaded.windowTop, saved.windowTop);
-    EXPECT_EQ(loaded.windowWidth, saved.windowWidth);
-    EXPECT_EQ(loaded.windowHeight, saved.windowHeight);
-    EXPECT_EQ(loaded.windowMaximized, saved.windowMaximized);
-    EXPECT_EQ(loaded.autoshowAnimation, saved.autoshowAnimation);
+    for (const SettingRow& row : SettingRows()) {
+        SCOPED_TRACE(row.name);
+        if (const auto* text = std::get_if<SettingText>(&row.field)) {
+            EXPECT_EQ(loaded.*(*text), saved.*(*text));
+            continue;
+        }
+        const SettingNumber number = std::get<SettingNumber>(row.field);
+        // Some that are switched off are on again: off holds only until the next start.
+        EXPECT_EQ(loaded.*number, saved.*number == 0 ? row.ofZero : saved.*number);
+    }
 }
 
 TEST_F(SettingsTest, AnUnknownInstalledSetIsSavedAsTheEmptyText) {
@@ -330,6 +261,7 @@ TEST_F(SettingsTest, AnUnknownInstalledSetIsSavedAsTheEmptyText) {
 }
 
 TEST_F(SettingsTest, SavingEndsAtTheFirstValueThatCannotBeWritten) {
+    const std::vector<std::string> names = SettingNames();
     int failing = 0;
     WithEachOperationFailing(
         [] {
@@ -340,13 +272,13 @@ TEST_F(SettingsTest, SavingEndsAtTheFirstValueThatCannotBeWritten) {
         [&](int operation) {
             ++failing;
             // The first operation creates the key, which is there; then two for each value.
-            const std::size_t saved = operation == 1 ? kSettingNames.size() : (operation - 2) / 2;
-            for (std::size_t i = 0; i < kSettingNames.size(); ++i) {
-                EXPECT_EQ(Stored(kSettingNames[i]).has_value(), i < saved) << kSettingNames[i];
+            const std::size_t saved = operation == 1 ? names.size() : (operation - 2) / 2;
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                EXPECT_EQ(Stored(names[i]).has_value(), i < saved) << names[i];
             }
             EXPECT_EQ(Stored("other"), TextValue("kept"));
         });
-    EXPECT_EQ(failing, 1 + 2 * 20);
+    EXPECT_EQ(failing, 1 + 2 * static_cast<int>(names.size()));
 }
 
 TEST_F(SettingsTest, TheInstalledSetCanBeRecordedAlone) {

@@ -1,5 +1,6 @@
 // From a fresh machine to an installed logo set.
 #include "resources/ids.h"
+#include "tests/support/machine/setting_rows.h"
 #include "tests/user/running_program.h"
 
 namespace vistrel::test {
@@ -33,7 +34,7 @@ TEST_F(Story, SelectsASetInstallsItByTheToolbarAndFindsItInstalledAtTheNextStart
     EXPECT_TRUE(Contents("C:\\windows\\LOGOS.SYS") == Contents(shutdown));
     EXPECT_EQ(Contents("C:\\LOGO.SYS").value_or("").size(), 129078u);
     EXPECT_EQ(AttributesOf("C:\\msdos.sys"), DWORD{FILE_ATTRIBUTE_READONLY});
-    for (const std::string& name : kSettingNames) {
+    for (const std::string& name : SettingNames()) {
         const auto value = Stored(name);
         ASSERT_TRUE(value.has_value()) << name;
         EXPECT_EQ(value->type, DWORD{REG_SZ}) << name;
@@ -154,7 +155,7 @@ TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
 
 TEST_F(Story, StandsGarbageInTheRegistry) {
     const std::string number = std::string("\x01\x02\x03\x04", 4);
-    for (const std::string& name : kSettingNames) Store(name, {REG_BINARY, "\xff\xfe garbage"});
+    for (const std::string& name : SettingNames()) Store(name, {REG_BINARY, "\xff\xfe garbage"});
     Store("View", {REG_DWORD, number});
     Store("DefaultLogoSet", TextValue(std::string(4000, 'x')));
     Store("LogoPath", TextValue(logos));

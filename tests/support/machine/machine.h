@@ -40,28 +40,6 @@ std::string OddName();
 
 inline constexpr const char* kRunKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-/// The names of all settings in the order in which they are saved.
-inline const std::vector<std::string> kSettingNames = {"SearchLogoPath",
-                                                       "View",
-                                                       "Synchronize logos",
-                                                       "StartUpDrive",
-                                                       "DefaultLogoSet",
-                                                       "DefaultAction",
-                                                       "CustomProgName",
-                                                       "CustomProgPath",
-                                                       "DeleteInTheRecycleBin",
-                                                       "ConfirmLogosetDelete",
-                                                       "ConfirmLogoTypeChange",
-                                                       "ShowSplashScreen",
-                                                       "LogoPath",
-                                                       "ActionOnDoubleClick",
-                                                       "WindowLeft",
-                                                       "WindowTop",
-                                                       "WindowWidth",
-                                                       "WindowHeight",
-                                                       "WindowMaximized",
-                                                       "AutoshowAnimation"};
-
 struct StoredValue {
     unsigned long type = 0;
     std::string bytes;
