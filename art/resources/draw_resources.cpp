@@ -1,17 +1,20 @@
 // Draws the icons, pointers and bitmaps of the program's resources into a folder.
 //
-// What it writes, for the resource scripts to name:
-//   vistrel.ico, rotaline.ico, shufflet.ico, mirrorkin.ico   16, 32 and 48 pixels, 16 and 256
-//   colours toolbar.bmp    13 pictures of 16 x 16; this and the three strips below have 16 colours,
-//   with
-//                  RGB(255, 0, 255) where the background shows through
-//   list.bmp, listbig.bmp   2 pictures of 16 x 16 and of 32 x 32
+// What it writes, for the resource scripts to name; the strips have 16 colours, with
+// RGB(255, 0, 255) where the background shows through:
+//   vistrel.ico, rotaline.ico,     16, 32 and 48 pixels, in 16 and in 256 colours
+//   shufflet.ico, mirrorkin.ico
+//   toolbar.bmp    13 pictures of 16 x 16
+//   list.bmp       2 pictures of 16 x 16
+//   listbig.bmp    2 pictures of 32 x 32
 //   browser.bmp    3 pictures of 16 x 16
 //   drives.bmp     5 pictures of 16 x 16
-//   drag.ico, drag.cur      a picture being dragged
-//   mano.cur       the hand over a link
+//   drag.ico       a picture being dragged, 16 colours
+//   drag.cur       the same as a pointer
+//   mano.cur       the hand over a link, black and white
 //   logoicon.bmp   80 x 72, 256 colours on RGB(192, 192, 192): LR_LOADMAP3DCOLORS fits it to the
-//   dialog splash.bmp     400 x 240, 256 colours
+//                  dialog
+//   splash.bmp     400 x 240, 256 colours
 #include <cstdio>
 #include <string>
 

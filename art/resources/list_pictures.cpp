@@ -5,46 +5,107 @@
 namespace vistrel::art {
 namespace {
 
+// clang-format off
+
 // Three screens, one behind the other.
 const Rows kMultiLogo = {
-    "......dddddddddd", "......dCCCCCCCCk", "......dCCCwwCCCk", "...ddddddddddCCk",
-    "...drrrrrrrrkggk", "...drrRRrrrrkggk", "dddddddddddrkggk", "dwwwwwwwwwkrkkkk",
-    "dwkkkkkkkwkrk...", "dwk11YY11wkrk...", "dwk4YYYY4wkkk...", "dwk9YYYY9wk.....",
-    "dwkccccccwk.....", "dwwwwwwwGwk.....", "dkkkkkkkkkk.....", "................",
+    "......dddddddddd",
+    "......dCCCCCCCCk",
+    "......dCCCwwCCCk",
+    "...ddddddddddCCk",
+    "...drrrrrrrrkggk",
+    "...drrRRrrrrkggk",
+    "dddddddddddrkggk",
+    "dwwwwwwwwwkrkkkk",
+    "dwkkkkkkkwkrk...",
+    "dwk11YY11wkrk...",
+    "dwk4YYYY4wkkk...",
+    "dwk9YYYY9wk.....",
+    "dwkccccccwk.....",
+    "dwwwwwwwGwk.....",
+    "dkkkkkkkkkk.....",
+    "................",
 };
 
 const Rows kClosedFolder = {
-    "................", "................", "...ddddd........", "..dwYwYwd.......",
-    ".dwYwYwYwdddddd.", ".dwwwwwwwwwwwwdk", ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk",
-    ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk", ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk",
-    ".dwYwYwYwYwYwYdk", ".ddddddddddddddk", "..kkkkkkkkkkkkkk", "................",
+    "................",
+    "................",
+    "...ddddd........",
+    "..dwYwYwd.......",
+    ".dwYwYwYwdddddd.",
+    ".dwwwwwwwwwwwwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".ddddddddddddddk",
+    "..kkkkkkkkkkkkkk",
+    "................",
 };
 
 // A page with the rising sun: a screen file.
 const Rows kScreenFile = {
-    "..ddddddddd.....", "..dwwwwwwwdd....", "..dwwwwwwwdwd...", "..dwwwwwwwdwwd..",
-    "..dwwwwwwwkkkkk.", "..dwkkkkkkkkkwk.", "..dwk1111111kwk.", "..dwk111Y111kwk.",
-    "..dwk44YYY44kwk.", "..dwk9YYYYY9kwk.", "..dwkccccccckwk.", "..dwkkkkkkkkkwk.",
-    "..dwwwwwwwwwwwk.", "..dwwwwwwwwwwwk.", "..dkkkkkkkkkkkk.", "................",
+    "..ddddddddd.....",
+    "..dwwwwwwwdd....",
+    "..dwwwwwwwdwd...",
+    "..dwwwwwwwdwwd..",
+    "..dwwwwwwwkkkkk.",
+    "..dwkkkkkkkkkwk.",
+    "..dwk1111111kwk.",
+    "..dwk111Y111kwk.",
+    "..dwk44YYY44kwk.",
+    "..dwk9YYYYY9kwk.",
+    "..dwkccccccckwk.",
+    "..dwkkkkkkkkkwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dkkkkkkkkkkkk.",
+    "................",
 };
 
 // A page with a landscape: any other picture.
 const Rows kPictureFile = {
-    "..ddddddddd.....", "..dwwwwwwwdd....", "..dwwwwwwwdwd...", "..dwCCCCCCdwwd..",
-    "..dwCCCCCCkkkkk.", "..dwCYYCCCCCCwk.", "..dwCYYCCCCCCwk.", "..dwCCCCCGCCCwk.",
-    "..dwCCCCGgGCCwk.", "..dwCGCGgggGCwk.", "..dwGgGggggggwk.", "..dwgggggggggwk.",
-    "..dwggggggGggwk.", "..dwwwwwwwwwwwk.", "..dkkkkkkkkkkkk.", "................",
+    "..ddddddddd.....",
+    "..dwwwwwwwdd....",
+    "..dwwwwwwwdwd...",
+    "..dwCCCCCCdwwd..",
+    "..dwCCCCCCkkkkk.",
+    "..dwCYYCCCCCCwk.",
+    "..dwCYYCCCCCCwk.",
+    "..dwCCCCCGCCCwk.",
+    "..dwCCCCGgGCCwk.",
+    "..dwCGCGgggGCwk.",
+    "..dwGgGggggggwk.",
+    "..dwgggggggggwk.",
+    "..dwggggggGggwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dkkkkkkkkkkkk.",
+    "................",
 };
 
 // The front of a drive, below whatever goes into it.
 const Rows kDriveCase = {
-    "..dddddddddddddd", ".dwwwwwwwwwwwwdk", "dddddddddddddwsk", "dwwwwwwwwwwwkssk",
-    "dwssssssssssksdk", "dwssssssssssksk.", "dwssssssssssdk..", "dkkkkkkkkkkkk...",
+    "..dddddddddddddd",
+    ".dwwwwwwwwwwwwdk",
+    "dddddddddddddwsk",
+    "dwwwwwwwwwwwkssk",
+    "dwssssssssssksdk",
+    "dwssssssssssksk.",
+    "dwssssssssssdk..",
+    "dkkkkkkkkkkkk...",
 };
 
 const Rows kFloppyDisk = {
-    "...kkkkkkkkk....", "...kBbssssbBk...", "...kBbskksbbk...", "...kBbskksbbk...",
-    "...kBbssssbbk...", "...kBbbbbbbbk...", "...kBwwwwwwbk...",
+    "...kkkkkkkkk....",
+    "...kBbssssbBk...",
+    "...kBbskksbbk...",
+    "...kBbskksbbk...",
+    "...kBbssssbbk...",
+    "...kBbbbbbbbk...",
+    "...kBwwwwwwbk...",
 };
 const Rows kFloppySlot = {
     "kkkkkkkkkk",
@@ -59,21 +120,44 @@ const Rows kHardDiskFront = {
 };
 
 const Rows kCompactDisc = {
-    ".....dddddd.....", "...ddwwwCCCdd...", "..dwwwwwCCCYYd..", ".dwwwwwkkCYYYYd.",
-    ".dwwwwkssksYYYd.", ".dCCCwkssksMMsd.", ".dCCCCskkMMMssd.", "..dCCCYMMMssd...",
+    ".....dddddd.....",
+    "...ddwwwCCCdd...",
+    "..dwwwwwCCCYYd..",
+    ".dwwwwwkkCYYYYd.",
+    ".dwwwwkssksYYYd.",
+    ".dCCCwkssksMMsd.",
+    ".dCCCCskkMMMssd.",
+    "..dCCCYMMMssd...",
 };
 
 const Rows kCable = {
-    "......cCc.......", "......cCc.......", "kkkkkkkkkkkkkkkk",
-    "CCCCCkCCCkCCCCCC", "cccccccccccccccc", "kkkkkkkkkkkkkkkk",
+    "......cCc.......",
+    "......cCc.......",
+    "kkkkkkkkkkkkkkkk",
+    "CCCCCkCCCkCCCCCC",
+    "cccccccccccccccc",
+    "kkkkkkkkkkkkkkkk",
 };
 
 const Rows kMemoryChip = {
-    "................", "................", "...w.w.w.w.w.w..", "...s.s.s.s.s.s..",
-    ".kkkkkkkkkkkkkk.", ".kddddddddddddk.", ".kdkkkkkkkkkkkk.", ".kdkkwkwwkwwkkk.",
-    ".kkkwwwwkwkwkkk.", ".kdkkwkwwkwwkkk.", ".kdkkkkkkkkkkkk.", ".kkkkkkkkkkkkkk.",
-    "...w.w.w.w.w.w..", "...s.s.s.s.s.s..", "................", "................",
+    "................",
+    "................",
+    "...w.w.w.w.w.w..",
+    "...s.s.s.s.s.s..",
+    ".kkkkkkkkkkkkkk.",
+    ".kddddddddddddk.",
+    ".kdkkkkkkkkkkkk.",
+    ".kdkkwkwwkwwkkk.",
+    ".kkkwwwwkwkwkkk.",
+    ".kdkkwkwwkwwkkk.",
+    ".kdkkkkkkkkkkkk.",
+    ".kkkkkkkkkkkkkk.",
+    "...w.w.w.w.w.w..",
+    "...s.s.s.s.s.s..",
+    "................",
+    "................",
 };
+// clang-format on
 
 Grid Drive(const Rows& above, const Rows& front, int top) {
     Grid grid(16, 16);
