@@ -26,6 +26,7 @@ test_needs="$win9x_needs"'
 /usr/include/jpeglib.h                  libjpeg-dev
 /usr/include/gif_lib.h                  libgif-dev
 /usr/include/benchmark/benchmark.h      libbenchmark-dev
+clang-format-19|clang-format            clang-format-19
 makensis                                nsis
 zip                                     zip'
 fuzz_needs='

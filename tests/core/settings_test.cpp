@@ -17,7 +17,7 @@ namespace {
 /// A numeric value and what its texts load as.
 struct NumberCase {
     const char* name;
-    std::int16_t Settings::*field;
+    std::int16_t Settings::* field;
     int missing;
     int ofZero;
     int largest;  ///< the largest number that is kept
@@ -43,7 +43,7 @@ constexpr NumberCase kNumbers[] = {
 /// A text value that is read as it stands.
 struct TextCase {
     const char* name;
-    std::string Settings::*field;
+    std::string Settings::* field;
 };
 
 constexpr TextCase kTexts[] = {

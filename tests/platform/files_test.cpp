@@ -196,8 +196,7 @@ TEST_F(Machine, EveryFileOperationFailsWhenItIsStruckAndDoesNothing) {
         [&](Error* e) { return RemoveFolder(logos + "empty", e); },
         [&](Error* e) { return FlushToDisk(logos + "a", e); },
         [&](Error* e) {
-            return ForEachEntry(
-                logos + "*", [](const FolderEntry&) { return true; }, e);
+            return ForEachEntry(logos + "*", [](const FolderEntry&) { return true; }, e);
         },
     };
     for (std::size_t i = 0; i < operations.size(); ++i) {

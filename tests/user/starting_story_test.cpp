@@ -24,9 +24,8 @@ TEST_F(Starting, IsInFrontAndActiveWithoutTheSplashScreenToo) {
         EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == main; })) << splash;
         RECT r{};
         GetWindowRect(main, &r);
-        EXPECT_TRUE(WaitUntil([&] {
-            return IsActiveTitleAt({r.left + 200, r.top + 10});
-        })) << splash;
+        EXPECT_TRUE(WaitUntil([&] { return IsActiveTitleAt({r.left + 200, r.top + 10}); }))
+            << splash;
         // Keys reach the list without a click.
         const auto focused = [&] {
             GUITHREADINFO info{};
