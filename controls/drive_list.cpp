@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "platform/files.h"
+#include "platform/drives.h"
 #include "platform/instance.h"
 
 namespace vistrel::controls {

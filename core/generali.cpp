@@ -8,6 +8,7 @@
 #include "core/mdl_registry.h"
 #include "platform/characters.h"
 #include "platform/files.h"
+#include "platform/system_folders.h"
 
 namespace vistrel::core {
 

@@ -4,8 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/handles.h"
-
 namespace vistrel::core {
 
 /// The Windows directory, without a trailing backslash.
@@ -27,9 +25,6 @@ bool FileExists(const std::string& path, unsigned attributes = 0);
 std::string GetFileName(std::string& path);
 /// `path` shortened to about `maximum` characters: its first three, "...", and its tail.
 std::string CompactPath(const std::string& path, int maximum);
-/// The folder that the user picks; empty when the user cancels.
-std::string BrowseForFolder(platform::WindowHandle owner, const std::string& prompt,
-                            const std::string& start = {});
 
 /// A text up to its first NUL.
 std::string CutAtNul(std::string text);

@@ -8,6 +8,7 @@
 #include "core/library.h"
 #include "core/locations.h"
 #include "pictures/compose/stages.h"
+#include "platform/file_contents.h"
 #include "platform/files.h"
 
 namespace vistrel::core {

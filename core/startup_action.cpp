@@ -5,7 +5,7 @@
 
 #include "core/generali.h"
 #include "platform/files.h"
-#include "platform/shell.h"
+#include "platform/shell_link.h"
 
 namespace vistrel::core {
 

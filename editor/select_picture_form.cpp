@@ -179,9 +179,9 @@ void SelPictureForm::ListNames() {
 
 bool SelPictureForm::MayEndSession() {
     if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
-    return platform::Ask(handle(),
-                         "You haven't saved the last changes. Would you like to discard them?",
-                         platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
+    return platform::Confirm(handle(),
+                             "You haven't saved the last changes. Would you like to discard them?",
+                             platform::DefaultAnswer::No);
 }
 
 // What the user was asked about is discarded; the list of sets is read at the next start.

@@ -81,8 +81,8 @@ void SelPictureForm::Drive1_Change() {
         ShowPath(CurrentFolder.substr(0, 2));
         return;
     }
-    platform::Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.",
-                  platform::kCriticalOk);
+    platform::Tell(handle(), "Drive " + drive + " isn't accessible! Check it and retry.",
+                   platform::Icon::Critical);
     Drive1.SetDrive(CurrentFolder);
     AggiornaDir();
 }

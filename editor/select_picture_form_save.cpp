@@ -142,10 +142,10 @@ void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::str
                                   const std::string& folder) {
     if (!result.saved) {
         LblWritten.SetText("");
-        platform::Ask(
+        platform::Tell(
             handle(),
             "A directory named " + result.lastRead + " already exist or bad directory name!",
-            platform::kExclamationOk, "Cannot create directory");
+            platform::Icon::Exclamation, "Cannot create directory");
         return;
     }
     controls::EnableControls(false, OkButton[0], OkButton[1]);

@@ -4,6 +4,7 @@
 
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "core/browse_for_folder.h"
 #include "core/cm_dialog.h"
 #include "core/fixed_drives.h"
 #include "core/generali.h"

@@ -25,7 +25,7 @@ int DotsPerInch() {
 }  // namespace
 
 std::optional<long> PickColor(WindowHandle owner, long start) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     static COLORREF mixed[16] = {};
     CHOOSECOLORA request{};
     request.lStructSize = sizeof request;
@@ -38,7 +38,7 @@ std::optional<long> PickColor(WindowHandle owner, long start) {
 }
 
 std::optional<TextFont> PickFont(WindowHandle owner, const TextFont& start) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     LOGFONTA font{};
     font.lfHeight = -MulDiv(start.tenthsOfPoint, DotsPerInch(), 10 * kPointsPerInch);
     font.lfWeight = start.weight;

@@ -108,7 +108,7 @@ bool Render(IPicture* source, StandardPicture& picture) {
 
 bool LoadStandardPicture(const std::string& path, StandardPicture& picture) {
     static const LoadPicture load = FindLoader();
-    if (!load || fault::Strikes()) return false;
+    if (!load || fault::ShouldFail()) return false;
     IStream* stream = StreamOf(path);
     if (!stream) return false;
     IPicture* source = nullptr;
