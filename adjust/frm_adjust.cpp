@@ -40,7 +40,7 @@ FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
     restTimer_.Tick = [this] { ShowFinished(); };
 }
 
-FrmAdjust::~FrmAdjust() { controls::FreeMenu(readyMade_); }
+FrmAdjust::~FrmAdjust() = default;
 
 void FrmAdjust::AddRow(const Row& row) {
     Add(row.control, row.id, row.tip);

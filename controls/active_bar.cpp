@@ -4,6 +4,7 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
+#include "controls/win32.h"
 #include "controls/window.h"
 #include "platform/instance.h"
 
@@ -22,12 +23,6 @@ std::string MenuTextOf(const Tool& tool) {
 ActiveBar::ActiveBar(std::span<const Tool> tools, std::span<const Band> bands)
     : tools_(tools), bands_(bands) {
     for (const Tool& tool : tools_) states_[tool.name] = {};
-}
-
-ActiveBar::~ActiveBar() {
-    // The window's own menu bar goes with the window, and the menus that it drops with it; what is
-    // left are drop-down bands that nothing drops.
-    if (images_) ImageList_Destroy(images_);
 }
 
 const Tool* ActiveBar::ToolOfName(const std::string& name) const {
@@ -62,7 +57,7 @@ void ActiveBar::MakeButtons(const Band& band, int bitmapResource, long transpare
     images_ = ImageList_LoadImageA(platform::ProgramInstance(), MAKEINTRESOURCEA(bitmapResource),
                                    16, 0, static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
     SendMessageA(bar_, TB_SETBITMAPSIZE, 0, MAKELPARAM(16, 16));
-    SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_));
+    SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.get()));
     for (const char* name : band.tools) {
         TBBUTTON button{};
         if (const Tool* tool = ToolOfName(name)) {
@@ -124,9 +119,7 @@ void ActiveBar::PopUp(const std::string& band, Point screen) {
 
 int ActiveBar::Resize() {
     SendMessageA(bar_, TB_AUTOSIZE, 0, 0);
-    RECT r{};
-    GetWindowRect(bar_, &r);
-    return static_cast<int>(r.bottom - r.top);
+    return PlaceOnScreen(bar_).height;
 }
 
 bool ActiveBar::OnCommand(int id) {

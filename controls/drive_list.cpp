@@ -39,10 +39,6 @@ std::string Caption(const std::string& root, platform::DriveKind kind) {
 
 }  // namespace
 
-DriveList::~DriveList() {
-    if (icons_) ImageList_Destroy(icons_);
-}
-
 void DriveList::OnAttach() {
     // The height of an entry was asked for before anybody could answer.
     const auto fontHeight = Send(CB_GETITEMHEIGHT, 0);

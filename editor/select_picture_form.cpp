@@ -26,7 +26,7 @@ SelPictureForm::SelPictureForm(EditorHost& host)
     AttachMenus();
 }
 
-SelPictureForm::~SelPictureForm() { controls::FreeMenu(menus_); }
+SelPictureForm::~SelPictureForm() = default;
 
 void SelPictureForm::AddControls() {
     Add(Drive1, ID_Drive1);

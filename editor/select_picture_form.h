@@ -12,6 +12,7 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/menu_item.h"
+#include "controls/owned_handle.h"
 #include "controls/picture_box.h"
 #include "controls/window.h"
 #include "core/save_set.h"
@@ -228,7 +229,7 @@ class SelPictureForm : public controls::Window {
     const std::string& LogoFolder() const { return host_.Preferences().logoPath; }
 
     EditorHost& host_;
-    platform::MenuHandle menus_ = nullptr;
+    controls::OwnedMenu menus_;
     platform::IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
     controls::Size smallest_;          ///< of the whole window: what fits a screen of 640 x 480

@@ -67,9 +67,7 @@ Principale::Principale(core::SystemLocations locations)
     Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
-Principale::~Principale() {
-    if (classicMenus_) controls::FreeMenu(classicMenus_);
-}
+Principale::~Principale() = default;
 
 // Every step is done whether or not the ones before it succeeded.
 void Principale::Form_Load() {

@@ -32,7 +32,7 @@ FrmOptions::FrmOptions(OptionsHost& host, Page first)
     BtnCancel.Click = [this] { BtnCancel_Click(); };
 }
 
-FrmOptions::~FrmOptions() { controls::FreeMenu(MnuDrive_); }
+FrmOptions::~FrmOptions() = default;
 
 void FrmOptions::AddGeneral() {
     Add(LblLogoPath, ID_LblLogoPath);

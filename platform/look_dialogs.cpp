@@ -6,6 +6,7 @@
 #include <commdlg.h>
 
 #include "platform/fault.h"
+#include "platform/win32.h"
 
 namespace vistrel::platform {
 namespace {
@@ -15,12 +16,7 @@ constexpr int kSmallest = 6;
 constexpr int kLargest = 288;
 constexpr int kPointsPerInch = 72;
 
-int DotsPerInch() {
-    const HDC screen = GetDC(nullptr);
-    const int dots = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dots;
-}
+int DotsPerInch() { return GetDeviceCaps(ScreenContext(), LOGPIXELSY); }
 
 }  // namespace
 
