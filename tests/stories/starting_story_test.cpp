@@ -1,7 +1,7 @@
 // How the program comes up.
 #include "resources/ids.h"
 #include "tests/support/user/seen.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,6 +1,6 @@
 // From a fresh machine to an installed logo set.
 #include "resources/ids.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {
