@@ -11,8 +11,9 @@ namespace vistrel::core {
 extern std::string FileTitle;
 
 /// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, with "|"
-/// between all of them. The full path, with the NUL that the dialog wrote after it; empty when the
-/// user cancels.
+/// between all of them. The full path; empty when the user cancels.
+// Quirk: the NUL that the dialog wrote after the path is still there
+// (OpenDialog.GivesTheWholePathWithItsNulAndKeepsTheName).
 std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filter,
                            const std::string& title, const std::string& initialFolder);
 

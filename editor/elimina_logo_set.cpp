@@ -20,6 +20,8 @@ bool EliminaLogoSet(platform::WindowHandle owner, EditorHost& host, const std::s
     const platform::BusyPointer busy;
     core::DeleteSet(owner, FolderToKill,
                     settings.deleteInTheRecycleBin == 1 ? core::Bin::Recycle : core::Bin::Destroy);
+    // Quirk: a set whose folder survived, in part or whole, counts as deleted
+    // (Deleting.ForgetsASetWhoseFolderSurvives).
     if (host.InstalledSet() == editorSetName) host.SetInstalledSet(std::nullopt);
     return true;
 }

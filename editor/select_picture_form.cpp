@@ -178,6 +178,8 @@ void SelPictureForm::ListNames() {
 }
 
 bool SelPictureForm::MayEndSession() {
+    // Quirk: a set that was only loaded can be saved, and so counts as changed
+    // (Session.AsksBeforeDiscardingWhatCouldBeSaved).
     if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
     return platform::Confirm(handle(),
                              "You haven't saved the last changes. Would you like to discard them?",

@@ -10,6 +10,7 @@
 #include "core/close.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "core/running_instance.h"
 #include "help/context_numbers.h"
 #include "main_window/tool_table.h"
 #include "resources/ids.h"
@@ -25,7 +26,7 @@ constexpr unsigned kBrowserDelay = 50;
 }  // namespace
 
 Principale::Principale(core::SystemLocations locations)
-    : Window("Principale", IDD_Principale),
+    : Window(core::kMainWindowClass, IDD_Principale),
       ActiveBar1(MainTools(), MainBands()),
       Timer1(kBrowserDelay),
       locations_(std::move(locations)) {

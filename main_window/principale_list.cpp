@@ -122,7 +122,8 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
 
     const int edited = MyList.EditedItem();
-    // The new icon stays although the renaming may fail: it is kept so until the next refresh.
+    // Quirk: the new icon stays until the next refresh although the renaming may fail
+    // (Renaming.ShowsTheIconAskedForAfterAFailedChangeOfFormatUntilTheNextRefresh).
     if (formatChanges) MyList.SetItemIcon(edited, core::IconKeyOfSet(newName));
     if (!core::RenameSet({settings_.logoPath, oldName_}, newName)) {
         platform::Tell(handle(),

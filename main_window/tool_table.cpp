@@ -23,6 +23,7 @@ constexpr controls::Tool kTools[] = {
      "Show current logo setting", "Options", 6, ""},
     {"ToolRandom", ID_ToolRandom, "Rando&m Change", "Random change", "Options", 7, ""},
     {"ToolPrefer", ID_ToolPrefer, "&Preferences...", "", "Options", 10, ""},
+    // Quirk: this one and the last do nothing (Dispatch.TheRestDoesNothing).
     {"Online", ID_Online, "&Online check...", "", "Options", -1, ""},
     {"ToolContents", ID_ToolContents, "Contents", "Contents", "Logo", 8, "", "F1"},
     {"ToolTutorial", ID_ToolTutorial, "Tutorial", "Tutorial", "Logo", 11, ""},

@@ -127,7 +127,8 @@ void FrmOptions::Form_Activate() {
     for (int i = 0; i < 3; ++i) OptOpen[i].SetMark(i == settings.defaultAction);
     CustomName.SetText(settings.customProgName);
     CustProg.SetText(settings.customProgPath);
-    // The box opens clear, whatever the main window's menu item shows: kept so.
+    // Quirk: the box opens clear, whatever the main window's menu item shows
+    // (Preferences.UncheckTheAnimationWhenTheBoxIsLeftAlone).
     ChkShowAnim.SetValue(0);
     GetDiskInfo();
     ChkDeleteRecycle.SetValue(settings.deleteInTheRecycleBin);
@@ -238,7 +239,8 @@ std::string FrmOptions::NameOfProgram() const {
     return file.substr(0, file.rfind('.'));
 }
 
-// Every step is done whether or not the ones before it succeeded; no value is checked.
+// Every step is done whether or not the ones before it succeeded.
+// Quirk: no value is checked (Preferences.TakeALogoFolderThatIsMissingOrEmptyAsItStands).
 void FrmOptions::BtnOK_Click() {
     core::Settings& settings = host_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();

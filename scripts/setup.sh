@@ -45,6 +45,10 @@ unshare                                 util-linux
 flock                                   util-linux
 git                                     git'
 
+# Where material lies that is not in the tree: more pictures for tests, a second checker of programs.
+# What is not there is not used. A path in the environment begins at the tree's root or is whole.
+shared=${VISTREL_SHARED:-../shared}
+
 # One line a step, with the minutes since the script began.
 say() { printf -- '--- %d:%02d %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*"; }
 

@@ -6,11 +6,9 @@
 //   shufflet.ico, mirrorkin.ico
 //   toolbar.bmp    13 pictures of 16 x 16
 //   list.bmp       2 pictures of 16 x 16
-//   listbig.bmp    2 pictures of 32 x 32
 //   browser.bmp    3 pictures of 16 x 16
 //   drives.bmp     5 pictures of 16 x 16
 //   drag.ico       a picture being dragged, 16 colours
-//   drag.cur       the same as a pointer
 //   mano.cur       the hand over a link, black and white
 //   logoicon.bmp   80 x 72, 256 colours on RGB(192, 192, 192): LR_LOADMAP3DCOLORS fits it to the
 //                  dialog
@@ -57,12 +55,9 @@ int main(int count, char** arguments) {
     WriteProgramIcon(folder + "mirrorkin.ico", MirrorkinIcon);
     WriteBitmap(folder + "toolbar.bmp", PaintVga(ToolbarPictures()), Depth::Vga);
     WriteBitmap(folder + "list.bmp", PaintVga(ListPictures()), Depth::Vga);
-    WriteBitmap(folder + "listbig.bmp", PaintVga(BigListPictures()), Depth::Vga);
     WriteBitmap(folder + "browser.bmp", PaintVga(BrowserPictures()), Depth::Vga);
     WriteBitmap(folder + "drives.bmp", PaintVga(DrivePictures()), Depth::Vga);
-    const IconImage drag{PaintVga(DragPointer()), Depth::Vga};
-    WriteIcon(folder + "drag.ico", {drag});
-    WriteCursor(folder + "drag.cur", drag, 0, 0);
+    WriteIcon(folder + "drag.ico", {{PaintVga(DragPointer()), Depth::Vga}});
     WriteCursor(folder + "mano.cur", {PaintVga(HandPointer()), Depth::Mono}, 4, 0);
     WriteBitmap(folder + "logoicon.bmp", OnDialogGrey(PaintDeep(AboutPicture())), Depth::Indexed);
     WriteBitmap(folder + "splash.bmp", SplashPicture(), Depth::Indexed);

@@ -182,33 +182,9 @@ Grid NetworkDrive() {
     return grid;
 }
 
-Grid BigMultiLogo() {
-    Grid grid(32, 32);
-    for (int i = 0; i < 2; ++i) {
-        const int x = 13 - 6 * i, y = 1 + 6 * i;
-        grid.Fill(x, y, 19, 15, 'w');
-        grid.Frame(x, y, 19, 15, 'd', 'k');
-        grid.Fill(x + 2, y + 2, 15, 11, i == 0 ? 'C' : 'r');
-        grid.Fill(x + 2, y + 9 - i, 15, 4 + i, i == 0 ? 'g' : 'R');
-        grid.Frame(x + 2, y + 2, 15, 11, 'k', 's');
-    }
-    grid.Fill(17, 4, 5, 1, 'w');
-    grid.Fill(19, 5, 6, 1, 'w');
-    DrawMonitor(grid, 0, 12, 21, 20);
-    return grid;
-}
-
-Grid BigSingleLogo() {
-    Grid grid(32, 32);
-    DrawMonitor(grid, 1, 2, 30, 29);
-    return grid;
-}
-
 }  // namespace
 
 Grid ListPictures() { return Strip({SmallMonitor(), Grid(kMultiLogo)}); }
-
-Grid BigListPictures() { return Strip({BigSingleLogo(), BigMultiLogo()}); }
 
 Grid BrowserPictures() {
     return Strip({Grid(kClosedFolder), Grid(kScreenFile), Grid(kPictureFile)});
