@@ -1,7 +1,7 @@
 #include "about/about.h"
 
-#include "platform/files.h"
 #include "platform/shell.h"
+#include "platform/system_folders.h"
 
 namespace vistrel::about {
 

@@ -10,11 +10,12 @@
 #include "pictures/preview/draw_resource.h"
 #include "platform/message_box.h"
 #include "resources/ids.h"
+#include "resources/version.h"
 
 namespace vistrel::about {
 namespace {
 
-constexpr const char* kVersion = "Version: 4.00b2 - Beta 2";
+constexpr const char* kVersion = "Version: " VERSION_ABOUT;
 constexpr const char* kLegalWarning = "Copying this program under another name is against the law.";
 
 /// The separator under the title, in twips; the other one is as long.

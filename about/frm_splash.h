@@ -7,6 +7,10 @@
 
 namespace vistrel::about {
 
+/// How many milliseconds the splash screen still stays once the main window has been made. Both
+/// times are times of day, in days; a splash screen that was shown yesterday stays longer.
+double SplashWait(double shownAt, double now);
+
 class frmSplash : public controls::Window {
  public:
     frmSplash();

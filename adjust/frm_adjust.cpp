@@ -40,7 +40,7 @@ FrmAdjust::FrmAdjust(const Adjustment& start, NewFile newFile)
     restTimer_.Tick = [this] { ShowFinished(); };
 }
 
-FrmAdjust::~FrmAdjust() { controls::FreeMenu(readyMade_); }
+FrmAdjust::~FrmAdjust() = default;
 
 void FrmAdjust::AddPage(Page page, std::span<const controls::Part> parts) {
     AddParts(parts);
@@ -159,9 +159,8 @@ void FrmAdjust::TellMissingFonts() {
             missing.push_back(face);
     }
     for (const std::string& face : missing)
-        platform::Ask(handle(),
-                      "The font " + face + " is not there any more. Another one stands for it.",
-                      platform::kExclamationOk);
+        platform::Tell(handle(),
+                       "The font " + face + " is not there any more. Another one stands for it.");
 }
 
 void FrmAdjust::ShowPage() {
@@ -233,16 +232,15 @@ bool FrmAdjust::Form_KeyDown(int key) {
 bool FrmAdjust::IsPictureAsItWas() {
     const auto size = compose::SizeOfPicture(source_);
     if (!size) {
-        platform::Ask(
+        platform::Tell(
             handle(),
-            source_ + " cannot be read any more. When it is back in its place, press OK again.",
-            platform::kExclamationOk);
+            source_ + " cannot be read any more. When it is back in its place, press OK again.");
         return false;
     }
     if (*size == live_.FileSize()) return true;
     if (live_.Read(source_)) ShowFinished();
-    platform::Ask(handle(), source_ + " has changed. Look whether it is still framed as you like.",
-                  platform::kExclamationOk);
+    platform::Tell(handle(),
+                   source_ + " has changed. Look whether it is still framed as you like.");
     return false;
 }
 
@@ -259,11 +257,10 @@ void FrmAdjust::BtnOK_Click() {
         Unload();
         return;
     }
-    platform::Ask(handle(),
-                  result == pictures::ConversionResult::NotWritten
-                      ? "The screen cannot be written. The disk of temporary files may be full."
-                      : "The screen cannot be made. There may not be enough memory.",
-                  platform::kExclamationOk);
+    platform::Tell(handle(),
+                   result == pictures::ConversionResult::NotWritten
+                       ? "The screen cannot be written. The disk of temporary files may be full."
+                       : "The screen cannot be made. There may not be enough memory.");
 }
 
 }  // namespace vistrel::adjust

@@ -16,6 +16,7 @@
 #include "controls/hold_button.h"
 #include "controls/label.h"
 #include "controls/list_view.h"
+#include "controls/owned_handle.h"
 #include "controls/picture_box.h"
 #include "controls/tab_strip.h"
 #include "controls/timer.h"
@@ -165,7 +166,7 @@ class FrmAdjust : public controls::Window {
     pictures::RgbPicture finished_;  ///< what ShowFinished showed last, in the box's size
     bool unfinished_ = false;  ///< the original is shown over something that has changed since
     controls::Timer restTimer_;
-    platform::MenuHandle readyMade_;
+    controls::OwnedMenu readyMade_;
     bool fontsTold_ = false;
 
     // While something is dragged

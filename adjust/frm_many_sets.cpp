@@ -64,8 +64,7 @@ void FrmManySets::Form_Load() {
 
 void FrmManySets::BtnMakeSets_Click() {
     sets_.emplace(library_, pictures_,
-                  OptKind[0].Value() ? core::PictureSetKind::StartupOnly
-                                     : core::PictureSetKind::ThreeToComplete,
+                  OptKind[0].Value() ? core::SetKind::StartupOnly : core::SetKind::Complete,
                   OptFraming[0].Value() ? compose::FramingKind::Fill : compose::FramingKind::Fit);
     // Before the button, which has the focus, cannot have it any more.
     BtnClose.Focus();

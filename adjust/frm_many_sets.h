@@ -28,7 +28,7 @@ class FrmManySets : public controls::Window {
     controls::Frame FrameFraming;
     controls::OptionButton OptFraming[2];  ///< fill, fit
     controls::Frame FrameKind;
-    controls::OptionButton OptKind[2];  ///< in the order of PictureSetKind
+    controls::OptionButton OptKind[2];  ///< startup-only, complete
     controls::Label LblDone;
     controls::ProgressBar Progress;
     controls::Label LblLeftOut;

@@ -14,11 +14,11 @@ int main(int count, char** arguments) {
         std::any_of(arguments + std::min(count, 1), arguments + count,
                     [](const char* argument) { return core::UpperCase(argument) == "/AUTO"; });
     if (!atStart) {
-        platform::Ask(
+        platform::Tell(
             nullptr,
             "Mirrorkin brings the wait and shutdown screens of your logo set into place each time "
             "Windows starts. Vistrel starts it by itself while \"Synchronize logos\" is on.",
-            platform::kInformationOk, "Mirrorkin");
+            platform::Icon::Information, "Mirrorkin");
         return static_cast<int>(companions::Outcome::Done);
     }
     const core::SystemLocations locations = core::FindSystemLocations();

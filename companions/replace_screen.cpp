@@ -2,6 +2,7 @@
 #include "companions/replace_screen.h"
 
 #include "platform/characters.h"
+#include "platform/file_contents.h"
 #include "platform/files.h"
 
 namespace vistrel::companions {

@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "controls/win32.h"
 #include "controls/window.h"
 #include "platform/instance.h"
 
@@ -24,12 +25,6 @@ std::string MenuTextOf(const Tool& tool) {
 ActiveBar::ActiveBar(std::vector<Tool> tools, std::span<const Band> bands)
     : tools_(std::move(tools)), bands_(bands) {
     for (const Tool& tool : tools_) states_[tool.name] = {};
-}
-
-ActiveBar::~ActiveBar() {
-    // The window's own menu bar goes with the window, and the menus that it drops with it; what is
-    // left are drop-down bands that nothing drops.
-    if (images_) ImageList_Destroy(images_);
 }
 
 const Tool* ActiveBar::ToolOfName(const std::string& name) const {
@@ -64,7 +59,7 @@ void ActiveBar::MakeButtons(const Band& band, int bitmapResource, long transpare
     images_ = ImageList_LoadImageA(platform::ProgramInstance(), MAKEINTRESOURCEA(bitmapResource),
                                    16, 0, static_cast<COLORREF>(transparent), IMAGE_BITMAP, 0);
     SendMessageA(bar_, TB_SETBITMAPSIZE, 0, MAKELPARAM(16, 16));
-    SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_));
+    SendMessageA(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.get()));
     for (const char* name : band.tools) {
         TBBUTTON button{};
         if (const Tool* tool = ToolOfName(name)) {
@@ -126,9 +121,7 @@ void ActiveBar::PopUp(const std::string& band, Point screen) {
 
 int ActiveBar::Resize() {
     SendMessageA(bar_, TB_AUTOSIZE, 0, 0);
-    RECT r{};
-    GetWindowRect(bar_, &r);
-    return static_cast<int>(r.bottom - r.top);
+    return PlaceOnScreen(bar_).height;
 }
 
 bool ActiveBar::OnCommand(int id) {

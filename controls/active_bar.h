@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "controls/geometry.h"
+#include "controls/owned_handle.h"
 #include "platform/handles.h"
 
 namespace vistrel::controls {
@@ -40,7 +41,6 @@ struct Band {
 class ActiveBar {
  public:
     ActiveBar(std::vector<Tool> tools, std::span<const Band> bands);
-    ~ActiveBar();
     ActiveBar(const ActiveBar&) = delete;
     ActiveBar& operator=(const ActiveBar&) = delete;
 
@@ -85,10 +85,12 @@ class ActiveBar {
     std::vector<Tool> tools_;
     std::span<const Band> bands_;
     std::map<std::string, State> states_;
+    /// The window's own menu bar goes with the window, and the menus that it drops with it; what is
+    /// left are drop-down bands that nothing drops.
     std::map<std::string, platform::MenuHandle> menus_;
     Window* window_ = nullptr;
     platform::WindowHandle bar_ = nullptr;
-    platform::ImageListHandle images_ = nullptr;
+    OwnedImageList images_;
 };
 
 }  // namespace vistrel::controls

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "controls/win32.h"
 #include "controls/window.h"
 
 namespace vistrel::controls {
@@ -71,16 +72,10 @@ Rect Control::Bounds() const {
     RECT r{};
     GetWindowRect(handle_, &r);
     MapWindowPoints(nullptr, GetParent(handle_), reinterpret_cast<POINT*>(&r), 2);
-    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-            static_cast<int>(r.bottom - r.top)};
+    return RectOf(r);
 }
 
-Rect Control::ScreenBounds() const {
-    RECT r{};
-    GetWindowRect(handle_, &r);
-    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-            static_cast<int>(r.bottom - r.top)};
-}
+Rect Control::ScreenBounds() const { return PlaceOnScreen(handle_); }
 
 void Control::MoveTo(const Rect& place) {
     MoveWindow(handle_, place.left, place.top, place.width, place.height, TRUE);

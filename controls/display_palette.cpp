@@ -1,8 +1,7 @@
 #include "controls/display_palette.h"
 
-#include <windows.h>
-
 #include "platform/display_colors.h"
+#include "platform/win32.h"
 
 namespace vistrel::controls {
 namespace {
@@ -28,12 +27,7 @@ bool HasPalette(platform::DeviceContext device) {
     return (GetDeviceCaps(device, RASTERCAPS) & RC_PALETTE) != 0;
 }
 
-bool DisplayHasPalette() {
-    const HDC screen = GetDC(nullptr);
-    const bool has = HasPalette(screen);
-    ReleaseDC(nullptr, screen);
-    return has;
-}
+bool DisplayHasPalette() { return HasPalette(platform::ScreenContext()); }
 
 PaletteHandle DisplayPalette() {
     // Lives as long as the program: every window that paints a picture realises it.
@@ -46,14 +40,10 @@ PaletteHandle DisplayPalette() {
 
 platform::BitmapHandle DisplayPaletteBitmap(int width, int height) {
     struct {
-        BITMAPINFOHEADER header{};
+        BITMAPINFOHEADER header;
         RGBQUAD colors[256] = {};
     } info;
-    info.header.biSize = sizeof info.header;
-    info.header.biWidth = width;
-    info.header.biHeight = -height;
-    info.header.biPlanes = 1;
-    info.header.biBitCount = 8;
+    info.header = platform::HeaderFromTop(width, height, 8);
     info.header.biClrUsed = platform::kDisplayColors;
     const Colors palette;
     for (int i = 0; i < platform::kDisplayColors; ++i) {
@@ -73,14 +63,10 @@ void PaintThroughPalette(platform::DeviceContext target, platform::BitmapHandle 
     // The pixels number the palette's entries as they stand: nothing is left to match, neither at
     // the cost of time nor of colours.
     struct {
-        BITMAPINFOHEADER header{};
+        BITMAPINFOHEADER header;
         WORD entries[256] = {};
     } info;
-    info.header.biSize = sizeof info.header;
-    info.header.biWidth = facts.bmWidth;
-    info.header.biHeight = -facts.bmHeight;
-    info.header.biPlanes = 1;
-    info.header.biBitCount = 8;
+    info.header = platform::HeaderFromTop(facts.bmWidth, facts.bmHeight, 8);
     info.header.biClrUsed = platform::kDisplayColors;
     for (WORD i = 0; i < platform::kDisplayColors; ++i) info.entries[i] = i;
 

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "platform/files.h"
+#include "platform/drives.h"
 #include "platform/instance.h"
 
 namespace vistrel::controls {
@@ -38,10 +38,6 @@ std::string Caption(const std::string& root, platform::DriveKind kind) {
 }
 
 }  // namespace
-
-DriveList::~DriveList() {
-    if (icons_) ImageList_Destroy(icons_);
-}
 
 void DriveList::OnAttach() {
     // The height of an entry was asked for before anybody could answer.

@@ -6,14 +6,13 @@
 #include <string>
 
 #include "controls/control.h"
+#include "controls/owned_handle.h"
 
 namespace vistrel::controls {
 
 /// The template makes the combo box an owner-drawn drop-down list that holds texts.
 class DriveList : public Control {
  public:
-    ~DriveList() override;
-
     /// Takes the 16 x 16 pictures of floppy, hard disk, CD-ROM, network drive and memory disk, in
     /// this order, from a bitmap resource. Pixels of `transparent` (blue-green-red) show the
     /// background.
@@ -37,7 +36,7 @@ class DriveList : public Control {
     void OnAttach() override;
 
  private:
-    platform::ImageListHandle icons_ = nullptr;
+    OwnedImageList icons_;
     std::string lastDrive_;  ///< the choice that Change was last run for
 };
 

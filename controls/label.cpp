@@ -1,15 +1,11 @@
 #include "controls/label.h"
 
-#include <windows.h>
+#include <utility>
 
 #include "platform/instance.h"
+#include "platform/win32.h"
 
 namespace vistrel::controls {
-
-Label::~Label() {
-    if (font_) DeleteObject(font_);
-    if (background_) DeleteObject(background_);
-}
 
 void Label::SetForeColor(long color) {
     color_ = color;
@@ -22,15 +18,14 @@ void Label::SetFont(const FontChange& change) {
     if (change.bold) font.lfWeight = FW_BOLD;
     if (change.underline) font.lfUnderline = TRUE;
     if (change.points > 0) {
-        const HDC screen = GetDC(nullptr);
-        font.lfHeight = -MulDiv(change.points, GetDeviceCaps(screen, LOGPIXELSY), 72);
-        ReleaseDC(nullptr, screen);
+        const int dotsPerInch = GetDeviceCaps(platform::ScreenContext(), LOGPIXELSY);
+        font.lfHeight = -MulDiv(change.points, dotsPerInch, 72);
     }
     if (*change.face) lstrcpynA(font.lfFaceName, change.face, LF_FACESIZE);
-    const HFONT made = CreateFontIndirectA(&font);
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(made), TRUE);
-    if (font_) DeleteObject(font_);
-    font_ = made;
+    OwnedFont made = CreateFontIndirectA(&font);
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
+    // The one that the control had until now goes with `made`.
+    std::swap(font_, made);
 }
 
 void Label::FitToText() {
@@ -48,13 +43,12 @@ void Label::FitToText() {
 }
 
 void Label::SetBackColor(long color) {
-    if (background_) DeleteObject(background_);
     background_ = CreateSolidBrush(static_cast<COLORREF>(color));
     Repaint();
 }
 
 platform::BrushHandle Label::BackBrush() const {
-    return seeThrough_ ? static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH)) : background_;
+    return seeThrough_ ? static_cast<HBRUSH>(GetStockObject(HOLLOW_BRUSH)) : background_.get();
 }
 
 void Label::SetHandPointer(const char* cursorResource) { cursor_ = cursorResource; }

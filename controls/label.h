@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "controls/control.h"
+#include "controls/owned_handle.h"
 
 namespace vistrel::controls {
 
@@ -15,7 +16,7 @@ struct FontChange {
     const char* face = "";
 };
 
-/// The colour of what leads somewhere.
+/// Link blue.
 inline constexpr long kBlue = 0xFF0000;
 
 class Label : public Control {
@@ -37,7 +38,6 @@ class Label : public Control {
     /// The template must give the label the style SS_NOTIFY.
     std::function<void()> Click;
 
-    ~Label() override;
     void OnCommand(int code) override;
     long TextColor() const override { return color_; }
     platform::BrushHandle BackBrush() const override;
@@ -45,9 +45,9 @@ class Label : public Control {
 
  private:
     long color_ = -1;
-    platform::BrushHandle background_ = nullptr;
+    OwnedBrush background_;
     bool seeThrough_ = false;
-    platform::FontHandle font_ = nullptr;
+    OwnedFont font_;
     const char* cursor_ = nullptr;
 };
 

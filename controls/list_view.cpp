@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "controls/file_drop_target.h"
+#include "controls/win32.h"
 #include "controls/window.h"
 #include "platform/instance.h"
 
@@ -52,9 +53,7 @@ void ListView::AddColumn(const std::string& heading, int width) {
 void ListView::SetColumnWidth(int width) { Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width, 0)); }
 
 void ListView::FitColumn() {
-    RECT r{};
-    GetWindowRect(handle(), &r);
-    SetColumnWidth(static_cast<int>(r.right - r.left) - 2 * GetSystemMetrics(SM_CXEDGE) -
+    SetColumnWidth(PlaceOnScreen(handle()).width - 2 * GetSystemMetrics(SM_CXEDGE) -
                    GetSystemMetrics(SM_CXVSCROLL));
 }
 

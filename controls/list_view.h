@@ -24,7 +24,6 @@ class ListView : public Control {
     /// of `transparent` (blue-green-red) show the background.
     void LoadIcons(int bitmapResource, long transparent, const std::vector<std::string>& keys);
     void AddColumn(const std::string& heading, int width);
-    void SetColumnWidth(int width);
     /// Makes the column as wide as the list leaves beside a vertical scroll bar.
     void FitColumn();
     /// From now on the column of a report takes the whole width, however it changes.
@@ -98,6 +97,7 @@ class ListView : public Control {
                    std::intptr_t& result) override;
 
  private:
+    void SetColumnWidth(int width);
     /// Number of the first item behind `after` with this text, whatever the case; -1 for none.
     int NextItem(const std::string& text, int after) const;
     int IconNumber(const std::string& key) const;

@@ -6,17 +6,15 @@
 
 namespace vistrel::controls {
 
-platform::MenuHandle LoadMenuResource(int id) {
+OwnedMenu LoadMenuResource(int id) {
     return LoadMenuA(platform::ProgramInstance(), MAKEINTRESOURCEA(id));
 }
-
-void FreeMenu(platform::MenuHandle menu) { DestroyMenu(menu); }
 
 platform::MenuHandle SubMenu(platform::MenuHandle menu, int place) {
     return GetSubMenu(menu, place);
 }
 
-platform::MenuHandle NewPopUpMenu() { return CreatePopupMenu(); }
+OwnedMenu NewPopUpMenu() { return CreatePopupMenu(); }
 
 void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption) {
     AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(id), caption.c_str());

@@ -3,16 +3,15 @@
 
 #include <string>
 
-#include "platform/handles.h"
+#include "controls/owned_handle.h"
 
 namespace vistrel::controls {
 
-platform::MenuHandle LoadMenuResource(int id);
-void FreeMenu(platform::MenuHandle menu);
+OwnedMenu LoadMenuResource(int id);
 /// The drop-down at a place of a menu bar, from 0.
 platform::MenuHandle SubMenu(platform::MenuHandle menu, int place);
 
-platform::MenuHandle NewPopUpMenu();
+OwnedMenu NewPopUpMenu();
 void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption);
 void AddMenuSeparator(platform::MenuHandle menu);
 void RemoveLastMenuItem(platform::MenuHandle menu);

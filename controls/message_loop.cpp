@@ -25,7 +25,7 @@ void Handle(MSG& message) {
     Window* window = message.hwnd ? WindowOf(message.hwnd) : nullptr;
     if (window) {
         // WM_CHAR exists only after translation, which the dialog manager does itself.
-        if (window->TranslateKey(&message)) return;
+        if (window->HandleKey(&message)) return;
         if (window->HasDialogKeys() && IsDialogMessageA(window->handle(), &message)) return;
     }
     TranslateMessage(&message);
@@ -34,9 +34,9 @@ void Handle(MSG& message) {
 
 }  // namespace
 
-void EnterLoop(Window& window) { openWindows().push_back(&window); }
+void AddToLoop(Window& window) { openWindows().push_back(&window); }
 
-void LeaveLoop(Window& window) {
+void RemoveFromLoop(Window& window) {
     auto& windows = openWindows();
     windows.erase(std::remove(windows.begin(), windows.end(), &window), windows.end());
 }
@@ -64,15 +64,6 @@ void RunLoopWhileOpen(const Window& window) {
         }
         Handle(message);
     }
-}
-
-bool HandleWaitingMessages() {
-    MSG message{};
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (message.message == WM_QUIT) return false;
-        Handle(message);
-    }
-    return true;
 }
 
 }  // namespace vistrel::controls

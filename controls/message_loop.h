@@ -1,4 +1,4 @@
-// The one thread's message loop, for windows shown beside each other and for modal ones.
+// The message loop, for windows shown beside each other and for modal ones.
 #pragma once
 
 #include "platform/handles.h"
@@ -7,9 +7,9 @@ namespace vistrel::controls {
 
 class Window;
 
-/// Takes a window's keys into the loop, and out again.
-void EnterLoop(Window& window);
-void LeaveLoop(Window& window);
+/// Adds and removes a window whose keys the loop dispatches.
+void AddToLoop(Window& window);
+void RemoveFromLoop(Window& window);
 
 /// The window of ours with this handle; null when there is none open.
 Window* OpenWindowOf(platform::WindowHandle handle);
@@ -21,8 +21,5 @@ void EndSession();
 
 /// Runs until this window has been closed, or the program is to end.
 void RunLoopWhileOpen(const Window& window);
-/// Handles the messages that wait, and returns when there are none. False when the program is to
-/// end.
-bool HandleWaitingMessages();
 
 }  // namespace vistrel::controls

@@ -1,21 +1,16 @@
 #include "controls/screen_metrics.h"
 
-#include <windows.h>
+#include "controls/win32.h"
+#include "platform/win32.h"
 
 namespace vistrel::controls {
 
-int PixelsPerInch() {
-    const HDC screen = GetDC(nullptr);
-    const int dots = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
-    return dots;
-}
+int PixelsPerInch() { return GetDeviceCaps(platform::ScreenContext(), LOGPIXELSX); }
 
 Rect WorkArea() {
     RECT r{};
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &r, 0);
-    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-            static_cast<int>(r.bottom - r.top)};
+    return RectOf(r);
 }
 
 Point PointerPosition() {

@@ -32,14 +32,6 @@ bool TabStrip::TurnPage(int key) {
     return true;
 }
 
-Rect TabStrip::PageArea() const {
-    const Rect place = Bounds();
-    RECT r{place.left, place.top, place.right(), place.bottom()};
-    SendPointer(TCM_ADJUSTRECT, FALSE, &r);
-    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-            static_cast<int>(r.bottom - r.top)};
-}
-
 std::intptr_t TabStrip::OnNotify(void* header) {
     if (static_cast<const NMHDR*>(header)->code == TCN_SELCHANGE && Click) Click();
     return 0;

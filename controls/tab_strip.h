@@ -19,8 +19,6 @@ class TabStrip : public Control {
     /// Ctrl+Tab and Ctrl+Page Down go to the next tab, Ctrl+Shift+Tab and Ctrl+Page Up to the one
     /// before, as a click on it would. False for any other key.
     bool TurnPage(int key);
-    /// The part of the control that the tabs leave for a page, within the parent's client area.
-    Rect PageArea() const;
 
     /// Another tab was selected by the user.
     std::function<void()> Click;

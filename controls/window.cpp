@@ -11,6 +11,7 @@
 #include "controls/picture_box.h"
 #include "controls/stay_open.h"
 #include "controls/timer.h"
+#include "controls/win32.h"
 #include "platform/instance.h"
 
 namespace vistrel::controls {
@@ -68,7 +69,7 @@ Window::~Window() {
     // Its controls' and timers' objects are gone already: nothing that it hears now is handled.
     const HWND closing = handle_;
     handle_ = nullptr;
-    LeaveLoop(*this);
+    RemoveFromLoop(*this);
     DestroyWindow(closing);
 }
 
@@ -107,7 +108,7 @@ bool Window::Create(platform::WindowHandle owner) {
         return false;
     }
     for (Timer* timer : timers_) timer->Attach(handle_);
-    EnterLoop(*this);
+    AddToLoop(*this);
     Form_Load();
     Form_Resize(ClientSize());
     LetHelpersStayOpen();
@@ -156,7 +157,7 @@ void Window::FreeOwner() {
 void Window::OnDestroy() {
     for (Timer* timer : timers_) timer->SetEnabled(false);
     FreeOwner();
-    LeaveLoop(*this);
+    RemoveFromLoop(*this);
     handle_ = nullptr;
     tips_ = nullptr;
 }
@@ -188,9 +189,8 @@ Size Window::ClientSize() const {
 }
 
 Size Window::WholeSize() const {
-    RECT r{};
-    GetWindowRect(handle_, &r);
-    return {static_cast<int>(r.right - r.left), static_cast<int>(r.bottom - r.top)};
+    const Rect place = PlaceOnScreen(handle_);
+    return {place.width, place.height};
 }
 
 void Window::SetClientSize(Size size) {
@@ -203,11 +203,9 @@ void Window::SetClientSize(Size size) {
 }
 
 void Window::CentreIn(const Rect& area) {
-    RECT r{};
-    GetWindowRect(handle_, &r);
-    SetWindowPos(handle_, nullptr,
-                 area.left + (area.width - static_cast<int>(r.right - r.left)) / 2,
-                 area.top + (area.height - static_cast<int>(r.bottom - r.top)) / 2, 0, 0,
+    const Size whole = WholeSize();
+    SetWindowPos(handle_, nullptr, area.left + (area.width - whole.width) / 2,
+                 area.top + (area.height - whole.height) / 2, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -239,8 +237,7 @@ void Window::FocusNextTo(const Control& control) {
 Rect Window::FromDialogUnits(const Rect& units) const {
     RECT r{units.left, units.top, units.right(), units.bottom()};
     MapDialogRect(handle_, &r);
-    return {static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-            static_cast<int>(r.bottom - r.top)};
+    return RectOf(r);
 }
 
 void Window::ShowTip(platform::WindowHandle child, const std::string& tip) {

@@ -77,8 +77,9 @@ class Window {
     /// rename what they are about.
     void EndEdits();
 
-    /// Sees each of the window's messages before the dialog manager; see message_loop.h.
-    bool TranslateKey(const void* message);
+    /// Sees each of the window's messages before the dialog manager; see message_loop.h. True when
+    /// a key is dealt with.
+    bool HandleKey(const void* message);
     /// False for a window in which Tab, Enter and Esc are keys like any other.
     virtual bool HasDialogKeys() const { return true; }
 

@@ -1,6 +1,7 @@
 // A window's help: the topic of a control, by F1, the question mark or a right click.
 #include <windows.h>
 
+#include "controls/menu.h"
 #include "controls/window.h"
 #include "platform/help_viewer.h"
 
@@ -53,11 +54,10 @@ bool Window::OnContextMenu(platform::WindowHandle child, Point screen, bool byKe
         return true;
     }
     if (control->helpNumber() == 0) return false;
-    const HMENU menu = CreatePopupMenu();
-    AppendMenuA(menu, MF_STRING, kWhatsThis, "&What's this?");
+    const OwnedMenu menu = NewPopUpMenu();
+    AddMenuItem(menu, kWhatsThis, "&What's this?");
     const BOOL chosen = TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, 0,
                                        handle_, nullptr);
-    DestroyMenu(menu);
     if (chosen == kWhatsThis) ShowTopic(*control);
     return true;
 }

@@ -11,7 +11,7 @@
 
 namespace vistrel::controls {
 
-bool Window::TranslateKey(const void* message) {
+bool Window::HandleKey(const void* message) {
     const auto& m = *static_cast<const MSG*>(message);
     if (m.message == WM_KEYDOWN && Form_KeyDown(static_cast<int>(m.wParam))) return true;
     if (m.message == WM_KEYUP) Form_KeyUp(static_cast<int>(m.wParam));

@@ -1,8 +1,8 @@
 #include "controls/window_place.h"
 
-#include <windows.h>
-
 #include <algorithm>
+
+#include "controls/win32.h"
 
 namespace vistrel::controls {
 
@@ -17,9 +17,7 @@ WindowPlace PlaceOf(platform::WindowHandle window) {
     OffsetRect(&r, work.left, work.top);
     const bool maximized =
         IsZoomed(window) || (IsIconic(window) && (placement.flags & WPF_RESTORETOMAXIMIZED));
-    return {{static_cast<int>(r.left), static_cast<int>(r.top), static_cast<int>(r.right - r.left),
-             static_cast<int>(r.bottom - r.top)},
-            maximized};
+    return {RectOf(r), maximized};
 }
 
 void PlaceWithin(platform::WindowHandle window, Rect place, const Rect& area) {

@@ -9,11 +9,14 @@ namespace vistrel::core {
 /// The option's value; 1 when file or key is missing.
 std::int16_t ReadBootLogoOption(const std::string& bootConfigurationFile);
 
-/// Leaves the option as it is and makes the file read-only, and nothing else: it loses hidden and
-/// system attributes, which is meant.
+/// Leaves the option as it is and makes the file read-only, and nothing else.
+// Quirk: the file loses hidden and system attributes
+// (BootOptionTest.KeepingItMakesTheFileReadOnlyAndNothingElse).
 void KeepBootLogoOption(const std::string& bootConfigurationFile);
 
-/// The option as it is written: in decimal, with a blank before a number that is not negative.
+/// The option as it is written: in decimal.
+// Quirk: with a blank before a number that is not negative
+// (BootOptionTest.OnlyNumbersThatAreNotNegativeHaveALeadingBlank).
 std::string BootLogoOptionText(std::int16_t option);
 
 /// Takes the file's attributes off and writes the option.

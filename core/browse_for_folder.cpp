@@ -1,6 +1,6 @@
-// The folder browser, apart from the other helpers: programs without windows then need no shell.
-#include "core/generali.h"
-#include "platform/shell.h"
+#include "core/browse_for_folder.h"
+
+#include "platform/folder_dialog.h"
 
 namespace vistrel::core {
 

@@ -8,8 +8,6 @@
 namespace vistrel::core {
 namespace {
 
-/// The file must exist (0x1000), and there is no check box for opening it read-only (4).
-constexpr unsigned kFileMustExistHideReadOnly = 4100;
 constexpr std::size_t kBufferLength = 254;
 
 }  // namespace
@@ -29,7 +27,6 @@ std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filt
     request.filter = DialogFilter(filter);
     request.title = title;
     request.initialFolder = initialFolder;
-    request.flags = kFileMustExistHideReadOnly;
     request.file = std::string(kBufferLength, ' ');
     request.fileTitle = std::string(kBufferLength, '\0');
     const bool chosen = platform::RunOpenDialog(request);

@@ -10,9 +10,10 @@ namespace vistrel::core {
 /// The name, without its folder, of the file that ShowOpenDialog gave last.
 extern std::string FileTitle;
 
-/// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, all parted
-/// by
-/// "|". The full path, with the NUL that the dialog wrote after it; empty when the user cancels.
+/// Lets the user choose a file that exists. `filter` is pairs of a name and a pattern, with "|"
+/// between all of them. The full path; empty when the user cancels.
+// Quirk: the NUL that the dialog wrote after the path is still there
+// (OpenDialog.GivesTheWholePathWithItsNulAndKeepsTheName).
 std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filter,
                            const std::string& title, const std::string& initialFolder);
 

@@ -1,7 +1,7 @@
 #include "core/fixed_drives.h"
 
 #include "core/generali.h"
-#include "platform/files.h"
+#include "platform/drives.h"
 
 namespace vistrel::core {
 

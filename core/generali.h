@@ -4,8 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/handles.h"
-
 namespace vistrel::core {
 
 /// The Windows directory, without a trailing backslash.
@@ -13,8 +11,9 @@ std::string GetWindowsDir();
 /// The full name of a new temporary file ("~tm...") in the system's temporary folder; empty when
 /// none can be made.
 std::string GetTempFile();
-/// The short (8.3) form of a path with blanks around it trimmed. The text still holds the NULs of
-/// the system's buffer: whoever passes it on stops at the first.
+/// The short (8.3) form of a path with blanks around it trimmed.
+// Quirk: the text still holds the NULs of the system's buffer; callers stop at the first
+// (Machine.GetShortPathGivesAnEightDotThreeNameAndTheBuffersNuls).
 std::string GetShortPath(const std::string& path);
 /// The user's Startup folder, ending in a backslash.
 std::string GetStartupFolder();
@@ -23,13 +22,12 @@ std::string AddBackslash(const std::string& path);
 /// True when a directory search for `path` with these attributes (hidden 2, system 4, directory 16;
 /// plain and read-only files are always found) finds an entry. False for an empty path.
 bool FileExists(const std::string& path, unsigned attributes = 0);
-/// The last component of a path. One trailing backslash is taken off the caller's text itself.
+/// The last component of a path.
+// Quirk: a trailing backslash is taken off the caller's own text
+// (GetFileNameTest.TakesATrailingBackslashOffTheCallersText).
 std::string GetFileName(std::string& path);
 /// `path` shortened to about `maximum` characters: its first three, "...", and its tail.
 std::string CompactPath(const std::string& path, int maximum);
-/// The folder that the user picks; empty when the user cancels.
-std::string BrowseForFolder(platform::WindowHandle owner, const std::string& prompt,
-                            const std::string& start = {});
 
 /// A text up to its first NUL.
 std::string CutAtNul(std::string text);

@@ -19,6 +19,8 @@ void InstallLogoSet(const InstallTargets& targets, const std::string& setName, b
     const auto [startup, wait, shutdown] =
         InstalledScreenPaths(targets.bootRoot, targets.windowsDirectory);
 
+    // Quirk: a screen that the set lacks ends up absent and not as it was
+    // (InstallTest.AScreenThatTheSetLacksEndsUpAbsent).
     platform::Remove(startup);
     platform::CopyOver(setStartup, startup);
     if (synchronize) return;

@@ -41,6 +41,7 @@ std::vector<std::string> LogoSetNames(const std::string& logoFolder) {
 }
 
 std::string CountLine(int sets) {
+    // Quirk: a blank leads (LibraryTest.TheCountLineHasOneLeadingBlank).
     std::string line = " ";
     line += std::to_string(sets);
     line += sets == 1 ? " logo set" : " logo sets";

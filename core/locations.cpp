@@ -2,7 +2,7 @@
 #include "core/locations.h"
 
 #include "core/generali.h"
-#include "platform/files.h"
+#include "platform/system_folders.h"
 
 namespace vistrel::core {
 

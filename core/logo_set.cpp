@@ -10,9 +10,6 @@
 namespace vistrel::core {
 namespace {
 
-/// SHFileOperation's flag that answers yes to every question.
-constexpr unsigned short kYesToAll = 16;
-
 /// "D:" or "D:\\".
 bool IsDriveRoot(const std::string& path) {
     return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
@@ -56,7 +53,7 @@ bool CanBeImported(const std::string& path) {
 }
 
 void ImportSet(platform::WindowHandle owner, const std::string& path, const std::string& library) {
-    platform::ShellCopy(owner, path, library, kYesToAll);
+    platform::ShellCopyOver(owner, path, library);
 }
 
 }  // namespace vistrel::core

@@ -9,6 +9,9 @@
 
 namespace vistrel::core {
 
+/// What a set is to hold. The name says the same once it is saved, unless the user typed another.
+enum class SetKind { Complete, StartupOnly };
+
 inline constexpr const char* kSingleLogoEnding = ".SLS";
 
 /// True when a set of this name is a single-logo set: the name ends in ".SLS" in any case.

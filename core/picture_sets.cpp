@@ -8,6 +8,7 @@
 #include "core/library.h"
 #include "core/locations.h"
 #include "pictures/compose/stages.h"
+#include "platform/file_contents.h"
 #include "platform/files.h"
 
 namespace vistrel::core {
@@ -34,15 +35,13 @@ std::optional<screen::IndexedScreen> ScreenOf(const std::string& picture,
 
 }  // namespace
 
-PictureSets::PictureSets(std::string library, std::vector<std::string> pictures,
-                         PictureSetKind kind, compose::FramingKind framing)
+PictureSets::PictureSets(std::string library, std::vector<std::string> pictures, SetKind kind,
+                         compose::FramingKind framing)
     : library_(std::move(library)), pictures_(std::move(pictures)), kind_(kind) {
     composition_.framing.kind = framing;
 }
 
-std::size_t PictureSets::ScreensOfASet() const {
-    return kind_ == PictureSetKind::StartupOnly ? 1 : 3;
-}
+std::size_t PictureSets::ScreensOfASet() const { return kind_ == SetKind::StartupOnly ? 1 : 3; }
 
 void PictureSets::Next() {
     if (IsDone()) return;
@@ -62,7 +61,7 @@ void PictureSets::Stop() {
 
 // The first picture's name, with a number where there is a set of that name.
 std::string PictureSets::FreeName() const {
-    const std::string ending = kind_ == PictureSetKind::StartupOnly ? kSingleEnding : "";
+    const std::string ending = kind_ == SetKind::StartupOnly ? kSingleEnding : "";
     const std::string base = BaseName(screens_.front().picture);
     std::string name = base + ending;
     for (int number = 2; platform::FileAttributes(library_ + name); ++number)

@@ -6,21 +6,18 @@
 #include <string>
 #include <vector>
 
+#include "core/logo_set.h"
 #include "pictures/compose/composition.h"
 #include "pictures/screen/indexed_screen.h"
 
 namespace vistrel::core {
 
-/// What the pictures become.
-enum class PictureSetKind {
-    StartupOnly,      ///< each a startup-only set of its own
-    ThreeToComplete,  ///< three at a time a complete set; the last one may lack screens
-};
-
 class PictureSets {
  public:
-    /// `library` is the logo folder and ends in a backslash; `pictures` are paths.
-    PictureSets(std::string library, std::vector<std::string> pictures, PictureSetKind kind,
+    /// `library` is the logo folder and ends in a backslash; `pictures` are paths. Each becomes a
+    /// startup-only set of its own, or three at a time a complete one, of which the last may lack
+    /// screens.
+    PictureSets(std::string library, std::vector<std::string> pictures, SetKind kind,
                 compose::FramingKind framing);
 
     bool IsDone() const { return next_ == pictures_.size(); }
@@ -53,7 +50,7 @@ class PictureSets {
 
     std::string library_;
     std::vector<std::string> pictures_;
-    PictureSetKind kind_;
+    SetKind kind_;
     compose::Composition composition_;
     std::size_t next_ = 0;
     std::vector<Screen> screens_;  ///< of the next set

@@ -29,7 +29,8 @@ class SlotWriter {
     }
 
     /// Deletes the screens of empty slots, then copies every slot.
-    // Quirk: an empty slot is not passed over then. There is nothing to copy, which fails.
+    // Quirk: an empty slot is not passed over then. There is nothing to copy, which fails
+    // (SaveSet.AnEmptySlotEndsTheUpdateBehindTheDeletionOfItsScreen).
     bool Write(std::size_t first, std::size_t last) {
         for (std::size_t i = first; i <= last; ++i)
             if (Read(i).empty() && !platform::Remove(screens_[i])) return false;
@@ -66,6 +67,8 @@ class SlotWriter {
 
 }  // namespace
 
+// Quirk: an empty slot is passed over without a word here, and ends an update
+// (SaveSet.CreatesWithoutTheScreensOfEmptyMissingAndUnreadableSlots).
 SaveResult CreateSet(const LogoSet& set, SetKind kind, const Slots& slots) {
     if (!SetFolderName(set.name, set.library) || !platform::MakeFolder(set.Path()))
         return {false, set.name};
@@ -83,7 +86,8 @@ SaveResult UpdateSet(const LogoSet& set, SetKind kind, Slots& slots,
         return writer.Result(writer.KeepSources(kStartup, kShutdown) &&
                              writer.Write(kStartup, kStartup) && writer.Write(kWait, kShutdown));
     }
-    // Quirk: a set that lacks the other screens, as one that was startup-only before, ends here.
+    // Quirk: a set that lacks the other screens, as one that was startup-only before, ends here
+    // (SaveSet.AnUpdateOfAStartupOnlySetEndsAtTheScreensThatAreNotThere).
     return writer.Result(writer.KeepSources(kStartup, kStartup) &&
                          writer.Write(kStartup, kStartup) && writer.RemoveScreen(kWait) &&
                          writer.RemoveScreen(kShutdown));

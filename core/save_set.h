@@ -9,9 +9,6 @@
 
 namespace vistrel::core {
 
-/// What a set is to hold. The name says the same once it is saved, unless the user typed another.
-enum class SetKind { Complete, StartupOnly };
-
 /// The paths of the files that become the three screens; empty for an empty slot.
 using Slots = std::array<std::string, 3>;
 

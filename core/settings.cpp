@@ -30,8 +30,10 @@ enum class Rule {
     Number,         ///< any number; 0 when it has none
     UpToOne,        ///< 0 when it is neither 0 nor 1
     UpToTwo,        ///< 0 when it is not 0 to 2
-    NeverZero,      ///< 1 for 0: switching it off holds until the next start only, which is meant
-    OneWhenEmpty,   ///< 1 when empty; a stored 0 is kept
+    // Quirk: what is switched off is on again at the next start
+    // (SettingsTest.NumbersLoadByTheirRule).
+    NeverZero,     ///< 1 for 0
+    OneWhenEmpty,  ///< 1 when empty; a stored 0 is kept
 };
 
 struct SettingRow {

@@ -5,7 +5,7 @@
 
 #include "core/generali.h"
 #include "platform/files.h"
-#include "platform/shell.h"
+#include "platform/shell_link.h"
 
 namespace vistrel::core {
 
@@ -42,6 +42,8 @@ void MakeMissingLinks(const std::string& programFolder, const std::string& start
 std::optional<StartUpActionKind> ReadStartUpAction(const std::string& startupFolder) {
     const bool shufflet = FileExists(startupFolder + kShuffletLink);
     const bool rotaline = FileExists(startupFolder + kRotalineLink);
+    // Quirk: of two actions that are in force none is shown
+    // (StartUpActionTest.TheLinksInTheStartupFolderAreTheRecord).
     if (shufflet && rotaline) return std::nullopt;
     if (shufflet) return StartUpActionKind::Shufflet;
     return rotaline ? StartUpActionKind::Rotaline : StartUpActionKind::Nothing;

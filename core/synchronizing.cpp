@@ -21,6 +21,8 @@ std::string IniFile(const std::string& programFolder) { return programFolder + "
 
 std::string SynchronizedPath(const std::string& logoFolder, const std::string& setName) {
     if (IsSingleLogoSet(setName)) return logoFolder;
+    // Quirk: without a known set this is a folder that cannot exist, and nothing is mirrored
+    // (SynchronizedPathTest.IsAFolderThatCannotExistWhereNoSetIsKnown).
     return logoFolder + (setName.empty() ? kUnknownSet : setName);
 }
 

@@ -10,16 +10,18 @@ bool EliminaLogoSet(platform::WindowHandle owner, EditorHost& host, const std::s
                     const std::string& LogoName, const std::string& editorSetName) {
     const core::Settings& settings = host.Preferences();
     if (settings.confirmLogosetDelete == 1 &&
-        platform::Ask(owner,
-                      "Are you sure you want to delete " + LogoName +
-                          " logo set? This operation will delete all files contained in '" +
-                          FolderToKill + "' folder!",
-                      platform::kQuestionYesNo, "Confirm deletions") != platform::Answer::Yes)
+        !platform::Confirm(owner,
+                           "Are you sure you want to delete " + LogoName +
+                               " logo set? This operation will delete all files contained in '" +
+                               FolderToKill + "' folder!",
+                           platform::DefaultAnswer::Yes, "Confirm deletions"))
         return false;
 
     const platform::BusyPointer busy;
     core::DeleteSet(owner, FolderToKill,
                     settings.deleteInTheRecycleBin == 1 ? core::Bin::Recycle : core::Bin::Destroy);
+    // Quirk: a set whose folder survived, in part or whole, counts as deleted
+    // (Deleting.ForgetsASetWhoseFolderSurvives).
     if (host.InstalledSet() == editorSetName) host.SetInstalledSet(std::nullopt);
     return true;
 }

@@ -28,7 +28,7 @@ SelPictureForm::SelPictureForm(EditorHost& host)
     AttachMenus();
 }
 
-SelPictureForm::~SelPictureForm() { controls::FreeMenu(menus_); }
+SelPictureForm::~SelPictureForm() = default;
 
 void SelPictureForm::AddControls() {
     namespace number = help_number;
@@ -174,10 +174,12 @@ void SelPictureForm::ListNames() {
 }
 
 bool SelPictureForm::MayEndSession() {
+    // Quirk: a set that was only loaded can be saved, and so counts as changed
+    // (Session.AsksBeforeDiscardingWhatCouldBeSaved).
     if (!OkButton[0].Enabled() && !OkButton[1].Enabled()) return true;
-    return platform::Ask(handle(),
-                         "You haven't saved the last changes. Would you like to discard them?",
-                         platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
+    return platform::Confirm(handle(),
+                             "You haven't saved the last changes. Would you like to discard them?",
+                             platform::DefaultAnswer::No);
 }
 
 // What the user was asked about is discarded; the list of sets is read at the next start.

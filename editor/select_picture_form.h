@@ -15,6 +15,7 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/menu_item.h"
+#include "controls/owned_handle.h"
 #include "controls/picture_box.h"
 #include "controls/window.h"
 #include "core/save_set.h"
@@ -231,7 +232,7 @@ class SelPictureForm : public controls::Window {
     const std::string& LogoFolder() const { return host_.Preferences().logoPath; }
 
     EditorHost& host_;
-    platform::MenuHandle menus_ = nullptr;
+    controls::OwnedMenu menus_;
     std::map<int, std::function<void()>>
         commands_;  ///< what the menus' items run, by their numbers
     platform::IconHandle dragIcon_ = nullptr;

@@ -34,10 +34,9 @@ void SelPictureForm::AdjustSlot(int index) {
 std::string SelPictureForm::Adjusted(const std::string& path) {
     adjust::FrmAdjust window(adjustments_.For(path), NewFileOfSession());
     if (!window.ReadPicture()) {
-        platform::Ask(handle(),
-                      window.Settings().source +
-                          " cannot be read as a picture. It may have been moved or damaged.",
-                      platform::kExclamationOk);
+        platform::Tell(handle(),
+                       window.Settings().source +
+                           " cannot be read as a picture. It may have been moved or damaged.");
         return {};
     }
     // When it closes nothing is to be filled again.

@@ -81,13 +81,14 @@ void SelPictureForm::Drive1_Change() {
         ShowPath(CurrentFolder.substr(0, 2));
         return;
     }
-    platform::Ask(handle(), "Drive " + drive + " isn't accessible! Check it and retry.",
-                  platform::kCriticalOk);
+    platform::Tell(handle(), "Drive " + drive + " isn't accessible! Check it and retry.",
+                   platform::Icon::Critical);
     Drive1.SetDrive(CurrentFolder);
     AggiornaDir();
 }
 
-// The folder is fixed: neither the drive list nor CurrentFolder count.
+// Quirk: the folder is fixed, and neither the drive list nor CurrentFolder count
+// (Browsing.ListsTheFixedFolderWhateverIsBrowsed).
 void SelPictureForm::Dir1_Change() {
     LogoList.Clear();
     platform::ForEachEntry(
@@ -158,7 +159,8 @@ void SelPictureForm::CheckImage(const std::string& path) {
     IsSysFile = false;
     if (!IsPictureName(path)) {
         ShowVerdict(kNoPictureColor, kNoLogoSelected);
-        // Buttons that an earlier picture enabled stay enabled; the slots look at the verdict.
+        // Quirk: buttons that an earlier picture enabled stay enabled; the slots look at the
+        // verdict (Browsing.AFileOfNoPictureKindLeavesTheSlotsEnabledButTheyTakeNothing).
         if (!SlotsEnabled) DisableImage();
         return;
     }
@@ -171,6 +173,8 @@ void SelPictureForm::CheckImage(const std::string& path) {
     preview::DrawPreview(path, CurView, width, height, depth);
     SelectedPicture = path;
     CurView.SetTag(path);
+    // Quirk: a bitmap that has a screen's form already is converted all the same
+    // (Browsing.AScreenIsReadyAndTheSamePictureAsABitmapIsConverted).
     const bool logoForm = width == 320 && height == 400 && depth == 8;
     ShowVerdict(
         logoForm && IsSysFile ? kReadyColor : kConvertColor,

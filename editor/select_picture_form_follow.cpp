@@ -42,10 +42,8 @@ bool SelPictureForm::LogoList_AfterLabelEdit(const std::string& typed) {
         folder ? core::SetFolderName(typed, CurrentFolder) : core::EntryName(typed, CurrentFolder);
     if (name == oldName_) return false;
     if (!name || !platform::Rename(before, CurrentFolder + *name)) {
-        platform::Ask(handle(),
-                      "Cannot rename " + oldName_ + ". A file or folder named " + typed +
-                          " already exists or the name is not valid.",
-                      platform::kExclamationOk);
+        platform::Tell(handle(), "Cannot rename " + oldName_ + ". A file or folder named " + typed +
+                                     " already exists or the name is not valid.");
         return false;
     }
     const std::string after = CurrentFolder + *name;

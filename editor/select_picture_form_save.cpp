@@ -83,8 +83,9 @@ core::SaveResult SelPictureForm::UpdateLoadedSet(const core::LogoSet& set) {
     return result;
 }
 
-// The set selected in the main window counts, whichever was loaded here: it is kept so. While the
-// installed screens are shown there, none is selected.
+// Quirk: the set selected in the main window counts, whichever was loaded here
+// (Saving.TheInstalledSetFollowsTheSetSelectedInTheMainWindow). While the installed screens are
+// shown there, none is selected.
 void SelPictureForm::FollowInstalledSet(const std::string& oldName, const std::string& name) {
     const auto installed = host_.InstalledSet();
     const int selected = host_.SelectedSet();
@@ -141,11 +142,13 @@ core::NewSessionFile SelPictureForm::NewFileOfSession() {
 void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::string& what,
                                   const std::string& folder) {
     if (!result.saved) {
+        // Quirk: the message is about the folder, whichever step failed, and names what was read
+        // last (Saving.AnEmptySlotDeletesItsScreenAndEndsTheUpdate).
         LblWritten.SetText("");
-        platform::Ask(
+        platform::Tell(
             handle(),
             "A directory named " + result.lastRead + " already exist or bad directory name!",
-            platform::kExclamationOk, "Cannot create directory");
+            platform::Icon::Exclamation, "Cannot create directory");
         return;
     }
     controls::EnableControls(false, OkButton[0], OkButton[1]);

@@ -131,7 +131,8 @@ void SelPictureForm::DeleteButton_Click(int index) {
     EmptySlot(index);
 }
 
-// Changes neither SetChanged nor the commands: it also clears up after a set that is no more.
+// Quirk: changes neither SetChanged nor the commands, since it also clears up after a set that is
+// no more (Deleting.EmptiesAllSlotsAndLeavesTheCommandsAsTheyAre).
 void SelPictureForm::ClearAllButton_Click() {
     for (int i = 0; i < 3; ++i) EmptySlot(i);
 }

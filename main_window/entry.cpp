@@ -43,9 +43,7 @@ void Run() {
     if (!principale.Create(nullptr)) return;
 
     if (splash.IsOpen()) {
-        // The elapsed time is in days, so the splash stays about 700 ms after the main window has
-        // loaded: kept so.
-        const double wait = 700 - 1000 * (platform::TimeOfDay() - shownAt);
+        const double wait = about::SplashWait(shownAt, platform::TimeOfDay());
         if (wait > 0) platform::SleepMilliseconds(static_cast<unsigned long>(wait));
         splash.Unload();
     }

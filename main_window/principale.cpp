@@ -10,6 +10,7 @@
 #include "core/close.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "core/running_instance.h"
 #include "help/context_numbers.h"
 #include "resources/ids.h"
 
@@ -24,7 +25,7 @@ constexpr unsigned kBrowserDelay = 50;
 }  // namespace
 
 Principale::Principale(core::SystemLocations locations)
-    : Window("Principale", IDD_Principale),
+    : Window(core::kMainWindowClass, IDD_Principale),
       ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
       locations_(std::move(locations)) {
@@ -73,9 +74,7 @@ Principale::Principale(core::SystemLocations locations)
     Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
-Principale::~Principale() {
-    if (classicMenus_) controls::FreeMenu(classicMenus_);
-}
+Principale::~Principale() = default;
 
 // Every step is done whether or not the ones before it succeeded.
 void Principale::Form_Load() {

@@ -11,6 +11,7 @@
 #include "controls/active_bar.h"
 #include "controls/label.h"
 #include "controls/list_view.h"
+#include "controls/owned_handle.h"
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
@@ -173,7 +174,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     core::SystemLocations locations_;
     core::Settings settings_;
     bool installedSetListed_ = false;  ///< the setting names a set of the list
-    platform::MenuHandle classicMenus_ = nullptr;
+    controls::OwnedMenu classicMenus_;
     std::int16_t bootLogoOption_ = 1;
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;

@@ -200,6 +200,8 @@ void Principale::LogoRandomChange() {
     const int count = MyList.Count();
     if (count <= 1 || savedView_) return;
     core::RandomGenerator generator(platform::SecondsSinceMidnight());
+    // Quirk: the selected set is left out, not the installed one
+    // (RandomChange.LeavesOutTheSelectedSetAndNotTheInstalledOne).
     const int chosen = core::DrawOther(generator, count, MyList.SelectedItem() + 1);
     SelItem(MyList.ItemText(chosen - 1));
     ItmSetDefault_Click();

@@ -108,10 +108,9 @@ bool Principale::ConfirmFormatChange(bool toSingle) {
     if (settings_.confirmLogoTypeChange != 1) return true;
     const std::string from = toSingle ? "Multi Logo" : "Single Logo";
     const std::string to = toSingle ? "Single Logo" : "Multi Logo";
-    return platform::Ask(
-               handle(),
-               "Would you like to change your logoset format from " + from + " to " + to + "?",
-               platform::kQuestionYesNo) == platform::Answer::Yes;
+    return platform::Confirm(
+        handle(), "Would you like to change your logoset format from " + from + " to " + to + "?",
+        platform::DefaultAnswer::Yes);
 }
 
 bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
@@ -123,12 +122,12 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     if (formatChanges && !ConfirmFormatChange(toSingle)) return false;
 
     const int edited = MyList.EditedItem();
-    // The new icon stays although the renaming may fail: it is kept so until the next refresh.
+    // Quirk: the new icon stays until the next refresh although the renaming may fail
+    // (Renaming.ShowsTheIconAskedForAfterAFailedChangeOfFormatUntilTheNextRefresh).
     if (formatChanges) MyList.SetItemIcon(edited, core::IconKeyOfSet(newName));
     if (!core::RenameSet({settings_.logoPath, oldName_}, newName)) {
-        platform::Ask(handle(),
-                      "Cannot rename folder. The folder already exists or has an invalid name",
-                      platform::kExclamationOk);
+        platform::Tell(handle(),
+                       "Cannot rename folder. The folder already exists or has an invalid name");
         return false;
     }
     MyList.SetItemText(edited, newName);
@@ -150,12 +149,12 @@ void Principale::SelectAfterDelete(int index) {
 bool Principale::ConfirmOverwriting(const std::string& name) {
     // The folder came from another window, which is still the one in front.
     controls::BringToFront(handle());
-    return platform::Ask(
-               handle(),
-               "The selected folder '" + name +
-                   "' already exist in your logo folder. Would you like to overwrite the existing "
-                   "files?",
-               platform::kQuestionYesNoDefaultNo) == platform::Answer::Yes;
+    return platform::Confirm(
+        handle(),
+        "The selected folder '" + name +
+            "' already exist in your logo folder. Would you like to overwrite the existing "
+            "files?",
+        platform::DefaultAnswer::No);
 }
 
 void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {

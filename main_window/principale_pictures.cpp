@@ -68,11 +68,10 @@ void Principale::OpenPaint(platform::WindowHandle owner) {
     if (platform::StartProgram(locations_.windowsDirectory + "pbrush.exe " +
                                core::CutAtNul(core::GetShortPath(currentPicture_))))
         return;
-    platform::Ask(
+    platform::Tell(
         owner,
         "Cannot find Paint! If you want to edit your logos install it from Add/Remove Software "
-        "from the Control Panel.",
-        platform::kExclamationOk);
+        "from the Control Panel.");
 }
 
 void Principale::OpenCustomProgram(platform::WindowHandle owner) {
@@ -80,13 +79,11 @@ void Principale::OpenCustomProgram(platform::WindowHandle owner) {
     if (core::FileExists(program)) {
         platform::StartProgram(program + " " + core::CutAtNul(core::GetShortPath(currentPicture_)));
     } else if (!program.empty()) {
-        platform::Ask(owner,
-                      "Cannot find the file " + program +
-                          " or it is not an executable file. Check it out and retry.",
-                      platform::kExclamationOk);
-    } else if (platform::Ask(owner,
-                             "You haven't specified a custom program. Would you like to do it now?",
-                             platform::kQuestionYesNo) == platform::Answer::Yes) {
+        platform::Tell(owner, "Cannot find the file " + program +
+                                  " or it is not an executable file. Check it out and retry.");
+    } else if (platform::Confirm(
+                   owner, "You haven't specified a custom program. Would you like to do it now?",
+                   platform::DefaultAnswer::Yes)) {
         options::FrmOptions options(*this, options::FrmOptions::kImages);
         ShowPreferences(options, owner);
     }

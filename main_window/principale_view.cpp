@@ -52,6 +52,8 @@ void Principale::ToggleShowCurrent() {
     ItmViewDefOrActual_Click();
 }
 
+// Quirk: the menu item runs this too and switches nothing, it only draws the view anew
+// (InstalledView.IsNotSwitchedByTheMenuItem).
 void Principale::ItmViewDefOrActual_Click() {
     const platform::BusyPointer busy;
     if (ActiveBar1.Checked("ToolShowCurrent"))

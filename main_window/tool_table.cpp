@@ -79,6 +79,7 @@ constinit const MainTool Principale::kTools[] = {
     {{"ToolPrefer", ID_ToolPrefer, "&Preferences...", "", "Options", PICTURE_Preferences},
      &Principale::ItmPref_Click,
      ID_ItmPref},
+    // Quirk: this one and the last do nothing (ToolTable.TheRestDoesNothing).
     {{"Online", ID_Online, "&Online check...", "", "Options", controls::kNoPicture},
      &Principale::NoWork},
     {{"ToolContents", ID_ToolContents, "Contents", "Contents", "Logo", PICTURE_Contents, "F1"},

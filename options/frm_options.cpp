@@ -4,6 +4,7 @@
 
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
+#include "core/browse_for_folder.h"
 #include "core/cm_dialog.h"
 #include "core/fixed_drives.h"
 #include "core/generali.h"
@@ -35,7 +36,7 @@ FrmOptions::FrmOptions(OptionsHost& host, Page first)
     BtnCancel.Click = [this] { BtnCancel_Click(); };
 }
 
-FrmOptions::~FrmOptions() { controls::FreeMenu(MnuDrive_); }
+FrmOptions::~FrmOptions() = default;
 
 void FrmOptions::AddPage(Page page, std::span<const Row> rows) {
     const int index = page - 1;
@@ -140,7 +141,8 @@ void FrmOptions::Form_Activate() {
     for (int i = 0; i < 3; ++i) OptOpen[i].SetMark(i == settings.defaultAction);
     CustomName.SetText(settings.customProgName);
     CustProg.SetText(settings.customProgPath);
-    // The box opens clear, whatever the main window's menu item shows: kept so.
+    // Quirk: the box opens clear, whatever the main window's menu item shows
+    // (Preferences.UncheckTheAnimationWhenTheBoxIsLeftAlone).
     ChkShowAnim.SetValue(0);
     GetDiskInfo();
     for (const Flag& flag : flags_) flag.checkBox->SetValue(settings.*flag.setting);
@@ -247,7 +249,8 @@ std::string FrmOptions::NameOfProgram() const {
     return file.substr(0, file.rfind('.'));
 }
 
-// Every step is done whether or not the ones before it succeeded; no value is checked.
+// Every step is done whether or not the ones before it succeeded.
+// Quirk: no value is checked (Preferences.TakeALogoFolderThatIsMissingOrEmptyAsItStands).
 void FrmOptions::BtnOK_Click() {
     Settings& settings = host_.Preferences();
     if (StartupActionChanged_) ApplyStartUpChoice();

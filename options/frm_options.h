@@ -8,6 +8,7 @@
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/label.h"
+#include "controls/owned_handle.h"
 #include "controls/tab_strip.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
@@ -108,7 +109,7 @@ class FrmOptions : public controls::Window {
     OptionsHost& host_;
     Page first_;
     std::vector<Flag> flags_;
-    platform::MenuHandle MnuDrive_;
+    controls::OwnedMenu MnuDrive_;
     std::vector<std::string> driveLetters_;
     bool StartupActionChanged_ = false;
     /// True while the dialog itself fills its boxes, which is no typing.

@@ -1,13 +1,13 @@
-// The drives and what kind each is.
+#include "platform/drives.h"
+
 #include <windows.h>
 
 #include "platform/fault.h"
-#include "platform/files.h"
 
 namespace vistrel::platform {
 
 std::vector<std::string> DriveRoots() {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     // A run of NUL-terminated texts that an empty one ends; the last character is never offered.
     char texts[2048] = {};
     GetLogicalDriveStringsA(sizeof texts - 1, texts);
@@ -17,12 +17,12 @@ std::vector<std::string> DriveRoots() {
 }
 
 DriveKind KindOfDrive(const std::string& root) {
-    if (fault::Strikes()) return DriveKind::Unknown;
+    if (fault::ShouldFail()) return DriveKind::Unknown;
     return static_cast<DriveKind>(GetDriveTypeA(root.c_str()));
 }
 
 std::string VolumeLabel(const std::string& root) {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     char label[MAX_PATH + 1] = {};
     if (!GetVolumeInformationA(root.c_str(), label, sizeof label, nullptr, nullptr, nullptr,
                                nullptr, 0))

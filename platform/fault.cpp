@@ -27,7 +27,7 @@ void FailFromOperation(int n) { Start(n, INT_MAX); }
 
 int Counted() { return counted; }
 
-bool Strikes() {
+bool ShouldFail() {
     ++counted;
     return counted >= firstFailing && counted <= lastFailing;
 }

@@ -14,7 +14,7 @@ void FailFromOperation(int n);
 /// How many operations have been asked for since the counting started.
 int Counted();
 
-/// Asked by each wrapper before it calls the system: true when this operation is to fail.
-bool Strikes();
+/// Asked by each wrapper before it calls the system: true when a failure is injected here.
+bool ShouldFail();
 
 }  // namespace vistrel::platform::fault

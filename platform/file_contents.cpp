@@ -1,10 +1,11 @@
-// What a file holds: comparing two, and bringing one safely onto the disk.
+#include "platform/file_contents.h"
+
 #include <windows.h>
 
 #include <cstring>
+#include <vector>
 
 #include "platform/fault.h"
-#include "platform/files.h"
 #include "platform/system_error.h"
 
 namespace vistrel::platform {
@@ -37,14 +38,14 @@ bool ReadBlock(const OpenFileHandle& file, std::vector<char>& block, DWORD& got)
 }  // namespace
 
 bool FlushToDisk(const std::string& path, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     const OpenFileHandle file(path, GENERIC_WRITE);
     if (!file.IsOpen()) return Failed(error, GetLastError());
     return Report(FlushFileBuffers(file.Get()), error);
 }
 
 bool SameContents(const std::string& path, const std::string& other) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     const OpenFileHandle first(path, GENERIC_READ);
     const OpenFileHandle second(other, GENERIC_READ);
     if (!first.IsOpen() || !second.IsOpen()) return false;

@@ -67,7 +67,7 @@ void FailOnDrivesNotReady() { SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFI
 
 bool ForEachEntry(const std::string& pattern, const std::function<bool(const FolderEntry&)>& visit,
                   Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     WIN32_FIND_DATAA found;
     const SearchHandle search(FindFirstFileA(pattern.c_str(), &found));
     if (!search.IsOpen()) return Failed(error, GetLastError());
@@ -77,7 +77,7 @@ bool ForEachEntry(const std::string& pattern, const std::function<bool(const Fol
 }
 
 std::optional<std::uint32_t> FileAttributes(const std::string& path) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     const DWORD attributes = GetFileAttributesA(WithoutFinalBackslash(path).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
     return attributes;
@@ -89,7 +89,7 @@ bool IsFolder(const std::string& path) {
 }
 
 bool SetAttributes(const std::string& path, std::uint32_t attributes, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     // Read-only comes last: Wine changes no other attribute of a file that is read-only already.
     const std::uint32_t others = attributes & ~kReadOnlyFile;
     const BOOL set = SetFileAttributesA(path.c_str(), others ? others : FILE_ATTRIBUTE_NORMAL);
@@ -98,12 +98,12 @@ bool SetAttributes(const std::string& path, std::uint32_t attributes, Error* err
 }
 
 bool CopyOver(const std::string& from, const std::string& to, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     return Report(CopyFileA(from.c_str(), to.c_str(), FALSE), error);
 }
 
 bool Remove(const std::string& path, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     return Report(DeleteFileA(path.c_str()), error);
 }
 
@@ -125,19 +125,19 @@ bool RemoveMatching(const std::string& pattern, Error* error) {
 }
 
 bool Rename(const std::string& from, const std::string& to, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     const BOOL renamed = MoveFileA(from.c_str(), to.c_str());
     if (renamed && lstrcmpiA(from.c_str(), to.c_str()) == 0 && !IsNamedSo(to)) ChangeCase(from, to);
     return Report(renamed, error);
 }
 
 bool MakeFolder(const std::string& path, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     return Report(CreateDirectoryA(path.c_str(), nullptr), error);
 }
 
 bool RemoveFolder(const std::string& path, Error* error) {
-    if (fault::Strikes()) return Failed(error, kStruckError);
+    if (fault::ShouldFail()) return Failed(error, kInjectedError);
     return Report(RemoveDirectoryA(path.c_str()), error);
 }
 

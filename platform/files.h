@@ -51,40 +51,10 @@ bool Remove(const std::string& path, Error* error = nullptr);
 /// Deletes every file that matches a pattern; sub-folders stay. False when one could not be, or
 /// when nothing matches.
 bool RemoveMatching(const std::string& pattern, Error* error = nullptr);
-/// Makes sure that what was written to a file is on the disk and not only in a cache.
-bool FlushToDisk(const std::string& path, Error* error = nullptr);
-/// True when both files can be read and hold the same bytes.
-bool SameContents(const std::string& path, const std::string& other);
 /// Renames a file or folder. Fails when `to` exists (other than by a change of case only).
 bool Rename(const std::string& from, const std::string& to, Error* error = nullptr);
 bool MakeFolder(const std::string& path, Error* error = nullptr);
 /// Removes an empty folder.
 bool RemoveFolder(const std::string& path, Error* error = nullptr);
-
-/// The folder of the running program, without a trailing backslash unless it is a drive's root.
-std::string ProgramFolder();
-/// GetWindowsDirectoryA with a buffer of 145 characters, cut at the first NUL.
-std::string SystemWindowsDirectory();
-/// GetTempPathA with a buffer of 145 characters, cut at the first NUL.
-std::string SystemTempFolder();
-/// A new empty file in `folder` whose name begins with `prefix`; empty when none can be made.
-std::string MakeTempFile(const std::string& folder, const std::string& prefix);
-/// GetShortPathNameA into a buffer of 255 NULs of which 250 are offered: all 255 characters.
-std::string SystemShortPath(const std::string& path);
-
-/// The drives' roots ("C:\"), in the order of their letters, and the kind of each (GetDriveTypeA).
-std::vector<std::string> DriveRoots();
-enum class DriveKind {
-    Unknown = 0,
-    NoRoot = 1,
-    Removable = 2,
-    Fixed = 3,
-    Remote = 4,
-    CdRom = 5,
-    RamDisk = 6
-};
-DriveKind KindOfDrive(const std::string& root);
-/// The label of a drive's volume; empty when it has none or cannot be read.
-std::string VolumeLabel(const std::string& root);
 
 }  // namespace vistrel::platform

@@ -1,11 +1,11 @@
-// The shell's folder browser.
+#include "platform/folder_dialog.h"
+
 #include <objbase.h>
 #include <shlobj.h>
 #include <windows.h>
 
 #include "platform/characters.h"
 #include "platform/fault.h"
-#include "platform/shell.h"
 
 namespace vistrel::platform {
 
@@ -28,7 +28,7 @@ int CALLBACK SelectStart(HWND browser, UINT message, LPARAM, LPARAM start) {
 }  // namespace
 
 std::string PickFolder(WindowHandle owner, const std::string& prompt, const std::string& start) {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     const std::string startFolder = NameForBrowser(start);
     char displayName[MAX_PATH] = {};
     BROWSEINFOA request = {};

@@ -10,12 +10,12 @@
 namespace vistrel::platform {
 
 GlobalHandle AllocateGlobal(std::size_t bytes) {
-    if (fault::Strikes()) return nullptr;
+    if (fault::ShouldFail()) return nullptr;
     return GlobalAlloc(GMEM_MOVEABLE, bytes);
 }
 
 void* LockGlobal(GlobalHandle block) {
-    if (block == nullptr || fault::Strikes()) return nullptr;
+    if (block == nullptr || fault::ShouldFail()) return nullptr;
     return GlobalLock(block);
 }
 

@@ -9,7 +9,7 @@ namespace vistrel::platform {
 
 bool ShowHelp(WindowHandle owner, const std::string& helpFile, HelpCommand command,
               unsigned long data) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     return WinHelpA(owner, helpFile.c_str(), static_cast<UINT>(command), data) != 0;
 }
 

@@ -6,6 +6,7 @@
 #include <commdlg.h>
 
 #include "platform/fault.h"
+#include "platform/win32.h"
 
 namespace vistrel::platform {
 namespace {
@@ -15,17 +16,12 @@ constexpr int kSmallest = 6;
 constexpr int kLargest = 288;
 constexpr int kPointsPerInch = 72;
 
-int DotsPerInch() {
-    const HDC screen = GetDC(nullptr);
-    const int dots = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dots;
-}
+int DotsPerInch() { return GetDeviceCaps(ScreenContext(), LOGPIXELSY); }
 
 }  // namespace
 
 std::optional<long> PickColor(WindowHandle owner, long start) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     static COLORREF mixed[16] = {};
     CHOOSECOLORA request{};
     request.lStructSize = sizeof request;
@@ -38,7 +34,7 @@ std::optional<long> PickColor(WindowHandle owner, long start) {
 }
 
 std::optional<TextFont> PickFont(WindowHandle owner, const TextFont& start) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     LOGFONTA font{};
     font.lfHeight = -MulDiv(start.tenthsOfPoint, DotsPerInch(), 10 * kPointsPerInch);
     font.lfWeight = start.weight;

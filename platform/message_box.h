@@ -10,17 +10,15 @@ namespace vistrel::platform {
 /// The title of every message box that has none of its own.
 inline constexpr const char* kProgramTitle = "Vistrel";
 
-/// The flags that this program uses: buttons, icon and default button added up.
-inline constexpr unsigned kCriticalOk = 16;
-inline constexpr unsigned kQuestionYesNo = 36;
-inline constexpr unsigned kExclamationOk = 48;
-inline constexpr unsigned kInformationOk = 64;
-inline constexpr unsigned kQuestionYesNoDefaultNo = 292;
+enum class Icon { Exclamation, Critical, Information };
+enum class DefaultAnswer { Yes, No };
 
-enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+/// Tells the user something and waits for OK. `owner` may be null.
+void Tell(WindowHandle owner, const std::string& text, Icon icon = Icon::Exclamation,
+          const std::string& title = kProgramTitle);
 
-/// Shows a message box over `owner` (which may be null) and waits for its answer.
-Answer Ask(WindowHandle owner, const std::string& text, unsigned flags,
-           const std::string& title = kProgramTitle);
+/// Asks the user a question. True for Yes; `preset` is the button that Enter presses.
+bool Confirm(WindowHandle owner, const std::string& question, DefaultAnswer preset,
+             const std::string& title = kProgramTitle);
 
 }  // namespace vistrel::platform

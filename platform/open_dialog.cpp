@@ -10,7 +10,7 @@
 namespace vistrel::platform {
 
 bool RunOpenDialog(OpenDialogRequest& request) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     OPENFILENAMEA record = {};
     // 76 bytes in a 32-bit program: later fields are unknown to Windows 95.
     record.lStructSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof record.lpTemplateName;
@@ -23,7 +23,7 @@ bool RunOpenDialog(OpenDialogRequest& request) {
     record.nMaxFileTitle = static_cast<DWORD>(request.fileTitle.size() + 1);
     record.lpstrInitialDir = request.initialFolder.c_str();
     record.lpstrTitle = request.title.c_str();
-    record.Flags = request.flags;
+    record.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
     return GetOpenFileNameA(&record) != 0;
 }
 

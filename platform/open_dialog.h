@@ -13,14 +13,14 @@ struct OpenDialogRequest {
     std::string filter;  ///< pairs of name and pattern, each ended by a NUL
     std::string title;
     std::string initialFolder;
-    unsigned flags = 0;  ///< OFN_ flags
     /// Buffers of the dialog. Each is offered with one character more than it holds: the NUL that
     /// stands after a text's last character. Both are as the dialog left them.
     std::string file;
     std::string fileTitle;
 };
 
-/// Shows the dialog with the record that Windows 95 knows. True when the user chose a file.
+/// Shows the dialog with the record that Windows 95 knows, without a check box for opening
+/// read-only. True when the user chose a file, which then exists.
 bool RunOpenDialog(OpenDialogRequest& request);
 
 }  // namespace vistrel::platform

@@ -9,14 +9,14 @@ namespace vistrel::platform {
 
 int ReadProfileInt(const std::string& file, const std::string& section, const std::string& key,
                    int otherwise) {
-    if (fault::Strikes()) return otherwise;
+    if (fault::ShouldFail()) return otherwise;
     return static_cast<int>(
         GetPrivateProfileIntA(section.c_str(), key.c_str(), otherwise, file.c_str()));
 }
 
 std::string ReadProfileText(const std::string& file, const std::string& section,
                             const std::string& key) {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     char text[2048] = {};
     GetPrivateProfileStringA(section.c_str(), key.c_str(), "", text, sizeof text, file.c_str());
     return text;
@@ -24,7 +24,7 @@ std::string ReadProfileText(const std::string& file, const std::string& section,
 
 bool WriteProfileText(const std::string& file, const std::string& section, const std::string& key,
                       const std::string& text) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     return WritePrivateProfileStringA(section.c_str(), key.c_str(), text.c_str(), file.c_str()) !=
            0;
 }

@@ -26,7 +26,7 @@ HKEY RootOf(Hive hive) {
 
 bool IsNt() { return (GetVersion() & 0x80000000u) == 0; }
 
-constexpr RegistryStatus kStruckStatus = static_cast<RegistryStatus>(kStruckError);
+constexpr RegistryStatus kInjectedStatus = static_cast<RegistryStatus>(kInjectedError);
 
 }  // namespace
 
@@ -41,13 +41,13 @@ RegistryKey& RegistryKey::operator=(RegistryKey&& other) noexcept {
 
 RegistryStatus RegistryKey::Open(Hive hive, const std::string& path) {
     Close();
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     return RegOpenKeyExA(RootOf(hive), path.c_str(), 0, KEY_ALL_ACCESS, &key_);
 }
 
 RegistryStatus RegistryKey::Create(Hive hive, const std::string& path) {
     Close();
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     DWORD disposition = 0;
     return RegCreateKeyExA(RootOf(hive), path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                            KEY_ALL_ACCESS, nullptr, &key_, &disposition);
@@ -59,9 +59,9 @@ void RegistryKey::Close() {
 
 RegistryStatus RegistryKey::Set(const std::string& name, std::uint32_t type, const void* bytes,
                                 std::uint32_t size) {
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     // Windows 95 finds a text's end by its NUL, whatever the size. NT takes the size, but counts a
-    // NUL that stands right behind the end: there something else follows.
+    // NUL that stands right behind the end, so a byte other than NUL is put there.
     std::vector<BYTE> followed(static_cast<const BYTE*>(bytes),
                                static_cast<const BYTE*>(bytes) + size);
     followed.push_back(IsNt() ? 1 : 0);
@@ -70,7 +70,7 @@ RegistryStatus RegistryKey::Set(const std::string& name, std::uint32_t type, con
 
 RegistryStatus RegistryKey::Measure(const std::string& name, std::uint32_t& type,
                                     std::uint32_t& size) {
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     DWORD foundType = 0;
     DWORD foundSize = 0;
     const LSTATUS status =
@@ -81,7 +81,7 @@ RegistryStatus RegistryKey::Measure(const std::string& name, std::uint32_t& type
 }
 
 RegistryStatus RegistryKey::Read(const std::string& name, void* bytes, std::uint32_t& size) {
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     DWORD readSize = size;
     const LSTATUS status = RegQueryValueExA(key_, name.c_str(), nullptr, nullptr,
                                             static_cast<BYTE*>(bytes), &readSize);
@@ -90,7 +90,7 @@ RegistryStatus RegistryKey::Read(const std::string& name, void* bytes, std::uint
 }
 
 RegistryStatus RegistryKey::Delete(const std::string& name) {
-    if (fault::Strikes()) return kStruckStatus;
+    if (fault::ShouldFail()) return kInjectedStatus;
     return RegDeleteValueA(key_, name.c_str());
 }
 

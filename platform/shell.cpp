@@ -11,15 +11,16 @@ namespace vistrel::platform {
 
 namespace {
 
-/// Runs one operation of the shell on double-NUL-terminated lists.
-bool RunFileOperation(WindowHandle owner, UINT operation, const char* from, const char* to,
-                      unsigned short flags) {
-    if (fault::Strikes()) return false;
+/// Runs one operation of the shell (FO_) with its flags (FOF_). Both lists end in a second NUL: a
+/// string of paths, each with a NUL of its own, has that one behind it.
+bool RunFileOperation(WindowHandle owner, UINT operation, const std::string& from,
+                      const std::string& to, FILEOP_FLAGS flags) {
+    if (fault::ShouldFail()) return false;
     SHFILEOPSTRUCTA request = {};
     request.hwnd = owner;
     request.wFunc = operation;
-    request.pFrom = from;
-    request.pTo = to;
+    request.pFrom = from.c_str();
+    request.pTo = to.empty() ? nullptr : to.c_str();
     request.fFlags = flags;
     return SHFileOperationA(&request) == 0 && !request.fAnyOperationsAborted;
 }
@@ -28,7 +29,7 @@ bool RunFileOperation(WindowHandle owner, UINT operation, const char* from, cons
 
 bool ShellOpen(WindowHandle owner, const std::string& target, const std::string& workingFolder,
                ShowState show) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     const HINSTANCE result = ShellExecuteA(owner, nullptr, target.c_str(), nullptr,
                                            workingFolder.c_str(), static_cast<int>(show));
     // Everything up to 32 is an error number.
@@ -36,7 +37,7 @@ bool ShellOpen(WindowHandle owner, const std::string& target, const std::string&
 }
 
 bool StartProgram(const std::string& commandLine) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
@@ -52,15 +53,14 @@ bool StartProgram(const std::string& commandLine) {
     return true;
 }
 
-bool ShellCopy(WindowHandle owner, const std::string& from, const std::string& to,
-               unsigned short flags) {
-    const std::string fromList = from + '\0';
-    const std::string toList = to + '\0';
-    return RunFileOperation(owner, FO_COPY, fromList.c_str(), toList.c_str(), flags);
+bool ShellCopyOver(WindowHandle owner, const std::string& from, const std::string& toFolder) {
+    return RunFileOperation(owner, FO_COPY, from + '\0', toFolder + '\0', FOF_NOCONFIRMATION);
 }
 
-bool ShellDelete(WindowHandle owner, const std::string& list, unsigned short flags) {
-    return RunFileOperation(owner, FO_DELETE, list.c_str(), nullptr, flags);
+bool ShellDeleteToBin(WindowHandle owner, const std::vector<std::string>& paths) {
+    std::string list;
+    for (const std::string& path : paths) list += path + '\0';
+    return RunFileOperation(owner, FO_DELETE, list, {}, FOF_ALLOWUNDO);
 }
 
 }  // namespace vistrel::platform

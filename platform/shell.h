@@ -1,5 +1,4 @@
-// What the shell does for us: opening, starting, copying and deleting with its own dialogs, and
-// browsing for a folder.
+// What the shell does for us: opening, starting, and copying and deleting with its own dialogs.
 #pragma once
 
 #include <string>
@@ -18,22 +17,11 @@ bool ShellOpen(WindowHandle owner, const std::string& target, const std::string&
 /// Starts a program by its command line, in a normal window. False when it could not be started.
 bool StartProgram(const std::string& commandLine);
 
-/// Copies files and folders with all they hold (FO_COPY) with SHFileOperationA's flags.
-bool ShellCopy(WindowHandle owner, const std::string& from, const std::string& to,
-               unsigned short flags);
-/// Hands paths to the shell's delete operation (FO_DELETE) with SHFileOperationA's flags. `list` is
-/// the double-NUL-terminated list.
-bool ShellDelete(WindowHandle owner, const std::string& list, unsigned short flags);
-
-/// The folder that the user picks in the shell's folder browser, cut at the first NUL; empty when
-/// the user cancels. `start` is selected at first where it exists.
-std::string PickFolder(WindowHandle owner, const std::string& prompt, const std::string& start);
-
-/// Writes a shell link at `linkPath` to `target`. False when it could not be written.
-bool WriteShellLink(const std::string& linkPath, const std::string& target,
-                    const std::string& arguments, const std::string& workingFolder,
-                    const std::string& description);
-/// The file that a shell link opens, whether or not it exists; empty when `linkPath` is no link.
-std::string ShellLinkTarget(const std::string& linkPath);
+/// Copies a file or a folder with all it holds into a folder, over what is there. Where the shell
+/// would ask, yes is the answer; what goes wrong it shows. False when not all was copied.
+bool ShellCopyOver(WindowHandle owner, const std::string& from, const std::string& toFolder);
+/// Moves files and folders, in whose paths wildcards may stand, into the recycle bin, all in one
+/// operation. The shell asks first; false when something was left in its place.
+bool ShellDeleteToBin(WindowHandle owner, const std::vector<std::string>& paths);
 
 }  // namespace vistrel::platform

@@ -1,10 +1,10 @@
-// Writing and reading shell links.
+#include "platform/shell_link.h"
+
 #include <objbase.h>
 #include <shlobj.h>
 #include <windows.h>
 
 #include "platform/fault.h"
-#include "platform/shell.h"
 
 namespace vistrel::platform {
 
@@ -68,7 +68,7 @@ class Link {
 bool WriteShellLink(const std::string& linkPath, const std::string& target,
                     const std::string& arguments, const std::string& workingFolder,
                     const std::string& description) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     Link link;
     if (!link.Open(linkPath) || FAILED(link->SetPath(target.c_str()))) return false;
     link->SetArguments(arguments.c_str());
@@ -78,7 +78,7 @@ bool WriteShellLink(const std::string& linkPath, const std::string& target,
 }
 
 std::string ShellLinkTarget(const std::string& linkPath) {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     Link link;
     char target[MAX_PATH] = {};
     if (!link.Open(linkPath) || !link.Load() ||

@@ -8,6 +8,7 @@
 #include <new>
 
 #include "platform/fault.h"
+#include "platform/win32.h"
 
 namespace vistrel::platform {
 namespace {
@@ -73,20 +74,15 @@ bool Render(IPicture* source, StandardPicture& picture) {
     OLE_XSIZE_HIMETRIC width = 0;
     OLE_YSIZE_HIMETRIC height = 0;
     if (source->get_Width(&width) != S_OK || source->get_Height(&height) != S_OK) return false;
-    const HDC screen = GetDC(nullptr);
+    const ScreenContext screen;
     // A himetric unit is a hundredth of a millimetre, 2,540 of them an inch.
+    const LONG across = MulDiv(width, GetDeviceCaps(screen, LOGPIXELSX), 2540);
+    const LONG down = MulDiv(height, GetDeviceCaps(screen, LOGPIXELSY), 2540);
     BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = MulDiv(width, GetDeviceCaps(screen, LOGPIXELSX), 2540);
-    info.bmiHeader.biHeight = -MulDiv(height, GetDeviceCaps(screen, LOGPIXELSY), 2540);
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 24;
-    const LONG across = info.bmiHeader.biWidth;
-    const LONG down = -info.bmiHeader.biHeight;
+    info.bmiHeader = HeaderFromTop(across, down, 24);
     void* bits = nullptr;
     HBITMAP bitmap = nullptr;
     const HDC memory = CreateCompatibleDC(screen);
-    ReleaseDC(nullptr, screen);
     if (across > 0 && down > 0 && across <= kLargestSide && down <= kLargestSide)
         bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     bool drawn = false;
@@ -108,7 +104,7 @@ bool Render(IPicture* source, StandardPicture& picture) {
 
 bool LoadStandardPicture(const std::string& path, StandardPicture& picture) {
     static const LoadPicture load = FindLoader();
-    if (!load || fault::Strikes()) return false;
+    if (!load || fault::ShouldFail()) return false;
     IStream* stream = StreamOf(path);
     if (!stream) return false;
     IPicture* source = nullptr;

@@ -5,10 +5,10 @@
 
 namespace vistrel::platform {
 
-/// What an operation that a test makes to fail reports: "a device is not functioning".
-inline constexpr unsigned long kStruckError = 31;
+/// What an operation that a test makes fail reports: "a device is not functioning".
+inline constexpr unsigned long kInjectedError = 31;
 
-/// Notes `code` for a caller that cares, and is false: what the failing operation returns.
+/// Stores `code` if `error` is given; returns false, as the failing operation does.
 bool Failed(Error* error, unsigned long code);
 
 /// Turns a system call's own success into ours, with the system's reason if it failed.

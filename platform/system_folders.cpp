@@ -1,9 +1,9 @@
-// Folders and file names that the system gives.
+#include "platform/system_folders.h"
+
 #include <windows.h>
 
 #include "platform/characters.h"
 #include "platform/fault.h"
-#include "platform/files.h"
 
 namespace vistrel::platform {
 
@@ -24,19 +24,19 @@ std::string ProgramFolder() {
 }
 
 std::string SystemWindowsDirectory() {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     char folder[kFolderBuffer] = {};
     return GetWindowsDirectoryA(folder, sizeof folder) < sizeof folder ? folder : "";
 }
 
 std::string SystemTempFolder() {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     char folder[kFolderBuffer] = {};
     return GetTempPathA(sizeof folder, folder) < sizeof folder ? folder : "";
 }
 
 std::string MakeTempFile(const std::string& folder, const std::string& prefix) {
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     char name[MAX_PATH] = {};
     if (!GetTempFileNameA(folder.c_str(), prefix.c_str(), 0, name)) return {};
     return name;
@@ -44,7 +44,7 @@ std::string MakeTempFile(const std::string& folder, const std::string& prefix) {
 
 std::string SystemShortPath(const std::string& path) {
     std::string shortPath(255, '\0');
-    if (!fault::Strikes()) GetShortPathNameA(path.c_str(), shortPath.data(), 250);
+    if (!fault::ShouldFail()) GetShortPathNameA(path.c_str(), shortPath.data(), 250);
     return shortPath;
 }
 

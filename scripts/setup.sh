@@ -26,6 +26,7 @@ test_needs="$win9x_needs"'
 /usr/include/jpeglib.h                  libjpeg-dev
 /usr/include/gif_lib.h                  libgif-dev
 /usr/include/benchmark/benchmark.h      libbenchmark-dev
+clang-format-19|clang-format            clang-format-19
 makensis                                nsis
 zip                                     zip'
 fuzz_needs='
@@ -43,6 +44,10 @@ debootstrap                             debootstrap
 unshare                                 util-linux
 flock                                   util-linux
 git                                     git'
+
+# Where material lies that is not in the tree: more pictures for tests, a second checker of programs.
+# What is not there is not used. A path in the environment begins at the tree's root or is whole.
+shared=${VISTREL_SHARED:-../shared}
 
 # One line a step, with the minutes since the script began.
 say() { printf -- '--- %d:%02d %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*"; }

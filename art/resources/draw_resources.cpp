@@ -1,17 +1,18 @@
 // Draws the icons, pointers and bitmaps of the program's resources into a folder.
 //
-// What it writes, for the resource scripts to name:
-//   vistrel.ico, rotaline.ico, shufflet.ico, mirrorkin.ico   16, 32 and 48 pixels, 16 and 256
-//   colours toolbar.bmp    13 pictures of 16 x 16; this and the three strips below have 16 colours,
-//   with
-//                  RGB(255, 0, 255) where the background shows through
-//   list.bmp, listbig.bmp   2 pictures of 16 x 16 and of 32 x 32
+// What it writes, for the resource scripts to name; the strips have 16 colours, with
+// RGB(255, 0, 255) where the background shows through:
+//   vistrel.ico, rotaline.ico,     16, 32 and 48 pixels, in 16 and in 256 colours
+//   shufflet.ico, mirrorkin.ico
+//   toolbar.bmp    13 pictures of 16 x 16
+//   list.bmp       2 pictures of 16 x 16
 //   browser.bmp    3 pictures of 16 x 16
 //   drives.bmp     5 pictures of 16 x 16
-//   drag.ico, drag.cur      a picture being dragged
-//   mano.cur       the hand over a link
+//   drag.ico       a picture being dragged, 16 colours
+//   mano.cur       the hand over a link, black and white
 //   logoicon.bmp   80 x 72, 256 colours on RGB(192, 192, 192): LR_LOADMAP3DCOLORS fits it to the
-//   dialog splash.bmp     400 x 240, 256 colours
+//                  dialog
+//   splash.bmp     400 x 240, 256 colours
 #include <cstdio>
 #include <string>
 
@@ -54,12 +55,9 @@ int main(int count, char** arguments) {
     WriteProgramIcon(folder + "mirrorkin.ico", MirrorkinIcon);
     WriteBitmap(folder + "toolbar.bmp", PaintVga(ToolbarPictures()), Depth::Vga);
     WriteBitmap(folder + "list.bmp", PaintVga(ListPictures()), Depth::Vga);
-    WriteBitmap(folder + "listbig.bmp", PaintVga(BigListPictures()), Depth::Vga);
     WriteBitmap(folder + "browser.bmp", PaintVga(BrowserPictures()), Depth::Vga);
     WriteBitmap(folder + "drives.bmp", PaintVga(DrivePictures()), Depth::Vga);
-    const IconImage drag{PaintVga(DragPointer()), Depth::Vga};
-    WriteIcon(folder + "drag.ico", {drag});
-    WriteCursor(folder + "drag.cur", drag, 0, 0);
+    WriteIcon(folder + "drag.ico", {{PaintVga(DragPointer()), Depth::Vga}});
     WriteCursor(folder + "mano.cur", {PaintVga(HandPointer()), Depth::Mono}, 4, 0);
     WriteBitmap(folder + "logoicon.bmp", OnDialogGrey(PaintDeep(AboutPicture())), Depth::Indexed);
     WriteBitmap(folder + "splash.bmp", SplashPicture(), Depth::Indexed);

@@ -5,46 +5,107 @@
 namespace vistrel::art {
 namespace {
 
+// clang-format off
+
 // Three screens, one behind the other.
 const Rows kMultiLogo = {
-    "......dddddddddd", "......dCCCCCCCCk", "......dCCCwwCCCk", "...ddddddddddCCk",
-    "...drrrrrrrrkggk", "...drrRRrrrrkggk", "dddddddddddrkggk", "dwwwwwwwwwkrkkkk",
-    "dwkkkkkkkwkrk...", "dwk11YY11wkrk...", "dwk4YYYY4wkkk...", "dwk9YYYY9wk.....",
-    "dwkccccccwk.....", "dwwwwwwwGwk.....", "dkkkkkkkkkk.....", "................",
+    "......dddddddddd",
+    "......dCCCCCCCCk",
+    "......dCCCwwCCCk",
+    "...ddddddddddCCk",
+    "...drrrrrrrrkggk",
+    "...drrRRrrrrkggk",
+    "dddddddddddrkggk",
+    "dwwwwwwwwwkrkkkk",
+    "dwkkkkkkkwkrk...",
+    "dwk11YY11wkrk...",
+    "dwk4YYYY4wkkk...",
+    "dwk9YYYY9wk.....",
+    "dwkccccccwk.....",
+    "dwwwwwwwGwk.....",
+    "dkkkkkkkkkk.....",
+    "................",
 };
 
 const Rows kClosedFolder = {
-    "................", "................", "...ddddd........", "..dwYwYwd.......",
-    ".dwYwYwYwdddddd.", ".dwwwwwwwwwwwwdk", ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk",
-    ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk", ".dwYwYwYwYwYwYdk", ".dwwYwYwYwYwYwdk",
-    ".dwYwYwYwYwYwYdk", ".ddddddddddddddk", "..kkkkkkkkkkkkkk", "................",
+    "................",
+    "................",
+    "...ddddd........",
+    "..dwYwYwd.......",
+    ".dwYwYwYwdddddd.",
+    ".dwwwwwwwwwwwwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".dwwYwYwYwYwYwdk",
+    ".dwYwYwYwYwYwYdk",
+    ".ddddddddddddddk",
+    "..kkkkkkkkkkkkkk",
+    "................",
 };
 
 // A page with the rising sun: a screen file.
 const Rows kScreenFile = {
-    "..ddddddddd.....", "..dwwwwwwwdd....", "..dwwwwwwwdwd...", "..dwwwwwwwdwwd..",
-    "..dwwwwwwwkkkkk.", "..dwkkkkkkkkkwk.", "..dwk1111111kwk.", "..dwk111Y111kwk.",
-    "..dwk44YYY44kwk.", "..dwk9YYYYY9kwk.", "..dwkccccccckwk.", "..dwkkkkkkkkkwk.",
-    "..dwwwwwwwwwwwk.", "..dwwwwwwwwwwwk.", "..dkkkkkkkkkkkk.", "................",
+    "..ddddddddd.....",
+    "..dwwwwwwwdd....",
+    "..dwwwwwwwdwd...",
+    "..dwwwwwwwdwwd..",
+    "..dwwwwwwwkkkkk.",
+    "..dwkkkkkkkkkwk.",
+    "..dwk1111111kwk.",
+    "..dwk111Y111kwk.",
+    "..dwk44YYY44kwk.",
+    "..dwk9YYYYY9kwk.",
+    "..dwkccccccckwk.",
+    "..dwkkkkkkkkkwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dkkkkkkkkkkkk.",
+    "................",
 };
 
 // A page with a landscape: any other picture.
 const Rows kPictureFile = {
-    "..ddddddddd.....", "..dwwwwwwwdd....", "..dwwwwwwwdwd...", "..dwCCCCCCdwwd..",
-    "..dwCCCCCCkkkkk.", "..dwCYYCCCCCCwk.", "..dwCYYCCCCCCwk.", "..dwCCCCCGCCCwk.",
-    "..dwCCCCGgGCCwk.", "..dwCGCGgggGCwk.", "..dwGgGggggggwk.", "..dwgggggggggwk.",
-    "..dwggggggGggwk.", "..dwwwwwwwwwwwk.", "..dkkkkkkkkkkkk.", "................",
+    "..ddddddddd.....",
+    "..dwwwwwwwdd....",
+    "..dwwwwwwwdwd...",
+    "..dwCCCCCCdwwd..",
+    "..dwCCCCCCkkkkk.",
+    "..dwCYYCCCCCCwk.",
+    "..dwCYYCCCCCCwk.",
+    "..dwCCCCCGCCCwk.",
+    "..dwCCCCGgGCCwk.",
+    "..dwCGCGgggGCwk.",
+    "..dwGgGggggggwk.",
+    "..dwgggggggggwk.",
+    "..dwggggggGggwk.",
+    "..dwwwwwwwwwwwk.",
+    "..dkkkkkkkkkkkk.",
+    "................",
 };
 
 // The front of a drive, below whatever goes into it.
 const Rows kDriveCase = {
-    "..dddddddddddddd", ".dwwwwwwwwwwwwdk", "dddddddddddddwsk", "dwwwwwwwwwwwkssk",
-    "dwssssssssssksdk", "dwssssssssssksk.", "dwssssssssssdk..", "dkkkkkkkkkkkk...",
+    "..dddddddddddddd",
+    ".dwwwwwwwwwwwwdk",
+    "dddddddddddddwsk",
+    "dwwwwwwwwwwwkssk",
+    "dwssssssssssksdk",
+    "dwssssssssssksk.",
+    "dwssssssssssdk..",
+    "dkkkkkkkkkkkk...",
 };
 
 const Rows kFloppyDisk = {
-    "...kkkkkkkkk....", "...kBbssssbBk...", "...kBbskksbbk...", "...kBbskksbbk...",
-    "...kBbssssbbk...", "...kBbbbbbbbk...", "...kBwwwwwwbk...",
+    "...kkkkkkkkk....",
+    "...kBbssssbBk...",
+    "...kBbskksbbk...",
+    "...kBbskksbbk...",
+    "...kBbssssbbk...",
+    "...kBbbbbbbbk...",
+    "...kBwwwwwwbk...",
 };
 const Rows kFloppySlot = {
     "kkkkkkkkkk",
@@ -59,21 +120,44 @@ const Rows kHardDiskFront = {
 };
 
 const Rows kCompactDisc = {
-    ".....dddddd.....", "...ddwwwCCCdd...", "..dwwwwwCCCYYd..", ".dwwwwwkkCYYYYd.",
-    ".dwwwwkssksYYYd.", ".dCCCwkssksMMsd.", ".dCCCCskkMMMssd.", "..dCCCYMMMssd...",
+    ".....dddddd.....",
+    "...ddwwwCCCdd...",
+    "..dwwwwwCCCYYd..",
+    ".dwwwwwkkCYYYYd.",
+    ".dwwwwkssksYYYd.",
+    ".dCCCwkssksMMsd.",
+    ".dCCCCskkMMMssd.",
+    "..dCCCYMMMssd...",
 };
 
 const Rows kCable = {
-    "......cCc.......", "......cCc.......", "kkkkkkkkkkkkkkkk",
-    "CCCCCkCCCkCCCCCC", "cccccccccccccccc", "kkkkkkkkkkkkkkkk",
+    "......cCc.......",
+    "......cCc.......",
+    "kkkkkkkkkkkkkkkk",
+    "CCCCCkCCCkCCCCCC",
+    "cccccccccccccccc",
+    "kkkkkkkkkkkkkkkk",
 };
 
 const Rows kMemoryChip = {
-    "................", "................", "...w.w.w.w.w.w..", "...s.s.s.s.s.s..",
-    ".kkkkkkkkkkkkkk.", ".kddddddddddddk.", ".kdkkkkkkkkkkkk.", ".kdkkwkwwkwwkkk.",
-    ".kkkwwwwkwkwkkk.", ".kdkkwkwwkwwkkk.", ".kdkkkkkkkkkkkk.", ".kkkkkkkkkkkkkk.",
-    "...w.w.w.w.w.w..", "...s.s.s.s.s.s..", "................", "................",
+    "................",
+    "................",
+    "...w.w.w.w.w.w..",
+    "...s.s.s.s.s.s..",
+    ".kkkkkkkkkkkkkk.",
+    ".kddddddddddddk.",
+    ".kdkkkkkkkkkkkk.",
+    ".kdkkwkwwkwwkkk.",
+    ".kkkwwwwkwkwkkk.",
+    ".kdkkwkwwkwwkkk.",
+    ".kdkkkkkkkkkkkk.",
+    ".kkkkkkkkkkkkkk.",
+    "...w.w.w.w.w.w..",
+    "...s.s.s.s.s.s..",
+    "................",
+    "................",
 };
+// clang-format on
 
 Grid Drive(const Rows& above, const Rows& front, int top) {
     Grid grid(16, 16);
@@ -98,33 +182,9 @@ Grid NetworkDrive() {
     return grid;
 }
 
-Grid BigMultiLogo() {
-    Grid grid(32, 32);
-    for (int i = 0; i < 2; ++i) {
-        const int x = 13 - 6 * i, y = 1 + 6 * i;
-        grid.Fill(x, y, 19, 15, 'w');
-        grid.Frame(x, y, 19, 15, 'd', 'k');
-        grid.Fill(x + 2, y + 2, 15, 11, i == 0 ? 'C' : 'r');
-        grid.Fill(x + 2, y + 9 - i, 15, 4 + i, i == 0 ? 'g' : 'R');
-        grid.Frame(x + 2, y + 2, 15, 11, 'k', 's');
-    }
-    grid.Fill(17, 4, 5, 1, 'w');
-    grid.Fill(19, 5, 6, 1, 'w');
-    DrawMonitor(grid, 0, 12, 21, 20);
-    return grid;
-}
-
-Grid BigSingleLogo() {
-    Grid grid(32, 32);
-    DrawMonitor(grid, 1, 2, 30, 29);
-    return grid;
-}
-
 }  // namespace
 
 Grid ListPictures() { return Strip({SmallMonitor(), Grid(kMultiLogo)}); }
-
-Grid BigListPictures() { return Strip({BigSingleLogo(), BigMultiLogo()}); }
 
 Grid BrowserPictures() {
     return Strip({Grid(kClosedFolder), Grid(kScreenFile), Grid(kPictureFile)});

@@ -9,9 +9,8 @@ namespace vistrel::art {
 /// Contents, About, Preferences, Tutorial, Bug.
 Grid ToolbarPictures();
 
-/// The list of sets, 16 x 16 and 32 x 32 each: singlelogo, multilogo.
+/// The list of sets, 16 x 16 each: singlelogo, multilogo.
 Grid ListPictures();
-Grid BigListPictures();
 
 /// The editor's list, 16 x 16 each: closed (a folder), sys (a screen file), im (another picture).
 Grid BrowserPictures();
@@ -28,7 +27,7 @@ Grid MirrorkinIcon(int size);
 /// The about box's picture, 80 x 72.
 Grid AboutPicture();
 
-/// 32 x 32: an arrow that carries a picture, its hot spot at 0, 0.
+/// 32 x 32: an arrow that carries a picture.
 Grid DragPointer();
 
 /// 32 x 32 in black and white: the hand over a link, its hot spot at 4, 0.

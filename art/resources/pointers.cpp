@@ -5,18 +5,51 @@
 namespace vistrel::art {
 namespace {
 
+// clang-format off
+
 const Rows kArrow = {
-    "k..........", "kk.........", "kwk........", "kwwk.......", "kwwwk......", "kwwwwk.....",
-    "kwwwwwk....", "kwwwwwwk...", "kwwwwwwwk..", "kwwwwwwwwk.", "kwwwwwkkkkk", "kwwkwwk....",
-    "kwk.kwwk...", "kk..kwwk...", "k....kwwk..", ".....kwwk..", "......kk...",
+    "k..........",
+    "kk.........",
+    "kwk........",
+    "kwwk.......",
+    "kwwwk......",
+    "kwwwwk.....",
+    "kwwwwwk....",
+    "kwwwwwwk...",
+    "kwwwwwwwk..",
+    "kwwwwwwwwk.",
+    "kwwwwwkkkkk",
+    "kwwkwwk....",
+    "kwk.kwwk...",
+    "kk..kwwk...",
+    "k....kwwk..",
+    ".....kwwk..",
+    "......kk...",
 };
 
 const Rows kHand = {
-    "....kk.........", "...kwwk........", "...kwwk........", "...kwwk........", "...kwwk........",
-    "...kwwkkk......", "...kwwkwwkkk...", "...kwwkwwkwwkk.", "kkkkwwkwwkwwkwk", "kwwkwwwwwwwwkwk",
-    "kwwwwwwwwwwwwwk", ".kwwwwwwwwwwwwk", "..kwwwwwwwwwwwk", "..kwwwwwwwwwwwk", "...kwwwwwwwwwk.",
-    "...kwwwwwwwwwk.", "....kwwwwwwwk..", "....kkkkkkkkk..", "....kwkwkwkwk..", "....kkkkkkkkk..",
+    "....kk.........",
+    "...kwwk........",
+    "...kwwk........",
+    "...kwwk........",
+    "...kwwk........",
+    "...kwwkkk......",
+    "...kwwkwwkkk...",
+    "...kwwkwwkwwkk.",
+    "kkkkwwkwwkwwkwk",
+    "kwwkwwwwwwwwkwk",
+    "kwwwwwwwwwwwwwk",
+    ".kwwwwwwwwwwwwk",
+    "..kwwwwwwwwwwwk",
+    "..kwwwwwwwwwwwk",
+    "...kwwwwwwwwwk.",
+    "...kwwwwwwwwwk.",
+    "....kwwwwwwwk..",
+    "....kkkkkkkkk..",
+    "....kwkwkwkwk..",
+    "....kkkkkkkkk..",
 };
+// clang-format on
 
 }  // namespace
 

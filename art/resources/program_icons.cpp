@@ -12,41 +12,105 @@ Grid Monitor(int size) {
     return grid;
 }
 
+// clang-format off
+
 // What each companion adds to the monitor, small and large: the next set in turn, ...
 const Rows kTurnSmall = {
-    "..kkkkk....", ".kGGGGGk...", "kGGkkkGGk..", "kGkkkkGGkk.", "kkkGkGGGGGk", ".kGGGkGGGk.",
-    "kGGGGGkGkkk", ".kkGGkkkkGk", "..kGGkkkGGk", "...kGGGGGk.", "....kkkkk..",
+    "..kkkkk....",
+    ".kGGGGGk...",
+    "kGGkkkGGk..",
+    "kGkkkkGGkk.",
+    "kkkGkGGGGGk",
+    ".kGGGkGGGk.",
+    "kGGGGGkGkkk",
+    ".kkGGkkkkGk",
+    "..kGGkkkGGk",
+    "...kGGGGGk.",
+    "....kkkkk..",
 };
 const Rows kTurnLarge = {
-    "....kkkkkk......", "..kkGGGGGGkk....", ".kGGGGGGGGGGk...", "kGGGGkkkkGGGk...",
-    "kGGGk...kGGGkkk.", "kGGk..kGGGGGGGGk", "kkkkkk.kGGGGGGk.", "...kGGk.kGGGGk..",
-    "..kGGGGk.kGGk...", ".kGGGGGGk.kkkkkk", "kGGGGGGGGk..kGGk", ".kkkGGGk...kGGGk",
-    "...kGGGkkkkGGGGk", "...kGGGGGGGGGGk.", "....kkGGGGGGkk..", "......kkkkkk....",
+    "....kkkkkk......",
+    "..kkGGGGGGkk....",
+    ".kGGGGGGGGGGk...",
+    "kGGGGkkkkGGGk...",
+    "kGGGk...kGGGkkk.",
+    "kGGk..kGGGGGGGGk",
+    "kkkkkk.kGGGGGGk.",
+    "...kGGk.kGGGGk..",
+    "..kGGGGk.kGGk...",
+    ".kGGGGGGk.kkkkkk",
+    "kGGGGGGGGk..kGGk",
+    ".kkkGGGk...kGGGk",
+    "...kGGGkkkkGGGGk",
+    "...kGGGGGGGGGGk.",
+    "....kkGGGGGGkk..",
+    "......kkkkkk....",
 };
 
 // ... a set at random, ...
 const Rows kDieSmall = {
-    ".kkkkkkkk.", "kwwwwwwwsk", "kwkkwwkksk", "kwkkwwkksk", "kwwwwwwwsk",
-    "kwwwwwwwsk", "kwkkwwkksk", "kwkkwwkksk", "kssssssssk", ".kkkkkkkk.",
+    ".kkkkkkkk.",
+    "kwwwwwwwsk",
+    "kwkkwwkksk",
+    "kwkkwwkksk",
+    "kwwwwwwwsk",
+    "kwwwwwwwsk",
+    "kwkkwwkksk",
+    "kwkkwwkksk",
+    "kssssssssk",
+    ".kkkkkkkk.",
 };
 const Rows kDieLarge = {
-    "...kkkkkkkkkkk..", "..kwwwkkwwwwwdk.", ".kwwwwwwwkkwwddk", "ksssssssssssdkdk",
-    "kwwwwwwwwwwsdkdk", "kwkkwwwwkkwsdddk", "kwkkwwwwkkwsdddk", "kwwwwwwwwwwsdddk",
-    "kwwwwkkwwwwsdddk", "kwwwwkkwwwwsdkdk", "kwwwwwwwwwwsdkdk", "kwkkwwwwkkwsddk.",
-    "kwkkwwwwkkwsdk..", "kwwwwwwwwwwsk...", ".kkkkkkkkkkk....", "................",
+    "...kkkkkkkkkkk..",
+    "..kwwwkkwwwwwdk.",
+    ".kwwwwwwwkkwwddk",
+    "ksssssssssssdkdk",
+    "kwwwwwwwwwwsdkdk",
+    "kwkkwwwwkkwsdddk",
+    "kwkkwwwwkkwsdddk",
+    "kwwwwwwwwwwsdddk",
+    "kwwwwkkwwwwsdddk",
+    "kwwwwkkwwwwsdkdk",
+    "kwwwwwwwwwwsdkdk",
+    "kwkkwwwwkkwsddk.",
+    "kwkkwwwwkkwsdk..",
+    "kwwwwwwwwwwsk...",
+    ".kkkkkkkkkkk....",
+    "................",
 };
 
 // ... and the same set everywhere.
 const Rows kMirrorSmall = {
-    "....kk....", "...kCCk...", "..kkCCkk..", ".kBkCCkRk.", "kBBkCCkRRk",
-    "kBBkCCkRRk", ".kBkCCkRk.", "..kkCCkk..", "...kCCk...", "....kk....",
+    "....kk....",
+    "...kCCk...",
+    "..kkCCkk..",
+    ".kBkCCkRk.",
+    "kBBkCCkRRk",
+    "kBBkCCkRRk",
+    ".kBkCCkRk.",
+    "..kkCCkk..",
+    "...kCCk...",
+    "....kk....",
 };
 const Rows kMirrorLarge = {
-    ".......kk.......", "......kwCk......", "......kwCk......", "....kkkwCkkk....",
-    "...kBbkwCkRrk...", "..kBBbkwCkRRrk..", ".kBBBbkwCkRRRrk.", "kBBBBbkwCkRRRRrk",
-    "kBBBBbkwCkRRRRrk", ".kBBBbkwCkRRRrk.", "..kBBbkwCkRRrk..", "...kBbkwCkRrk...",
-    "....kkkwCkkk....", "......kwCk......", "......kwCk......", ".......kk.......",
+    ".......kk.......",
+    "......kwCk......",
+    "......kwCk......",
+    "....kkkwCkkk....",
+    "...kBbkwCkRrk...",
+    "..kBBbkwCkRRrk..",
+    ".kBBBbkwCkRRRrk.",
+    "kBBBBbkwCkRRRRrk",
+    "kBBBBbkwCkRRRRrk",
+    ".kBBBbkwCkRRRrk.",
+    "..kBBbkwCkRRrk..",
+    "...kBbkwCkRrk...",
+    "....kkkwCkkk....",
+    "......kwCk......",
+    "......kwCk......",
+    ".......kk.......",
 };
+// clang-format on
 
 Grid Companion(int size, const Rows& small, const Rows& large) {
     Grid grid = Monitor(size);

@@ -17,6 +17,8 @@ Color Between(Color from, Color to, int part, int whole) {
     return result;
 }
 
+// clang-format off
+
 // A kestrel seen from afar: two wings.
 const Rows kBird = {
     "ww.....ww",
@@ -30,11 +32,24 @@ const Rows kSmallBird = {
 };
 
 const Rows kSmallMonitor = {
-    "ddddddddddddddd.", "dwwwwwwwwwwwwsk.", "dwkkkkkkkkkkwsk.", "dwk11111111swsk.",
-    "dwk33333333swsk.", "dwk444YY444swsk.", "dwk77YYYY77swsk.", "dwk9YYYYYY9swsk.",
-    "dwkccccccccswsk.", "dwkssssssssswsk.", "dwwwwwwwwwwwwsk.", "dsssssssssssGsk.",
-    "dkkkkkkkkkkkkkk.", "....dssssssk....", "..dssssssssssk..", "..kkkkkkkkkkkk..",
+    "ddddddddddddddd.",
+    "dwwwwwwwwwwwwsk.",
+    "dwkkkkkkkkkkwsk.",
+    "dwk11111111swsk.",
+    "dwk33333333swsk.",
+    "dwk444YY444swsk.",
+    "dwk77YYYY77swsk.",
+    "dwk9YYYYYY9swsk.",
+    "dwkccccccccswsk.",
+    "dwkssssssssswsk.",
+    "dwwwwwwwwwwwwsk.",
+    "dsssssssssssGsk.",
+    "dkkkkkkkkkkkkkk.",
+    "....dssssssk....",
+    "..dssssssssssk..",
+    "..kkkkkkkkkkkk..",
 };
+// clang-format on
 
 void DrawSun(Grid& grid, int centerX2, int horizon, int radius2) {
     // Everything is counted in half pixels, so that the disc may be centred between two columns.

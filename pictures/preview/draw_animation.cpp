@@ -1,13 +1,12 @@
 #include "pictures/preview/draw_animation.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <utility>
 
 #include "controls/display_palette.h"
 #include "pictures/screen/indexed_screen.h"
 #include "pictures/whole_file.h"
+#include "platform/win32.h"
 
 namespace vistrel::preview {
 
@@ -83,17 +82,13 @@ void ScreenAnimation::Attach(controls::PictureBox& box) {
 
 void ScreenAnimation::Paint(platform::DeviceContext target) {
     struct {
-        BITMAPINFOHEADER header{};
+        BITMAPINFOHEADER header;
         union {
             RGBQUAD colors[256];
             WORD numbers[256];
         };
     } info;
-    info.header.biSize = sizeof info.header;
-    info.header.biWidth = state_->screen.width;
-    info.header.biHeight = -state_->screen.height;
-    info.header.biPlanes = 1;
-    info.header.biBitCount = 8;
+    info.header = platform::HeaderFromTop(state_->screen.width, state_->screen.height, 8);
     HPALETTE former = nullptr;
     if (state_->palette) {
         former = SelectPalette(target, state_->palette, !state_->box->InActiveWindow());

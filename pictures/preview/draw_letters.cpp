@@ -1,10 +1,10 @@
 #include "pictures/preview/draw_letters.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <new>
+
+#include "platform/win32.h"
 
 namespace vistrel::preview {
 namespace {
@@ -64,14 +64,9 @@ class Drawing {
     /// False without memory.
     bool Draw(const std::string& text, int left, int width, int height) {
         struct {
-            BITMAPINFOHEADER header{};
+            BITMAPINFOHEADER header;
             RGBQUAD colors[2] = {{0, 0, 0, 0}, {255, 255, 255, 0}};
-        } info;
-        info.header.biSize = sizeof info.header;
-        info.header.biWidth = width;
-        info.header.biHeight = -height;
-        info.header.biPlanes = 1;
-        info.header.biBitCount = 1;
+        } info{platform::HeaderFromTop(width, height, 1)};
         void* bits = nullptr;
         bitmap_ = CreateDIBSection(dc_, reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS,
                                    &bits, nullptr, 0);

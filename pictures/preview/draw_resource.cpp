@@ -1,11 +1,10 @@
 #include "pictures/preview/draw_resource.h"
 
-#include <windows.h>
-
 #include <vector>
 
 #include "pictures/preview/draw_rgb.h"
 #include "platform/instance.h"
+#include "platform/win32.h"
 
 namespace vistrel::preview {
 namespace {
@@ -21,18 +20,12 @@ Pixels PixelsOf(HBITMAP bitmap) {
     BITMAP facts{};
     GetObjectA(bitmap, sizeof facts, &facts);
     BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = facts.bmWidth;
-    info.bmiHeader.biHeight = -facts.bmHeight;
-    info.bmiHeader.biPlanes = 1;
     // Four bytes a pixel, so that no row is padded.
-    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader = platform::HeaderFromTop(facts.bmWidth, facts.bmHeight, 32);
     Pixels pixels{static_cast<int>(facts.bmWidth), static_cast<int>(facts.bmHeight), {}};
     std::vector<RGBQUAD> rows(static_cast<std::size_t>(facts.bmWidth) * facts.bmHeight);
-    const HDC screen = GetDC(nullptr);
-    GetDIBits(screen, bitmap, 0, static_cast<UINT>(facts.bmHeight), rows.data(), &info,
-              DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
+    GetDIBits(platform::ScreenContext(), bitmap, 0, static_cast<UINT>(facts.bmHeight), rows.data(),
+              &info, DIB_RGB_COLORS);
     pixels.rgb.reserve(rows.size() * 3);
     for (const RGBQUAD& pixel : rows)
         pixels.rgb.insert(pixels.rgb.end(), {pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue});

@@ -1,28 +1,22 @@
 #include "pictures/preview/draw_rgb.h"
 
-#include <windows.h>
-
 #include <new>
 #include <vector>
 
 #include "controls/display_palette.h"
 #include "pictures/screen/display_dither.h"
+#include "platform/win32.h"
 
 namespace vistrel::preview {
 namespace {
 
 /// Header of a bitmap whose rows come from the top, with room for 256 colours.
 struct BitmapHeader {
-    BITMAPINFOHEADER header{};
+    BITMAPINFOHEADER header;
     RGBQUAD colors[256] = {};
 
-    BitmapHeader(int width, int height, int bits) {
-        header.biSize = sizeof header;
-        header.biWidth = width;
-        header.biHeight = -height;
-        header.biPlanes = 1;
-        header.biBitCount = static_cast<WORD>(bits);
-    }
+    BitmapHeader(int width, int height, int bits)
+        : header(platform::HeaderFromTop(width, height, bits)) {}
     const BITMAPINFO* info() const { return reinterpret_cast<const BITMAPINFO*>(this); }
 };
 

@@ -210,5 +210,12 @@ TEST(SplashScreen, ShowsItsVersionInWhiteInItsLowerRightCorner) {
     EXPECT_TRUE(splash.Unload());
 }
 
+TEST(SplashTest, StaysForSevenTenthsOfASecondHoweverLongTheStartTook) {
+    const double noon = 0.5;
+    const double second = 1.0 / (24 * 60 * 60);
+    EXPECT_EQ(SplashWait(noon, noon), 700);
+    EXPECT_NEAR(SplashWait(noon, noon + 5 * second), 700, 0.1);
+}
+
 }  // namespace
 }  // namespace vistrel

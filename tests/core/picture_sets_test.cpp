@@ -51,7 +51,7 @@ class PictureSetsOf : public Machine {
 
 TEST_F(PictureSetsOf, OnePictureEachAreStartupOnlySetsOfItsName) {
     const Names some = {Picture("sea.bmp"), Picture("hill.bmp")};
-    PictureSets sets(logos, some, PictureSetKind::StartupOnly, compose::FramingKind::Fit);
+    PictureSets sets(logos, some, SetKind::StartupOnly, compose::FramingKind::Fit);
     Run(sets);
     EXPECT_EQ(sets.Made(), (Names{"sea.sls", "hill.sls"}));
     EXPECT_EQ(NamesIn(logos), (Names{"hill.sls", "sea.sls"}));
@@ -63,7 +63,7 @@ TEST_F(PictureSetsOf, OnePictureEachAreStartupOnlySetsOfItsName) {
 TEST_F(PictureSetsOf, ThreePicturesAreCompleteAndTheLastMayLackScreens) {
     const Names some = {Picture("a.bmp"), Picture("b.bmp"), Picture("c.bmp"), Picture("d.bmp"),
                         Picture("e.bmp")};
-    PictureSets sets(logos, some, PictureSetKind::ThreeToComplete, compose::FramingKind::Fill);
+    PictureSets sets(logos, some, SetKind::Complete, compose::FramingKind::Fill);
     Run(sets);
     EXPECT_EQ(sets.Made(), (Names{"a", "d"}));
     EXPECT_TRUE(Contents(logos + "a\\LOGOS.SYS") == ScreenOf(some[2], compose::FramingKind::Fill));
@@ -73,14 +73,13 @@ TEST_F(PictureSetsOf, ThreePicturesAreCompleteAndTheLastMayLackScreens) {
 TEST_F(PictureSetsOf, NamesThatExistGetANumber) {
     MakeFolders(logos + "sea.SLS\\");
     MakeFolders(logos + "sea 2.sls\\");
-    PictureSets sets(logos, {Picture("sea.bmp")}, PictureSetKind::StartupOnly,
-                     compose::FramingKind::Fill);
+    PictureSets sets(logos, {Picture("sea.bmp")}, SetKind::StartupOnly, compose::FramingKind::Fill);
     Run(sets);
     EXPECT_EQ(sets.Made(), Names{"sea 3.sls"});
 }
 
 TEST_F(PictureSetsOf, ACompleteSetIsNeverNamedAsAStartupOnlyOne) {
-    PictureSets sets(logos, {Picture("sea.sls.bmp")}, PictureSetKind::ThreeToComplete,
+    PictureSets sets(logos, {Picture("sea.sls.bmp")}, SetKind::Complete,
                      compose::FramingKind::Fill);
     Run(sets);
     EXPECT_EQ(sets.Made(), Names{"sea"});
@@ -89,7 +88,7 @@ TEST_F(PictureSetsOf, ACompleteSetIsNeverNamedAsAStartupOnlyOne) {
 TEST_F(PictureSetsOf, WhatCannotBeReadIsNamedAndTheNextTakesItsPlace) {
     const Names some = {Picture("a.bmp"), pictures + "none.bmp", Picture("b.bmp"),
                         Picture("c.bmp")};
-    PictureSets sets(logos, some, PictureSetKind::ThreeToComplete, compose::FramingKind::Fill);
+    PictureSets sets(logos, some, SetKind::Complete, compose::FramingKind::Fill);
     Run(sets);
     EXPECT_EQ(sets.Made(), Names{"a"});
     EXPECT_EQ(sets.NotRead(), Names{pictures + "none.bmp"});
@@ -98,7 +97,7 @@ TEST_F(PictureSetsOf, WhatCannotBeReadIsNamedAndTheNextTakesItsPlace) {
 
 TEST_F(PictureSetsOf, StoppedLeaveNoSetUnfinished) {
     PictureSets sets(logos, {Picture("a.bmp"), Picture("b.bmp"), Picture("c.bmp")},
-                     PictureSetKind::ThreeToComplete, compose::FramingKind::Fill);
+                     SetKind::Complete, compose::FramingKind::Fill);
     sets.Next();
     sets.Next();
     EXPECT_EQ(sets.Done(), 2u);
@@ -113,7 +112,7 @@ TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
     for (int failing = 1; failing < 12; ++failing) {
         RemoveTree(logos);
         MakeFolders(logos);
-        PictureSets sets(logos, some, PictureSetKind::StartupOnly, compose::FramingKind::Fill);
+        PictureSets sets(logos, some, SetKind::StartupOnly, compose::FramingKind::Fill);
         fault::FailOperation(failing);
         Run(sets);
         const int counted = fault::Counted();

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "platform/shell.h"
+#include "platform/shell_link.h"
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {

@@ -114,8 +114,7 @@ class Faults : public LogoBrowser {
             }
             EXPECT_TRUE(editor.IsOpen());
         };
-        WithEachOperationFailing(
-            start, [&] { Answering(command); }, check);
+        WithEachOperationFailing(start, [&] { Answering(command); }, check);
     }
 
     static bool MayChange(const std::string& path, const std::vector<std::string>& changeable) {

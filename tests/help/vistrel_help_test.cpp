@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "help/context_numbers.h"
+#include "resources/version.h"
 #include "tests/help/compile.h"
 
 namespace vistrel::help_test {
@@ -68,6 +69,12 @@ std::set<std::uint32_t> NumbersOfTheProgram() {
         for (std::uint32_t number; stream >> number;) numbers.insert(number);
     }
     return numbers;
+}
+
+TEST(VistrelHelp, IsThatOfThisVersion) {
+    const auto source = ReadFile(fs::path(HELP_FOLDER) / "topics" / "00_contents.txt");
+    EXPECT_THAT(*source,
+                testing::HasSubstr("@copyright Help for Vistrel 98, version " VERSION_LONG "\n"));
 }
 
 TEST(VistrelHelp, StartsWithItsContents) {

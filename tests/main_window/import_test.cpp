@@ -169,8 +169,7 @@ TEST_F(Importing, EnablesTheSetCommandsWhereNothingWasSelected) {
 }
 
 TEST_F(Importing, RefusesADropThatIsNoFileList) {
-    Drop(
-        {}, NoQuestion, [&](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); }, false);
+    Drop({}, NoQuestion, [&](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); }, false);
     EXPECT_EQ(effect_, DWORD{DROPEFFECT_NONE});
 }
 

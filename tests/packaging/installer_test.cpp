@@ -7,7 +7,7 @@
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/started_program.h"
 #include "tests/support/user/user.h"
-#include "tests/user/installed_program.h"
+#include "tests/stories/installed_program.h"
 
 namespace vistrel::test {
 namespace {

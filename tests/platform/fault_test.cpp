@@ -12,25 +12,25 @@ using namespace platform;
 namespace {
 
 std::vector<bool> NextFive() {
-    std::vector<bool> strikes;
-    for (int i = 0; i < 5; ++i) strikes.push_back(fault::Strikes());
-    return strikes;
+    std::vector<bool> failing;
+    for (int i = 0; i < 5; ++i) failing.push_back(fault::ShouldFail());
+    return failing;
 }
 
-TEST(FaultTest, StrikesTheChosenOperationOnly) {
+TEST(FaultTest, FailsTheChosenOperationOnly) {
     fault::FailOperation(3);
     EXPECT_EQ(NextFive(), (std::vector<bool>{false, false, true, false, false}));
     EXPECT_EQ(fault::Counted(), 5);
     fault::Reset();
 }
 
-TEST(FaultTest, StrikesEverythingFromAnOperationOn) {
+TEST(FaultTest, FailsEverythingFromAnOperationOn) {
     fault::FailFromOperation(3);
     EXPECT_EQ(NextFive(), (std::vector<bool>{false, false, true, true, true}));
     fault::Reset();
 }
 
-TEST(FaultTest, ResetCountsFromZeroAndStrikesNothing) {
+TEST(FaultTest, ResetCountsFromZeroAndFailsNothing) {
     fault::FailFromOperation(1);
     NextFive();
     fault::Reset();

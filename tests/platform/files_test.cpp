@@ -5,7 +5,10 @@
 
 #include <algorithm>
 
+#include "platform/drives.h"
 #include "platform/fault.h"
+#include "platform/file_contents.h"
+#include "platform/system_folders.h"
 #include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
@@ -183,7 +186,7 @@ TEST_F(Machine, FlushingNeedsAFileThatCanBeWritten) {
     EXPECT_EQ(error.code, static_cast<unsigned long>(ERROR_ACCESS_DENIED));
 }
 
-TEST_F(Machine, EveryFileOperationFailsWhenItIsStruckAndDoesNothing) {
+TEST_F(Machine, EveryFileOperationFailsWhenAFailureIsInjectedAndDoesNothing) {
     Put(logos + "a", "x");
     MakeFolders(logos + "empty\\");
     const std::vector<std::function<bool(Error*)>> operations = {
@@ -196,8 +199,7 @@ TEST_F(Machine, EveryFileOperationFailsWhenItIsStruckAndDoesNothing) {
         [&](Error* e) { return RemoveFolder(logos + "empty", e); },
         [&](Error* e) { return FlushToDisk(logos + "a", e); },
         [&](Error* e) {
-            return ForEachEntry(
-                logos + "*", [](const FolderEntry&) { return true; }, e);
+            return ForEachEntry(logos + "*", [](const FolderEntry&) { return true; }, e);
         },
     };
     for (std::size_t i = 0; i < operations.size(); ++i) {

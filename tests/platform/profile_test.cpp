@@ -38,7 +38,7 @@ TEST_F(ProfileTest, AReadOnlyFileIsNotWritten) {
     EXPECT_EQ(Contents(file_), "[A]\r\nb=1\r\n");
 }
 
-TEST_F(ProfileTest, StruckOperationsFail) {
+TEST_F(ProfileTest, OperationsFailWhenAFailureIsInjected) {
     Put(file_, "[A]\r\nb=1\r\n");
     fault::FailFromOperation(1);
     EXPECT_EQ(ReadProfileInt(file_, "A", "b", 7), 7);

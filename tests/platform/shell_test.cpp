@@ -9,9 +9,11 @@
 
 #include "platform/fault.h"
 #include "platform/files.h"
+#include "platform/folder_dialog.h"
 #include "platform/message_box.h"
 #include "platform/open_dialog.h"
 #include "platform/running_window.h"
+#include "platform/shell_link.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/user.h"
 
@@ -22,8 +24,6 @@ using namespace platform;
 namespace {
 
 using Names = std::vector<std::string>;
-
-constexpr unsigned kMustExistAndNoReadOnlyBox = 4100;
 
 TEST_F(Machine, StartProgramRunsACommandLine) {
     EXPECT_TRUE(StartProgram("cmd.exe /c echo made>" + logos + "made"));
@@ -40,27 +40,48 @@ TEST_F(Machine, ShellOpenSaysWhenNothingOpens) {
     EXPECT_TRUE(WaitUntil([&] { return !Contents(logos + "made").value_or("").empty(); }));
 }
 
-TEST_F(Machine, ShellCopyBringsAFolderWithAllItHolds) {
+TEST_F(Machine, ShellCopyOverBringsAFolderWithAllItHoldsAndAsksNothing) {
     PutScreens(boot + "Blue\\", "Blue");
     MakeFolders(boot + "Blue\\inside\\");
     Put(boot + "Blue\\inside\\a", "a");
-    EXPECT_TRUE(ShellCopy(nullptr, boot + "Blue", logos, FOF_NOCONFIRMATION));
+    EXPECT_TRUE(ShellCopyOver(nullptr, boot + "Blue", logos));
     EXPECT_EQ(NamesIn(logos + "Blue\\"), (Names{"LOGO.SYS", "LOGOS.SYS", "LOGOW.SYS", "inside"}));
     EXPECT_EQ(Contents(logos + "Blue\\inside\\a"), "a");
     Put(boot + "Blue\\LOGO.SYS", "newer");
-    EXPECT_TRUE(ShellCopy(nullptr, boot + "Blue", logos, FOF_NOCONFIRMATION));
+    EXPECT_TRUE(ShellCopyOver(nullptr, boot + "Blue", logos));
     EXPECT_EQ(Contents(logos + "Blue\\LOGO.SYS"), "newer");
+    fault::FailOperation(1);
+    EXPECT_FALSE(ShellCopyOver(nullptr, boot + "Blue", logos));
 }
 
-TEST_F(Machine, ShellDeleteTakesAListOfPaths) {
-    Put(logos + "a", "");
-    Put(logos + "b", "");
-    Put(logos + "c", "");
-    const std::string list = logos + "a" + '\0' + logos + "b" + '\0';
-    EXPECT_TRUE(ShellDelete(nullptr, list, FOF_NOCONFIRMATION | FOF_SILENT));
+/// Presses a button of the topmost dialog of this process.
+void PressInDialog(int button) {
+    HWND dialog = user::WaitForTop("#32770", "", GetCurrentProcessId());
+    WaitUntil(
+        [&] { return GetDlgItem(dialog, button) && IsWindowEnabled(GetDlgItem(dialog, button)); });
+    PostMessageA(dialog, WM_COMMAND, button, 0);
+    user::WaitUntilGone(dialog);
+}
+
+/// Deletes paths into the bin, and a user answers what the shell asks.
+bool DeleteAndAnswer(const Names& paths, int button) {
+    user::Meanwhile user([=] { PressInDialog(button); });
+    const bool deleted = ShellDeleteToBin(nullptr, paths);
+    user.Finish();
+    return deleted;
+}
+
+TEST_F(Machine, ShellDeleteToBinAsksOnceForAListOfPaths) {
+    for (const char* name : {"a", "b", "c"}) Put(logos + name, "");
+    EXPECT_TRUE(DeleteAndAnswer({logos + "a", logos + "b"}, IDYES));
     EXPECT_EQ(NamesIn(logos), Names{"c"});
+}
+
+TEST_F(Machine, ShellDeleteToBinLeavesWhatTheUserKeeps) {
+    Put(logos + "c", "");
+    EXPECT_FALSE(DeleteAndAnswer({logos + "c"}, IDNO));
     fault::FailOperation(1);
-    EXPECT_FALSE(ShellDelete(nullptr, logos + "c" + '\0', FOF_NOCONFIRMATION | FOF_SILENT));
+    EXPECT_FALSE(ShellDeleteToBin(nullptr, {logos + "c"}));
     EXPECT_EQ(NamesIn(logos), Names{"c"});
 }
 
@@ -111,12 +132,24 @@ TEST_F(Machine, AShellLinkIntoAFolderThatIsGoneIsNotWritten) {
     EXPECT_EQ(NamesIn(startup), Names{});
 }
 
-TEST(MessageBoxTest, ShowsTextTitleAndButtonsAndGivesTheAnswer) {
+/// Asks, and a user answers: what the user saw, and what Confirm gave.
+struct Asked {
     user::Box box;
-    user::Meanwhile user([&] { box = user::AnswerBox(IDNO); });
-    const Answer answer = Ask(nullptr, "Really?", kQuestionYesNo);
+    bool yes;
+};
+
+Asked AskAndAnswer(int button, const std::function<bool()>& ask) {
+    Asked asked;
+    user::Meanwhile user([&] { asked.box = user::AnswerBox(button); });
+    asked.yes = ask();
     user.Finish();
-    EXPECT_EQ(answer, Answer::No);
+    return asked;
+}
+
+TEST(MessageBoxTest, AQuestionShowsTextTitleAndButtonsAndGivesTheAnswer) {
+    const auto [box, yes] =
+        AskAndAnswer(IDNO, [] { return Confirm(nullptr, "Really?", DefaultAnswer::Yes); });
+    EXPECT_FALSE(yes);
     EXPECT_EQ(box.text, "Really?");
     EXPECT_EQ(box.title, "Vistrel");
     EXPECT_EQ(box.icon, static_cast<unsigned>(MB_ICONQUESTION));
@@ -124,23 +157,28 @@ TEST(MessageBoxTest, ShowsTextTitleAndButtonsAndGivesTheAnswer) {
     EXPECT_EQ(box.default_button, IDYES);
 }
 
-TEST(MessageBoxTest, TheDefaultButtonMayBeNo) {
-    user::Box box;
-    user::Meanwhile user([&] { box = user::AnswerBox(IDYES); });
-    const Answer answer = Ask(nullptr, "Really?", kQuestionYesNoDefaultNo, "Title");
-    user.Finish();
-    EXPECT_EQ(answer, Answer::Yes);
+TEST(MessageBoxTest, TheDefaultAnswerMayBeNo) {
+    const auto [box, yes] =
+        AskAndAnswer(IDYES, [] { return Confirm(nullptr, "Really?", DefaultAnswer::No, "Title"); });
+    EXPECT_TRUE(yes);
     EXPECT_EQ(box.title, "Title");
     EXPECT_EQ(box.default_button, IDNO);
 }
 
-/// Presses a button of the topmost dialog of this process.
-void PressInDialog(int button) {
-    HWND dialog = user::WaitForTop("#32770", "", GetCurrentProcessId());
-    WaitUntil(
-        [&] { return GetDlgItem(dialog, button) && IsWindowEnabled(GetDlgItem(dialog, button)); });
-    PostMessageA(dialog, WM_COMMAND, button, 0);
-    user::WaitUntilGone(dialog);
+TEST(MessageBoxTest, WhatIsToldHasAnIconAndOneButton) {
+    const std::pair<Icon, unsigned> icons[] = {{Icon::Exclamation, MB_ICONEXCLAMATION},
+                                               {Icon::Critical, MB_ICONHAND},
+                                               {Icon::Information, MB_ICONASTERISK}};
+    for (const auto& [icon, shown] : icons) {
+        const user::Box box = AskAndAnswer(IDOK, [icon = icon] {
+                                  Tell(nullptr, "It is so.", icon, "Title");
+                                  return true;
+                              }).box;
+        EXPECT_EQ(box.text, "It is so.");
+        EXPECT_EQ(box.title, "Title");
+        EXPECT_EQ(box.icon, shown);
+        EXPECT_EQ(box.buttons, std::vector<int>{IDOK});
+    }
 }
 
 /// The name of the folder that the folder browser has selected.
@@ -184,7 +222,6 @@ OpenDialogRequest RequestFor(const std::string& folder) {
     request.filter = std::string("Applications (*.exe)\0*.exe\0", 27);
     request.title = "Which one?";
     request.initialFolder = folder;
-    request.flags = kMustExistAndNoReadOnlyBox;
     request.file.assign(254, ' ');
     request.fileTitle.assign(254, '\0');
     return request;

@@ -93,9 +93,8 @@ TEST_F(LogoConvertTest, EachFramingIsDone) {
         c.framing.kind = FramingKind::Fit;
         c.framing.border = compose::Border::BlurredEdge;
     });
-    ExpectMakes("--crop 10,-5,200,100", [](Composition& c) {
-        c.crop = compose::Crop{10, -5, 200, 100};
-    });
+    ExpectMakes("--crop 10,-5,200,100",
+                [](Composition& c) { c.crop = compose::Crop{10, -5, 200, 100}; });
 }
 
 TEST_F(LogoConvertTest, EachTurnIsDone) {

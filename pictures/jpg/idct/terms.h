@@ -67,8 +67,7 @@ template <int N, int kOdd, int n>
 constexpr Wrapping HalfSum(const Wrapping* in) {
     return [in]<int... I>(std::integer_sequence<int, I...>) {
         return (Wrapping{0} + ... + (kWeights<N>[2 * I + kOdd][n] * in[2 * I + kOdd]));
-    }
-    (std::make_integer_sequence<int, (N + 1 - kOdd) / 2>{});
+    }(std::make_integer_sequence<int, (N + 1 - kOdd) / 2>{});
 }
 
 template <int N, int n>
@@ -89,8 +88,7 @@ template <int N>
 constexpr void InverseTerms(const Wrapping* in, Wrapping* out) {
     [=]<int... I>(std::integer_sequence<int, I...>) {
         (inverse_terms::SamplePair<N, I>(in, out), ...);
-    }
-    (std::make_integer_sequence<int, (N + 1) / 2>{});
+    }(std::make_integer_sequence<int, (N + 1) / 2>{});
 }
 
 /// The same for all eight terms with fewer multiplications, after C. Loeffler, A. Ligtenberg and

@@ -1,6 +1,6 @@
 // Whether Windows shows a startup screen at all: from the boot configuration file and back.
 #include "resources/ids.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {

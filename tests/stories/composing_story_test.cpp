@@ -6,7 +6,7 @@
 #include "pictures/convert.h"
 #include "pictures/preview/draw_letters.h"
 #include "resources/ids.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 

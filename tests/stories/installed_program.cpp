@@ -1,4 +1,4 @@
-#include "tests/user/installed_program.h"
+#include "tests/stories/installed_program.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

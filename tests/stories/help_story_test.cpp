@@ -3,7 +3,7 @@
 #include "resources/ids.h"
 #include "tests/support/user/help_requests.h"
 #include "tests/support/user/openings.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,7 +1,7 @@
 // How the program comes up.
 #include "resources/ids.h"
 #include "tests/support/user/seen.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {
@@ -24,9 +24,8 @@ TEST_F(Starting, IsInFrontAndActiveWithoutTheSplashScreenToo) {
         EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == main; })) << splash;
         RECT r{};
         GetWindowRect(main, &r);
-        EXPECT_TRUE(WaitUntil([&] {
-            return IsActiveTitleAt({r.left + 200, r.top + 10});
-        })) << splash;
+        EXPECT_TRUE(WaitUntil([&] { return IsActiveTitleAt({r.left + 200, r.top + 10}); }))
+            << splash;
         // Keys reach the list without a click.
         const auto focused = [&] {
             GUITHREADINFO info{};

@@ -1,6 +1,6 @@
 // A second start, and the program closed from outside while something is open in front of it.
 #include "resources/ids.h"
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {

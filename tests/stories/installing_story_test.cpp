@@ -1,7 +1,7 @@
 // From a fresh machine to an installed logo set.
 #include "resources/ids.h"
+#include "tests/stories/running_program.h"
 #include "tests/support/machine/setting_rows.h"
-#include "tests/user/running_program.h"
 
 namespace vistrel::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/user/running_program.h"
+#include "tests/stories/running_program.h"
 
 #include "resources/ids.h"
 

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "tests/support/machine/machine.h"
-#include "tests/user/installed_program.h"
+#include "tests/stories/installed_program.h"
 
 namespace vistrel::test {
 namespace {
