@@ -1,4 +1,3 @@
-// What Rotaline and Shufflet have in common: installing another set without any window.
 #include "companions/change_set.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Brings the wait and shutdown screens of a folder into the Windows directory.
 #include "companions/mirror_screens.h"
 
 #include "companions/replace_screen.h"

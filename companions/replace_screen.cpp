@@ -1,4 +1,3 @@
-// Replaces one installed screen so that a power cut at any moment costs nothing.
 #include "companions/replace_screen.h"
 
 #include "platform/characters.h"

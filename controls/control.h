@@ -24,8 +24,8 @@ class Control {
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    /// Takes over the child window with number `id`; `parent` hears nothing of it any more than it
-    /// would otherwise. False when the parent has no such child.
+    /// Takes over the child window with number `id`. The parent keeps getting its notifications.
+    /// False when the parent has no such child.
     bool Attach(Window& parent, int id);
 
     platform::WindowHandle handle() const { return handle_; }
@@ -35,7 +35,7 @@ class Control {
     void SetText(const std::string& text);
     bool Enabled() const;
     void SetEnabled(bool enabled);
-    /// Whether it would be seen if its window were: the control's own state.
+    /// The control's own visibility, shown window or not.
     bool Visible() const;
     void SetVisible(bool visible);
     void Focus();

@@ -31,7 +31,7 @@ class PictureBox : public Control {
     bool HasPicture() const { return hasPicture_; }
     /// True while the user works in the box's window. On a display with a palette its pictures then
     /// bring in their own colours; those of the program's other windows take what is there. Else
-    /// two windows of different colours would make each other paint anew for ever.
+    /// two windows of different colours would repaint each other endlessly.
     bool InActiveWindow() const;
     /// Paints the drawing area in place of the picture while it is set.
     std::function<void(platform::DeviceContext target)> PaintInstead;

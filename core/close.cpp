@@ -1,4 +1,3 @@
-// What closing the program leaves behind.
 #include "core/close.h"
 
 #include "core/boot_option.h"

@@ -1,4 +1,3 @@
-// Makes a logo set the current one of this machine.
 #include "core/install.h"
 
 #include "core/library.h"

@@ -1,4 +1,3 @@
-// Where the system keeps its boot screens, and where ours lie.
 #include "core/locations.h"
 
 #include "core/generali.h"

@@ -1,4 +1,3 @@
-// Numbers that are kept as text.
 #include "core/number_text.h"
 
 #include <charconv>

@@ -1,4 +1,3 @@
-// Whether the program is running now.
 #include "core/running_instance.h"
 
 #include "platform/running_window.h"

@@ -1,4 +1,3 @@
-// The companion that brings wait and shutdown screens into place at the next start.
 #include "core/synchronizing.h"
 
 #include "core/library.h"

@@ -1,4 +1,3 @@
-// The time of day and waiting.
 #include "platform/clock.h"
 
 #include <windows.h>

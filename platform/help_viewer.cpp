@@ -1,4 +1,3 @@
-// The system's help viewer.
 #include "platform/help_viewer.h"
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// The system's dialogs that choose a colour and a font.
 #include "platform/look_dialogs.h"
 
 #include <windows.h>

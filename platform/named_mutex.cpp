@@ -1,4 +1,3 @@
-// What only one program at a time can have.
 #include "platform/named_mutex.h"
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// The system's open-file dialog.
 #include "platform/open_dialog.h"
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// The mouse pointer of the whole application.
 #include "platform/pointer.h"
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// An open registry key that closes itself.
 #include "platform/registry_key.h"
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// Windows of other programs.
 #include "platform/running_window.h"
 
 #include <windows.h>

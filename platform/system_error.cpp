@@ -1,4 +1,3 @@
-// How the sources of this folder pass on why a call failed.
 #include "platform/system_error.h"
 
 #include <windows.h>

@@ -2,8 +2,8 @@
 """Sums up the last run of ctest in some build folders: "N passed, N failed".
 
 usage: count_tests.py BUILD_FOLDER...
-Counts the single tests of programs that hold many, and one for each other test. Returns 1 when a
-test failed.
+Counts the single tests of programs that hold many, and one for each other test. A test that says
+"Skipped: REASON" counts as neither; what it says is passed on. Returns 1 when a test failed.
 """
 import os
 import re
@@ -14,6 +14,9 @@ def count(log):
     """Passed and failed tests in the text of ctest's LastTest.log."""
     passed = failed = 0
     for block in re.split(r'^\d+/\d+ Testing: ', log, flags=re.M)[1:]:
+        if skipped := re.search(r'^Skipped: .*$', block, re.M):
+            print(re.match(r'.*', block)[0] + ': ' + skipped[0])
+            continue
         good = re.findall(r'^\[  PASSED  \] (\d+) tests?\.$', block, re.M)
         bad = re.findall(r'^\[  FAILED  \] (\d+) tests?, listed below:$', block, re.M)
         block_passed = sum(map(int, good))

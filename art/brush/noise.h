@@ -1,4 +1,4 @@
-// Chance that is the same on every machine and in every run.
+// Deterministic noise: the same on every machine and in every run.
 #pragma once
 
 #include <cmath>

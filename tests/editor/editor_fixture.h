@@ -15,7 +15,7 @@ namespace vistrel::test {
 pictures::RgbPicture TestPicture(int width, int height);
 std::string JpgOf(const pictures::RgbPicture& picture);
 std::string GifOf(const pictures::RgbPicture& picture);
-/// A bitmap of 24 bits a pixel.
+/// A bitmap of 24 bits per pixel.
 std::string BmpOf(const pictures::RgbPicture& picture);
 
 /// MainWindow98's library, and a folder of pictures that the browser shows first.

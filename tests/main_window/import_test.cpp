@@ -190,7 +190,7 @@ TEST_F(Importing, TakesThreeHundredFolders) {
     EXPECT_EQ(Contents(logos + "Set 299\\LOGO.SYS"), "screen of Set 299");
 }
 
-TEST_F(Importing, StandsASetOfTheLibraryDroppedOnIt) {
+TEST_F(Importing, SurvivesDroppingASetOntoItsOwnLibrary) {
     Drop(
         {logos + "Red"}, [](Principale&) { user::AnswerBox(IDYES); },
         [](Principale& main) { EXPECT_EQ(main.MyList.Count(), 3); });

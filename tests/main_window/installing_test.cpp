@@ -128,7 +128,7 @@ TEST_F(Installing, SelectsTheInstalledSetAtTheNextStart) {
     });
 }
 
-TEST_F(Installing, StandsASetThatVanished) {
+TEST_F(Installing, SurvivesASetThatVanished) {
     WithMainWindow([&](Principale& main) {
         main.SelItem("Red");
         RemoveTree(logos + "Red");

@@ -105,7 +105,7 @@ TEST_F(LibraryView, ListsNamesWithBlanksDotsQuotesAndAccents) {
     });
 }
 
-TEST_F(LibraryView, StandsScreensThatAreBroken) {
+TEST_F(LibraryView, SurvivesScreensThatAreBroken) {
     const std::string good = ScreenFile(1, 2, 3);
     std::string huge = good;
     huge.replace(18, 4, std::string("\xff\xff\xff\x7f", 4));
@@ -141,7 +141,7 @@ TEST_F(LibraryView, FillsABoxThatGrewUntilItsScreenIsDrawnAnew) {
     });
 }
 
-TEST_F(LibraryView, StandsAFolderWhereAScreenShouldBe) {
+TEST_F(LibraryView, SurvivesAFolderWhereAScreenShouldBe) {
     DeleteFileA((logos + "Red\\LOGO.SYS").c_str());
     MakeFolders(logos + "Red\\LOGO.SYS\\");
     WithMainWindow([&](Principale& main) {

@@ -40,7 +40,7 @@ TEST_F(Preferences, LeaveTheStartupFolderAloneWhereNoActionIsClicked) {
     EXPECT_EQ(Contents(startup + "Shufflet.lnk"), "mine too");
 }
 
-TEST_F(Preferences, StandAMissingStartupFolder) {
+TEST_F(Preferences, SurviveAMissingStartupFolder) {
     RemoveTree(startup);
     WithDialog([&](FrmOptions& options) {
         user::Click(options.ChkSyncronize.handle());

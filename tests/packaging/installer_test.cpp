@@ -4,10 +4,10 @@
 // The shell's headers need windows.h first.
 #include <shlobj.h>
 
+#include "tests/stories/installed_program.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/started_program.h"
 #include "tests/support/user/user.h"
-#include "tests/stories/installed_program.h"
 
 namespace vistrel::test {
 namespace {

@@ -187,7 +187,7 @@ TEST(QuantizeRgb, LeavesFlatAreasWithoutNoise) {
     EXPECT_EQ(wrong, 0);
 }
 
-TEST(QuantizeRgb, BearsExtremePictures) {
+TEST(QuantizeRgb, HandlesExtremePictures) {
     // Saturated noise in two colours is the farthest that pixels can be from what they should be.
     Numbers numbers(4);
     for (const auto& [width, height] : {std::pair{1, 300}, {300, 1}, {5, 5}, {97, 61}}) {

@@ -1,9 +1,9 @@
 // What a user gets who asks for help: each way to the help file, and to the program's makers.
 #include "help/context_numbers.h"
 #include "resources/ids.h"
+#include "tests/stories/running_program.h"
 #include "tests/support/user/help_requests.h"
 #include "tests/support/user/openings.h"
-#include "tests/stories/running_program.h"
 
 namespace vistrel::test {
 namespace {

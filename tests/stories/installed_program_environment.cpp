@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "tests/support/machine/machine.h"
 #include "tests/stories/installed_program.h"
+#include "tests/support/machine/machine.h"
 
 namespace vistrel::test {
 namespace {

@@ -153,7 +153,7 @@ TEST_F(Story, EndsWellWhenClosedWhileTheSplashScreenIsUp) {
     EXPECT_EQ(Stored("LogoPath"), SavedText(logos));
 }
 
-TEST_F(Story, StandsGarbageInTheRegistry) {
+TEST_F(Story, SurvivesGarbageInTheRegistry) {
     const std::string number = std::string("\x01\x02\x03\x04", 4);
     for (const std::string& name : SettingNames()) Store(name, {REG_BINARY, "\xff\xfe garbage"});
     Store("View", {REG_DWORD, number});
@@ -167,7 +167,7 @@ TEST_F(Story, StandsGarbageInTheRegistry) {
     EXPECT_EQ(Stored("LogoPath"), SavedText(logos));
 }
 
-TEST_F(Story, StandsALogoFolderOnADriveThatIsGone) {
+TEST_F(Story, SurvivesALogoFolderOnADriveThatIsGone) {
     Store("LogoPath", TextValue("Q:\\Logos\\"));
     ASSERT_NE(Start(), nullptr);
     Close();

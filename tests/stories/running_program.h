@@ -10,10 +10,10 @@
 #include <optional>
 #include <string>
 
+#include "tests/stories/installed_program.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/started_program.h"
 #include "tests/support/user/user.h"
-#include "tests/stories/installed_program.h"
 
 namespace vistrel::test {
 

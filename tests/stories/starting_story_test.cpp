@@ -1,7 +1,7 @@
 // How the program comes up.
 #include "resources/ids.h"
-#include "tests/support/user/seen.h"
 #include "tests/stories/running_program.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 namespace {
