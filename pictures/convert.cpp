@@ -49,6 +49,7 @@ PictureFormat FormatOfName(const std::string& path) {
 
 std::optional<PictureSize> SizeOfPicture(PictureFormat format, FileBytes file) {
     if (format == PictureFormat::Jpg) return jpg::SizeOfJpg(file);
+    if (format == PictureFormat::Bmp) return bmp::SizeOfBmp(file);
     const std::unique_ptr<PictureRows> rows = OpenRows(format, file);
     if (!rows) return std::nullopt;
     return PictureSize{rows->width(), rows->height()};

@@ -8,10 +8,6 @@
 
 namespace vistrel::pictures {
 
-/// The size of every screen file, in pixels.
-inline constexpr int kLogoWidth = 320;
-inline constexpr int kLogoHeight = 400;
-
 enum class PictureFormat { Bmp, Gif, Jpg };
 
 /// The format that the last four characters of a name stand for, in any case: ".GIF" and ".JPG";

@@ -12,7 +12,11 @@ namespace vistrel::bmp {
 /// black. `file` must outlive the rows.
 std::unique_ptr<pictures::PictureRows> OpenBmp(pictures::FileBytes file);
 
-/// All of them.
+/// The size of a bitmap file's picture. One that is a finished screen, by its size and its 256
+/// colours, has the pixels of a screen.
+std::optional<pictures::PictureSize> SizeOfBmp(pictures::FileBytes file);
+
+/// All of its pixels.
 std::optional<pictures::RgbPicture> ReadBmp(pictures::FileBytes file);
 
 }  // namespace vistrel::bmp
