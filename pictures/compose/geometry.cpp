@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "pictures/compose/turning.h"
-#include "pictures/convert.h"
 
 namespace vistrel::compose {
 namespace {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "pictures/compose/geometry.h"
+#include "pictures/read_picture.h"
 #include "tests/pictures/compose/reference.h"
 #include "tests/pictures/compose/scene.h"
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "pictures/bmp/writer.h"
+#include "pictures/file.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/user.h"
 
