@@ -1,5 +1,5 @@
-// The picture formats that are read, as one table: whoever wants to know what a name or a file
-// stands for asks it, and a format that has a row here is read everywhere.
+// The picture formats that are read, as one table: what a name or a file stands for is asked here,
+// and a format that has a row is read everywhere.
 #pragma once
 
 #include <array>

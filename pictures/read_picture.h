@@ -1,4 +1,4 @@
-// Picture files by their names: whole, or at the size that somebody needs.
+// Picture files by their names: whole, or at the size that is needed.
 #pragma once
 
 #include <optional>

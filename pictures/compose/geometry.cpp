@@ -117,7 +117,7 @@ Framing MovedBy(const pictures::PictureSize& turned, const Composition& composit
     if (framing.kind != FramingKind::Fill) return framing;
     const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const pictures::PictureArea seen = SourceRectFor(turned, composition);
-    // Whoever drags the picture to the right sees more of its left.
+    // Dragging the picture to the right shows more of its left.
     const auto moved = [](std::int64_t start, std::int64_t length, double by, int screen) {
         return static_cast<double>(start) - by * static_cast<double>(length) / screen;
     };

@@ -20,7 +20,7 @@ void DrawOver(controls::PictureBox& box, const std::uint8_t* rgb, int width, int
     box.Keep();
 }
 
-/// Draws a picture scaled straight to the box: nobody here needs all of it. Its own size; empty
+/// Draws a picture scaled straight to the box: all of it is not needed here. Its own size; empty
 /// when it cannot be read.
 std::optional<controls::Size> DrawScaled(const std::string& path, controls::PictureBox& target) {
     const controls::Size box{target.ScaleWidth(), target.ScaleHeight()};
@@ -60,7 +60,7 @@ bool ShowByReaders(const std::string& path, controls::PictureBox& box) {
 constexpr std::size_t kHeaderBytes = 30;
 
 /// An OS/2 1.x header has its numbers elsewhere: where the file has one, they are taken from there.
-/// Unless they are a screen's: the system could not show such a file, and nobody is to take it for
+/// Unless they are a screen's: the system could not show such a file, and it must not be taken for
 /// a finished screen.
 void ReadOs2Header(const std::string& path, std::int32_t& width, std::int32_t& height,
                    std::int16_t& depth) {

@@ -27,7 +27,7 @@ void DrawPicture(const pictures::RgbPicture& picture, controls::PictureBox& targ
 /// the picture. What cannot be read leaves an empty box.
 void ShowPictureInBox(const std::string& path, controls::PictureBox& box);
 
-/// Reads width, height and bits a pixel from a bitmap file's header (offsets 18, 22 and 28). A
+/// Reads width, height and bits per pixel from a bitmap file's header (offsets 18, 22 and 28). A
 /// missing or short file leaves them as they were.
 void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
                       std::int16_t& depth);

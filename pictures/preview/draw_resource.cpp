@@ -25,7 +25,7 @@ Pixels PixelsOf(HBITMAP bitmap) {
     info.bmiHeader.biWidth = facts.bmWidth;
     info.bmiHeader.biHeight = -facts.bmHeight;
     info.bmiHeader.biPlanes = 1;
-    // Four bytes a pixel, so that no row is padded.
+    // Four bytes per pixel, so that no row is padded.
     info.bmiHeader.biBitCount = 32;
     Pixels pixels{static_cast<int>(facts.bmWidth), static_cast<int>(facts.bmHeight), {}};
     std::vector<RGBQUAD> rows(static_cast<std::size_t>(facts.bmWidth) * facts.bmHeight);

@@ -15,6 +15,7 @@
 namespace vistrel::test {
 
 using namespace bmp;
+using namespace pictures;
 
 namespace {
 

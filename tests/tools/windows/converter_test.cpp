@@ -21,7 +21,7 @@ struct Outcome {
 };
 
 /// Starts the converter, which has no console but a file to write to, and waits for its end.
-Outcome Run(const std::string& arguments) {
+Outcome RunConverter(const std::string& arguments) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     const HANDLE written = CreateFileA("said.txt", GENERIC_WRITE, FILE_SHARE_READ, &inherited,
                                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -56,7 +56,7 @@ std::string RecordedDigest(const std::string& what) {
 
 TEST(Converter, MakesTheVeryScreensOfTheNativeBuild) {
     for (const char* kind : {"baseline", "progressive"}) {
-        const Outcome outcome = Run(std::string(kind) + ".jpg C:\\test\\LOGO.SYS");
+        const Outcome outcome = RunConverter(std::string(kind) + ".jpg C:\\test\\LOGO.SYS");
         EXPECT_EQ(outcome.status, 0u);
         EXPECT_EQ(outcome.text, "");
         const auto screen = ReadWholeFile("LOGO.SYS");
@@ -67,7 +67,7 @@ TEST(Converter, MakesTheVeryScreensOfTheNativeBuild) {
 }
 
 TEST(Converter, TakesItsOptions) {
-    ASSERT_EQ(Run("--fill --turn 90 --gamma 120 baseline.jpg LOGO.SYS").status, 0u);
+    ASSERT_EQ(RunConverter("--fill --turn 90 --gamma 120 baseline.jpg LOGO.SYS").status, 0u);
     compose::Composition composition;
     composition.framing.kind = compose::FramingKind::Fill;
     composition.orientation.quarterTurns = 1;
@@ -79,7 +79,7 @@ TEST(Converter, TakesItsOptions) {
 }
 
 TEST(Converter, ItsHelpFitsAScreenOf80By25Characters) {
-    const Outcome help = Run("--help");
+    const Outcome help = RunConverter("--help");
     EXPECT_EQ(help.status, 0u);
     EXPECT_NE(help.text.find("--fill"), std::string::npos);
     std::istringstream lines(help.text);
@@ -92,10 +92,10 @@ TEST(Converter, ItsHelpFitsAScreenOf80By25Characters) {
 }
 
 TEST(Converter, SaysWhatIsWrongAndEndsWithThatStatus) {
-    const Outcome misused = Run("--turn 45 baseline.jpg LOGO.SYS");
+    const Outcome misused = RunConverter("--turn 45 baseline.jpg LOGO.SYS");
     EXPECT_EQ(misused.status, 2u);
     EXPECT_NE(misused.text.find("--turn wants 0, 90, 180 or 270"), std::string::npos);
-    const Outcome missing = Run("missing.gif LOGO.SYS");
+    const Outcome missing = RunConverter("missing.gif LOGO.SYS");
     EXPECT_EQ(missing.status, 1u);
     EXPECT_NE(missing.text.find("missing.gif: cannot be read"), std::string::npos);
     EXPECT_EQ(ReadWholeFile("LOGO.SYS"), std::nullopt);
