@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/generali.h"
+#include "pictures/formats.h"
 
 namespace vistrel::editor {
 namespace {
@@ -26,11 +27,6 @@ bool IsOutOfSight(const platform::FolderEntry& entry) {
 
 bool IsScreenName(const std::string& name) { return core::UpperEnding(name) == ".SYS"; }
 
-bool IsPictureName(const std::string& name) {
-    const std::string ending = core::UpperEnding(name);
-    return ending == ".SYS" || ending == ".BMP" || ending == ".GIF" || ending == ".JPG";
-}
-
 bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     found = {};
     platform::Error error;
@@ -41,7 +37,7 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
             if (entry.name == "." || (IsOutOfSight(entry) && entry.name != "..")) return true;
             if (entry.IsFolder())
                 found.folders.push_back(entry.name);
-            else if (IsPictureName(entry.name))
+            else if (pictures::IsPictureName(entry.name))
                 found.pictures.push_back(entry.name);
             return true;
         },

@@ -8,8 +8,6 @@
 
 namespace vistrel::editor {
 
-/// True for a name that ends in ".SYS", ".BMP", ".GIF" or ".JPG", in any case.
-bool IsPictureName(const std::string& name);
 /// True for a name that ends in ".SYS".
 bool IsScreenName(const std::string& name);
 

@@ -5,6 +5,7 @@
 #include "core/generali.h"
 #include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
+#include "pictures/formats.h"
 #include "pictures/preview/draw_preview.h"
 #include "platform/message_box.h"
 #include "resources/ids.h"
@@ -74,7 +75,7 @@ std::vector<std::string> SelPictureForm::SelectedPictures() const {
     std::vector<std::string> paths;
     for (const int item : LogoList.SelectedItems()) {
         const std::string name = LogoList.ItemText(item);
-        if (IsPictureName(name) && LogoList.ItemIcon(item) != "closed")
+        if (pictures::IsPictureName(name) && LogoList.ItemIcon(item) != "closed")
             paths.push_back(CurrentFolder + name);
     }
     return paths;

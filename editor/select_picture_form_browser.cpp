@@ -4,6 +4,7 @@
 #include "core/generali.h"
 #include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
+#include "pictures/formats.h"
 #include "pictures/preview/draw_preview.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
@@ -157,7 +158,7 @@ void SelPictureForm::ForgetPicture() {
 
 void SelPictureForm::CheckImage(const std::string& path) {
     IsSysFile = false;
-    if (!IsPictureName(path)) {
+    if (!pictures::IsPictureName(path)) {
         ShowVerdict(kNoPictureColor, kNoLogoSelected);
         // Quirk: buttons that an earlier picture enabled stay enabled; the slots look at the
         // verdict (Browsing.AFileOfNoPictureKindLeavesTheSlotsEnabledButTheyTakeNothing).

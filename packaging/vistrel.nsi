@@ -3,8 +3,10 @@
 ;        -DSIZE=kilobytes -DOUTPUT=file vistrel.nsi
 Unicode false
 !include LogicLib.nsh
+!include Sections.nsh
 !define SETTINGS_KEY "SOFTWARE\Tarnwick\Vistrel"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Vistrel"
+!define CONVERTER "logo-convert.exe"
 !define RUN_KEY "SOFTWARE\Microsoft\Windows\CurrentVersion\Run"
 
 SetCompressor /SOLID lzma
@@ -76,6 +78,7 @@ UninstPage instfiles
     !insertmacro StopIfInUse "Rotaline.exe"
     !insertmacro StopIfInUse "Shufflet.exe"
     !insertmacro StopIfInUse "Mirrorkin.exe"
+    !insertmacro StopIfInUse "${CONVERTER}"
 !macroend
 
 ; $9 becomes the first line of FOLDER's readme.txt; that of ours where there is none. The folder may
@@ -102,6 +105,7 @@ UninstPage instfiles
     Delete "${FOLDER}\Rotaline.exe"
     Delete "${FOLDER}\Shufflet.exe"
     Delete "${FOLDER}\Mirrorkin.exe"
+    Delete "${FOLDER}\${CONVERTER}"
     Delete "${FOLDER}\Mirrorkin.ini"
     Delete "${FOLDER}\Rotaline.lnk"
     Delete "${FOLDER}\Shufflet.lnk"
@@ -128,6 +132,7 @@ Function .onInit
         Abort
     ${EndIf}
     !insertmacro StopWhileRunning
+    Call ChooseWhatIsInstalled
 FunctionEnd
 
 Function un.onInit
@@ -161,6 +166,8 @@ Section "Vistrel"
     File "${FILES}\Rotaline.exe"
     File "${FILES}\Shufflet.exe"
     File "${FILES}\Mirrorkin.exe"
+    ; Who does not choose it any more does not want it.
+    Delete "$INSTDIR\${CONVERTER}"
     !insertmacro ReadFirstLine "$INSTDIR"
     ${If} $9 == "${FIRST_LINE}"
         File "${FILES}\readme.txt"
@@ -197,6 +204,20 @@ Section "Start menu entries"
         CreateShortCut "$SMPROGRAMS\Vistrel\Read me.lnk" "$INSTDIR\readme.txt"
     ${EndIf}
 SectionEnd
+
+; For scripts, and for people who like the command prompt: off, unless it was chosen before.
+Section /o "Command-line converter" SectionConverter
+    SetOutPath "$INSTDIR"
+    File "${FILES}\${CONVERTER}"
+SectionEnd
+
+; A newer version is installed with the parts that the older one has.
+Function ChooseWhatIsInstalled
+    ReadRegStr $1 HKLM "${UNINSTALL_KEY}" "InstallLocation"
+    ${If} ${FileExists} "$1\${CONVERTER}"
+        !insertmacro SelectSection ${SectionConverter}
+    ${EndIf}
+FunctionEnd
 
 !macro RemoveStartupLinksOf FOLDER
     Delete "${FOLDER}\Rotaline.lnk"

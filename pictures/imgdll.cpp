@@ -7,11 +7,13 @@
 
 #include "pictures/bmp/reader.h"
 #include "pictures/bmp/writer.h"
+#include "pictures/file.h"
+#include "pictures/formats.h"
 #include "pictures/gif/reader.h"
 #include "pictures/jpg/reader.h"
+#include "pictures/read_picture.h"
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
-#include "pictures/whole_file.h"
 
 namespace vistrel::pictures {
 
@@ -30,6 +32,16 @@ platform::GlobalHandle BlockOf(const RgbPicture& picture) {
     return block;
 }
 
+/// The same, with the size that the picture has in its file.
+platform::GlobalHandle BlockOf(const RgbPicture& picture, int fileWidth, int fileHeight,
+                               std::int16_t* width, std::int16_t* height) {
+    const platform::GlobalHandle block = BlockOf(picture);
+    if (block == nullptr) return nullptr;
+    *width = static_cast<std::int16_t>(fileWidth);  // readers give no larger ones
+    *height = static_cast<std::int16_t>(fileHeight);
+    return block;
+}
+
 using Reader = std::optional<RgbPicture> (*)(FileBytes file);
 
 std::optional<RgbPicture> ReadFrom(const char* path, Reader read) {
@@ -41,12 +53,7 @@ std::optional<RgbPicture> ReadFrom(const char* path, Reader read) {
 platform::GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
                                      std::int16_t* height) try {
     const std::optional<RgbPicture> picture = ReadFrom(path, read);
-    if (!picture) return nullptr;
-    const platform::GlobalHandle block = BlockOf(*picture);
-    if (block == nullptr) return nullptr;
-    *width = static_cast<std::int16_t>(picture->width);  // readers give no larger ones
-    *height = static_cast<std::int16_t>(picture->height);
-    return block;
+    return picture ? BlockOf(*picture, picture->width, picture->height, width, height) : nullptr;
 } catch (const std::bad_alloc&) {
     return nullptr;
 }
@@ -69,6 +76,20 @@ platform::GlobalHandle ImgDLLReadRGBFromGIF(const char* path, std::int16_t* widt
 platform::GlobalHandle ImgDLLReadRGBFromJPG(const char* path, std::int16_t* width,
                                             std::int16_t* height) {
     return ReadIntoBlock(path, jpg::ReadJpg, width, height);
+}
+
+platform::GlobalHandle ImgDLLReadRGBAtSize(const char* path, int wantedWidth, int wantedHeight,
+                                           ReadingFor purpose, std::int16_t* width,
+                                           std::int16_t* height) try {
+    if (wantedWidth == kOwnSize && wantedHeight == kOwnSize)
+        return ReadIntoBlock(path, FormatOfName(path).read, width, height);
+    const std::optional<ScaledPicture> scaled =
+        purpose == ReadingFor::Looking ? ReadPicturePreview(path, wantedWidth, wantedHeight)
+                                       : ReadPictureScaled(path, wantedWidth, wantedHeight);
+    if (!scaled) return nullptr;
+    return BlockOf(scaled->picture, scaled->fileWidth, scaled->fileHeight, width, height);
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 platform::GlobalHandle ImgDLLResizeRGB(const std::uint8_t* rgb, int width, int height, int newWidth,
@@ -96,9 +117,8 @@ int ImgDLLSaveColormappedToBMP(const char* path, const std::uint8_t* indices, in
         !IsPlausibleSize(width, height) || colors < 2 || colors > 256) {
         return 0;
     }
-    return bmp::WriteWholeFile(path, bmp::ColormappedBmp(indices, width, height, colors, palette))
-               ? 1
-               : 0;
+    return WriteWholeFile(path, bmp::ColormappedBmp(indices, width, height, colors, palette)) ? 1
+                                                                                              : 0;
 } catch (const std::bad_alloc&) {
     return 0;
 }

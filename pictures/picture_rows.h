@@ -1,4 +1,4 @@
-// Pictures that are read row by row, so that no more of them is in memory than somebody needs.
+// Pictures that are read row by row, so that no more of them is in memory than is needed.
 #pragma once
 
 #include <memory>
@@ -16,7 +16,7 @@ class PictureRows {
     int width() const { return width_; }
     int height() const { return height_; }
 
-    /// Writes the next row, from the top, to `rgb`: 3 bytes a pixel. To be called up to height()
+    /// Writes the next row, from the top, to `rgb`: 3 bytes per pixel. To be called up to height()
     /// times.
     virtual void ReadNext(std::uint8_t* rgb) = 0;
 

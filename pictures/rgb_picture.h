@@ -23,9 +23,23 @@ struct ScaledPicture {
     int fileHeight = 0;
 };
 
+/// How wide a pixel is to be seen where it is so high. Squares, unless a file is known to be meant
+/// otherwise.
+struct PixelShape {
+    int width = 1;
+    int height = 1;
+    bool operator==(const PixelShape&) const = default;
+};
+
+/// The size of every screen file, in pixels, and their shape: a screen fills a monitor of 4 to 3.
+inline constexpr int kLogoWidth = 320;
+inline constexpr int kLogoHeight = 400;
+inline constexpr PixelShape kScreenPixel{5, 3};
+
 struct PictureSize {
     int width = 0;
     int height = 0;
+    PixelShape pixel = {};
     bool operator==(const PictureSize&) const = default;
 };
 

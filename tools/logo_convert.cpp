@@ -9,8 +9,9 @@
 #include "pictures/bmp/header.h"
 #include "pictures/bmp/writer.h"
 #include "pictures/compose/stages.h"
-#include "pictures/convert.h"
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
+#include "pictures/formats.h"
+#include "pictures/read_picture.h"
 #include "tools/options.h"
 
 namespace vistrel::tools {
@@ -57,16 +58,9 @@ int Convert(const std::string& source, const std::string& target,
     return Complain(target, "cannot be written");
 }
 
-/// As previews report it: 8 for GIF, 24 for JPG, what the header says for bitmaps.
+/// As previews report it.
 int DepthOf(const std::string& path) {
-    switch (pictures::FormatOfName(path)) {
-        case pictures::PictureFormat::Gif:
-            return 8;
-        case pictures::PictureFormat::Jpg:
-            return 24;
-        case pictures::PictureFormat::Bmp:
-            break;
-    }
+    if (const int depth = pictures::FormatOfName(path).depth) return depth;
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     const std::optional<bmp::BmpHeader> header = file ? bmp::ReadBmpHeader(*file) : std::nullopt;
     return header ? header->bitsPerPixel : 0;
@@ -82,7 +76,9 @@ int PrintInfo(const std::string& source) {
 int WriteRgb(const std::string& source, const std::string& target) {
     const std::optional<pictures::RgbPicture> picture = pictures::ReadPicture(source);
     if (!picture) return Complain(source, kNotRead);
-    return bmp::WriteWholeFile(target, picture->pixels) ? 0 : Complain(target, "cannot be written");
+    return pictures::WriteWholeFile(target, picture->pixels)
+               ? 0
+               : Complain(target, "cannot be written");
 }
 
 int Repeat(int times, const std::string& source, const std::string& target,

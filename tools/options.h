@@ -1,4 +1,4 @@
-// What somebody asks of logo-convert on its command line.
+// What is asked of logo-convert on its command line.
 #pragma once
 
 #include <string>

@@ -7,7 +7,7 @@
 #include "art/files/jpg_writer.h"
 #include "art/files/screen_file.h"
 #include "art/samples/scene.h"
-#include "pictures/bmp/writer.h"
+#include "pictures/file.h"
 
 using namespace vistrel;
 using namespace vistrel::samples;
@@ -44,7 +44,7 @@ const Set kSingleLogo[] = {
 
 void Write(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
     std::filesystem::create_directories(path.parent_path());
-    if (bmp::WriteWholeFile(path.string(), bytes)) return;
+    if (pictures::WriteWholeFile(path.string(), bytes)) return;
     std::fprintf(stderr, "cannot write %s\n", path.string().c_str());
     std::exit(1);
 }

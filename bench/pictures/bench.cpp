@@ -15,6 +15,7 @@
 #include "bench/pictures/processor_time.h"
 #include "bench/pictures/whole_way.h"
 #include "pictures/convert.h"
+#include "pictures/read_picture.h"
 #include "pictures/reduce/quantize.h"
 
 namespace vistrel::bench {

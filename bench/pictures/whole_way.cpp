@@ -12,9 +12,9 @@
 #include "bench/pictures/processor_time.h"
 #include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
+#include "pictures/file.h"
 #include "pictures/jpg/reader.h"
 #include "pictures/scale/resize.h"
-#include "pictures/whole_file.h"
 
 namespace vistrel::bench {
 namespace {
@@ -69,9 +69,9 @@ void ConvertTheirs(const std::string& source, const std::string& target) {
     for (std::size_t i = 0; i < reduced.palette.size(); ++i) {
         for (int c = 0; c < 3; ++c) palette[4 * i + 2 - c] = reduced.palette[i][c];
     }
-    if (!bmp::WriteWholeFile(target,
-                             bmp::ColormappedBmp(reduced.indices.data(), pictures::kLogoWidth,
-                                                 pictures::kLogoHeight, 256, palette.data()))) {
+    if (!pictures::WriteWholeFile(
+            target, bmp::ColormappedBmp(reduced.indices.data(), pictures::kLogoWidth,
+                                        pictures::kLogoHeight, 256, palette.data()))) {
         std::abort();
     }
 }

@@ -12,6 +12,7 @@
 #include "core/locations.h"
 #include "main_window/principale.h"
 #include "pictures/bmp/writer.h"
+#include "pictures/file.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ void WriteScreen(const std::string& path) {
     for (std::size_t i = 0; i < indices.size(); ++i) indices[i] = static_cast<std::uint8_t>(i * 7);
     std::vector<std::uint8_t> palette(1024);
     for (std::size_t i = 0; i < palette.size(); ++i) palette[i] = static_cast<std::uint8_t>(i / 4);
-    vistrel::bmp::WriteWholeFile(
+    vistrel::pictures::WriteWholeFile(
         path, vistrel::bmp::ColormappedBmp(indices.data(), 320, 400, 256, palette.data()));
 }
 

@@ -13,6 +13,16 @@ std::unique_ptr<pictures::PictureRows> OpenBmp(pictures::FileBytes file) {
                                                        : OpenBmpRle(file, *header);
 }
 
+std::optional<pictures::PictureSize> SizeOfBmp(pictures::FileBytes file) {
+    const std::optional<BmpHeader> header = ReadBmpHeader(file);
+    if (!header) return std::nullopt;
+    pictures::PictureSize size{header->width, header->height};
+    const bool isScreen = size.width == pictures::kLogoWidth &&
+                          size.height == pictures::kLogoHeight && header->bitsPerPixel == 8;
+    if (isScreen) size.pixel = pictures::kScreenPixel;
+    return size;
+}
+
 std::optional<pictures::RgbPicture> ReadBmp(pictures::FileBytes file) {
     const std::unique_ptr<pictures::PictureRows> rows = OpenBmp(file);
     if (!rows) return std::nullopt;

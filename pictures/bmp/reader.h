@@ -5,14 +5,18 @@
 
 namespace vistrel::bmp {
 
-/// The rows of a bitmap file: 1, 2, 4, 8, 16, 24 and 32 bits a pixel, RLE4, RLE8, bit fields, OS/2
-/// headers, rows from the bottom or the top. Alpha bits are ignored. Null when the file is no
+/// The rows of a bitmap file: 1, 2, 4, 8, 16, 24 and 32 bits per pixel, RLE4, RLE8, bit fields,
+/// OS/2 headers, rows from the bottom or the top. Alpha bits are ignored. Null when the file is no
 /// bitmap, is damaged beyond use or is of a kind that is not read. Pixels that a run-length-encoded
 /// file skips have the colour of palette entry 0; a palette entry that the file does not have is
 /// black. `file` must outlive the rows.
 std::unique_ptr<pictures::PictureRows> OpenBmp(pictures::FileBytes file);
 
-/// All of them.
+/// The size of a bitmap file's picture. One that is a finished screen, by its size and its 256
+/// colours, has the pixels of a screen.
+std::optional<pictures::PictureSize> SizeOfBmp(pictures::FileBytes file);
+
+/// All of its pixels.
 std::optional<pictures::RgbPicture> ReadBmp(pictures::FileBytes file);
 
 }  // namespace vistrel::bmp

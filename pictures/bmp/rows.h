@@ -8,7 +8,7 @@ namespace vistrel::bmp {
 
 /// The rows of an uncompressed bitmap. Pixels that the file does not have any more are read as if
 /// their bytes were 0. Null when more than nine tenths of the pixels are not in the file: then
-/// nobody would recognise the picture. `file` must outlive the rows.
+/// the picture would not be recognisable. `file` must outlive the rows.
 std::unique_ptr<pictures::PictureRows> OpenBmpRows(pictures::FileBytes file,
                                                    const BmpHeader& header);
 

@@ -1,8 +1,7 @@
-// Writes the 256-colour bitmap that the operating system takes as a startup screen.
+// Makes the 256-colour bitmap that the operating system takes as a startup screen.
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace vistrel::bmp {
@@ -13,10 +12,5 @@ namespace vistrel::bmp {
 /// the colours of a startup screen from the entry of that number on, 0 means a still picture.
 std::vector<std::uint8_t> ColormappedBmp(const std::uint8_t* indices, int width, int height,
                                          int colors, const std::uint8_t* palette);
-
-/// Writes `bytes` to `path`, replacing a file of that name. The bytes go to a temporary name in the
-/// same folder first, so a full disk never leaves half a file under the target's name. False when
-/// the file could not be written; `path` is then as it was.
-bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes);
 
 }  // namespace vistrel::bmp

@@ -6,26 +6,33 @@
 #include <utility>
 
 #include "pictures/compose/turning.h"
-#include "pictures/convert.h"
 
 namespace vistrel::compose {
 namespace {
 
 constexpr std::int64_t kPixel = pictures::PictureArea::kPixel;
 
-// How a screen is shown.
-constexpr int kShownAcross = 4;
-constexpr int kShownDown = 3;
+/// The shape of a screen as it is shown, 4 to 3, in pixels of a picture.
+struct ShownShape {
+    int across = 0;
+    int down = 0;
+};
+
+ShownShape ShownIn(const pictures::PixelShape& pixel) {
+    return {4 * pixel.height, 3 * pixel.width};
+}
 
 /// The largest part of an area that is of the shape of a screen as it is shown, divided by the
 /// zoom.
-pictures::PictureArea SeenSizes(const pictures::PictureArea& area, int zoom) {
+pictures::PictureArea SeenSizes(const pictures::PictureArea& area,
+                                const pictures::PixelShape& pixel, int zoom) {
     const std::int64_t divisor = std::clamp(zoom, kZoomOne, kMostZoom);
+    const auto [across, down] = ShownIn(pixel);
     pictures::PictureArea seen = area;
-    if (area.width * kShownDown >= area.height * kShownAcross)
-        seen.width = area.height * kShownAcross / kShownDown;
+    if (area.width * down >= area.height * across)
+        seen.width = area.height * across / down;
     else
-        seen.height = area.width * kShownDown / kShownAcross;
+        seen.height = area.width * down / across;
     seen.width = std::max<std::int64_t>(seen.width * kZoomOne / divisor, 1);
     seen.height = std::max<std::int64_t>(seen.height * kZoomOne / divisor, 1);
     return seen;
@@ -48,7 +55,8 @@ int CentreOf(std::int64_t whole, std::int64_t length, double start) {
 
 pictures::PictureSize SizeWhenTurned(const pictures::PictureSize& size,
                                      const Orientation& orientation) {
-    return TurningOf(orientation).swapSides ? pictures::PictureSize{size.height, size.width} : size;
+    if (!TurningOf(orientation).swapSides) return size;
+    return {size.height, size.width, {size.pixel.height, size.pixel.width}};
 }
 
 pictures::PictureArea AreaOfCrop(const pictures::PictureSize& turned,
@@ -70,7 +78,7 @@ pictures::PictureArea SourceRectFor(const pictures::PictureSize& turned,
     const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const Framing& framing = composition.framing;
     if (framing.kind != FramingKind::Fill) return area;
-    pictures::PictureArea seen = SeenSizes(area, framing.zoom);
+    pictures::PictureArea seen = SeenSizes(area, turned.pixel, framing.zoom);
     seen.left = area.left + StartOf(area.width, seen.width, framing.centreX);
     seen.top = area.top + StartOf(area.height, seen.height, framing.centreY);
     return seen;
@@ -80,8 +88,9 @@ ScreenRectangle ScreenRectFor(const pictures::PictureSize& turned, const Composi
     ScreenRectangle rectangle{0, 0, pictures::kLogoWidth, pictures::kLogoHeight};
     if (composition.framing.kind != FramingKind::Fit) return rectangle;
     const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
-    const std::int64_t across = area.width * kShownDown;
-    const std::int64_t down = area.height * kShownAcross;
+    const ShownShape shown = ShownIn(turned.pixel);
+    const std::int64_t across = area.width * shown.down;
+    const std::int64_t down = area.height * shown.across;
     // As much of the screen as the shorter side is of the longer one, to the nearest pixel.
     const auto part = [](int screen, std::int64_t shorter, std::int64_t longer) {
         return std::max(static_cast<int>((screen * shorter * 2 + longer) / (longer * 2)), 1);
@@ -108,7 +117,7 @@ Framing MovedBy(const pictures::PictureSize& turned, const Composition& composit
     if (framing.kind != FramingKind::Fill) return framing;
     const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const pictures::PictureArea seen = SourceRectFor(turned, composition);
-    // Whoever drags the picture to the right sees more of its left.
+    // Dragging the picture to the right shows more of its left.
     const auto moved = [](std::int64_t start, std::int64_t length, double by, int screen) {
         return static_cast<double>(start) - by * static_cast<double>(length) / screen;
     };
@@ -128,7 +137,7 @@ Framing ZoomedAt(const pictures::PictureSize& turned, const Composition& composi
     framing.zoom = std::clamp(zoom, kZoomOne, kMostZoom);
     const pictures::PictureArea area = AreaOfCrop(turned, composition.crop);
     const pictures::PictureArea before = SourceRectFor(turned, composition);
-    const pictures::PictureArea after = SeenSizes(area, framing.zoom);
+    const pictures::PictureArea after = SeenSizes(area, turned.pixel, framing.zoom);
     const auto start = [](std::int64_t from, std::int64_t length, std::int64_t newLength,
                           double part) {
         return static_cast<double>(from) + part * static_cast<double>(length - newLength);

@@ -1,7 +1,7 @@
 // Which part of a picture comes to which part of the screen, before any pixel is read.
 //
-// A screen has 320 x 400 pixels and is shown 4:3: a pixel is 5/3 times as wide as it is high. A
-// picture's own pixels are square.
+// A screen has 320 x 400 pixels and is shown 4:3: a pixel is 5/3 times as wide as it is high. The
+// pixels of a picture are square, unless it is a finished screen.
 #pragma once
 
 #include "pictures/compose/composition.h"
@@ -18,7 +18,7 @@ struct ScreenRectangle {
     bool operator==(const ScreenRectangle&) const = default;
 };
 
-/// The size of a picture that is turned.
+/// The size of a picture that is turned, its pixels with it.
 pictures::PictureSize SizeWhenTurned(const pictures::PictureSize& size,
                                      const Orientation& orientation);
 

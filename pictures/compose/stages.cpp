@@ -9,7 +9,8 @@
 #include "pictures/compose/frame.h"
 #include "pictures/compose/light.h"
 #include "pictures/compose/text.h"
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
+#include "pictures/formats.h"
 
 namespace vistrel::compose {
 namespace {
@@ -39,21 +40,21 @@ pictures::PictureSize ReducedSize(const pictures::PictureSize& file) {
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
 std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try {
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    return file ? pictures::SizeOfPicture(pictures::FormatOfName(path), *file) : std::nullopt;
+    return file ? pictures::FormatOfName(path).size(*file) : std::nullopt;
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
 std::optional<Intermediate> ReadComposed(const std::string& path) try {
-    const pictures::PictureFormat format = pictures::FormatOfName(path);
+    const pictures::PictureFormat& format = pictures::FormatOfName(path);
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = pictures::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = format.size(*file);
     if (!size) return std::nullopt;
     const pictures::PictureSize reduced = ReducedSize(*size);
-    std::optional<pictures::RgbPicture> picture = pictures::ReadPartScaled(
-        format, *file, pictures::PictureArea::WholeOf(size->width, size->height), reduced.width,
-        reduced.height);
+    std::optional<pictures::RgbPicture> picture =
+        format.readPart(*file, pictures::PictureArea::WholeOf(size->width, size->height),
+                        reduced.width, reduced.height);
     if (!picture) return std::nullopt;
     picture->pixels.push_back(0);
     return Intermediate{*size, std::move(*picture)};
@@ -62,14 +63,14 @@ std::optional<Intermediate> ReadComposed(const std::string& path) try {
 }
 
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition) try {
-    const pictures::PictureFormat format = pictures::FormatOfName(path);
+    const pictures::PictureFormat& format = pictures::FormatOfName(path);
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = pictures::SizeOfPicture(format, *file);
+    const std::optional<pictures::PictureSize> size = format.size(*file);
     if (!size) return std::nullopt;
     const Placement placement = PlacementOf(*size, composition);
-    const std::optional<pictures::RgbPicture> part = pictures::ReadPartScaled(
-        format, *file, placement.stored, placement.target.width, placement.target.height);
+    const std::optional<pictures::RgbPicture> part =
+        format.readPart(*file, placement.stored, placement.target.width, placement.target.height);
     if (!part) return std::nullopt;
     return PutOnScreen(*part, placement, composition.framing);
 } catch (const std::bad_alloc&) {
@@ -105,8 +106,9 @@ bool Write(const std::string& path, const screen::IndexedScreen& screen) try {
     std::vector<std::uint8_t> entries;
     for (const auto& [red, green, blue] : screen.palette)
         entries.insert(entries.end(), {blue, green, red, 0});
-    return bmp::WriteWholeFile(path, bmp::ColormappedBmp(screen.indices.data(), screen.width,
-                                                         screen.height, kColors, entries.data()));
+    return pictures::WriteWholeFile(
+        path, bmp::ColormappedBmp(screen.indices.data(), screen.width, screen.height, kColors,
+                                  entries.data()));
 } catch (const std::bad_alloc&) {
     return false;
 }

@@ -1,12 +1,16 @@
-// The stages from a picture file to a screen file, so that whoever shows each change at once runs
-// only those behind it.
+// The stages from a picture file to a screen file, so that a window that shows each change at once
+// runs only those behind it.
 //
-//   ReadComposed   file -> Intermediate, once a picture       dear: what a conversion's reading
-//   costs Frame          Intermediate -> Framed                     cheap: while framing or turn is
-//   dragged FrameFinely    the same, by the filter of conversions     some times as dear: when the
-//   hand rests ReadFramed     file -> Framed, as conversions read        dear: the real thing, for
-//   the screen file Adjust         Framed -> 24-bit screen (light, text)      cheap Reduce 24-bit
-//   screen -> 256 colours               dear, half a conversion Write          256 colours -> file
+// clang-format off
+//   stage          from -> to                                what it costs
+//   ReadComposed   file -> Intermediate, once per picture    what a conversion's reading costs
+//   Frame          Intermediate -> Framed                    little: while framing or turn is dragged
+//   FrameFinely    the same, by the filter of conversions    some times as much: when the hand rests
+//   ReadFramed     file -> Framed, as conversions read       much: the real thing, for the screen file
+//   Adjust         Framed -> 24-bit screen: light, text      little
+//   Reduce         24-bit screen -> 256 colours              half a conversion
+//   Write          256 colours -> file                       little
+// clang-format on
 //
 // A window keeps the last result of each stage. While a track bar of the light is dragged only
 // Adjust is run, on the Framed that it has.
@@ -67,7 +71,7 @@ std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
 bool Write(const std::string& path, const screen::IndexedScreen& screen);
 
 /// All of it: a screen file of any picture, by ReadFramed. Unless the result is Written, the target
-/// is as it was. A Composition that nobody has touched gives what TryConvertToLogo gives.
+/// is as it was. An untouched Composition gives what TryConvertToLogo gives.
 pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
                                       const Composition& composition);
 

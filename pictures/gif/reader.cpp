@@ -74,7 +74,7 @@ class GifFile {
                (file_[4] == '7' || file_[4] == '9') && file_[5] == 'a';
     }
 
-    // A file without any palette leaves the colours to whoever shows it.
+    // A file without any palette leaves the colours to the program that shows it.
     void UseGreys() {
         for (int i = 0; i < 256; ++i) globalPalette_[i].fill(static_cast<std::uint8_t>(i));
     }

@@ -12,7 +12,7 @@ struct JpgColorKind {
 };
 
 /// Converts `width` pixels: `rows` has a row of samples for each component; `rgb` takes three bytes
-/// a pixel.
+/// per pixel.
 void ConvertRow(const JpgColorKind& kind, const std::uint8_t* const* rows, int width,
                 std::uint8_t* rgb);
 

@@ -15,9 +15,7 @@ constexpr std::int64_t kLeastPart = 10;
 // ten scans, of which a component takes part in about six.
 constexpr std::int64_t kMostVisits = 32;
 
-bool IsEnough(const ScanOutcome& outcome) {
-    return outcome.unitsRead * kLeastPart >= outcome.units;
-}
+bool IsEnough(const ScanOutcome& outcome) { return outcome.mcusRead * kLeastPart >= outcome.mcus; }
 
 bool HasFirstComponent(const JpgScan& scan) {
     for (const JpgScanPart& part : scan.parts) {
@@ -36,7 +34,7 @@ bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
 }
 
 bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
-                    std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
+                    std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     const JpgFrame& frame = markers.frame();
     std::vector<bool> taken(frame.components.size());
     std::size_t left = taken.size();
@@ -54,7 +52,7 @@ bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
         }
         left -= scan.parts.size();
         const ScanOutcome outcome =
-            ReadSequentialScan(file, frame, scan, markers.tables(), kept, taker);
+            ReadSequentialScan(file, frame, scan, markers.tables(), kept, sink);
         if (HasFirstComponent(scan)) isEnough = IsEnough(outcome);
         if (HasFirstComponent(scan) && !isEnough) return false;
         markers.ContinueAt(outcome.end);
@@ -64,14 +62,14 @@ bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
         const JpgComponent& component = frame.components[i];
         BlockRows zeros(component.paddedAcross, 1, kept[i].stride);
         for (int row = 0; row < component.blocksDown; ++row) {
-            taker.TakeBlockRow(static_cast<int>(i), row, zeros.Block(0, 0));
+            sink.AddBlockRow(static_cast<int>(i), row, zeros.Block(0, 0));
         }
     }
     return isEnough;
 }
 
 bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
-                     std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
+                     std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     const JpgFrame& frame = markers.frame();
     std::vector<ProgressiveComponent> components;
     std::int64_t visitsLeft = static_cast<std::int64_t>(file.size()) * kMostVisits;
@@ -92,14 +90,14 @@ bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
         if (visitsLeft < 0) break;
         const ScanOutcome outcome =
             ReadProgressiveScan(file, frame, scan, markers.tables(), components);
-        if (scan.isDc() && HasFirstComponent(scan)) isEnough = isEnough || IsEnough(outcome);
+        if (scan.IsDc() && HasFirstComponent(scan)) isEnough = isEnough || IsEnough(outcome);
         markers.ContinueAt(outcome.end);
     } while (number < chosen.size() && markers.NextScan());
     for (std::size_t i = 0; i < components.size() && isEnough; ++i) {
         for (int row = 0; row < frame.components[i].blocksDown; ++row) {
-            taker.TakeBlockRow(static_cast<int>(i), row, components[i].Block(0, row));
+            sink.AddBlockRow(static_cast<int>(i), row, components[i].Block(0, row));
         }
-        // The taker may need the memory for what it makes of the next component.
+        // The sink may need the memory for what it makes of the next component.
         components[i].blocks.numbers = {};
         components[i].nonZero = {};
     }
@@ -111,10 +109,10 @@ JpgFrame UpperTenth(JpgFrame frame) {
     const auto tenth = [](int rows) {
         return static_cast<int>((rows + kLeastPart - 1) / kLeastPart);
     };
-    frame.unitsDown = tenth(frame.unitsDown);
+    frame.mcusDown = tenth(frame.mcusDown);
     for (JpgComponent& component : frame.components) {
         component.blocksDown = tenth(component.blocksDown);
-        component.paddedDown = frame.unitsDown * component.down;
+        component.paddedDown = frame.mcusDown * component.down;
     }
     return frame;
 }
@@ -122,9 +120,9 @@ JpgFrame UpperTenth(JpgFrame frame) {
 /// True when what makes a picture enough is there in the upper tenth already, as in all sound files
 /// whose first scan is the first component's.
 bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies> means,
-                      BlockRowTaker& taker) {
+                      BlockRowSink& sink) {
     JpgMarkers markers(file);
-    if (!markers.NextScan() || !HasFirstComponent(markers.scan()) || !markers.scan().isDc() ||
+    if (!markers.NextScan() || !HasFirstComponent(markers.scan()) || !markers.scan().IsDc() ||
         !markers.BuildTables()) {
         return false;
     }
@@ -138,9 +136,9 @@ bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies>
         }
         outcome = ReadProgressiveScan(file, upper, scan, markers.tables(), components);
     } else {
-        outcome = ReadSequentialScan(file, upper, scan, markers.tables(), means, taker);
+        outcome = ReadSequentialScan(file, upper, scan, markers.tables(), means, sink);
     }
-    return outcome.unitsRead == outcome.units;
+    return outcome.mcusRead == outcome.mcus;
 }
 
 }  // namespace
@@ -154,8 +152,8 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
 }
 
 bool HasEnough(pictures::FileBytes file) {
-    struct PassOver : BlockRowTaker {
-        void TakeBlockRow(int, int, const std::int16_t*) override {}
+    struct PassOver : BlockRowSink {
+        void AddBlockRow(int, int, const std::int16_t*) override {}
     } passOver;
     JpgMarkers markers(file);
     if (!markers.NextScan()) return false;
@@ -166,10 +164,10 @@ bool HasEnough(pictures::FileBytes file) {
 }
 
 bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
-                      std::span<const KeptFrequencies> kept, BlockRowTaker& taker) {
+                      std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     if (!CanHoldEnough(file, markers.frame())) return false;
-    return markers.frame().progressive ? ReadProgressive(file, markers, kept, taker)
-                                       : ReadSequential(file, markers, kept, taker);
+    return markers.frame().progressive ? ReadProgressive(file, markers, kept, sink)
+                                       : ReadSequential(file, markers, kept, sink);
 }
 
 }  // namespace vistrel::jpg

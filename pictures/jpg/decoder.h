@@ -1,4 +1,5 @@
-// Brings the coefficients of a JPEG file, of whatever kind it is, row by row to whoever needs them.
+// Brings the coefficients of a JPEG file, of whatever kind it is, row by row to what makes a
+// picture of them.
 #pragma once
 
 #include <span>
@@ -14,10 +15,10 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
 
 /// Reads the scans of the file from the one on at which `markers` stands, and hands over every row
 /// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
-/// which stand for grey. False when the file has not even a tenth of the picture; `taker` has then
+/// which stand for grey. False when the file has not even a tenth of the picture; `sink` has then
 /// had some rows or none.
 bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
-                      std::span<const KeptFrequencies> kept, BlockRowTaker& taker);
+                      std::span<const KeptFrequencies> kept, BlockRowSink& sink);
 
 /// Whether ReadCoefficients would find a tenth of the picture in a file: told without the memory
 /// for all of it.

@@ -9,7 +9,8 @@
 
 namespace vistrel::jpg {
 
-/// The steps of a component's coefficients, in the file's (zigzag) order.
+/// A quantisation table: what each coefficient is multiplied by to dequantize it, in the file's
+/// (zigzag) order.
 using QuantTable = std::array<std::uint16_t, kBlockSize>;
 
 /// One component (luma, a colour difference, an ink) of a frame.
@@ -22,7 +23,7 @@ struct JpgComponent {
     int height = 0;
     int blocksAcross = 0;  ///< blocks that hold them
     int blocksDown = 0;
-    int paddedAcross = 0;  ///< blocks with those that fill up the interleaved units
+    int paddedAcross = 0;  ///< blocks with those that fill up the interleaved MCUs
     int paddedDown = 0;
     bool hasQuant = false;  ///< set by the component's first scan
     QuantTable quant = {};
@@ -35,8 +36,8 @@ struct JpgFrame {
     int height = 0;
     int maxAcross = 1;  ///< largest sampling factors
     int maxDown = 1;
-    int unitsAcross = 0;  ///< interleaved units (MCUs)
-    int unitsDown = 0;
+    int mcusAcross = 0;  ///< interleaved ones: parts of the picture with all components
+    int mcusDown = 0;
     std::vector<JpgComponent> components;  ///< 1, 3 or 4
 };
 
@@ -56,8 +57,8 @@ struct JpgScan {
     int low = 0;                ///< bit position of this scan
     std::size_t dataStart = 0;  ///< where the coded data begin in the file
 
-    bool isDc() const { return first == 0; }
-    bool isRefinement() const { return high != 0; }
+    bool IsDc() const { return first == 0; }
+    bool IsRefinement() const { return high != 0; }
 };
 
 /// How the components make a colour.
@@ -69,7 +70,7 @@ struct JpgTables {
     std::array<bool, 4> hasQuant = {};
     std::array<HuffmanTable, 4> dc;
     std::array<HuffmanTable, 4> ac;
-    int restartInterval = 0;  ///< interleaved units between restart markers, 0 for none
+    int restartInterval = 0;  ///< MCUs between restart markers, 0 for none
 };
 
 }  // namespace vistrel::jpg

@@ -50,7 +50,7 @@ bool JpgMarkers::NextScan() {
         position_ = at + 2;
         if (StandsAlone(marker)) continue;
         if (marker == kStart || marker == kEnd) return false;
-        // A length counts its own two bytes. Segments that nobody needs are passed over even where
+        // A length counts its own two bytes. Segments that are not needed are skipped even where
         // it says less, as other programs do.
         const std::size_t given = static_cast<std::size_t>(Word(file_, position_));
         if (given < 2 && !IsNeedless(marker)) return false;
@@ -107,15 +107,15 @@ bool JpgMarkers::ReadFrame(pictures::FileBytes content) {
 // Works out how many samples and blocks each component has, once the height is known.
 bool JpgMarkers::LayOut() {
     if (!pictures::IsPlausibleSize(frame_.width, frame_.height)) return false;
-    frame_.unitsAcross = DivideUp(frame_.width, 8 * frame_.maxAcross);
-    frame_.unitsDown = DivideUp(frame_.height, 8 * frame_.maxDown);
+    frame_.mcusAcross = DivideUp(frame_.width, 8 * frame_.maxAcross);
+    frame_.mcusDown = DivideUp(frame_.height, 8 * frame_.maxDown);
     for (JpgComponent& component : frame_.components) {
         component.width = DivideUp(frame_.width * component.across, frame_.maxAcross);
         component.height = DivideUp(frame_.height * component.down, frame_.maxDown);
         component.blocksAcross = DivideUp(component.width, 8);
         component.blocksDown = DivideUp(component.height, 8);
-        component.paddedAcross = frame_.unitsAcross * component.across;
-        component.paddedDown = frame_.unitsDown * component.down;
+        component.paddedAcross = frame_.mcusAcross * component.across;
+        component.paddedDown = frame_.mcusDown * component.down;
     }
     return true;
 }
@@ -151,7 +151,7 @@ bool JpgMarkers::ReadScan(pictures::FileBytes content) {
         scan_.high = band[2] >> 4;
         scan_.low = band[2] & 15;
         const bool isBand =
-            scan_.isDc() ? scan_.last == 0
+            scan_.IsDc() ? scan_.last == 0
                          : scan_.last >= scan_.first && scan_.last < kBlockSize && count == 1;
         if (!isBand || scan_.low > 13) return false;
     }
@@ -170,7 +170,7 @@ bool JpgMarkers::BuildTables() {
 // True when `use` is true of every Huffman table that the scan reads by.
 template <class UseTable>
 bool JpgMarkers::ForEachTable(UseTable use) {
-    const bool readsDc = scan_.isDc() && !scan_.isRefinement();
+    const bool readsDc = scan_.IsDc() && !scan_.IsRefinement();
     const bool readsAc = scan_.last > 0;
     for (const JpgScanPart& part : scan_.parts) {
         if (readsDc && !use(tables_->dc[static_cast<std::size_t>(part.dcTable)])) return false;

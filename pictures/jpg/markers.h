@@ -32,8 +32,8 @@ class JpgMarkers {
 
     JpgColor Color() const;
 
-    /// True when the ink values are stored inverted, 255 for none, as one well-known maker of
-    /// programs does, who marks them by a segment of his own.
+    /// True when the ink values are stored inverted, 255 for none, as Adobe's APP14 segment
+    /// announces.
     bool InksAreInverted() const { return adobeTransform_ >= 0; }
 
  private:

@@ -14,12 +14,12 @@ namespace vistrel::jpg {
 namespace {
 
 // Makes a plane of samples of each component.
-class PlaneMaker : public BlockRowTaker {
+class PlaneMaker : public BlockRowSink {
  public:
     explicit PlaneMaker(const JpgFrame& frame)
         : frame_(frame), planes_(frame.components.size()), steps_(frame.components.size()) {}
 
-    void TakeBlockRow(int index, int row, const std::int16_t* blocks) override {
+    void AddBlockRow(int index, int row, const std::int16_t* blocks) override {
         const std::size_t at = static_cast<std::size_t>(index);
         const JpgComponent& component = frame_.components[at];
         SamplePlane& plane = planes_[at];
@@ -27,12 +27,12 @@ class PlaneMaker : public BlockRowTaker {
             plane.stride = component.blocksAcross * 8;
             plane.samples.resize(static_cast<std::size_t>(plane.stride) *
                                  static_cast<std::size_t>(component.blocksDown) * 8);
-            steps_[at] = StepsOf(component.quant);
+            steps_[at] = DequantTableOf(component.quant);
         }
         std::uint8_t* to =
             plane.samples.data() + static_cast<std::ptrdiff_t>(row) * 8 * plane.stride;
         for (int column = 0; column < component.blocksAcross; ++column) {
-            InverseFull(blocks + column * kBlockSize, steps_[at], to + column * 8, plane.stride);
+            IdctFull(blocks + column * kBlockSize, steps_[at], to + column * 8, plane.stride);
         }
     }
 
@@ -41,7 +41,7 @@ class PlaneMaker : public BlockRowTaker {
  private:
     const JpgFrame& frame_;
     std::vector<SamplePlane> planes_;
-    std::vector<BlockSteps> steps_;
+    std::vector<DequantTable> steps_;
 };
 
 pictures::RgbPicture MakePicture(const JpgMarkers& markers,

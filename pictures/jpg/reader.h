@@ -1,4 +1,4 @@
-// Reads JPEG files: whole, or only as far as a small picture of them needs.
+// Reads JPEG files: whole, or no more of them than a small picture needs.
 #pragma once
 
 #include "pictures/rgb_picture.h"

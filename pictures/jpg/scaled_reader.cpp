@@ -90,13 +90,13 @@ SeenAxis AxisOf(std::int64_t from, std::int64_t length, int part, int whole, int
 }
 
 // Scales each component as its rows of blocks come in.
-class ComponentScalers : public BlockRowTaker {
+class ComponentScalers : public BlockRowSink {
  public:
     ComponentScalers(const JpgFrame& frame, std::span<const KeptFrequencies> kept,
                      const pictures::PictureArea& area, Size target)
         : frame_(frame), kept_(kept), area_(area), target_(target), channels_(kept.size()) {}
 
-    void TakeBlockRow(int index, int row, const std::int16_t* blocks) override {
+    void AddBlockRow(int index, int row, const std::int16_t* blocks) override {
         const std::size_t at = static_cast<std::size_t>(index);
         const KeptFrequencies& kept = kept_[at];
         Channel& channel = channels_[at];
@@ -105,9 +105,9 @@ class ComponentScalers : public BlockRowTaker {
         const int end = std::min(channel.endRow - row * kept.down, kept.down);
         if (begin >= end) return;  // nothing of it is seen
         const std::size_t width = static_cast<std::size_t>(channel.blocks * kept.across);
-        channel.inverse->Transform(blocks + std::ptrdiff_t{channel.firstBlock} * kept.stride,
-                                   channel.blocks, channel.rows.data(),
-                                   static_cast<std::ptrdiff_t>(width));
+        channel.idct->Transform(blocks + std::ptrdiff_t{channel.firstBlock} * kept.stride,
+                                channel.blocks, channel.rows.data(),
+                                static_cast<std::ptrdiff_t>(width));
         for (int y = begin; y < end; ++y) {
             channel.scaler->AddRow(channel.rows.data() + static_cast<std::size_t>(y) * width +
                                    channel.firstSample);
@@ -126,7 +126,7 @@ class ComponentScalers : public BlockRowTaker {
 
  private:
     struct Channel {
-        std::unique_ptr<ReducedInverse> inverse;
+        std::unique_ptr<ReducedIdct> idct;
         std::unique_ptr<scale::PlaneScaler> scaler;
         std::vector<std::int16_t> rows;  // of samples, from one row of blocks
         int firstBlock = 0;              // of a row, that is seen
@@ -142,7 +142,7 @@ class ComponentScalers : public BlockRowTaker {
                                        kept.across, target_.width);
         const SeenAxis down = AxisOf(area_.top, area_.height, component.down, frame_.maxDown,
                                      kept.down, target_.height);
-        channel.inverse = std::make_unique<ReducedInverse>(kept, component.quant);
+        channel.idct = std::make_unique<ReducedIdct>(kept, component.quant);
         channel.scaler = std::make_unique<scale::PlaneScaler>(across.axis, down.axis);
         channel.firstBlock = across.first / kept.across;
         channel.firstSample = across.first % kept.across;

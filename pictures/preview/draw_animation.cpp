@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "controls/display_palette.h"
+#include "pictures/file.h"
 #include "pictures/screen/indexed_screen.h"
-#include "pictures/whole_file.h"
 #include "platform/win32.h"
 
 namespace vistrel::preview {

@@ -1,37 +1,39 @@
 #include "pictures/preview/draw_preview.h"
 
-#include <array>
-#include <cstdio>
 #include <optional>
 
 #include "controls/display_palette.h"
-#include "pictures/convert.h"
+#include "pictures/file.h"
+#include "pictures/formats.h"
+#include "pictures/imgdll.h"
 #include "pictures/little_endian.h"
+#include "pictures/locked_block.h"
 #include "pictures/preview/draw_rgb.h"
+#include "pictures/read_picture.h"
 #include "platform/standard_picture.h"
 
 namespace vistrel::preview {
 namespace {
-
-constexpr std::int16_t kGifDepth = 8;
-constexpr std::int16_t kJpgDepth = 24;
 
 void DrawOver(controls::PictureBox& box, const std::uint8_t* rgb, int width, int height) {
     ImgDLLDrawRGB(box.Canvas(), rgb, width, height, 0, 0, box.ScaleWidth(), box.ScaleHeight(), 0);
     box.Keep();
 }
 
-/// Draws a picture scaled straight to the box: nobody here needs all of it. Its own size; empty
+/// Draws a picture scaled straight to the box: all of it is not needed here. Its own size; empty
 /// when it cannot be read.
 std::optional<controls::Size> DrawScaled(const std::string& path, controls::PictureBox& target) {
-    const auto scaled =
-        pictures::ReadPicturePreview(path, target.ScaleWidth(), target.ScaleHeight());
-    if (!scaled) {
+    const controls::Size box{target.ScaleWidth(), target.ScaleHeight()};
+    std::int16_t width = 0;
+    std::int16_t height = 0;
+    const pictures::LockedBlock scaled(pictures::ImgDLLReadRGBAtSize(
+        path.c_str(), box.width, box.height, pictures::ReadingFor::Looking, &width, &height));
+    if (scaled.pixels() == nullptr) {
         target.Clear();
         return std::nullopt;
     }
-    DrawOver(target, scaled->picture.pixels.data(), scaled->picture.width, scaled->picture.height);
-    return controls::Size{scaled->fileWidth, scaled->fileHeight};
+    DrawOver(target, scaled.pixels(), box.width, box.height);
+    return controls::Size{width, height};
 }
 
 bool ShowByLoader(const std::string& path, controls::PictureBox& box) {
@@ -43,32 +45,27 @@ bool ShowByLoader(const std::string& path, controls::PictureBox& box) {
 }
 
 bool ShowByReaders(const std::string& path, controls::PictureBox& box) {
-    const auto picture = pictures::ReadPicture(path);
-    if (!picture) return false;
-    box.SetScaleSize({picture->width, picture->height});
-    DrawOver(box, picture->pixels.data(), picture->width, picture->height);
+    std::int16_t width = 0;
+    std::int16_t height = 0;
+    const pictures::LockedBlock picture(
+        pictures::ImgDLLReadRGBAtSize(path.c_str(), pictures::kOwnSize, pictures::kOwnSize,
+                                      pictures::ReadingFor::Looking, &width, &height));
+    if (picture.pixels() == nullptr) return false;
+    box.SetScaleSize({width, height});
+    DrawOver(box, picture.pixels(), width, height);
     return true;
 }
 
-using HeaderBytes = std::array<std::uint8_t, 30>;
-
-std::optional<HeaderBytes> ReadHeaderBytes(const std::string& path) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (!file) return std::nullopt;
-    HeaderBytes header;
-    const std::size_t size = std::fread(header.data(), 1, header.size(), file);
-    std::fclose(file);
-    if (size < header.size()) return std::nullopt;
-    return header;
-}
+/// As far as the depth is told.
+constexpr std::size_t kHeaderBytes = 30;
 
 /// An OS/2 1.x header has its numbers elsewhere: where the file has one, they are taken from there.
-/// Unless they are a screen's: the system could not show such a file, and nobody is to take it for
+/// Unless they are a screen's: the system could not show such a file, and it must not be taken for
 /// a finished screen.
 void ReadOs2Header(const std::string& path, std::int32_t& width, std::int32_t& height,
                    std::int16_t& depth) {
     constexpr std::uint32_t kOs2HeaderSize = 12;
-    const auto header = ReadHeaderBytes(path);
+    const auto header = pictures::ReadStartOfFile(path, kHeaderBytes);
     if (!header || pictures::DoubleWord(*header, 14) != kOs2HeaderSize) return;
     const std::uint32_t across = pictures::Word(*header, 18);
     const std::uint32_t down = pictures::Word(*header, 20);
@@ -83,7 +80,7 @@ void ReadOs2Header(const std::string& path, std::int32_t& width, std::int32_t& h
 
 void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t& height,
                       std::int16_t& depth) {
-    const auto header = ReadHeaderBytes(path);
+    const auto header = pictures::ReadStartOfFile(path, kHeaderBytes);
     if (!header) return;
     width = static_cast<std::int32_t>(pictures::DoubleWord(*header, 18));
     height = static_cast<std::int32_t>(pictures::DoubleWord(*header, 22));
@@ -93,14 +90,14 @@ void ReadBitmapHeader(const std::string& path, std::int32_t& width, std::int32_t
 void DrawPreview(const std::string& path, controls::PictureBox& target, std::int32_t& width,
                  std::int32_t& height, std::int16_t& depth) {
     const auto size = DrawScaled(path, target);
-    const pictures::PictureFormat format = pictures::FormatOfName(path);
-    if (format == pictures::PictureFormat::Bmp) {
+    const int depthOfFormat = pictures::FormatOfName(path).depth;
+    if (depthOfFormat == 0) {
         // The header tells the size even where the pixels cannot be read.
         ReadBitmapHeader(path, width, height, depth);
         if (size) ReadOs2Header(path, width, height, depth);
         return;
     }
-    depth = format == pictures::PictureFormat::Gif ? kGifDepth : kJpgDepth;
+    depth = static_cast<std::int16_t>(depthOfFormat);
     if (size) {
         width = size->width;
         height = size->height;

@@ -20,7 +20,7 @@ Pixels PixelsOf(HBITMAP bitmap) {
     BITMAP facts{};
     GetObjectA(bitmap, sizeof facts, &facts);
     BITMAPINFO info{};
-    // Four bytes a pixel, so that no row is padded.
+    // Four bytes per pixel, so that no row is padded.
     info.bmiHeader = platform::HeaderFromTop(facts.bmWidth, facts.bmHeight, 32);
     Pixels pixels{static_cast<int>(facts.bmWidth), static_cast<int>(facts.bmHeight), {}};
     std::vector<RGBQUAD> rows(static_cast<std::size_t>(facts.bmWidth) * facts.bmHeight);

@@ -56,7 +56,7 @@ inline int Alternatives::Better(int own, const ColorPoint& field) const {
     };
     const __m128i low = weigh(0);
     const __m128i high = weigh(1);
-    // Most pixels are content: no sum is negative.
+    // Most pixels keep their colour: no sum is negative.
     unsigned better =
         _mm_movemask_ps(_mm_castsi128_ps(low)) | _mm_movemask_ps(_mm_castsi128_ps(high)) << 4;
     if (better == 0) return own;

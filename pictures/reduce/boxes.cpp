@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vistrel::reduce {
 namespace {
@@ -20,6 +21,75 @@ struct Box {
     std::array<Number, 6> spread{};  ///< sums of the products xx yy zz xy xz yz about the mean
 
     Number error() const { return spread[0] + spread[1] + spread[2]; }
+};
+
+/// How far a cell lies along an axis from the middle of a box.
+Number OffsetOf(const Cell& cell, const Box& box, const Vector& axis) {
+    return ((cell.mean.x - box.mean[0]) * axis[0] + (cell.mean.y - box.mean[1]) * axis[1] +
+            (cell.mean.z - box.mean[2]) * axis[2]) >>
+           8;
+}
+
+/// A box in slices across an axis, to find between which two of them it is best cut.
+class Slices {
+ public:
+    static constexpr int kCount = 64;
+
+    /// `pixels` is the number of pixels that will be added.
+    explicit Slices(Number pixels) : pixels_(pixels) {}
+
+    void Add(int slice, Number pixels, Number offset) {
+        slices_[slice].pixels += pixels;
+        slices_[slice].offsets += pixels * offset;
+    }
+
+    /// The last slice of the lower side. Parting into n and m pixels whose offsets sum to s and t
+    /// takes s*s/n + t*t/m - (s+t)^2/(n+m) from the squared error along the axis; the sum of all
+    /// offsets is nearly 0 here.
+    int BestCut() const {
+        const auto [total, shift] = TotalAndShift();
+        Number best = -1;
+        int bestCut = 0;
+        Number pixels = 0;
+        Number offsets = 0;
+        for (int slice = 0; slice + 1 < kCount; ++slice) {
+            pixels += slices_[slice].pixels;
+            offsets += slices_[slice].offsets;
+            if (slices_[slice].pixels == 0) continue;
+            const Number rest = pixels_ - pixels;
+            if (rest == 0) break;
+            const Number lower = offsets >> shift;
+            const Number upper = (total - offsets) >> shift;
+            const Number gain = lower * lower / pixels + upper * upper / rest;
+            if (gain > best) {
+                best = gain;
+                bestCut = slice;
+            }
+        }
+        return bestCut;
+    }
+
+ private:
+    struct Slice {
+        Number pixels = 0;
+        Number offsets = 0;  ///< the sum over its pixels
+    };
+
+    /// The sum of all offsets, and by how many bits sums are shifted so that squares fit.
+    std::pair<Number, int> TotalAndShift() const {
+        Number total = 0;
+        Number largest = 1;
+        for (const Slice& slice : slices_) {
+            total += slice.offsets;
+            largest = std::max(largest, total < 0 ? -total : total);
+        }
+        int shift = 0;
+        while ((largest >> shift) >= (Number{1} << 30)) ++shift;
+        return {total, shift};
+    }
+
+    std::array<Slice, kCount> slices_{};
+    Number pixels_;
 };
 
 class Cutter {
@@ -62,6 +132,9 @@ class Cutter {
     Box Measured(std::size_t begin, std::size_t end) const;
     static Vector PrincipalAxis(const Box& box);
     std::size_t PartAlong(const Box& box, const Vector& axis);
+    /// The least and the largest offset of the box's cells along the axis.
+    std::pair<Number, Number> ReachOf(const Box& box, const Vector& axis) const;
+    std::size_t MoveLowerToFront(const Box& box, int cut);
 
     std::vector<Cell>& cells_;
     std::vector<std::uint16_t> order_;  ///< cell numbers; each box is a run of them
@@ -126,64 +199,34 @@ Vector Cutter::PrincipalAxis(const Box& box) {
 /// Slices the box across the axis, finds the best plane between two slices and moves the cells of
 /// the lower side to the front. Returns where the upper side begins.
 std::size_t Cutter::PartAlong(const Box& box, const Vector& axis) {
-    constexpr int kSlices = 64;
-    const auto offset = [&](const Cell& cell) {
-        return ((cell.mean.x - box.mean[0]) * axis[0] + (cell.mean.y - box.mean[1]) * axis[1] +
-                (cell.mean.z - box.mean[2]) * axis[2]) >>
-               8;
-    };
+    const auto [low, high] = ReachOf(box, axis);
+    Slices slices(box.pixels);
+    const Number factor = (Number{Slices::kCount} << 32) / (high - low + 1);
+    for (std::size_t i = box.begin; i < box.end; ++i) {
+        const Cell& cell = cells_[order_[i]];
+        const Number at = OffsetOf(cell, box, axis);
+        const int slice = static_cast<int>(((at - low) * factor) >> 32);
+        sides_[i] = static_cast<std::uint8_t>(slice);
+        slices.Add(slice, cell.count, at);
+    }
+    return MoveLowerToFront(box, slices.BestCut());
+}
+
+std::pair<Number, Number> Cutter::ReachOf(const Box& box, const Vector& axis) const {
     Number low = INT64_MAX;
     Number high = INT64_MIN;
     for (std::size_t i = box.begin; i < box.end; ++i) {
-        const Number at = offset(cells_[order_[i]]);
+        const Number at = OffsetOf(cells_[order_[i]], box, axis);
         low = std::min(low, at);
         high = std::max(high, at);
     }
-    struct Slice {
-        Number pixels = 0;
-        Number distance = 0;
-    };
-    std::array<Slice, kSlices> slices{};
-    const Number factor = (Number{kSlices} << 32) / (high - low + 1);
-    for (std::size_t i = box.begin; i < box.end; ++i) {
-        const Cell& cell = cells_[order_[i]];
-        const Number at = offset(cell);
-        const int slice = static_cast<int>(((at - low) * factor) >> 32);
-        sides_[i] = static_cast<std::uint8_t>(slice);
-        slices[slice].pixels += cell.count;
-        slices[slice].distance += cell.count * at;
-    }
-    // Parting into n and m pixels whose offsets sum to s and t takes s*s/n + t*t/m - (s+t)^2/(n+m)
-    // from the squared error along the axis; the sum of all offsets is nearly 0 here.
-    Number total = 0;
-    Number largest = 1;
-    for (const Slice& slice : slices) {
-        total += slice.distance;
-        largest = std::max(largest, total < 0 ? -total : total);
-    }
-    int shift = 0;
-    while ((largest >> shift) >= (Number{1} << 30)) ++shift;
-    Number best = -1;
-    int bestCut = 0;
-    Number pixels = 0;
-    Number distance = 0;
-    for (int slice = 0; slice + 1 < kSlices; ++slice) {
-        pixels += slices[slice].pixels;
-        distance += slices[slice].distance;
-        if (slices[slice].pixels == 0) continue;
-        const Number rest = box.pixels - pixels;
-        if (rest == 0) break;
-        const Number lower = distance >> shift;
-        const Number upper = (total - distance) >> shift;
-        const Number gain = lower * lower / pixels + upper * upper / rest;
-        if (gain > best) {
-            best = gain;
-            bestCut = slice;
-        }
-    }
+    return {low, high};
+}
+
+std::size_t Cutter::MoveLowerToFront(const Box& box, int cut) {
     std::size_t middle = box.begin;
     for (std::size_t i = box.begin; i < box.end; ++i) {
-        if (sides_[i] > bestCut) continue;
+        if (sides_[i] > cut) continue;
         std::swap(order_[i], order_[middle]);
         std::swap(sides_[i], sides_[middle]);
         ++middle;

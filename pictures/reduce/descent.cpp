@@ -1,5 +1,5 @@
 // Rounds of: every pixel takes the colour that suits its surroundings best; every colour moves to
-// where its pixels' blurred errors want it; the errors are blurred anew.
+// where its pixels' blurred errors want it; the errors are blurred again.
 #include "pictures/reduce/descent.h"
 
 #include <algorithm>

@@ -20,7 +20,7 @@ struct DescentSettings {
     int rounds = 5;
 };
 
-/// Improves `indices` (one a pixel, of `palette`) and `palette` together. Before the last round
+/// Improves `indices` (one per pixel, of `palette`) and `palette` together. Before the last round
 /// the palette is brought to colours that bytes can hold, and stays.
 void Descend(const std::uint8_t* rgb, int width, int height, const WorkingSpace& space,
              const DescentSettings& settings, std::uint8_t* indices, Palette& palette);

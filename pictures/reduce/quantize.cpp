@@ -54,7 +54,7 @@ int LambdaFor(std::int64_t squaredError) {
     return 50;
 }
 
-/// The same for a strength that somebody has chosen.
+/// The same for a chosen strength.
 int LambdaFor(Dither dither, std::int64_t squaredError) {
     switch (dither) {
         case Dither::Light:

@@ -10,7 +10,7 @@ namespace vistrel::reduce {
 enum class Dither { On, Off, Light, Medium, Strong };
 
 /// Reduces width * height pixels (`rgb`, red, green, blue) to at most `colors` (2 to 256) colours.
-/// Writes one index a pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`
+/// Writes one index per pixel to `indices` and `colors` entries of blue, green, red, 0 to `palette`
 /// (unused entries black). A picture with no more than `colors` distinct colours keeps them
 /// exactly. The result is the same on every machine. False when an argument is out of range or the
 /// picture has more than 16,777,216 pixels.

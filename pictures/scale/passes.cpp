@@ -17,8 +17,8 @@ std::int16_t Narrow(std::int32_t value) {
 }
 
 template <class Sample>
-void WeighColumns(const Sample* const* rows, const std::int16_t* weights, int count, int from,
-                  int to, int shift, std::int16_t* sums) {
+void VerticalPassBySingles(const Sample* const* rows, const std::int16_t* weights, int count,
+                           int from, int to, int shift, std::int16_t* sums) {
     // A strip is narrow enough for its sums to stay in the first-level cache.
     constexpr int kStrip = 256;
     const std::int32_t half = 1 << (shift - 1);
@@ -83,7 +83,7 @@ struct SumsOf8 {
 
 /// Sixteen and then eight columns at a time; returns how many columns are done.
 template <class Sample>
-int WeighColumnsBy8(const Sample* const* rows, const std::int16_t* weights, int count, int length,
+int VerticalPassBy8(const Sample* const* rows, const std::int16_t* weights, int count, int length,
                     int shift, std::int16_t* sums) {
     const __m128i half = _mm_set1_epi32(1 << (shift - 1));
     const __m128i places = _mm_cvtsi32_si128(shift);
@@ -116,7 +116,7 @@ __m128i TotalsOf(__m128i a, __m128i b, __m128i c, __m128i d) {
 }
 #else
 template <class Sample>
-int WeighColumnsBy8(const Sample* const*, const std::int16_t*, int, int, int, std::int16_t*) {
+int VerticalPassBy8(const Sample* const*, const std::int16_t*, int, int, int, std::int16_t*) {
     return 0;
 }
 
@@ -132,21 +132,21 @@ std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weight
 
 }  // namespace
 
-void WeighRows(const std::uint8_t* const* rows, const std::int16_t* weights, int count, int length,
-               int shift, std::int16_t* sums) {
-    const int done = WeighColumnsBy8(rows, weights, count, length, shift, sums);
-    WeighColumns(rows, weights, count, done, length, shift, sums);
+void VerticalPass(const std::uint8_t* const* rows, const std::int16_t* weights, int count,
+                  int length, int shift, std::int16_t* sums) {
+    const int done = VerticalPassBy8(rows, weights, count, length, shift, sums);
+    VerticalPassBySingles(rows, weights, count, done, length, shift, sums);
 }
 
-void WeighRows(const std::int16_t* const* rows, const std::int16_t* weights, int count, int length,
-               int shift, std::int16_t* sums) {
-    const int done = WeighColumnsBy8(rows, weights, count, length, shift, sums);
-    WeighColumns(rows, weights, count, done, length, shift, sums);
+void VerticalPass(const std::int16_t* const* rows, const std::int16_t* weights, int count,
+                  int length, int shift, std::int16_t* sums) {
+    const int done = VerticalPassBy8(rows, weights, count, length, shift, sums);
+    VerticalPassBySingles(rows, weights, count, done, length, shift, sums);
 }
 
 #ifdef __SSE2__
-void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
-                RowGroup<std::int16_t> results, int stride) {
+void HorizontalPass(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
+                    RowGroup<std::int16_t> results, int stride) {
     static_assert(kRowsAtOnce == 4);
     const __m128i half = _mm_set1_epi32(1 << (filter.shift - 1));
     const __m128i places = _mm_cvtsi32_si128(filter.shift);
@@ -175,8 +175,8 @@ void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
     }
 }
 #else
-void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
-                RowGroup<std::int16_t> results, int stride) {
+void HorizontalPass(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
+                    RowGroup<std::int16_t> results, int stride) {
     const std::int32_t half = 1 << (filter.shift - 1);
     std::int16_t* to = results.first;
     for (const FilterTaps& taps : filter.taps) {

@@ -65,8 +65,8 @@ class RgbPasses {
         const FilterTaps& taps = NextTaps();
         // The inner loop may look at one row more, with a weight of 0.
         rows[taps.count] = rows[0];
-        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, sourceWidth_ * 3,
-                  down.shift - kFractionBits, mixed_.data());
+        VerticalPass(rows.data(), down.WeightsOf(taps), taps.count, sourceWidth_ * 3,
+                     down.shift - kFractionBits, mixed_.data());
         const int inGroup = made_ % kRowsAtOnce;
         SplitChannels(mixed_.data(), sourceWidth_, apart_, &channels_[inGroup * 3 * apart_]);
         ++made_;
@@ -82,7 +82,8 @@ class RgbPasses {
     void FinishGroup(int count) {
         const std::size_t scaledRow = std::size_t(result_.width) * 3;
         for (int c = 0; c < 3; ++c) {
-            WeighAlong(across_, {&channels_[c * apart_], 3 * apart_}, {&scaled_[c], scaledRow}, 3);
+            HorizontalPass(across_, {&channels_[c * apart_], 3 * apart_}, {&scaled_[c], scaledRow},
+                           3);
         }
         RoundToBytes(scaled_.data(), scaledRow * count,
                      &result_.pixels[scaledRow * (made_ - count)]);
@@ -205,14 +206,14 @@ struct PlaneScaler::State {
         const FilterTaps& taps = down.taps[nextTarget];
         for (int k = 0; k < taps.count; ++k) rows[k] = KeptRow(taps.first + k);
         const std::size_t inGroup = nextTarget % kRowsAtOnce;
-        WeighRows(rows.data(), down.WeightsOf(taps), taps.count, samples, down.shift,
-                  &mixed[inGroup * mixedRow]);
+        VerticalPass(rows.data(), down.WeightsOf(taps), taps.count, samples, down.shift,
+                     &mixed[inGroup * mixedRow]);
         ++nextTarget;
         const bool isLast = nextTarget == down.taps.size();
         if (inGroup < kRowsAtOnce - 1 && !isLast) return;
         const std::size_t width = across.taps.size();
-        WeighAlong(across, {mixed.data(), mixedRow},
-                   {&plane[(nextTarget - 1 - inGroup) * width], width}, 1);
+        HorizontalPass(across, {mixed.data(), mixedRow},
+                       {&plane[(nextTarget - 1 - inGroup) * width], width}, 1);
         if (isLast) plane.resize(nextTarget * width);
     }
 

@@ -78,7 +78,7 @@ class PlaneScaler {
     PlaneScaler& operator=(const PlaneScaler&) = delete;
 
     /// Takes the next source row, from the top, of across.samples samples. Rows after the
-    /// down.samples-th are passed over.
+    /// down.samples-th are ignored.
     void AddRow(const std::int16_t* row);
 
     /// The finished plane, target rows of target samples from the top: valid when all source rows

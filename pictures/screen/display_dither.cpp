@@ -30,7 +30,7 @@ constexpr Channel kScales[kChannels] = {Channel(0), Channel(1), Channel(2)};
 std::vector<std::uint8_t> DitherToDisplayColors(const std::uint8_t* rgb, int width, int height) {
     const int stride = (width + 3) & ~3;
     std::vector<std::uint8_t> indices(static_cast<std::size_t>(stride) * height);
-    // In sixteenths; one pixel more at either end, which nobody reads.
+    // In sixteenths; one pixel more at either end, which is never read.
     std::vector<int> errors(static_cast<std::size_t>(width + 2) * kChannels);
     for (int y = 0; y < height; ++y) {
         std::uint8_t* out = &indices[static_cast<std::size_t>(y) * stride];

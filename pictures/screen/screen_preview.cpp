@@ -1,6 +1,8 @@
 #include "pictures/screen/screen_preview.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 #include "pictures/bmp/header.h"
 
@@ -40,80 +42,118 @@ Spans SpansOf(int samples, int target) {
     return spans;
 }
 
-/// A row of averages, each color times 256.
-struct Row {
-    std::vector<std::uint32_t> redBlue;  ///< red in the upper half, blue in the lower
-    std::vector<std::uint32_t> green;
+/// The colours of a palette, red and blue packed into one number.
+struct PackedPalette {
+    std::array<std::uint32_t, 256> redBlue;  ///< red in the upper half, blue in the lower
+    std::array<std::uint32_t, 256> green;
 };
+
+PackedPalette PackedColors(const std::array<bmp::RgbColor, 256>& palette) {
+    PackedPalette packed;
+    for (std::size_t i = 0; i < palette.size(); ++i) {
+        packed.redBlue[i] = std::uint32_t{palette[i][0]} << 16 | palette[i][2];
+        packed.green[i] = palette[i][1];
+    }
+    return packed;
+}
+
+/// Averages the pixels of an uncompressed 8-bit bitmap: first along each row, then down.
+class Shrinker {
+ public:
+    Shrinker(pictures::FileBytes file, const bmp::BmpHeader& header, int width, int height)
+        : file_(file),
+          header_(header),
+          colors_(PackedColors(header.palette)),
+          across_(SpansOf(header.width, width)),
+          down_(SpansOf(header.height, height)),
+          redBlue_(static_cast<std::size_t>(width)),
+          green_(redBlue_.size()),
+          sums_(redBlue_.size() * 3) {}
+
+    /// Writes the picture: 3 bytes per pixel, rows from the top.
+    void WriteTo(std::uint8_t* out) {
+        const std::uint32_t* weight = down_.weights.data();
+        for (std::size_t target = 0; target < down_.first.size(); ++target) {
+            // Half a unit, so that the last step rounds.
+            std::fill(sums_.begin(), sums_.end(), kOne * kOne / 2);
+            for (int i = 0; i < down_.count[target]; ++i) {
+                HoldRow(down_.first[target] + i);
+                AddHeldRow(*weight++);
+            }
+            for (const std::uint32_t sum : sums_)
+                *out++ = static_cast<std::uint8_t>(sum / (kOne * kOne));
+        }
+    }
+
+ private:
+    const std::uint8_t* PixelsOfRow(int y) const {
+        const int row = header_.topDown ? y : header_.height - 1 - y;
+        return file_.data() + header_.pixelOffset +
+               header_.RowBytes() * static_cast<std::size_t>(row);
+    }
+
+    /// Averages a row of the file, unless it is the one that is held: a row at a border belongs to
+    /// two target rows.
+    void HoldRow(int y) {
+        if (y == rowHeld_) return;
+        rowHeld_ = y;
+        const std::uint8_t* const pixels = PixelsOfRow(y);
+        const std::uint32_t* weight = across_.weights.data();
+        for (std::size_t x = 0; x < redBlue_.size(); ++x) {
+            std::uint32_t sumRedBlue = 0;
+            std::uint32_t sumGreen = 0;
+            const std::uint8_t* pixel = pixels + across_.first[x];
+            for (int left = across_.count[x]; left > 0; --left) {
+                sumRedBlue += colors_.redBlue[*pixel] * *weight;
+                sumGreen += colors_.green[*pixel] * *weight;
+                ++pixel;
+                ++weight;
+            }
+            redBlue_[x] = sumRedBlue;
+            green_[x] = sumGreen;
+        }
+    }
+
+    void AddHeldRow(std::uint32_t weight) {
+        std::uint32_t* sum = sums_.data();
+        for (std::size_t x = 0; x < redBlue_.size(); ++x, sum += 3) {
+            sum[0] += (redBlue_[x] >> 16) * weight;
+            sum[1] += green_[x] * weight;
+            sum[2] += (redBlue_[x] & 0xffff) * weight;
+        }
+    }
+
+    pictures::FileBytes file_;
+    const bmp::BmpHeader& header_;
+    PackedPalette colors_;
+    Spans across_;
+    Spans down_;
+    int rowHeld_ = -1;
+    std::vector<std::uint32_t> redBlue_;  ///< of the row that is held, each colour times 256
+    std::vector<std::uint32_t> green_;
+    std::vector<std::uint32_t> sums_;  ///< of a target row: red, green, blue of each pixel
+};
+
+/// True when the file is an uncompressed 8-bit bitmap and has all of its pixels.
+bool IsWholeScreen(pictures::FileBytes file, const bmp::BmpHeader& header) {
+    return header.bitsPerPixel == 8 && header.compression == bmp::BmpCompression::None &&
+           header.pixelOffset <= file.size() &&
+           file.size() - header.pixelOffset >=
+               header.RowBytes() * static_cast<std::size_t>(header.height);
+}
 
 }  // namespace
 
 std::optional<pictures::ScaledPicture> PreviewOfScreen(pictures::FileBytes file, int width,
                                                        int height) {
     const auto header = bmp::ReadBmpHeader(file);
-    if (!header || header->bitsPerPixel != 8 || header->compression != bmp::BmpCompression::None ||
-        width <= 0 || height <= 0 || header->width < width || header->height < height)
+    if (!header || !IsWholeScreen(file, *header)) return std::nullopt;
+    if (width <= 0 || height <= 0 || header->width < width || header->height < height)
         return std::nullopt;
-    const std::size_t stride = header->RowBytes();
-    if (header->pixelOffset > file.size() ||
-        file.size() - header->pixelOffset < stride * static_cast<std::size_t>(header->height))
-        return std::nullopt;
-
-    std::array<std::uint32_t, 256> redBlue;
-    std::array<std::uint32_t, 256> green;
-    for (std::size_t i = 0; i < 256; ++i) {
-        const bmp::RgbColor& color = header->palette[i];
-        redBlue[i] = std::uint32_t{color[0]} << 16 | color[2];
-        green[i] = color[1];
-    }
-
-    const Spans across = SpansOf(header->width, width);
-    const Spans down = SpansOf(header->height, height);
-    const auto columns = static_cast<std::size_t>(width);
-    Row row{std::vector<std::uint32_t>(columns), std::vector<std::uint32_t>(columns)};
-    int rowHeld = -1;
-    const auto average = [&](int y) {
-        if (y == rowHeld) return;  // a row at a border belongs to two target rows
-        rowHeld = y;
-        const std::uint8_t* pixels =
-            file.data() + header->pixelOffset +
-            stride * static_cast<std::size_t>(header->topDown ? y : header->height - 1 - y);
-        const std::uint32_t* weight = across.weights.data();
-        for (std::size_t x = 0; x < columns; ++x) {
-            std::uint32_t sumRedBlue = 0;
-            std::uint32_t sumGreen = 0;
-            const std::uint8_t* pixel = pixels + across.first[x];
-            for (int left = across.count[x]; left > 0; --left) {
-                sumRedBlue += redBlue[*pixel] * *weight;
-                sumGreen += green[*pixel] * *weight;
-                ++pixel;
-                ++weight;
-            }
-            row.redBlue[x] = sumRedBlue;
-            row.green[x] = sumGreen;
-        }
-    };
-
     pictures::ScaledPicture scaled{{width, height, {}}, header->width, header->height};
-    scaled.picture.pixels.resize(columns * static_cast<std::size_t>(height) * 3);
-    std::uint8_t* out = scaled.picture.pixels.data();
-    std::vector<std::uint32_t> sums(columns * 3);
-    const std::uint32_t* downWeight = down.weights.data();
-    for (std::size_t target = 0; target < down.first.size(); ++target) {
-        // Half a unit, so that the last step rounds.
-        std::fill(sums.begin(), sums.end(), kOne * kOne / 2);
-        for (int i = 0; i < down.count[target]; ++i) {
-            average(down.first[target] + i);
-            const std::uint32_t weight = *downWeight++;
-            for (std::size_t x = 0; x < columns; ++x) {
-                sums[x * 3] += (row.redBlue[x] >> 16) * weight;
-                sums[x * 3 + 1] += row.green[x] * weight;
-                sums[x * 3 + 2] += (row.redBlue[x] & 0xffff) * weight;
-            }
-        }
-        for (const std::uint32_t sum : sums)
-            *out++ = static_cast<std::uint8_t>(sum / (kOne * kOne));
-    }
+    scaled.picture.pixels.resize(static_cast<std::size_t>(width) *
+                                 static_cast<std::size_t>(height) * 3);
+    Shrinker(file, *header, width, height).WriteTo(scaled.picture.pixels.data());
     return scaled;
 }
 

@@ -11,6 +11,7 @@
 #include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
+#include "pictures/read_picture.h"
 #include "platform/display_colors.h"
 #include "tests/support/main_window/main_window_fixture.h"
 

@@ -4,6 +4,8 @@
 // The shell's headers need windows.h first.
 #include <shlobj.h>
 
+#include <algorithm>
+
 #include "tests/stories/installed_program.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/started_program.h"
@@ -19,6 +21,14 @@ constexpr const char* kUninstallKey =
 const Names kFiles = {"Mirrorkin.exe", "Rotaline.exe", "Rotaline.lnk",
                       "Shufflet.exe",  "Shufflet.lnk", "readme.txt",
                       "uninst.exe",    "vistrel.exe",  "vistrl.hlp"};
+
+const std::string kConverter = "logo-convert.exe";
+const Names kFilesWithConverter = [] {
+    Names names = kFiles;
+    names.push_back(kConverter);
+    std::sort(names.begin(), names.end());
+    return names;
+}();
 
 std::string ShellFolder(int which) {
     char path[MAX_PATH] = "";
@@ -239,6 +249,16 @@ TEST_F(Installer, KeepsSettingsAndSetsWhenInstalledAgain) {
     EXPECT_NE(Contents(kProgramFolder + "vistrel.exe"), "an older program");
 }
 
+TEST_F(Installer, ReplacesTheConverterOfAnOlderVersionWhereThatHasIt) {
+    ASSERT_EQ(InstallSilently(), 0u);
+    Put(kProgramFolder + kConverter, "an older converter");
+    ASSERT_EQ(InstallSilently(), 0u);
+    EXPECT_EQ(NamesIn(kProgramFolder), kFilesWithConverter);
+    EXPECT_NE(Contents(kProgramFolder + kConverter), "an older converter");
+    EXPECT_TRUE(UninstallSilently());
+    EXPECT_FALSE(Exists(kProgramFolder));
+}
+
 /// The program, open.
 class InstallerBesideTheProgram : public Installer {
  protected:
@@ -352,6 +372,29 @@ TEST_F(InstallersWindows, OfferAFolderAndStartMenuEntriesAndTakeTheProgramAwayAg
     EXPECT_TRUE(user::WaitUntilGone(window));
     EXPECT_FALSE(Exists("C:\\Vistrel\\"));
     EXPECT_FALSE(Exists(menu));
+}
+
+TEST_F(InstallersWindows, PutTheConverterThereWhereItIsChosenAndTakeItAwayAgain) {
+    HWND window = Open("C:\\test\\vistrel-setup.exe", "Vistrel Setup: Installation Options");
+    ASSERT_NE(window, nullptr);
+    // The list of what can be installed; this is the last of it.
+    const HWND page = FindWindowExA(window, nullptr, "#32770", nullptr);
+    const HWND parts = FindWindowExA(page, nullptr, "SysTreeView32", nullptr);
+    ASSERT_TRUE(user::Click(parts));
+    user::Press(VK_END);
+    user::Press(VK_SPACE);
+    user::TakeShot("setup_converter");
+    EXPECT_TRUE(GoOn(window, "&Next >"));
+    window = user::WaitForTop("#32770", "Vistrel Setup: Installation Folder");
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(GoOn(window, "&Install"));
+    window = user::WaitForTop("#32770", "Vistrel Setup: Completed");
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(NamesIn(kProgramFolder), kFilesWithConverter);
+    EXPECT_TRUE(GoOn(window, "&Close"));
+    EXPECT_TRUE(user::WaitUntilGone(window));
+    EXPECT_TRUE(UninstallSilently());
+    EXPECT_FALSE(Exists(kProgramFolder));
 }
 
 }  // namespace

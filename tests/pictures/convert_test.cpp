@@ -7,8 +7,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include "pictures/file.h"
+#include "pictures/read_picture.h"
 #include "pictures/scale/resize.h"
-#include "pictures/whole_file.h"
+#include "platform/fault.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
 #include "tests/support/picture_files/jpg_maker.h"
@@ -61,18 +63,6 @@ class ConvertTest : public testing::Test {
     fs::path folder_;
     std::string target_;
 };
-
-TEST(FormatOfName, LooksAtTheLastFourCharactersInAnyCase) {
-    for (const char* name : {"a.gif", "C:\\b.GIF", "x.Gif", ".gIf"}) {
-        EXPECT_EQ(FormatOfName(name), PictureFormat::Gif) << name;
-    }
-    for (const char* name : {"a.jpg", "C:\\b.JPG", "x.gif.Jpg"}) {
-        EXPECT_EQ(FormatOfName(name), PictureFormat::Jpg) << name;
-    }
-    for (const char* name : {"a.jpeg", "a.bmp", "LOGO.SYS", "gif", "", "jpg", "a.jpg.bak"}) {
-        EXPECT_EQ(FormatOfName(name), PictureFormat::Bmp) << name;
-    }
-}
 
 TEST_F(ConvertTest, MakesAScreenFileOfEveryFormatAndSize) {
     const RgbPicture small = MakePicture(32, 32);
@@ -152,6 +142,21 @@ TEST_F(ConvertTest, TellsWhenTheTargetCannotBeWritten) {
     const std::string source = Save("small.bmp", BmpOf(MakePicture(8, 8)));
     EXPECT_EQ(TryConvertToLogo(source, PathOf("none/target.sys")), ConversionResult::NotWritten);
     EXPECT_EQ(TryConvertToLogo(source, folder_.string()), ConversionResult::NotWritten);
+}
+
+TEST_F(ConvertTest, LeavesTheTargetAsItWasWhicheverStepFails) {
+    namespace fault = platform::fault;
+    const std::string source = Save("small.bmp", BmpOf(MakePicture(8, 8)));
+    fault::Reset();
+    ASSERT_EQ(TryConvertToLogo(source, target_), ConversionResult::Written);
+    const int steps = fault::Counted();
+    const std::string old = Save("old.sys", {1, 2, 3});
+    for (int step = 1; step <= steps; ++step) {
+        fault::FailOperation(step);
+        EXPECT_NE(TryConvertToLogo(source, old), ConversionResult::Written) << step;
+        fault::Reset();
+        EXPECT_EQ(ReadWholeFile(old), (Bytes{1, 2, 3})) << step;
+    }
 }
 
 TEST_F(ConvertTest, ConvertsAPictureOntoItself) {

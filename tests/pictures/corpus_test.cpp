@@ -7,7 +7,7 @@
 #include <cmath>
 #include <set>
 
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
 #include "tests/support/picture_files/md5.h"
 
 namespace vistrel::test {

@@ -5,13 +5,16 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 
 #include "pictures/bmp/reader.h"
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
+#include "pictures/locked_block.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
+#include "tests/support/picture_files/jpg_maker.h"
 
 namespace vistrel::test {
 
@@ -51,6 +54,17 @@ Bytes TakeBlock(GlobalHandle block, std::size_t size) {
     UnlockGlobal(block);
     FreeGlobal(block);
     return bytes;
+}
+
+/// Slow waves, as a photograph of the sky.
+RgbPicture MakeSmooth(int width, int height) {
+    RgbPicture picture{width, height, {}};
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            for (const int color : {40, 110, 180})
+                picture.pixels.push_back(static_cast<std::uint8_t>(color + 30 * std::sin(0.03 * x) *
+                                                                               std::cos(0.02 * y)));
+    return picture;
 }
 
 Bytes MakeBmp(int width, int height) {
@@ -133,6 +147,69 @@ TEST_F(ImgDllTest, ResizingGivesABlockOfTheNewSize) {
     const GlobalHandle block = ImgDLLResizeRGB(red.data(), 20, 10, 7, 31);
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(TakeBlock(block, 7 * 31 * 3), Bytes(7 * 31 * 3, 200));
+}
+
+/// The largest difference of any byte between reading at a size, and reading and resizing.
+int DifferenceInSteps(ReadOperation read, const std::string& path, int width, int height) {
+    std::int16_t fileWidth = 0, fileHeight = 0, ownWidth = 0, ownHeight = 0;
+    const LockedBlock whole(read(path.c_str(), &fileWidth, &fileHeight));
+    const LockedBlock resized(
+        ImgDLLResizeRGB(whole.pixels(), fileWidth, fileHeight, width, height));
+    const LockedBlock atOnce(ImgDLLReadRGBAtSize(path.c_str(), width, height, ReadingFor::Keeping,
+                                                 &ownWidth, &ownHeight));
+    EXPECT_EQ(ownWidth, fileWidth);
+    EXPECT_EQ(ownHeight, fileHeight);
+    if (resized.pixels() == nullptr || atOnce.pixels() == nullptr) return 256;
+    int most = 0;
+    for (int i = 0; i < width * height * 3; ++i)
+        most = std::max(most, std::abs(resized.pixels()[i] - atOnce.pixels()[i]));
+    return most;
+}
+
+TEST_F(ImgDllTest, ReadingAtASizeIsReadingAndResizing) {
+    const std::string bmp = Write("a.bmp", MakeBmp(50, 40));
+    const std::string gif = Write("a.gif", MakeGif(60, 30, 256).Encode());
+    const std::string jpg = Write("a.jpg", MakeJpg(MakeSmooth(300, 200), {}));
+    for (const auto& [width, height] : {std::pair{20, 30}, {320, 400}, {60, 30}}) {
+        EXPECT_EQ(DifferenceInSteps(ImgDLLReadRGBFromBMP, bmp, width, height), 0);
+        EXPECT_EQ(DifferenceInSteps(ImgDLLReadRGBFromGIF, gif, width, height), 0);
+        EXPECT_LE(DifferenceInSteps(ImgDLLReadRGBFromJPG, jpg, width, height), 4);
+    }
+}
+
+TEST_F(ImgDllTest, OwnSizeIsThatOfThePictureWhateverItsName) {
+    for (const auto& [path, read] :
+         {std::pair<std::string, ReadOperation>{Write("a.bmp", MakeBmp(50, 40)),
+                                                ImgDLLReadRGBFromBMP},
+          {Write("a.gif", MakeGif(50, 40, 4).Encode()), ImgDLLReadRGBFromGIF},
+          {Write("a.jpg", MakeJpg(MakePicture(50, 40), {})), ImgDLLReadRGBFromJPG}}) {
+        std::int16_t width = 0, height = 0;
+        const Bytes stepped = TakeBlock(read(path.c_str(), &width, &height), 50 * 40 * 3);
+        const GlobalHandle block = ImgDLLReadRGBAtSize(path.c_str(), kOwnSize, kOwnSize,
+                                                       ReadingFor::Keeping, &width, &height);
+        ASSERT_NE(block, nullptr);
+        EXPECT_EQ(width, 50);
+        EXPECT_EQ(height, 40);
+        EXPECT_EQ(TakeBlock(block, 50 * 40 * 3), stepped) << path;
+    }
+}
+
+TEST_F(ImgDllTest, WhatCannotBeReadAtASizeLeavesTheSizesAlone) {
+    const std::string text = Write("text.jpg", {'h', 'e', 'l', 'l', 'o'});
+    const std::string bmp = Write("a.bmp", MakeBmp(5, 4));
+    std::int16_t width = -7, height = -9;
+    const auto read = [&](const std::string& path, int wantedWidth, int wantedHeight) {
+        return ImgDLLReadRGBAtSize(path.c_str(), wantedWidth, wantedHeight, ReadingFor::Looking,
+                                   &width, &height);
+    };
+    EXPECT_EQ(read(text, 5, 5), nullptr);
+    EXPECT_EQ(read(text, kOwnSize, kOwnSize), nullptr);
+    EXPECT_EQ(read(Path("missing.bmp"), 5, 5), nullptr);
+    EXPECT_EQ(read(bmp, 0, 0), nullptr);
+    EXPECT_EQ(read(bmp, kOwnSize, 5), nullptr);
+    EXPECT_EQ(read(bmp, 5, 40000), nullptr);
+    EXPECT_EQ(width, -7);
+    EXPECT_EQ(height, -9);
 }
 
 TEST_F(ImgDllTest, ImpossibleSizesAreNotResized) {

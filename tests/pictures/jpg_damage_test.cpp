@@ -89,7 +89,7 @@ TEST(JpgDamageTest, EveryShortLengthOfASmallFile) {
     for (const bool progressive : {false, true}) {
         JpgOptions options;
         options.progressive = progressive;
-        options.restartUnits = 3;
+        options.restartMcus = 3;
         const Bytes file = MakeJpg(MakePicture(40, 30), options);
         for (std::size_t size = 0; size < file.size(); ++size) ExpectHarmless(CutAt(file, size));
     }
@@ -102,7 +102,7 @@ TEST(JpgDamageTest, FlippedBitsAnywhere) {
         options.progressive = kind % 2 == 1;
         options.color = kind >= 4 ? JCS_YCCK : JCS_YCbCr;
         options.sampling = {{2, kind % 3 + 1}};
-        options.restartUnits = kind >= 2 ? 4 : 0;
+        options.restartMcus = kind >= 2 ? 4 : 0;
         const Bytes file = MakeJpg(MakePicture(70, 50), options);
         for (int i = 0; i < 400; ++i) {
             Bytes damaged = file;

@@ -84,7 +84,7 @@ TEST(JpgScaledTest, EverySampling) {
             JpgOptions options;
             options.progressive = progressive;
             options.sampling = sampling;
-            options.restartUnits = 9;
+            options.restartMcus = 9;
             EXPECT_GE(Nearness(MakeJpg(scene, options), 200, 170), 48)
                 << sampling[0].first << " x " << sampling[0].second;
         }

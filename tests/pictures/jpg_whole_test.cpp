@@ -108,7 +108,7 @@ TEST(JpgWholeTest, Restarts) {
         for (const bool progressive : {false, true}) {
             SCOPED_TRACE(units);
             JpgOptions options;
-            options.restartUnits = units;
+            options.restartMcus = units;
             options.sampling = {{2, 1}};
             options.progressive = progressive;
             ExpectAsLibrary(MakeJpg(MakePicture(133, 70), options));
@@ -121,7 +121,7 @@ TEST(JpgWholeTest, OneScanForEachComponent) {
         JpgOptions options;
         options.sampling = sampling;
         options.separateScans = true;
-        options.restartUnits = 5;
+        options.restartMcus = 5;
         ExpectAsLibrary(MakeJpg(MakePicture(77, 59), options));
     }
 }
@@ -180,7 +180,7 @@ TEST(JpgWholeTest, FillBytesGarbageAndNoEnd) {
 
 TEST(JpgWholeTest, LostRestartIntervalLeavesTheOthers) {
     JpgOptions options;
-    options.restartUnits = 10;  // a row of blocks
+    options.restartMcus = 10;  // a row of blocks
     const RgbPicture source = MakePicture(80, 80);
     const Bytes file = MakeJpg(source, options);
     const RgbPicture judged = DecodeByLibrary(file);

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
 #include "tests/pictures/corpus.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"

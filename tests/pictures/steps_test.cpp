@@ -25,7 +25,7 @@ using namespace reduce;
 namespace {
 
 template <class Work>
-std::uint64_t StepsOf(Work work) {
+std::uint64_t DequantTableOf(Work work) {
     const std::uint64_t before = steps;
     work();
     return steps - before;
@@ -36,7 +36,7 @@ constexpr int kHeight = 400;
 
 std::uint64_t StepsOfReducing(const RgbPicture& picture) {
     Bytes indices(std::size_t{kWidth} * kHeight), palette(1024);
-    return StepsOf([&] {
+    return DequantTableOf([&] {
         EXPECT_TRUE(QuantizeRgb(picture.pixels.data(), kWidth, kHeight, 256, indices.data(),
                                 palette.data()));
     });
@@ -79,7 +79,7 @@ TEST(StepsTest, ColoursChosenToCollideAreReducedAsQuicklyAsOthers) {
 }
 
 std::uint64_t StepsOfReading(const Bytes& file) {
-    return StepsOf([&] { EXPECT_TRUE(ReadJpgScaled(file, kWidth, kHeight).has_value()); });
+    return DequantTableOf([&] { EXPECT_TRUE(ReadJpgScaled(file, kWidth, kHeight).has_value()); });
 }
 
 TEST(StepsTest, HuffmanTablesThatNoScanReadsByAreNotBuilt) {

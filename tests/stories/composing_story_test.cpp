@@ -5,6 +5,7 @@
 #include "pictures/compose/stages.h"
 #include "pictures/convert.h"
 #include "pictures/preview/draw_letters.h"
+#include "pictures/read_picture.h"
 #include "resources/ids.h"
 #include "tests/stories/running_program.h"
 

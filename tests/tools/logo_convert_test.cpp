@@ -6,7 +6,7 @@
 #include <functional>
 #include <sstream>
 
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
 #include "tests/pictures/compose/scene.h"
 
 namespace vistrel::test {

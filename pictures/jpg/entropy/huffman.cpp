@@ -11,9 +11,9 @@ constexpr int kRunOfSixteen = 0xF0;
 
 }  // namespace
 
-void HuffmanTable::Define(const HuffmanCode& code, bool isDc) {
+void HuffmanTable::Define(const HuffmanCode& code, bool IsDc) {
     code_ = code;
-    isDc_ = isDc;
+    isDc_ = IsDc;
     isDefined_ = true;
     isBuilt_ = false;
 }

@@ -17,7 +17,7 @@ struct QuickEntry {
     std::uint8_t bits = 0;     ///< bits of code and value; 0 when they are not all in view
 };
 
-/// Several codes at once whose values nobody needs, found by the next kSkipBits bits.
+/// Several codes at once whose values are not needed, found by the next kSkipBits bits.
 struct SkipEntry {
     std::uint8_t advance = 0;  ///< coefficients passed; kBlockEnd more when the block ends there
     std::uint8_t bits = 0;     ///< bits of all of them; 0 when not even one is in view
@@ -38,7 +38,7 @@ class HuffmanTable {
 
     /// Notes which code is to be read; what `code` points to must outlive the table. Nothing is
     /// built yet: a file may define codes without end that no scan reads by.
-    void Define(const HuffmanCode& code, bool isDc);
+    void Define(const HuffmanCode& code, bool IsDc);
 
     bool isDefined() const { return isDefined_; }
 

@@ -1,25 +1,25 @@
-// The inverse transform of a whole 8 x 8 block, quick where most of its coefficients are zero.
+// The two-dimensional IDCT of a whole 8 x 8 block, quick where most of its coefficients are zero.
 #pragma once
 
 #include <cstring>
 
-#include "pictures/jpg/idct/terms.h"
+#include "pictures/jpg/idct/idct_1d.h"
 #include "pictures/jpg/tables.h"
 
 namespace vistrel::jpg {
 
-namespace inverse_block {
+namespace idct_block {
 
-/// The transform of a block that is zero but for the first kTerms of both ways.
+/// The IDCT of a block that is zero but for the first kTerms of both ways.
 template <int kTerms, class PutRow>
-void Inverse(const std::int16_t* block, const std::int32_t* steps, PutRow putRow) {
+void Idct(const std::int16_t* block, const std::int32_t* steps, PutRow putRow) {
     Wrapping between[kBlockSize];
     Wrapping in[8] = {}, out[8];
     for (int column = 0; column < kTerms; ++column) {
         Wrapping others = 0;
         for (int k = 0; k < kTerms; ++k) {
             const int at = k * 8 + column;
-            in[k] = static_cast<Wrapping>(block[at] * steps[at]);
+            in[k] = Dequantize(block[at], steps[at]);
             if (k > 0) others |= in[k];
         }
         if (others == 0) {
@@ -27,7 +27,7 @@ void Inverse(const std::int16_t* block, const std::int32_t* steps, PutRow putRow
             continue;
         }
         for (int k = kTerms; k < 8; ++k) in[k] = 0;
-        InverseTerms<8>(in, out);
+        Idct1d<8>(in, out);
         for (int k = 0; k < 8; ++k) {
             between[k * 8 + column] =
                 static_cast<Wrapping>(Descale(out[k], kTermBits - kColumnBits));
@@ -36,7 +36,7 @@ void Inverse(const std::int16_t* block, const std::int32_t* steps, PutRow putRow
     for (int row = 0; row < 8; ++row) {
         for (int k = 0; k < kTerms; ++k) in[k] = between[row * 8 + k];
         for (int k = kTerms; k < 8; ++k) in[k] = 0;
-        InverseTerms<8>(in, out);
+        Idct1d<8>(in, out);
         putRow(row, out);
     }
 }
@@ -55,26 +55,26 @@ inline std::uint32_t Two(const std::int16_t* numbers) {
     return two;
 }
 
-}  // namespace inverse_block
+}  // namespace idct_block
 
-/// Transforms a block whose coefficients and quantisation steps lie in the order of its rows. Calls
-/// putRow(row, sums) for each of the eight rows: eight samples, from the middle of their range,
-/// with kSumBits bits behind the point.
+/// Dequantizes and transforms a block whose coefficients and quantisation steps lie in the order of
+/// its rows. Calls putRow(row, sums) for each of the eight rows: eight samples, from the middle of
+/// their range, with kSumBits bits behind the point.
 template <class PutRow>
-void InverseBlock(const std::int16_t* block, const std::int32_t* steps, PutRow putRow) {
-    using namespace inverse_block;
+void IdctBlock(const std::int16_t* block, const std::int32_t* steps, PutRow putRow) {
+    using namespace idct_block;
     std::uint64_t beyondFour = 0;
     for (int row = 0; row < 4; ++row) beyondFour |= Four(block + row * 8 + 4);
     for (int row = 4; row < 8; ++row)
         beyondFour |= Four(block + row * 8) | Four(block + row * 8 + 4);
-    if (beyondFour != 0) return Inverse<8>(block, steps, putRow);
+    if (beyondFour != 0) return Idct<8>(block, steps, putRow);
     if ((Two(block + 2) | Two(block + 10) | Four(block + 16) | Four(block + 24)) != 0) {
-        return Inverse<4>(block, steps, putRow);
+        return Idct<4>(block, steps, putRow);
     }
-    if ((block[1] | Two(block + 8)) != 0) return Inverse<2>(block, steps, putRow);
+    if ((block[1] | Two(block + 8)) != 0) return Idct<2>(block, steps, putRow);
     Wrapping same[8];
     for (Wrapping& sum : same) {
-        sum = static_cast<Wrapping>(block[0] * steps[0]) << (kTermBits + kColumnBits);
+        sum = Dequantize(block[0], steps[0]) << (kTermBits + kColumnBits);
     }
     for (int row = 0; row < 8; ++row) putRow(row, same);
 }

@@ -1,4 +1,4 @@
-// The exact 8 x 8 inverse transform.
+// The exact 8 x 8 IDCT.
 #include "pictures/jpg/idct/full.h"
 
 #include <algorithm>
@@ -7,18 +7,18 @@
 
 namespace vistrel::jpg {
 
-BlockSteps StepsOf(const QuantTable& quant) {
-    BlockSteps steps;
+DequantTable DequantTableOf(const QuantTable& quant) {
+    DequantTable steps;
     for (std::size_t k = 0; k < quant.size(); ++k) steps.numbers[kZigzag[k]] = quant[k];
-    steps.forVectors = VectorSteps(steps.numbers);
+    steps.forVectors = VectorDequantTable(steps.numbers);
     return steps;
 }
 
-void InverseFull(const std::int16_t* block, const BlockSteps& steps, std::uint8_t* samples,
-                 std::ptrdiff_t stride) {
-    if (InverseFullByVectors(steps.forVectors, block, samples, stride)) return;
+void IdctFull(const std::int16_t* block, const DequantTable& steps, std::uint8_t* samples,
+              std::ptrdiff_t stride) {
+    if (IdctFullByVectors(steps.forVectors, block, samples, stride)) return;
     constexpr std::int32_t kMiddle = 128, kHighest = 255;
-    InverseBlock(block, steps.numbers.data(), [=](int row, const Wrapping* sums) {
+    IdctBlock(block, steps.numbers.data(), [=](int row, const Wrapping* sums) {
         std::uint8_t* to = samples + row * stride;
         std::int32_t values[8], all = 0;
         for (int x = 0; x < 8; ++x) {

@@ -1,4 +1,4 @@
-// Inverse transforms of one to five, or all eight, frequencies an axis.
+// The IDCT of one to five, or all eight, frequencies per axis.
 #include "pictures/jpg/idct/reduced.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace {
 constexpr std::int32_t kMiddle = 128 << kFineBits;
 constexpr std::int32_t kHighest = (256 << kFineBits) - 1;  // from 0, as kMiddle is
 
-// Blocks of coefficients, and columns of terms in the same order with the steps multiplied in.
+// Blocks of coefficients, and columns of terms in the same order, dequantized.
 struct ColumnJob {
     const std::int16_t* blocks;
     int blockStride;
@@ -30,7 +30,7 @@ bool IsConstant(const Wrapping* terms) {
 }
 
 template <int N>
-void InverseColumns(const ColumnJob& job) {
+void IdctColumns(const ColumnJob& job) {
     const std::int16_t* block = job.blocks;
     Wrapping* to = job.between;
     for (int i = 0; i < job.count; ++i, block += job.blockStride, to += N * job.across) {
@@ -38,13 +38,13 @@ void InverseColumns(const ColumnJob& job) {
             Wrapping in[N], out[N];
             for (int k = 0; k < N; ++k) {
                 const int at = k * job.across + column;
-                in[k] = static_cast<Wrapping>(block[at] * job.steps[at]);
+                in[k] = Dequantize(block[at], job.steps[at]);
             }
             if (N > 2 && IsConstant<N>(in)) {
                 for (int k = 0; k < N; ++k) to[k * job.across + column] = in[0] << kColumnBits;
                 continue;
             }
-            InverseTerms<N>(in, out);
+            Idct1d<N>(in, out);
             for (int k = 0; k < N; ++k) {
                 to[k * job.across + column] =
                     static_cast<Wrapping>(Descale(out[k], kTermBits - kColumnBits));
@@ -77,7 +77,7 @@ void PutFine(const Wrapping* sums, std::int16_t* to) {
 }
 
 template <int N>
-void InverseRows(const RowJob& job) {
+void IdctRows(const RowJob& job) {
     const Wrapping* from = job.between;
     for (int i = 0; i < job.count; ++i) {
         std::int16_t* to = job.samples + i * N;
@@ -86,7 +86,7 @@ void InverseRows(const RowJob& job) {
             if (N > 2 && IsConstant<N>(from)) {
                 std::fill_n(out, N, from[0] << kTermBits);
             } else {
-                InverseTerms<N>(from, out);
+                Idct1d<N>(from, out);
             }
             PutFine<N>(out, to);
         }
@@ -94,30 +94,30 @@ void InverseRows(const RowJob& job) {
 }
 
 constexpr std::array<void (*)(const ColumnJob&), 9> kColumns = {
-    nullptr,           InverseColumns<1>, InverseColumns<2>, InverseColumns<3>, InverseColumns<4>,
-    InverseColumns<5>, nullptr,           nullptr,           InverseColumns<8>};
-constexpr std::array<void (*)(const RowJob&), 9> kRows = {
-    nullptr,        InverseRows<1>, InverseRows<2>, InverseRows<3>, InverseRows<4>,
-    InverseRows<5>, nullptr,        nullptr,        InverseRows<8>};
+    nullptr,        IdctColumns<1>, IdctColumns<2>, IdctColumns<3>, IdctColumns<4>,
+    IdctColumns<5>, nullptr,        nullptr,        IdctColumns<8>};
+constexpr std::array<void (*)(const RowJob&), 9> kRows = {nullptr,     IdctRows<1>, IdctRows<2>,
+                                                          IdctRows<3>, IdctRows<4>, IdctRows<5>,
+                                                          nullptr,     nullptr,     IdctRows<8>};
 
 }  // namespace
 
-ReducedInverse::ReducedInverse(const KeptFrequencies& kept, const QuantTable& quant)
+ReducedIdct::ReducedIdct(const KeptFrequencies& kept, const QuantTable& quant)
     : shape_{kept.across, kept.down, kept.stride},
       steps_(static_cast<std::size_t>(kept.stride)),
       between_(static_cast<std::size_t>(kBlocksAtOnce * kept.across * kept.down)) {
     for (std::size_t k = 0; k < quant.size(); ++k) {
         if (kept.IsKept(static_cast<int>(k))) steps_[kept.slot[k]] = quant[k];
     }
-    vectorSteps_ = VectorSteps(steps_);
+    vectorSteps_ = VectorDequantTable(steps_);
 }
 
-void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16_t* samples,
-                               std::ptrdiff_t stride) {
+void ReducedIdct::Transform(const std::int16_t* blocks, int count, std::int16_t* samples,
+                            std::ptrdiff_t stride) {
     const auto blockAt = [&](int i) { return blocks + std::ptrdiff_t{i} * shape_.stride; };
     for (int i = 0; i < count;) {
-        i += InverseByVectors(vectorSteps_, shape_, blockAt(i), count - i,
-                              samples + i * shape_.across, stride);
+        i += IdctByVectors(vectorSteps_, shape_, blockAt(i), count - i, samples + i * shape_.across,
+                           stride);
         const int some = std::min(kBlocksAtOnce, count - i);
         TransformBySingles(blockAt(i), some, samples + i * shape_.across, stride);
         i += some;
@@ -125,11 +125,11 @@ void ReducedInverse::Transform(const std::int16_t* blocks, int count, std::int16
 }
 
 // Does the same, for kBlocksAtOnce blocks at most, by arithmetic on single numbers.
-void ReducedInverse::TransformBySingles(const std::int16_t* blocks, int count,
-                                        std::int16_t* samples, std::ptrdiff_t stride) {
+void ReducedIdct::TransformBySingles(const std::int16_t* blocks, int count, std::int16_t* samples,
+                                     std::ptrdiff_t stride) {
     if (shape_.across * shape_.down == kBlockSize) {
         for (int i = 0; i < count; ++i, blocks += kBlockSize, samples += 8) {
-            InverseBlock(blocks, steps_.data(), [=](int row, const Wrapping* sums) {
+            IdctBlock(blocks, steps_.data(), [=](int row, const Wrapping* sums) {
                 PutFine<8>(sums, samples + row * stride);
             });
         }

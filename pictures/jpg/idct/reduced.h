@@ -1,29 +1,30 @@
-// Turns the low frequencies of blocks into fewer samples a block, or into all with a fraction.
+// The IDCT of the low frequencies of blocks alone: to fewer samples per block, or to all of them
+// with a fraction.
 #pragma once
 
 #include <cstddef>
 #include <vector>
 
 #include "pictures/jpg/frame.h"
-#include "pictures/jpg/idct/terms.h"
+#include "pictures/jpg/idct/idct_1d.h"
 #include "pictures/jpg/idct/vectors.h"
 #include "pictures/jpg/scan/coefficients.h"
 
 namespace vistrel::jpg {
 
-/// The most frequencies of an axis, short of all eight, that there is a transform for.
+/// The most frequencies of an axis, short of all eight, that there is an IDCT for.
 inline constexpr int kMostReduced = 5;
 
 /// Makes kept.across * kept.down samples of each block (both 1 to kMostReduced, or 8): the same
 /// picture with fewer samples. Samples count 64 (1 << kFineBits) for a step of the file's 256, from
 /// the middle of their range, and stay within it.
-class ReducedInverse {
+class ReducedIdct {
  public:
     /// `quant` has the steps in the file's order.
-    ReducedInverse(const KeptFrequencies& kept, const QuantTable& quant);
+    ReducedIdct(const KeptFrequencies& kept, const QuantTable& quant);
 
-    /// Transforms `count` blocks that lie side by side. Sample (x, y) of the first one goes to
-    /// samples[y * stride + x]; the others follow to its right.
+    /// Dequantizes and transforms `count` blocks that lie side by side. Sample (x, y) of the first
+    /// one goes to samples[y * stride + x]; the others follow to its right.
     void Transform(const std::int16_t* blocks, int count, std::int16_t* samples,
                    std::ptrdiff_t stride);
 
@@ -36,7 +37,7 @@ class ReducedInverse {
 
     BlockShape shape_;
     std::vector<std::int32_t> steps_;
-    VectorSteps vectorSteps_;
+    VectorDequantTable vectorSteps_;
     std::vector<Wrapping> between_;
 };
 

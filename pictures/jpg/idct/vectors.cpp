@@ -8,7 +8,7 @@
 #include <emmintrin.h>
 
 #include "pictures/jpg/color.h"
-#include "pictures/jpg/idct/terms.h"
+#include "pictures/jpg/idct/idct_1d.h"
 #endif
 
 namespace vistrel::jpg {
@@ -30,7 +30,7 @@ constexpr auto kWeights = [] {
     for (std::size_t k = 0; k < N; ++k) {
         Wrapping in[N] = {}, out[N] = {};
         in[k] = 1;
-        InverseTerms<N>(in, out);
+        Idct1d<N>(in, out);
         for (std::size_t n = 0; n < N; ++n) {
             weights[k][n] = static_cast<std::int16_t>(static_cast<std::int32_t>(out[n]));
         }
@@ -156,7 +156,8 @@ inline void StoreRow(__m128i row, std::int16_t* numbers) {
 // Transforms a block to samples from the middle of their range with kFraction bits behind the
 // point; what does not fit becomes the nearest that does. False when not done.
 template <int kAcross, int kDown, int kFraction>
-inline bool Transform(const VectorSteps& steps, const std::int16_t* block, VectorBlock& samples) {
+inline bool Transform(const VectorDequantTable& steps, const std::int16_t* block,
+                      VectorBlock& samples) {
     constexpr int kRowBits = kSumBits - kFraction;
     VectorBlock terms = {};
     for (int y = 0; y < kDown; ++y) terms.rows[y] = LoadRow<kAcross>(block + y * kAcross);
@@ -167,7 +168,7 @@ inline bool Transform(const VectorSteps& steps, const std::int16_t* block, Vecto
         std::fill_n(samples.rows, 8, _mm_packs_epi32(all, all));
         return true;
     }
-    for (int y = 0; y < kDown; ++y) {
+    for (int y = 0; y < kDown; ++y) {  // dequantize
         terms.rows[y] =
             _mm_mullo_epi16(terms.rows[y], LoadRow<kAcross>(&steps.numbers[y * kAcross]));
     }
@@ -179,8 +180,8 @@ inline bool Transform(const VectorSteps& steps, const std::int16_t* block, Vecto
 }
 
 template <int kAcross, int kDown>
-int Inverse(const VectorSteps& steps, const std::int16_t* blocks, int blockStride, int count,
-            std::int16_t* samples, std::ptrdiff_t stride) {
+int Idct(const VectorDequantTable& steps, const std::int16_t* blocks, int blockStride, int count,
+         std::int16_t* samples, std::ptrdiff_t stride) {
     constexpr short kLeast = -(128 << kFineBits), kMost = (128 << kFineBits) - 1;
     const __m128i least = _mm_set1_epi16(kLeast), most = _mm_set1_epi16(kMost);
     for (int i = 0; i < count; ++i, blocks += blockStride, samples += kAcross) {
@@ -198,7 +199,7 @@ int Inverse(const VectorSteps& steps, const std::int16_t* blocks, int blockStrid
 
 }  // namespace
 
-VectorSteps::VectorSteps(std::span<const std::int32_t> steps) {
+VectorDequantTable::VectorDequantTable(std::span<const std::int32_t> steps) {
     const std::int32_t largest = *std::max_element(steps.begin(), steps.end());
     most = largest > kMost16 ? 0 : kMost16 / std::max(largest, 1);
     std::transform(steps.begin(), steps.end(), numbers.begin(),
@@ -207,38 +208,39 @@ VectorSteps::VectorSteps(std::span<const std::int32_t> steps) {
 
 #ifdef __SSE2__
 
-int InverseByVectors(const VectorSteps& steps, const BlockShape& shape, const std::int16_t* blocks,
-                     int count, std::int16_t* samples, std::ptrdiff_t stride) {
-    const auto with = [&](auto inverse) {
-        return inverse(steps, blocks, shape.stride, count, samples, stride);
+int IdctByVectors(const VectorDequantTable& steps, const BlockShape& shape,
+                  const std::int16_t* blocks, int count, std::int16_t* samples,
+                  std::ptrdiff_t stride) {
+    const auto with = [&](auto idct) {
+        return idct(steps, blocks, shape.stride, count, samples, stride);
     };
     // Of fewer columns or rows, vectors would be half empty.
     switch (shape.across * 10 + shape.down) {
         case 44:
-            return with(Inverse<4, 4>);
+            return with(Idct<4, 4>);
         case 45:
-            return with(Inverse<4, 5>);
+            return with(Idct<4, 5>);
         case 48:
-            return with(Inverse<4, 8>);
+            return with(Idct<4, 8>);
         case 54:
-            return with(Inverse<5, 4>);
+            return with(Idct<5, 4>);
         case 55:
-            return with(Inverse<5, 5>);
+            return with(Idct<5, 5>);
         case 58:
-            return with(Inverse<5, 8>);
+            return with(Idct<5, 8>);
         case 84:
-            return with(Inverse<8, 4>);
+            return with(Idct<8, 4>);
         case 85:
-            return with(Inverse<8, 5>);
+            return with(Idct<8, 5>);
         case 88:
-            return with(Inverse<8, 8>);
+            return with(Idct<8, 8>);
         default:
             return 0;
     }
 }
 
-bool InverseFullByVectors(const VectorSteps& steps, const std::int16_t* block,
-                          std::uint8_t* samples, std::ptrdiff_t stride) {
+bool IdctFullByVectors(const VectorDequantTable& steps, const std::int16_t* block,
+                       std::uint8_t* samples, std::ptrdiff_t stride) {
     VectorBlock rows;
     if (!Transform<8, 8, 0>(steps, block, rows)) return false;
     for (int y = 0; y < 8; ++y) {
@@ -251,12 +253,13 @@ bool InverseFullByVectors(const VectorSteps& steps, const std::int16_t* block,
 
 #else
 
-int InverseByVectors(const VectorSteps&, const BlockShape&, const std::int16_t*, int, std::int16_t*,
-                     std::ptrdiff_t) {
+int IdctByVectors(const VectorDequantTable&, const BlockShape&, const std::int16_t*, int,
+                  std::int16_t*, std::ptrdiff_t) {
     return 0;
 }
 
-bool InverseFullByVectors(const VectorSteps&, const std::int16_t*, std::uint8_t*, std::ptrdiff_t) {
+bool IdctFullByVectors(const VectorDequantTable&, const std::int16_t*, std::uint8_t*,
+                       std::ptrdiff_t) {
     return false;
 }
 

@@ -29,7 +29,7 @@ std::vector<bool> ChooseScans(pictures::FileBytes file, std::span<const KeptFreq
             std::uint64_t& wanted = needed[static_cast<std::size_t>(part.component)];
             if ((wanted & band) == 0) continue;
             chosen[i] = true;
-            if (scan.isRefinement()) wanted |= band;
+            if (scan.IsRefinement()) wanted |= band;
         }
     }
     return chosen;

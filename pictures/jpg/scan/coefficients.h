@@ -17,7 +17,7 @@ inline std::uint64_t PositionBand(int first, int last) {
     return upToLast & ~std::uint64_t{0} << first;
 }
 
-/// The low frequencies of a block that somebody needs: `across` of the eight horizontal and `down`
+/// The low frequencies of a block that are needed: `across` of the eight horizontal and `down`
 /// of the eight vertical ones. They are kept as a matrix of `down` rows.
 struct KeptFrequencies {
     /// Positions that a damaged file can make a run of zeros end at: 15 beyond the last.
@@ -66,7 +66,7 @@ struct KeptFrequencies {
     }
 };
 
-/// Blocks with those that fill up the interleaved units.
+/// Blocks with those that fill up the interleaved MCUs.
 inline std::int64_t BlocksOf(const JpgComponent& component) {
     return static_cast<std::int64_t>(component.paddedAcross) * component.paddedDown;
 }
@@ -88,14 +88,14 @@ struct BlockRows {
     }
 };
 
-/// Takes the coefficients of a picture row by row.
-class BlockRowTaker {
+/// Receives the coefficients of a picture row by row, not yet dequantized.
+class BlockRowSink {
  public:
-    virtual ~BlockRowTaker() = default;
+    virtual ~BlockRowSink() = default;
 
     /// The blocks of a component's row `row`, as many as the component has across. Each component's
     /// rows come in order, each once.
-    virtual void TakeBlockRow(int component, int row, const std::int16_t* blocks) = 0;
+    virtual void AddBlockRow(int component, int row, const std::int16_t* blocks) = 0;
 };
 
 }  // namespace vistrel::jpg

@@ -31,7 +31,7 @@ class DcFirstReader {
         return bits;
     }
 
-    void EndUnitRow() {}
+    void EndMcuRow() {}
 
  private:
     const JpgScan& scan_;
@@ -56,7 +56,7 @@ class DcRefinementReader {
         return bits;
     }
 
-    void EndUnitRow() {}
+    void EndMcuRow() {}
 
  private:
     const JpgScan& scan_;
@@ -75,7 +75,7 @@ class AcReader {
           component_(component) {}
 
     void Restart() { endedBlocks_ = 0; }
-    void EndUnitRow() {}
+    void EndMcuRow() {}
 
  protected:
     std::uint64_t& NonZero(int column, int row) {
@@ -258,12 +258,12 @@ ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
     const auto walk = [&](auto reader) {
         return WalkScan(file, frame, scan, tables.restartInterval, reader);
     };
-    if (scan.isDc()) {
-        if (scan.isRefinement()) return walk(DcRefinementReader(scan, components));
+    if (scan.IsDc()) {
+        if (scan.IsRefinement()) return walk(DcRefinementReader(scan, components));
         return walk(DcFirstReader(scan, tables, components));
     }
     ProgressiveComponent& component = components[static_cast<std::size_t>(scan.parts[0].component)];
-    if (scan.isRefinement()) return walk(AcRefinementReader(scan, tables, component));
+    if (scan.IsRefinement()) return walk(AcRefinementReader(scan, tables, component));
     return walk(AcFirstReader(scan, tables, component));
 }
 

@@ -10,11 +10,11 @@ namespace {
 struct Part {
     int component;
     int blocksDown;  // rows of blocks that the component has
-    int rowsPerUnit;
+    int rowsPerMcu;
     const KeptFrequencies* kept;
     const HuffmanTable* dc;
     const HuffmanTable* ac;
-    BlockRows rows;    // of one row of units
+    BlockRows rows;    // of one row of MCUs
     int firstRow = 0;  // row of blocks in the picture that is first in `rows`
     std::int16_t prediction = 0;
 };
@@ -85,8 +85,8 @@ void SkipNeedless(BitReader& bits, const HuffmanTable& table, int k) {
 class SequentialReader {
  public:
     SequentialReader(const JpgFrame& frame, const JpgScan& scan, JpgTables& tables,
-                     std::span<const KeptFrequencies> kept, BlockRowTaker& taker)
-        : taker_(taker) {
+                     std::span<const KeptFrequencies> kept, BlockRowSink& sink)
+        : sink_(sink) {
         const bool interleaved = scan.parts.size() > 1;
         for (const JpgScanPart& part : scan.parts) {
             const std::size_t index = static_cast<std::size_t>(part.component);
@@ -115,28 +115,28 @@ class SequentialReader {
         return bits;
     }
 
-    void EndUnitRow() {
+    void EndMcuRow() {
         for (Part& part : parts_) {
-            const int rows = std::min(part.rowsPerUnit, part.blocksDown - part.firstRow);
+            const int rows = std::min(part.rowsPerMcu, part.blocksDown - part.firstRow);
             for (int y = 0; y < rows; ++y) {
-                taker_.TakeBlockRow(part.component, part.firstRow + y, part.rows.Block(0, y));
+                sink_.AddBlockRow(part.component, part.firstRow + y, part.rows.Block(0, y));
             }
-            part.firstRow += part.rowsPerUnit;
+            part.firstRow += part.rowsPerMcu;
             std::fill(part.rows.numbers.begin(), part.rows.numbers.end(), std::int16_t{0});
         }
     }
 
  private:
     std::vector<Part> parts_;
-    BlockRowTaker& taker_;
+    BlockRowSink& sink_;
 };
 
 }  // namespace
 
 ScanOutcome ReadSequentialScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                                JpgTables& tables, std::span<const KeptFrequencies> kept,
-                               BlockRowTaker& taker) {
-    SequentialReader reader(frame, scan, tables, kept, taker);
+                               BlockRowSink& sink) {
+    SequentialReader reader(frame, scan, tables, kept, sink);
     return WalkScan(file, frame, scan, tables.restartInterval, reader);
 }
 

@@ -10,41 +10,41 @@ namespace vistrel::jpg {
 
 /// How much of a scan was there.
 struct ScanOutcome {
-    std::int64_t unitsRead = 0;
-    std::int64_t units = 0;
+    std::int64_t mcusRead = 0;
+    std::int64_t mcus = 0;
     std::size_t end = 0;  ///< where the file goes on with a marker
 };
 
-/// The units of a scan: one block each where the scan has one component, else all blocks of a part
-/// of the picture, sampling factors across and down of each component.
-struct ScanUnits {
+/// The minimum coded units (MCUs) of a scan: one block each where the scan has one component, else
+/// all blocks of a part of the picture, sampling factors across and down of each component.
+struct ScanMcus {
     int across = 0;
     int down = 0;
     bool interleaved = false;
 
-    ScanUnits(const JpgFrame& frame, const JpgScan& scan) : interleaved(scan.parts.size() > 1) {
+    ScanMcus(const JpgFrame& frame, const JpgScan& scan) : interleaved(scan.parts.size() > 1) {
         const JpgComponent& only =
             frame.components[static_cast<std::size_t>(scan.parts[0].component)];
-        across = interleaved ? frame.unitsAcross : only.blocksAcross;
-        down = interleaved ? frame.unitsDown : only.blocksDown;
+        across = interleaved ? frame.mcusAcross : only.blocksAcross;
+        down = interleaved ? frame.mcusDown : only.blocksDown;
     }
 };
 
 /// Calls `Reader::Restart()` at each beginning and restart, `bits = Reader::ReadBlock(bits, part,
-/// column, row)` for each block of a scan in the file's order and `Reader::EndUnitRow()` at the
-/// end of each row of units. Units that the file lacks are passed over in silence.
+/// column, row)` for each block of a scan in the file's order and `Reader::EndMcuRow()` at the
+/// end of each row of MCUs. MCUs that the file lacks are skipped in silence.
 template <class Reader>
 ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
                      int restartInterval, Reader& reader) {
-    const ScanUnits units(frame, scan);
+    const ScanMcus mcus(frame, scan);
     ScanBytes bytes(file, scan.dataStart);
     BitReader bits = bytes.Reader();
     ScanOutcome outcome;
-    outcome.units = static_cast<std::int64_t>(units.across) * units.down;
+    outcome.mcus = static_cast<std::int64_t>(mcus.across) * mcus.down;
     reader.Restart();
     int untilRestart = restartInterval, restarts = 0;
-    for (int row = 0; row < units.down; ++row) {
-        for (int column = 0; column < units.across; ++column) {
+    for (int row = 0; row < mcus.down; ++row) {
+        for (int column = 0; column < mcus.across; ++column) {
             if (restartInterval > 0 && untilRestart-- == 0) {
                 bytes.Restart(restarts++ & 7);
                 bits = bytes.Reader();
@@ -52,12 +52,12 @@ ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgS
                 untilRestart = restartInterval - 1;
             }
             if (bytes.IsOverrun(bits)) continue;
-            ++outcome.unitsRead;
+            ++outcome.mcusRead;
             for (std::size_t part = 0; part < scan.parts.size(); ++part) {
                 const JpgComponent& component =
                     frame.components[static_cast<std::size_t>(scan.parts[part].component)];
-                const int wide = units.interleaved ? component.across : 1;
-                const int high = units.interleaved ? component.down : 1;
+                const int wide = mcus.interleaved ? component.across : 1;
+                const int high = mcus.interleaved ? component.down : 1;
                 for (int y = 0; y < high; ++y) {
                     for (int x = 0; x < wide; ++x) {
                         if (bytes.NeedsMore(bits)) bits = bytes.More(bits);
@@ -66,7 +66,7 @@ ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgS
                 }
             }
         }
-        reader.EndUnitRow();
+        reader.EndMcuRow();
     }
     outcome.end = bytes.FindEnd();
     return outcome;

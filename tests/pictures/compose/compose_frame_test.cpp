@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "pictures/compose/geometry.h"
+#include "pictures/read_picture.h"
 #include "tests/pictures/compose/reference.h"
 #include "tests/pictures/compose/scene.h"
 
@@ -157,23 +158,48 @@ RgbPicture Disc(int width, int height, double diameter) {
     return picture;
 }
 
+/// Expects that a white disc in the middle of a picture is as wide as high on a 4:3 screen, framed
+/// whichever way keeps shapes.
+void ExpectCircle(const std::string& path) {
+    for (const FramingKind kind : {FramingKind::Fill, FramingKind::Fit}) {
+        for (const int turns : {0, 1}) {
+            const auto framed = ReadFramed(path, WithFraming(kind, {turns, false}));
+            ASSERT_TRUE(framed.has_value());
+            // Lengths in parts of a screen that is 4 wide and 3 high.
+            double across = 0, down = 0;
+            for (int x = 0; x < 320; ++x)
+                across += framed->screen.pixels[(200 * 320 + x) * 3] / 255.0 * 4 / 320;
+            for (int y = 0; y < 400; ++y)
+                down += framed->screen.pixels[(y * 320 + 160) * 3] / 255.0 * 3 / 400;
+            EXPECT_NEAR(across, down, 4.0 / 320) << path << int(kind) << turns;
+        }
+    }
+}
+
 TEST(FrameTest, ACircleIsACircleOnA4To3Screen) {
     const Folder folder;
-    for (const auto& [width, height] : {std::pair{1200, 700}, {500, 900}, {640, 480}}) {
-        const std::string path = folder.Save("disc.bmp", BmpOf(Disc(width, height, 350)));
-        for (const FramingKind kind : {FramingKind::Fill, FramingKind::Fit}) {
-            for (const int turns : {0, 1}) {
-                const auto framed = ReadFramed(path, WithFraming(kind, {turns, false}));
-                ASSERT_TRUE(framed.has_value());
-                // Lengths in parts of a screen that is 4 wide and 3 high.
-                double across = 0, down = 0;
-                for (int x = 0; x < 320; ++x)
-                    across += framed->screen.pixels[(200 * 320 + x) * 3] / 255.0 * 4 / 320;
-                for (int y = 0; y < 400; ++y)
-                    down += framed->screen.pixels[(y * 320 + 160) * 3] / 255.0 * 3 / 400;
-                EXPECT_NEAR(across, down, 4.0 / 320) << width << " x " << height << " " << turns;
-            }
-        }
+    for (const auto& [width, height] : {std::pair{1200, 700}, {500, 900}, {640, 480}})
+        ExpectCircle(folder.Save("disc.bmp", BmpOf(Disc(width, height, 350))));
+}
+
+TEST(FrameTest, ACircleOfAFinishedScreenIsACircleStill) {
+    const Folder folder;
+    const std::string photograph = folder.Save("disc.bmp", BmpOf(Disc(800, 600, 350)));
+    for (const char* name : {"LOGO.SYS", "screen.bmp"}) {
+        ASSERT_EQ(MakeScreen(photograph, folder.PathOf(name), {}), ConversionResult::Written);
+        ExpectCircle(folder.PathOf(name));
+    }
+}
+
+TEST(FrameTest, AFinishedScreenThatFillsOrFitsIsAsItWas) {
+    const Folder folder;
+    const std::string scene = folder.Save("scene.bmp", BmpOf(MakeScene(640, 480)));
+    const std::string screen = folder.PathOf("LOGO.SYS");
+    ASSERT_EQ(MakeScreen(scene, screen, {}), ConversionResult::Written);
+    for (const FramingKind kind : {FramingKind::Fill, FramingKind::Fit}) {
+        const auto framed = ReadFramed(screen, WithFraming(kind));
+        ASSERT_TRUE(framed.has_value());
+        EXPECT_EQ(framed->screen.pixels, ReadPicture(screen)->pixels);
     }
 }
 

@@ -26,11 +26,19 @@ double SeenWidthOfSquare(const PictureSize& turned, const Composition& compositi
     const ScreenRectangle screen = ScreenRectFor(turned, composition);
     const double across = screen.width * (4.0 / 320) / static_cast<double>(source.width);
     const double down = screen.height * (3.0 / 400) / static_cast<double>(source.height);
-    return across / down;
+    return across * turned.pixel.height / (down * turned.pixel.width);
 }
 
-const PictureSize kSizes[] = {{640, 480}, {1920, 1080}, {3000, 4000}, {6000, 2500},
-                              {320, 400}, {4752, 3168}, {7, 5},       {1000, 1001}};
+const PictureSize kSizes[] = {{640, 480},
+                              {1920, 1080},
+                              {3000, 4000},
+                              {6000, 2500},
+                              {320, 400},
+                              {4752, 3168},
+                              {7, 5},
+                              {1000, 1001},
+                              {320, 400, kScreenPixel},
+                              {400, 320, {3, 5}}};
 
 TEST(GeometryTest, StretchShowsAllOfThePictureEverywhere) {
     for (const PictureSize& size : kSizes) {
@@ -69,6 +77,19 @@ TEST(GeometryTest, FitShowsAllOfThePictureInTheMiddle) {
     EXPECT_EQ(ScreenRectFor({400, 300}, Framed(FramingKind::Fit)),
               (ScreenRectangle{0, 0, 320, 400}));
     EXPECT_EQ(SourceRectFor({600, 900}, Framed(FramingKind::Fit)), PictureArea::WholeOf(600, 900));
+}
+
+TEST(GeometryTest, AFinishedScreenFillsTheScreenAndFitsIt) {
+    const PictureSize screen{320, 400, kScreenPixel};
+    for (const FramingKind kind : {FramingKind::Fill, FramingKind::Fit}) {
+        EXPECT_EQ(SourceRectFor(screen, Framed(kind)), PictureArea::WholeOf(320, 400));
+        EXPECT_EQ(ScreenRectFor(screen, Framed(kind)), (ScreenRectangle{0, 0, 320, 400}));
+    }
+    // On its side it is as much too high as an upright photograph of 3 to 4.
+    const PictureSize turned = SizeWhenTurned(screen, {1, false});
+    EXPECT_EQ(turned, (PictureSize{400, 320, {3, 5}}));
+    EXPECT_EQ(ScreenRectFor(turned, Framed(FramingKind::Fit)),
+              ScreenRectFor({300, 400}, Framed(FramingKind::Fit)));
 }
 
 TEST(GeometryTest, FitKeepsShapesToHalfAPixel) {

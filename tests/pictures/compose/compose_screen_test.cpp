@@ -3,7 +3,8 @@
 
 #include "pictures/bmp/writer.h"
 #include "pictures/compose/text.h"
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
+#include "pictures/read_picture.h"
 #include "tests/pictures/compose/scene.h"
 #include "tests/pictures/corpus.h"
 

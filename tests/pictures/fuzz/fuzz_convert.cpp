@@ -1,5 +1,5 @@
 // Any bytes as a picture file that is converted to a screen file, as the program does it. The
-// first byte chooses the ending of the file's name.
+// first byte chooses one of the formats, whose ending the file's name has.
 #include <stdlib.h>
 
 #include <cstdio>
@@ -8,7 +8,8 @@
 
 #include "pictures/bmp/reader.h"
 #include "pictures/convert.h"
-#include "pictures/whole_file.h"
+#include "pictures/file.h"
+#include "pictures/formats.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ class Folder {
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
 
-    std::string File(const char* name) const { return path_ / name; }
+    std::string File(const std::string& name) const { return path_ / name; }
 
  private:
     std::filesystem::path path_;
@@ -41,9 +42,10 @@ void Write(const std::string& path, const std::uint8_t* data, std::size_t size) 
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Folder folder;
-    constexpr const char* kNames[] = {"source.bmp", "source.gif", "source.jpg"};
+    const auto formats = vistrel::pictures::PictureFormats();
     if (size == 0) return 0;
-    const std::string source = folder.File(kNames[data[0] % 3]);
+    const std::string source =
+        folder.File("source" + std::string(formats[data[0] % formats.size()].endings[0]));
     const std::string target = folder.File("LOGO.SYS");
     std::filesystem::remove(target);
     Write(source, data + 1, size - 1);

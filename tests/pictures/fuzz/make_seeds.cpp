@@ -109,7 +109,7 @@ void AddJpegs(SeedFolder& seeds) {
                 options.color = color;
                 options.sampling = {{across, down}};
                 seeds.AddJpg(MakeJpg(picture, options));
-                options.restartUnits = 2;
+                options.restartMcus = 2;
                 options.ownTables = true;
                 seeds.AddJpg(MakeJpg(picture, options));
                 options.separateScans = true;

@@ -8,12 +8,14 @@
 #include <vector>
 
 #include "pictures/bmp/writer.h"
+#include "pictures/file.h"
 #include "tests/support/machine/machine.h"
 #include "tests/support/user/user.h"
 
 namespace vistrel::test {
 
 using namespace bmp;
+using namespace pictures;
 
 namespace {
 

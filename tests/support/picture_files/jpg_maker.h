@@ -26,7 +26,7 @@ struct JpgOptions {
     bool separateScans = false;  ///< one scan for each component, in a sequential file
     bool arithmetic = false;
     bool ownTables = false;  ///< Huffman tables made for the picture
-    unsigned restartUnits = 0;
+    unsigned restartMcus = 0;
 };
 
 /// Ends the test program on an error: these files are made to be right.
@@ -59,7 +59,7 @@ inline Bytes MakeJpg(const pictures::RgbPicture& picture, const JpgOptions& opti
         info.comp_info[i].h_samp_factor = given ? options.sampling[i].first : 1;
         info.comp_info[i].v_samp_factor = given ? options.sampling[i].second : 1;
     }
-    info.restart_interval = options.restartUnits;
+    info.restart_interval = options.restartMcus;
     info.arith_code = options.arithmetic;
     info.optimize_coding = options.ownTables;
     std::vector<jpeg_scan_info> scans;

@@ -1,5 +1,4 @@
-// Inverse cosine transforms of one to eight terms in integers, the core of turning coefficients
-// back into samples.
+// The one-dimensional inverse discrete cosine transform (IDCT) of one to eight terms in integers.
 #pragma once
 
 #include <array>
@@ -13,7 +12,7 @@ namespace vistrel::jpg {
 /// sense, and sound files stay far within.
 using Wrapping = std::uint32_t;
 
-/// Results of InverseTerms carry this many bits behind the point.
+/// Results of Idct1d carry this many bits behind the point.
 inline constexpr int kTermBits = 13;
 /// Bits behind the point that the results of columns keep for the rows.
 inline constexpr int kColumnBits = 2;
@@ -27,7 +26,12 @@ inline std::int32_t Descale(Wrapping sum, int bits) {
     return static_cast<std::int32_t>(sum + (Wrapping{1} << (bits - 1))) >> bits;
 }
 
-namespace inverse_terms {
+/// A coefficient as the encoder had it, but for its rounding.
+inline Wrapping Dequantize(std::int16_t coefficient, std::int32_t step) {
+    return static_cast<Wrapping>(coefficient * step);
+}
+
+namespace idct_1d {
 
 // The cosine of `angle` (0 to 16 quarter turns or so) by its power series; for tables made while
 // compiling.
@@ -78,16 +82,16 @@ constexpr void SamplePair(const Wrapping* in, Wrapping* out) {
     out[N - 1 - n] = even - odd;
 }
 
-}  // namespace inverse_terms
+}  // namespace idct_1d
 
 /// The N samples of which `in` has the terms: out[n] = sum over k of c(k) in[k] cos((2n+1) k pi /
 /// 2N), c(0) = 1, else the square root of 2; times 2^kTermBits. Both ways of a block together make
 /// eight times the samples of an 8 x 8 transform (T.81, A.3.3), whatever N is, so that the low
 /// frequencies of a block give the same picture with fewer samples.
 template <int N>
-constexpr void InverseTerms(const Wrapping* in, Wrapping* out) {
+constexpr void Idct1d(const Wrapping* in, Wrapping* out) {
     [=]<int... I>(std::integer_sequence<int, I...>) {
-        (inverse_terms::SamplePair<N, I>(in, out), ...);
+        (idct_1d::SamplePair<N, I>(in, out), ...);
     }(std::make_integer_sequence<int, (N + 1) / 2>{});
 }
 
@@ -95,8 +99,8 @@ constexpr void InverseTerms(const Wrapping* in, Wrapping* out) {
 /// G. Moschytz, "Practical fast 1-D DCT algorithms with 11 multiplications" (1989). Its roundings
 /// are those of most decoders, so that they give the same samples.
 template <>
-constexpr void InverseTerms<8>(const Wrapping* in, Wrapping* out) {
-    using inverse_terms::Fixed;
+constexpr void Idct1d<8>(const Wrapping* in, Wrapping* out) {
+    using idct_1d::Fixed;
     const Wrapping turned = (in[2] + in[6]) * Fixed(0.541196100);
     const Wrapping inner = turned - in[6] * Fixed(1.847759065);
     const Wrapping outer = turned + in[2] * Fixed(0.765366865);

@@ -1,5 +1,5 @@
-// The inverse transforms and colours of JPEG files, by vectors or not, against the same sums made
-// one number at a time: with numbers that no sound file has, too.
+// The inverse transforms (IDCT) and colours of JPEG files, by vectors or not, against the same sums
+// made one number at a time: with numbers that no sound file has, too.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +21,7 @@ constexpr int kFrequencies[] = {1, 2, 3, 4, 5, 8};
 template <int N>
 std::vector<Wrapping> Terms(const std::vector<Wrapping>& in) {
     std::vector<Wrapping> out(N);
-    InverseTerms<N>(in.data(), out.data());
+    Idct1d<N>(in.data(), out.data());
     return out;
 }
 
@@ -115,8 +115,7 @@ TEST(JpgInverse, ReducedBlocksAreTheSumsOfTheirTerms) {
                 for (std::int16_t& number : blocks) number = numbers.Coefficient();
                 const int width = kBlocks * across;
                 std::vector<std::int16_t> samples(static_cast<std::size_t>(width * down));
-                ReducedInverse(kept, quant)
-                    .Transform(blocks.data(), kBlocks, samples.data(), width);
+                ReducedIdct(kept, quant).Transform(blocks.data(), kBlocks, samples.data(), width);
                 for (int i = 0; i < kBlocks; ++i) {
                     const std::vector<std::int32_t> wanted =
                         Samples(&blocks[static_cast<std::size_t>(i * kept.stride)], steps,
@@ -144,7 +143,7 @@ TEST(JpgInverse, WholeBlocksAreTheSumsOfTheirTerms) {
         std::array<std::int16_t, kBlockSize> block;
         for (std::int16_t& number : block) number = numbers.Coefficient();
         std::array<std::uint8_t, kBlockSize> samples;
-        InverseFull(block.data(), StepsOf(quant), samples.data(), 8);
+        IdctFull(block.data(), DequantTableOf(quant), samples.data(), 8);
         const std::vector<std::int32_t> wanted = Samples(block.data(), steps, 8, 8, 0);
         for (std::size_t at = 0; at < samples.size(); ++at) {
             ASSERT_EQ(samples[at], std::clamp(wanted[at] + 128, 0, 255));

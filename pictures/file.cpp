@@ -1,0 +1,118 @@
+// By the C library, which takes ANSI paths everywhere. What can fail is counted as the operations
+// of platform/ are, and can be made to fail like them.
+#include "pictures/file.h"
+
+#include <cstdio>
+#include <memory>
+#include <utility>
+
+#include "platform/fault.h"
+
+namespace vistrel::pictures {
+
+namespace {
+
+namespace fault = platform::fault;
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+File Open(const std::string& path, const char* how) { return File(std::fopen(path.c_str(), how)); }
+
+// -1 for what has no size, such as a folder where the C library opens these.
+long SizeOf(std::FILE* file) {
+    if (std::fseek(file, 0, SEEK_END) != 0) return -1;
+    const long size = std::ftell(file);
+    return std::fseek(file, 0, SEEK_SET) == 0 ? size : -1;
+}
+
+std::optional<std::vector<std::uint8_t>> ReadNext(std::FILE* file, std::size_t count) {
+    std::vector<std::uint8_t> bytes(count);
+    if (std::fread(bytes.data(), 1, count, file) != count) return std::nullopt;
+    return bytes;
+}
+
+/// A file beside `path` that is new. What already has its name, a file or something that cannot be
+/// opened, is left alone; of so many names one is free where files can be made at all.
+struct NewFile {
+    std::string path;
+    File file;
+};
+
+NewFile MakeFileBeside(const std::string& path) {
+    constexpr unsigned kNames = 50;
+    if (fault::Strikes()) return {};
+    const std::size_t slash = path.find_last_of("\\/:");
+    const std::string folder = slash == std::string::npos ? "" : path.substr(0, slash + 1);
+    for (unsigned number = 0; number < kNames; ++number) {
+        char name[16];  // short enough for every file system
+        std::snprintf(name, sizeof name, "~vs%05u.tmp", number);
+        if (Open(folder + name, "rb")) continue;
+        if (File file = Open(folder + name, "wb")) return {folder + name, std::move(file)};
+    }
+    return {};
+}
+
+bool WriteInto(File file, const std::vector<std::uint8_t>& bytes) {
+    if (fault::Strikes()) return false;
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    // Closing writes what is still buffered: the disk may turn out to be full only here.
+    return std::fclose(file.release()) == 0 && written;
+}
+
+bool Rename(const std::string& from, const std::string& to) {
+    return !fault::Strikes() && std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+#ifdef _WIN32
+// There the C library does not rename onto a file that exists: the former one steps aside, and
+// comes back if the new one cannot take its place.
+bool MoveOver(const std::string& from, const std::string& to) {
+    if (Rename(from, to)) return true;
+    // A folder, or a file that must not be written to, would step aside as readily.
+    if (!Open(to, "r+b")) return false;
+    const std::string aside = MakeFileBeside(to).path;
+    if (aside.empty()) return false;
+    std::remove(aside.c_str());
+    if (!Rename(to, aside)) return false;
+    const bool moved = Rename(from, to);
+    if (moved) {
+        std::remove(aside.c_str());
+    } else {
+        Rename(aside, to);
+    }
+    return moved;
+}
+#else
+bool MoveOver(const std::string& from, const std::string& to) { return Rename(from, to); }
+#endif
+
+}  // namespace
+
+std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path) {
+    if (fault::Strikes()) return std::nullopt;
+    const File file = Open(path, "rb");
+    if (!file) return std::nullopt;
+    const long size = SizeOf(file.get());
+    if (size < 0 || size > kLargestFile) return std::nullopt;
+    return ReadNext(file.get(), static_cast<std::size_t>(size));
+}
+
+std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path,
+                                                         std::size_t count) {
+    if (fault::Strikes()) return std::nullopt;
+    const File file = Open(path, "rb");
+    return file ? ReadNext(file.get(), count) : std::nullopt;
+}
+
+bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
+    NewFile temporary = MakeFileBeside(path);
+    if (!temporary.file) return false;
+    if (WriteInto(std::move(temporary.file), bytes) && MoveOver(temporary.path, path)) return true;
+    std::remove(temporary.path.c_str());
+    return false;
+}
+
+}  // namespace vistrel::pictures
