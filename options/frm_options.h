@@ -68,14 +68,14 @@ class FrmOptions : public controls::Window {
     /// A setting that is 0 or 1, and the check box that shows it and is asked at OK.
     struct Flag {
         controls::CheckBox* checkBox = nullptr;
-        std::int16_t core::Settings::*setting = nullptr;
+        std::int16_t core::Settings::* setting = nullptr;
     };
     /// A row of a page's table.
     struct Row {
         Row(controls::Control& control, int id, unsigned long help = 0) : part{control, id, help} {}
         /// A check box that is a setting.
         Row(controls::CheckBox& checkBox, int id, unsigned long help,
-            std::int16_t core::Settings::*setting)
+            std::int16_t core::Settings::* setting)
             : part{checkBox, id, help}, flag{&checkBox, setting} {}
 
         controls::Part part;
