@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "pictures/bmp/header.h"
+#include "pictures/bmp/writer.h"
 #include "pictures/little_endian.h"
 
 namespace vistrel::screen {
@@ -37,6 +38,21 @@ std::optional<IndexedScreen> ReadIndexedScreen(pictures::FileBytes file) {
         screen.firstAnimated = first <= 255 ? static_cast<int>(first) : 0;
     }
     return screen;
+}
+
+std::vector<std::uint8_t> ScreenFile(const IndexedScreen& screen) {
+    std::vector<std::uint8_t> palette;
+    for (const auto& [red, green, blue] : screen.palette)
+        palette.insert(palette.end(), {blue, green, red, 0});
+    std::vector<std::uint8_t> file = bmp::ColormappedBmp(screen.indices.data(), screen.width,
+                                                         screen.height, 256, palette.data());
+    SetFirstAnimated(file, screen.firstAnimated);
+    return file;
+}
+
+void SetFirstAnimated(std::vector<std::uint8_t>& file, int first) {
+    file[kImportantColorsOffset] = static_cast<std::uint8_t>(first);
+    std::fill_n(file.begin() + kImportantColorsOffset + 1, 3, std::uint8_t{0});
 }
 
 void RotateColors(IndexedScreen& screen) {

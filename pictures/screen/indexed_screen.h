@@ -28,6 +28,12 @@ struct IndexedScreen {
 /// else. A first animated entry above 255 counts as none.
 std::optional<IndexedScreen> ReadIndexedScreen(pictures::FileBytes file);
 
+/// The bytes of a file of that screen, as the system takes it.
+std::vector<std::uint8_t> ScreenFile(const IndexedScreen& screen);
+
+/// Writes the number of the first moving colour into a screen file's bytes.
+void SetFirstAnimated(std::vector<std::uint8_t>& file, int first);
+
 /// One step of the animation: each entry takes the colour of the next higher one, and the last that
 /// of the first animated.
 void RotateColors(IndexedScreen& screen);
