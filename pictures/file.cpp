@@ -43,7 +43,7 @@ struct NewFile {
 
 NewFile MakeFileBeside(const std::string& path) {
     constexpr unsigned kNames = 50;
-    if (fault::Strikes()) return {};
+    if (fault::ShouldFail()) return {};
     const std::size_t slash = path.find_last_of("\\/:");
     const std::string folder = slash == std::string::npos ? "" : path.substr(0, slash + 1);
     for (unsigned number = 0; number < kNames; ++number) {
@@ -56,14 +56,14 @@ NewFile MakeFileBeside(const std::string& path) {
 }
 
 bool WriteInto(File file, const std::vector<std::uint8_t>& bytes) {
-    if (fault::Strikes()) return false;
+    if (fault::ShouldFail()) return false;
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     // Closing writes what is still buffered: the disk may turn out to be full only here.
     return std::fclose(file.release()) == 0 && written;
 }
 
 bool Rename(const std::string& from, const std::string& to) {
-    return !fault::Strikes() && std::rename(from.c_str(), to.c_str()) == 0;
+    return !fault::ShouldFail() && std::rename(from.c_str(), to.c_str()) == 0;
 }
 
 #ifdef _WIN32
@@ -92,7 +92,7 @@ bool MoveOver(const std::string& from, const std::string& to) { return Rename(fr
 }  // namespace
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     const File file = Open(path, "rb");
     if (!file) return std::nullopt;
     const long size = SizeOf(file.get());
@@ -102,7 +102,7 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path) 
 
 std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path,
                                                          std::size_t count) {
-    if (fault::Strikes()) return std::nullopt;
+    if (fault::ShouldFail()) return std::nullopt;
     const File file = Open(path, "rb");
     return file ? ReadNext(file.get(), count) : std::nullopt;
 }
