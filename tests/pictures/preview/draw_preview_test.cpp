@@ -172,7 +172,7 @@ TEST_F(ActualSize, APhotographTakenOnItsSideIsUpright) {
 TEST_F(ActualSize, APictureThatTheSystemRefusesIsShownByOurReaders) {
     const GifFile file = MakeGif(90, 40, 256);
     const std::string path = Write("refused.gif", file.Encode());
-    fault::FailFromOperation(1);  // the system's loader is one
+    fault::FailOperation(1);  // the system's loader comes first
     Show(path);
     fault::Reset();
     ASSERT_TRUE(view_->Preview.HasPicture());
