@@ -48,7 +48,7 @@ void SelPictureForm::LogoList_KeyUp(int key) {
     if (LogoList.EditingLabel()) return;
     if (key == controls::kKeyF2) ItmRename_Click();
     if (key == controls::kKeyDelete) ItmDelete_Click();
-    if (key == controls::kKeyF5) AggiornaDir();
+    if (key == controls::kKeyF5) itmRefresh_Click();
 }
 
 bool SelPictureForm::RunOpenWith(int id) {

@@ -141,6 +141,8 @@ core::NewSessionFile SelPictureForm::NewFileOfSession() {
 
 void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::string& what,
                                   const std::string& folder) {
+    // A command that failed may have written some of the screens.
+    ShowPictureAnew();
     if (!result.saved) {
         // Quirk: the message is about the folder, whichever step failed, and names what was read
         // last (Saving.AnEmptySlotDeletesItsScreenAndEndsTheUpdate).
@@ -168,6 +170,7 @@ void SelPictureForm::EliminaSetBtn_Click() {
     LibraryChanged = true;
     ForgetLoadedSet(name);
     AggiornaDir();
+    ShowPictureAnew();
 }
 
 }  // namespace vistrel::editor
