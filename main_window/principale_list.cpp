@@ -162,7 +162,7 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (!core::CanBeImported(path)) continue;
+        if (!core::CanBeImported(path, settings_.logoPath)) continue;
         name = core::GetFileName(path);
         const bool exists = platform::IsFolder(settings_.logoPath + name);
         if (exists && !ConfirmOverwriting(name)) continue;
