@@ -141,7 +141,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void CheckSetCommands();
     void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
-    void FollowDeselection();
+    void MyList_SelectionChanged();
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
     void ShowInstalledSet();
