@@ -105,6 +105,7 @@ void SelPictureForm::FollowRename(const std::string& from, const std::string& to
 void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string& to) {
     const bool loaded = SameName(from, LoadedSet);
     ReplaceName(from, to);
+    host_.SetWasRenamed(from, to);
     const auto installed = host_.InstalledSet();
     if (installed && SameName(from, *installed)) host_.SetInstalledSet(to);
     if (loaded && type_ != SetType::DefaultScreens &&

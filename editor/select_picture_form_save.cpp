@@ -99,6 +99,7 @@ bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::stri
     if (!core::RenameSet(former, name)) return false;
     if (oldName == name) return true;
     ReplaceName(oldName, name);
+    host_.SetWasRenamed(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
     FollowRename(former.Path(), LogoFolder() + name);
     return true;

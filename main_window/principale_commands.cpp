@@ -169,14 +169,14 @@ void Principale::Timer1_Timer() {
     if (!IsEnabled()) return;
     Timer1.SetEnabled(false);
     EndEdits();
-    const ListPlace place = PlaceInList();
+    placeBehindBrowser_ = PlaceInList();
     {
         const platform::BusyPointer busy;  // until the browser's own Form_Load
         editor::SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
     platform::ShowDefaultPointer();
-    ReturnTo(place);
+    ReturnTo(placeBehindBrowser_);
 }
 
 void Principale::ItmExplore_Click() {
