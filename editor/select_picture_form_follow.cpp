@@ -144,7 +144,9 @@ void SelPictureForm::ForgetLoadedSet(const std::string& name) {
     LoadedSet.clear();
     EliminaSetBtn.SetEnabled(false);
     RemoveName(name);
-    NameLogoSet.SetText("");
+    // What the user has typed for the next set stays.
+    if (!NameChanged || SameName(NameLogoSet.Text(), name)) NameLogoSet.SetText("");
+    OkButton[1].SetEnabled(false);
     NameLogoSet_Change();
     for (std::string& tag : setsOwnTag_) tag.clear();
     // The shared screens belong to no set.
