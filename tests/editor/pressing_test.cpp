@@ -83,5 +83,17 @@ TEST_F(Pressing, AButtonIsPressedByTheClickThatEndsAGoodName) {
     });
 }
 
+TEST_F(Pressing, DeleteIsAsItWasAfterALookAtTheSharedScreens) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        EXPECT_TRUE(user::Click(editor.OptDefShut.handle()));
+        Await([&] { return editor.ImgPreview[1].HasPicture(); }, "shared screens");
+        EXPECT_TRUE(user::Click(editor.OptCompSet.handle()));
+        Await([&] { return !editor.ImgPreview[1].HasPicture(); }, "the set's own");
+        Settle(editor);
+        for (const Button& button : editor.DeleteButton)
+            EXPECT_TRUE(IsWindowEnabled(button.handle())) << button.id();
+    });
+}
+
 }  // namespace
 }  // namespace vistrel::test
