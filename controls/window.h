@@ -72,8 +72,11 @@ class Window {
     /// `defaultItem` is shown in bold; 0 for none.
     void PopUpMenu(platform::MenuHandle menu, Point screen, int defaultItem = 0);
 
+    /// Pops up a menu under a button, above it where the screen has no room below.
+    void PopUpMenuAt(const Control& button, platform::MenuHandle menu);
+
     /// Ends what the user edits within a control, taken as typed. Every command does this first,
-    /// and so do the closing, a click on a picture and a window that opens in front: the edit may
+    /// and so do the closing, a press on a control and a window that opens in front: the edit may
     /// rename what they are about.
     void EndEdits();
 
@@ -140,6 +143,7 @@ class Window {
     friend struct WindowProcedure;
     friend void EndSession();
 
+    void TrackMenu(platform::MenuHandle menu, Point screen, unsigned align);
     bool AttachControls();
     void FreeOwner();
     void OnDestroy();

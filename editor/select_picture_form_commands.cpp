@@ -18,8 +18,7 @@ void SelPictureForm::ActButton_Click() {
         SaveDefaultScreens();
         return;
     }
-    const controls::Rect button = ActButton.ScreenBounds();
-    PopUpMenu(controls::SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
+    PopUpMenuAt(ActButton, controls::SubMenu(menus_, kActionMenu));
 }
 
 void SelPictureForm::CloseButton_Click() { Unload(); }

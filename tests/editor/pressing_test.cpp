@@ -83,6 +83,38 @@ TEST_F(Pressing, AButtonIsPressedByTheClickThatEndsAGoodName) {
     });
 }
 
+TEST_F(Pressing, TheActionMenuOpensUnderItsButtonWhereThereIsRoom) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        SetWindowPos(editor.handle(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        Settle(editor);
+        EXPECT_TRUE(user::Click(editor.ActButton.handle()));
+        EXPECT_NE(user::WaitForPopUp(), nullptr);
+        const RECT button = PlaceOf(editor.ActButton.handle());
+        const RECT menu = PlaceOf(user::FindTop("#32768"));
+        EXPECT_EQ(menu.left, button.left);
+        EXPECT_EQ(menu.top, button.bottom);
+        DismissMenu();
+    });
+}
+
+TEST_F(Pressing, TheActionMenuOpensAboveItsButtonAtTheBottomOfTheScreen) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const RECT window = PlaceOf(editor.handle());
+        const RECT before = PlaceOf(editor.ActButton.handle());
+        SetWindowPos(editor.handle(), nullptr, window.left,
+                     window.top + GetSystemMetrics(SM_CYSCREEN) - 30 - before.bottom, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER);
+        Settle(editor);
+        EXPECT_TRUE(user::Click(editor.ActButton.handle()));
+        EXPECT_NE(user::WaitForPopUp(), nullptr);
+        const RECT button = PlaceOf(editor.ActButton.handle());
+        const RECT menu = PlaceOf(user::FindTop("#32768"));
+        EXPECT_EQ(menu.left, button.left);
+        EXPECT_EQ(menu.bottom, button.top);
+        DismissMenu();
+    });
+}
+
 TEST_F(Pressing, DeleteIsAsItWasAfterALookAtTheSharedScreens) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         EXPECT_TRUE(user::Click(editor.OptDefShut.handle()));
