@@ -236,6 +236,10 @@ void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+void Window::GiveFocus(const Control& control) {
+    SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.handle()), TRUE);
+}
+
 void Window::FocusNextTo(const Control& control) {
     const HWND next = GetNextDlgTabItem(handle_, control.handle(), FALSE);
     SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);

@@ -133,7 +133,9 @@ class Window {
     /// The topic of the help that F1 shows where no control has one of its own.
     void SetHelpTopic(unsigned long number) { helpTopic_ = number; }
 
-    /// Gives the focus to the control at which the tab key stops behind this one.
+    /// Gives the focus to a control; a button becomes the one that Enter presses.
+    void GiveFocus(const Control& control);
+    /// The same to the control at which the tab key stops behind this one.
     void FocusNextTo(const Control& control);
 
     /// Converts dialog units of this window's font to pixels.
