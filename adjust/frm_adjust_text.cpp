@@ -149,10 +149,7 @@ void FrmAdjust::BtnDeleteLine_Click() {
     TextLines.Focus();
 }
 
-void FrmAdjust::BtnReadyMade_Click() {
-    const controls::Rect button = BtnReadyMade.ScreenBounds();
-    PopUpMenu(readyMade_, {button.left, button.bottom()});
-}
+void FrmAdjust::BtnReadyMade_Click() { PopUpMenuAt(BtnReadyMade, readyMade_); }
 
 void FrmAdjust::MenuCommand(int id) {
     const int chosen = id - ID_ReadyLine;

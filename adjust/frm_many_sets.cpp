@@ -103,6 +103,8 @@ void FrmManySets::Finish(const std::string& how) {
     LblDone.SetText(how + Counted(sets_->Made().size(), "set was made.", "sets were made."));
     ShowLeftOut();
     BtnClose.SetText("Close");
+    // There is nothing else to do, so Enter does it.
+    GiveFocus(BtnClose);
 }
 
 void FrmManySets::ShowLeftOut() {

@@ -19,6 +19,7 @@ struct ControlProcedure {
         }
         // No exception may cross the system's code.
         try {
+            if (!control->TakesPress(message)) return 0;
             std::intptr_t result = 0;
             if (control->OnMessage(message, wParam, lParam, result)) return result;
         } catch (...) {
@@ -103,6 +104,19 @@ std::intptr_t Control::Send(unsigned message, std::uintptr_t wParam, std::intptr
 std::intptr_t Control::SendPointer(unsigned message, std::uintptr_t wParam,
                                    const void* pointer) const {
     return SendMessageA(handle_, message, wParam, reinterpret_cast<LPARAM>(pointer));
+}
+
+// A press ends what is edited elsewhere before the control hears of it: what that renames or
+// selects must not come after what is clicked. Where it brought up a message the button was let go
+// there, and a control that went down now would wait for that in vain.
+bool Control::TakesPress(unsigned message) {
+    const bool left = message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
+    const bool right = message == WM_RBUTTONDOWN || message == WM_RBUTTONDBLCLK;
+    if (!left && !right) return true;
+    const auto isDown = [&] { return GetKeyState(left ? VK_LBUTTON : VK_RBUTTON) < 0; };
+    const bool wasDown = isDown();
+    parent_->EndEdits();
+    return !wasDown || isDown();
 }
 
 void Control::Pressed(int button, Point at) {

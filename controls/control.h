@@ -110,6 +110,7 @@ class Control {
  private:
     friend struct ControlProcedure;
 
+    bool TakesPress(unsigned message);
     void Pressed(int button, Point at);
     void Released(int button, Point at);
 

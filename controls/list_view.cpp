@@ -174,6 +174,22 @@ void ListView::Select(int index) {
     selectingByCode_ = false;
 }
 
+void ListView::SelectToo(int index) {
+    if (index < 0) return;  // which would be all of them
+    LVITEMA item{};
+    item.state = item.stateMask = LVIS_SELECTED;
+    selectingByCode_ = true;
+    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
+    selectingByCode_ = false;
+}
+
+void ListView::GiveKeys(int index) {
+    if (index < 0) return;
+    LVITEMA item{};
+    item.state = item.stateMask = LVIS_FOCUSED;
+    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
+}
+
 void ListView::EnsureVisible(int index) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
 }
@@ -313,8 +329,6 @@ bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
     if (message == WM_LBUTTONUP) return false;
     if (message == WM_DESTROY) dropTarget_.reset();
     if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
-        // What the end of the edit selects must not come after what is clicked.
-        EndEdit();
         pressedAt_ = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
         clickTold_ = false;
     }

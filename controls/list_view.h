@@ -50,6 +50,10 @@ class ListView : public Control {
     std::vector<int> SelectedItems() const;
     /// Selects one item, or none with -1. ItemClick does not run.
     void Select(int index);
+    /// Selects one item more, or none with -1. ItemClick does not run.
+    void SelectToo(int index);
+    /// Makes an item the one at which the keys go on, which selects nothing; none with -1.
+    void GiveKeys(int index);
     void EnsureVisible(int index);
     /// The first item that is seen, and scrolling so that an item is.
     int TopItem() const;

@@ -169,11 +169,6 @@ bool PictureBox::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_
             result = 0;
             return true;
         }
-        case WM_LBUTTONDOWN:
-        case WM_RBUTTONDOWN:
-            // A picture takes no focus, which would end what is edited elsewhere.
-            parent()->EndEdits();
-            return Control::OnMessage(message, wParam, lParam, result);
         case WM_SIZE:
             InvalidateRect(handle(), nullptr, FALSE);
             return false;

@@ -9,6 +9,7 @@
 #include "controls/display_palette.h"
 #include "controls/message_loop.h"
 #include "controls/picture_box.h"
+#include "controls/screen_metrics.h"
 #include "controls/stay_open.h"
 #include "controls/timer.h"
 #include "controls/win32.h"
@@ -34,6 +35,12 @@ void RegisterFormClass(const char* name) {
     c.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     c.lpszClassName = name;
     RegisterClassExA(&c);
+}
+
+/// The height of a menu that is not open yet is not told; no item is higher than a menu bar.
+int MostHeightOf(HMENU menu) {
+    return GetMenuItemCount(menu) * GetSystemMetrics(SM_CYMENU) +
+           2 * GetSystemMetrics(SM_CYDLGFRAME);
 }
 
 }  // namespace
@@ -229,6 +236,10 @@ void Window::PaintAtOnce() {
     RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+void Window::GiveFocus(const Control& control) {
+    SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.handle()), TRUE);
+}
+
 void Window::FocusNextTo(const Control& control) {
     const HWND next = GetNextDlgTabItem(handle_, control.handle(), FALSE);
     SendMessageA(handle_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
@@ -254,7 +265,21 @@ void Window::ShowTip(platform::WindowHandle child, const std::string& tip) {
 
 void Window::PopUpMenu(platform::MenuHandle menu, Point screen, int defaultItem) {
     SetMenuDefaultItem(menu, defaultItem ? static_cast<UINT>(defaultItem) : UINT(-1), FALSE);
-    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, 0, handle_, nullptr);
+    TrackMenu(menu, screen, TPM_TOPALIGN);
+}
+
+// Left to itself the system would move the menu up over the button, the pointer onto an item.
+void Window::PopUpMenuAt(const Control& button, platform::MenuHandle menu) {
+    const Rect place = button.ScreenBounds();
+    if (place.bottom() + MostHeightOf(menu) <= WorkArea().bottom())
+        TrackMenu(menu, {place.left, place.bottom()}, TPM_TOPALIGN);
+    else
+        TrackMenu(menu, {place.left, place.top}, TPM_BOTTOMALIGN);
+}
+
+void Window::TrackMenu(platform::MenuHandle menu, Point screen, unsigned align) {
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_RIGHTBUTTON | align, screen.x, screen.y, 0, handle_,
+                   nullptr);
 }
 
 void Window::EndEdits() {

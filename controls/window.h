@@ -72,8 +72,11 @@ class Window {
     /// `defaultItem` is shown in bold; 0 for none.
     void PopUpMenu(platform::MenuHandle menu, Point screen, int defaultItem = 0);
 
+    /// Pops up a menu under a button, above it where the screen has no room below.
+    void PopUpMenuAt(const Control& button, platform::MenuHandle menu);
+
     /// Ends what the user edits within a control, taken as typed. Every command does this first,
-    /// and so do the closing, a click on a picture and a window that opens in front: the edit may
+    /// and so do the closing, a press on a control and a window that opens in front: the edit may
     /// rename what they are about.
     void EndEdits();
 
@@ -130,7 +133,9 @@ class Window {
     /// The topic of the help that F1 shows where no control has one of its own.
     void SetHelpTopic(unsigned long number) { helpTopic_ = number; }
 
-    /// Gives the focus to the control at which the tab key stops behind this one.
+    /// Gives the focus to a control; a button becomes the one that Enter presses.
+    void GiveFocus(const Control& control);
+    /// The same to the control at which the tab key stops behind this one.
     void FocusNextTo(const Control& control);
 
     /// Converts dialog units of this window's font to pixels.
@@ -140,6 +145,7 @@ class Window {
     friend struct WindowProcedure;
     friend void EndSession();
 
+    void TrackMenu(platform::MenuHandle menu, Point screen, unsigned align);
     bool AttachControls();
     void FreeOwner();
     void OnDestroy();

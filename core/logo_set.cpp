@@ -4,6 +4,7 @@
 #include "core/entry_name.h"
 #include "core/file_handling.h"
 #include "core/generali.h"
+#include "core/slot_file.h"
 #include "platform/files.h"
 #include "platform/shell.h"
 
@@ -48,8 +49,9 @@ void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin)
     platform::RemoveFolder(folder);
 }
 
-bool CanBeImported(const std::string& path) {
-    return !IsDriveRoot(path) && platform::IsFolder(AddBackslash(path));
+bool CanBeImported(const std::string& path, const std::string& library) {
+    return !IsDriveRoot(path) && !IsSameFile(AddBackslash(path), AddBackslash(library)) &&
+           platform::IsFolder(AddBackslash(path));
 }
 
 void ImportSet(platform::WindowHandle owner, const std::string& path, const std::string& library) {

@@ -48,8 +48,9 @@ enum class Bin { Recycle, Destroy };
 /// window in front while the shell asks.
 void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin);
 
-/// True for a folder that can become a set of a library: a drive's root has no name for one.
-bool CanBeImported(const std::string& path);
+/// True for a folder that can become a set of the logo folder `library`: a drive's root has no name
+/// for one, and the logo folder cannot lie in itself.
+bool CanBeImported(const std::string& path, const std::string& library);
 /// Copies a folder into the library, over the files of the set that has its name. Whether the shell
 /// could copy it is not told; it has told the user.
 void ImportSet(platform::WindowHandle owner, const std::string& path, const std::string& library);

@@ -32,6 +32,8 @@ class EditorHost {
     /// The name of the installed set; empty when none is known.
     virtual std::optional<std::string> InstalledSet() const = 0;
     virtual void SetInstalledSet(const std::optional<std::string>& name) = 0;
+    /// The folder of a set has another name now. The list shows it when it is read anew.
+    virtual void SetWasRenamed(const std::string& from, const std::string& to) = 0;
 
     /// Does with a picture what the preferences say: shows it in actual size, or opens it in Paint
     /// or in the custom program. `owner` is the window in front.

@@ -4,19 +4,18 @@
 
 #include "core/generali.h"
 #include "pictures/formats.h"
+#include "platform/characters.h"
 
 namespace vistrel::editor {
 namespace {
 
-void SortIgnoringCase(std::vector<std::string>& names) {
-    const auto lower = [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    };
-    std::sort(names.begin(), names.end(), [&](const std::string& a, const std::string& b) {
-        return std::lexicographical_compare(
-            a.begin(), a.end(), b.begin(), b.end(),
-            [&](char left, char right) { return lower(left) < lower(right); });
-    });
+constexpr const char* kParentFolder = "..";
+
+/// The way out of a folder comes before all that lies in it.
+bool IsListedBefore(const std::string& name, const std::string& other) {
+    if (name == kParentFolder || other == kParentFolder)
+        return name != other && name == kParentFolder;
+    return platform::ComesBefore(name, other);
 }
 
 }  // namespace
@@ -34,7 +33,8 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
         folder + "*.*",
         [&](const platform::FolderEntry& entry) {
             // ".." may have what hides the folder above, and is the way out of there.
-            if (entry.name == "." || (IsOutOfSight(entry) && entry.name != "..")) return true;
+            if (entry.name == "." || (IsOutOfSight(entry) && entry.name != kParentFolder))
+                return true;
             if (entry.IsFolder())
                 found.folders.push_back(entry.name);
             else if (pictures::IsPictureName(entry.name))
@@ -42,8 +42,8 @@ bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
             return true;
         },
         &error);
-    SortIgnoringCase(found.folders);
-    SortIgnoringCase(found.pictures);
+    std::sort(found.folders.begin(), found.folders.end(), IsListedBefore);
+    std::sort(found.pictures.begin(), found.pictures.end(), IsListedBefore);
     // The root of an empty disk holds no entry at all.
     return read || (error.IsFileNotFound() && platform::IsFolder(folder));
 }

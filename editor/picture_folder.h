@@ -14,9 +14,9 @@ bool IsScreenName(const std::string& name);
 /// True for a hidden or system entry, which no list shows.
 bool IsOutOfSight(const platform::FolderEntry& entry);
 
-/// Names of one folder, each group sorted without regard to case.
+/// Names of one folder, each group in the system's order without regard to case.
 struct PictureFolder {
-    std::vector<std::string> folders;  ///< with "..", where the folder has it
+    std::vector<std::string> folders;  ///< with ".." first, where the folder has it
     std::vector<std::string> pictures;
 };
 

@@ -123,7 +123,7 @@ void SelPictureForm::AttachMenus() {
     AddItem(ClearAllButton, ID_ClearAllButton, [this] { ClearAllButton_Click(); });
     AddItem(ItmRename, ID_BrowserRename, [this] { ItmRename_Click(); });
     AddItem(ItmDelete, ID_BrowserDelete, [this] { ItmDelete_Click(); });
-    AddItem(itmRefresh, ID_BrowserRefresh, [this] { AggiornaDir(); });
+    AddItem(itmRefresh, ID_BrowserRefresh, [this] { itmRefresh_Click(); });
     for (int i = 0; i < 3; ++i)
         AddItem(ItmSetLogo[i], ID_ItmSetLogo + i, [this, i] { AddButton_Click(i); });
     AddItem(ItmAdjust, ID_ItmAdjust, [this] { AdjustButton_Click(); });

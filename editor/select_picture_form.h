@@ -88,7 +88,8 @@ class SelPictureForm : public controls::Window {
 
     /// Lists a folder's sub-folders and pictures. False when it cannot be read.
     bool FillList(const std::string& folder);
-    /// Lists the current folder anew ("aggiorna dir": refreshes the directory).
+    /// Lists the current folder anew ("aggiorna dir": refreshes the directory); what is selected
+    /// stays so.
     void AggiornaDir();
     /// Examines a file by name and content and shows it.
     void CheckImage(const std::string& path);
@@ -155,6 +156,7 @@ class SelPictureForm : public controls::Window {
     void Picture_MouseUp(const controls::PictureBox& box, int button, controls::Point at);
     void ItmRename_Click();
     void ItmDelete_Click();
+    void itmRefresh_Click();
     void ShowManageMenu(controls::Point screen);
     void BrowseTo(const std::string& folder);
     void ShowPath(const std::string& path);
@@ -163,6 +165,7 @@ class SelPictureForm : public controls::Window {
     void SelectInList(const std::string& name);
     void ShowVerdict(long color, const std::string& text);
     void ForgetPicture();
+    void ShowPictureAnew();
     std::string SelectedName() const;
     void DragPicture(const controls::Control& source);
     bool RunOpenWith(int id);

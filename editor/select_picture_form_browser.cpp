@@ -48,9 +48,31 @@ bool SelPictureForm::FillList(const std::string& folder) {
     return read;
 }
 
+// What was selected stays so where it is still there.
 void SelPictureForm::AggiornaDir() {
+    const std::string former = CurrentFolder;
+    const std::string withKeys = SelectedName();
+    std::vector<std::string> selected;
+    for (const int item : LogoList.SelectedItems()) selected.push_back(LogoList.ItemText(item));
     GoWhereAFolderIs();
     FillList(CurrentFolder);
+    if (CurrentFolder != former) return;
+    SelectInList(withKeys);
+    for (const std::string& name : selected) LogoList.SelectToo(LogoList.FindItem(name));
+}
+
+void SelPictureForm::itmRefresh_Click() {
+    AggiornaDir();
+    ShowPictureAnew();
+}
+
+// The file may hold another picture by now, or be gone.
+void SelPictureForm::ShowPictureAnew() {
+    if (ImageInfo.ForeColor() == kNoPictureColor) return;
+    if (!platform::FileAttributes(SelectedPicture))
+        ForgetPicture();
+    else if (IsPictureName(SelectedPicture))
+        CheckImage(SelectedPicture);
 }
 
 // The folder may have been deleted, here or elsewhere: then the nearest one above is shown.
@@ -64,8 +86,9 @@ void SelPictureForm::GoWhereAFolderIs() {
 
 void SelPictureForm::BrowseTo(const std::string& folder) {
     CurrentFolder = folder;
+    GoWhereAFolderIs();
     ShowPath(CurrentFolder);
-    AggiornaDir();
+    FillList(CurrentFolder);
 }
 
 // The tip shows what may not fit the label.

@@ -18,8 +18,7 @@ void SelPictureForm::ActButton_Click() {
         SaveDefaultScreens();
         return;
     }
-    const controls::Rect button = ActButton.ScreenBounds();
-    PopUpMenu(controls::SubMenu(menus_, kActionMenu), {button.left, button.bottom()});
+    PopUpMenuAt(ActButton, controls::SubMenu(menus_, kActionMenu));
 }
 
 void SelPictureForm::CloseButton_Click() { Unload(); }
@@ -48,7 +47,7 @@ void SelPictureForm::LogoList_KeyUp(int key) {
     if (LogoList.EditingLabel()) return;
     if (key == controls::kKeyF2) ItmRename_Click();
     if (key == controls::kKeyDelete) ItmDelete_Click();
-    if (key == controls::kKeyF5) AggiornaDir();
+    if (key == controls::kKeyF5) itmRefresh_Click();
 }
 
 bool SelPictureForm::RunOpenWith(int id) {

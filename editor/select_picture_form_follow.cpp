@@ -1,5 +1,7 @@
 // Renaming and deleting in the Logo browser's list, and how the session follows: what it names by
 // path or by set moves along with a folder, and what is gone is forgotten.
+#include <algorithm>
+
 #include "core/entry_name.h"
 #include "core/file_handling.h"
 #include "core/generali.h"
@@ -62,10 +64,13 @@ void SelPictureForm::ItmDelete_Click() {
     if (LogoList.SelectedItems().size() != 1 || name == kParentFolder) return;
     const std::string path = CurrentFolder + name;
     const bool isSet = InLogoFolder() && platform::IsFolder(path);
+    const int place = LogoList.SelectedItem();
     core::DeleteToRecycleBin(handle(), {path});
     if (TouchesLibrary(path)) LibraryChanged = true;
     AggiornaDir();
     if (platform::FileAttributes(path)) return;
+    // The keys go on at the next item; another deletion is to be meant.
+    LogoList.GiveKeys(std::min(place, LogoList.Count() - 1));
     if (core::IsAtOrIn(SelectedPicture, path)) ForgetPicture();
     if (!isSet) return;
     if (SameName(name, LoadedSet))
@@ -100,6 +105,7 @@ void SelPictureForm::FollowRename(const std::string& from, const std::string& to
 void SelPictureForm::FollowRenamedSet(const std::string& from, const std::string& to) {
     const bool loaded = SameName(from, LoadedSet);
     ReplaceName(from, to);
+    host_.SetWasRenamed(from, to);
     const auto installed = host_.InstalledSet();
     if (installed && SameName(from, *installed)) host_.SetInstalledSet(to);
     if (loaded && type_ != SetType::DefaultScreens &&
@@ -138,7 +144,9 @@ void SelPictureForm::ForgetLoadedSet(const std::string& name) {
     LoadedSet.clear();
     EliminaSetBtn.SetEnabled(false);
     RemoveName(name);
-    NameLogoSet.SetText("");
+    // What the user has typed for the next set stays.
+    if (!NameChanged || SameName(NameLogoSet.Text(), name)) NameLogoSet.SetText("");
+    OkButton[1].SetEnabled(false);
     NameLogoSet_Change();
     for (std::string& tag : setsOwnTag_) tag.clear();
     // The shared screens belong to no set.

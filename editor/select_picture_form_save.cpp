@@ -99,6 +99,7 @@ bool SelPictureForm::RenameLoadedSet(const std::string& oldName, const std::stri
     if (!core::RenameSet(former, name)) return false;
     if (oldName == name) return true;
     ReplaceName(oldName, name);
+    host_.SetWasRenamed(oldName, name);
     // Slots that hold the set's own screens would otherwise have no source any more.
     FollowRename(former.Path(), LogoFolder() + name);
     return true;
@@ -141,6 +142,8 @@ core::NewSessionFile SelPictureForm::NewFileOfSession() {
 
 void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::string& what,
                                   const std::string& folder) {
+    // A command that failed may have written some of the screens.
+    ShowPictureAnew();
     if (!result.saved) {
         // Quirk: the message is about the folder, whichever step failed, and names what was read
         // last (Saving.AnEmptySlotDeletesItsScreenAndEndsTheUpdate).
@@ -168,6 +171,7 @@ void SelPictureForm::EliminaSetBtn_Click() {
     LibraryChanged = true;
     ForgetLoadedSet(name);
     AggiornaDir();
+    ShowPictureAnew();
 }
 
 }  // namespace vistrel::editor

@@ -90,7 +90,8 @@ void SelPictureForm::OptDefShut_Click() {
 void SelPictureForm::ShowInSlot(int index, const std::string& path) {
     preview::DrawPreview(path, ImgPreview[index]);
     ImgPreview[index].SetTag(path);
-    DeleteButton[index].SetEnabled(ImgPreview[index].HasPicture());
+    // Grey where a file is named that shows nothing.
+    DeleteButton[index].SetEnabled(path.empty() || ImgPreview[index].HasPicture());
 }
 
 void SelPictureForm::AddButton_Click(int index) {
@@ -137,9 +138,6 @@ void SelPictureForm::ClearAllButton_Click() {
     for (int i = 0; i < 3; ++i) EmptySlot(i);
 }
 
-void SelPictureForm::EmptySlot(int index) {
-    ImgPreview[index].Clear();
-    ImgPreview[index].SetTag("");
-}
+void SelPictureForm::EmptySlot(int index) { ShowInSlot(index, ""); }
 
 }  // namespace vistrel::editor

@@ -20,11 +20,13 @@ FrmView::FrmView(std::string path, bool animate)
     : Window("FrmView", IDD_FrmView),
       path_(std::move(path)),
       animate_(animate),
+      opened_(controls::MomentOfMessage()),
       AnimationTimer(kAnimationInterval) {
     const controls::Part parts[] = {{Preview, ID_Preview, 0, "Click or press a key to close"}};
     AddParts(parts);
     Add(AnimationTimer);
     AnimationTimer.Tick = [this] { animation_->Step(); };
+    Preview.MouseDown = [this](int, controls::Point) { Preview_MouseDown(); };
     Preview.MouseUp = [this](int, controls::Point) { Preview_Click(); };
 }
 
@@ -45,6 +47,13 @@ void FrmView::ShowAnimation() {
 
 void FrmView::Form_KeyPress(char) { Unload(); }
 
-void FrmView::Preview_Click() { Unload(); }
+// Who double-clicks a picture wants to see it: the second press was not meant to close it again.
+void FrmView::Preview_MouseDown() {
+    pressed_ = !controls::IsOneDoubleClick(opened_, controls::MomentOfMessage());
+}
+
+void FrmView::Preview_Click() {
+    if (pressed_) Unload();
+}
 
 }  // namespace vistrel::main_window

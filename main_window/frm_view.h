@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "controls/mouse_moment.h"
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
@@ -25,11 +26,14 @@ class FrmView : public controls::Window {
     void Form_KeyPress(char character) override;
 
  private:
+    void Preview_MouseDown();
     void Preview_Click();
     void ShowAnimation();
 
     std::string path_;
     bool animate_;
+    controls::MouseMoment opened_;  ///< at the click that the window opens at
+    bool pressed_ = false;          ///< by a click of its own
     std::unique_ptr<preview::ScreenAnimation> animation_;
     controls::Timer AnimationTimer;
 };

@@ -52,11 +52,7 @@ Principale::Principale(core::SystemLocations locations)
     MyList.ItemClick = [this](int) { MyList_ItemClick(); };
     MyList.MouseDown = [this](int, controls::Point at) { MyList_MouseDown(at); };
     MyList.MouseUp = [this](int button, controls::Point) { MyList_MouseUp(button); };
-    MyList.SelectionChanged = [this] {
-        // While the installed screens are shown nothing is selected, but the tools keep their
-        // state.
-        if (!savedView_) CheckSetCommands();
-    };
+    MyList.SelectionChanged = [this] { MyList_SelectionChanged(); };
     MyList.DblClick = [this] { MyList_DblClick(); };
     MyList.KeyUp = [this](int key) { MyList_KeyUp(key); };
     MyList.BeforeLabelEdit = [this] { return MyList_BeforeLabelEdit(); };

@@ -42,6 +42,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void VisualizzaNumLogo() override;
     std::optional<std::string> InstalledSet() const override;
     void SetInstalledSet(const std::optional<std::string>& name) override;
+    void SetWasRenamed(const std::string& from, const std::string& to) override;
     void OpenPicture(const std::string& path, platform::WindowHandle owner) override;
     platform::MenuHandle OpenWithMenu(const std::string& path) override;
     int DefaultOpenWithItem() const override;
@@ -141,7 +142,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void CheckSetCommands();
     void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
-    void FollowDeselection();
+    void MyList_SelectionChanged();
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
     void ShowInstalledSet();
@@ -183,6 +184,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::string oldName_;
     controls::Point lastMouseDown_;
     std::optional<SavedView> savedView_;
+    ListPlace placeBehindBrowser_;  ///< where the user goes back to when the Logo browser closes
 };
 
 }  // namespace vistrel::main_window

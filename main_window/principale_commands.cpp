@@ -99,13 +99,15 @@ void Principale::MyList_MouseDown(controls::Point at) { lastMouseDown_ = at; }
 
 void Principale::MyList_MouseUp(int button) {
     CheckSetCommands();
-    FollowDeselection();
     if (button == controls::kRightButton && !savedView_)
         ActiveBar1.PopUp("LogoBand", controls::PointerPosition());
 }
 
-void Principale::FollowDeselection() {
-    if (!ASetIsSelected() && !savedView_) ShowListaLogo();
+// While the installed screens are shown nothing is selected, but the tools keep their state.
+void Principale::MyList_SelectionChanged() {
+    if (savedView_) return;
+    CheckSetCommands();
+    if (!ASetIsSelected()) ShowListaLogo();
 }
 
 void Principale::MyList_DblClick() {
@@ -123,7 +125,6 @@ void Principale::InstallOrBrowse() {
 void Principale::MyList_KeyUp(int key) {
     // A key that ends or serves the editing of a label is not a command.
     if (MyList.EditingLabel()) return;
-    FollowDeselection();
     if (key == controls::kKeyDelete && ActiveBar1.Enabled("ToolDelete")) ItmDelete_Click();
     if (key == controls::kKeyF2 && ActiveBar1.Enabled("ToolRename")) ItmRename_Click();
     if (key == controls::kKeyF5) itmRefresh_Click();
@@ -168,14 +169,14 @@ void Principale::Timer1_Timer() {
     if (!IsEnabled()) return;
     Timer1.SetEnabled(false);
     EndEdits();
-    const ListPlace place = PlaceInList();
+    placeBehindBrowser_ = PlaceInList();
     {
         const platform::BusyPointer busy;  // until the browser's own Form_Load
         editor::SelPictureForm editor(*this);
         editor.ShowModal(handle());
     }
     platform::ShowDefaultPointer();
-    ReturnTo(place);
+    ReturnTo(placeBehindBrowser_);
 }
 
 void Principale::ItmExplore_Click() {

@@ -28,6 +28,11 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
     ShowInstalledSet();
 }
 
+void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
+    std::string& selected = placeBehindBrowser_.selectedSet;
+    if (core::UpperCase(selected) == core::UpperCase(from)) selected = to;
+}
+
 void Principale::ShowInstalledSet() {
     // While the installed screens are shown the label says so.
     if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(core::kUnknownSet));
@@ -162,7 +167,7 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
-        if (!core::CanBeImported(path)) continue;
+        if (!core::CanBeImported(path, settings_.logoPath)) continue;
         name = core::GetFileName(path);
         const bool exists = platform::IsFolder(settings_.logoPath + name);
         if (exists && !ConfirmOverwriting(name)) continue;

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "controls/menu.h"
-#include "controls/screen_metrics.h"
 #include "core/browse_for_folder.h"
 #include "core/cm_dialog.h"
 #include "core/fixed_drives.h"
@@ -188,7 +187,7 @@ void FrmOptions::btnBrwFolder_Click() {
 
 void FrmOptions::ActiveStart_Click() { host_.RaiseBootLogoOptionChanged(); }
 
-void FrmOptions::DriveHost_Click() { PopUpMenu(MnuDrive_, controls::PointerPosition()); }
+void FrmOptions::DriveHost_Click() { PopUpMenuAt(DriveHost, MnuDrive_); }
 
 void FrmOptions::GetDiskInfo() {
     controls::EmptyMenu(MnuDrive_);

@@ -9,6 +9,10 @@ std::size_t CharacterLength(std::string_view text, std::size_t at) {
     return pair ? 2 : 1;
 }
 
+bool ComesBefore(const std::string& text, const std::string& other) {
+    return lstrcmpiA(text.c_str(), other.c_str()) < 0;
+}
+
 std::size_t LastBackslash(std::string_view path) {
     std::size_t last = std::string_view::npos;
     for (std::size_t at = 0; at < path.size(); at += CharacterLength(path, at)) {

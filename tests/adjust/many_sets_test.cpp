@@ -140,5 +140,28 @@ TEST_F(ManySets, APictureClickedAloneIsExaminedAsBefore) {
     });
 }
 
+TEST_F(ManySets, CloseHasTheKeysAndTheFrameWhenAllAreMade) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        SelectFrom(editor, "c.jpg", 1);
+        const HWND window = OpenMany(editor);
+        EXPECT_TRUE(user::Click(Item(window, ID_BtnMakeSets)));
+        Await([&] { return DoneText(window).starts_with("Done"); }, "done");
+        SendMessageA(window, WM_NULL, 0, 0);
+        user::TakeShot("many-done", window);
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+        EXPECT_EQ(info.hwndFocus, Item(window, IDCANCEL));
+        const auto isDefault = [&](int id) {
+            return (SendMessageA(Item(window, id), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
+        };
+        EXPECT_TRUE(isDefault(IDCANCEL));
+        EXPECT_FALSE(isDefault(ID_BtnMakeSets));
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(user::WaitUntilGone(window));
+        Settle(editor);
+    });
+}
+
 }  // namespace
 }  // namespace vistrel::test

@@ -89,12 +89,26 @@ TEST_F(SetOnDisk, IsDeletedAsFarAsItGoes) {
 }
 
 TEST_F(SetOnDisk, CanBeADroppedFolderButNoDriveAndNoFile) {
-    EXPECT_TRUE(CanBeImported(logos + "Blue"));
-    EXPECT_TRUE(CanBeImported(blue.Folder()));
-    EXPECT_FALSE(CanBeImported(blue.Folder() + "LOGO.SYS"));
-    EXPECT_FALSE(CanBeImported("C:"));
-    EXPECT_FALSE(CanBeImported("C:\\"));
-    EXPECT_FALSE(CanBeImported(logos + "Red"));
+    EXPECT_TRUE(CanBeImported(logos + "Blue", logos));
+    EXPECT_TRUE(CanBeImported(blue.Folder(), logos));
+    EXPECT_FALSE(CanBeImported(blue.Folder() + "LOGO.SYS", logos));
+    EXPECT_FALSE(CanBeImported("C:", logos));
+    EXPECT_FALSE(CanBeImported("C:\\", logos));
+    EXPECT_FALSE(CanBeImported(logos + "Red", logos));
+}
+
+TEST_F(SetOnDisk, IsNeverTheLogoFolderItself) {
+    const std::string library = root + "A logo folder\\";
+    MakeFolders(library);
+    const std::string folder = library.substr(0, library.size() - 1);
+    std::string capitals = folder;
+    CharUpperA(capitals.data());
+    char shortName[MAX_PATH] = "";
+    GetShortPathNameA(folder.c_str(), shortName, sizeof shortName);
+    EXPECT_NE(shortName, folder);
+    for (const std::string& path : {folder, library, capitals, std::string(shortName)})
+        EXPECT_FALSE(CanBeImported(path, library)) << path;
+    EXPECT_TRUE(CanBeImported(folder, logos));
 }
 
 TEST_F(SetOnDisk, IsImportedWithAllThatTheFolderHolds) {

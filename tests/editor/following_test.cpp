@@ -207,6 +207,35 @@ TEST_F(Following, ASetDeletedInTheListIsForgottenAndLeavesTheMainWindow) {
     });
 }
 
+TEST_F(Following, ANameTypedForTheNextSetOutlivesTheLoadedOne) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        TypeName(editor, "Fresh");
+        Pick(editor, "Red");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(editor.NameLogoSet.Text(), "Fresh");
+        EXPECT_EQ(NamesOffered(editor), (Names{"Blue", "Green.SLS"}));
+        EXPECT_FALSE(editor.ImgPreview[0].HasPicture());
+        const HMENU menu = ActionMenu(editor);
+        EXPECT_TRUE(seen::RowOf(menu, ID_OkButton).enabled);
+        EXPECT_FALSE(seen::RowOf(menu, ID_OkButton + 1).enabled);
+        EXPECT_FALSE(seen::RowOf(menu, ID_EliminaSetBtn).enabled);
+    });
+}
+
+TEST_F(Following, TheDeletedSetsOwnNameGoesThoughItWasTypedAgain) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        TypeName(editor, "red");
+        Pick(editor, "Red");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(editor.NameLogoSet.Text(), "");
+        EXPECT_FALSE(seen::RowOf(ActionMenu(editor), ID_OkButton).enabled);
+    });
+}
+
 TEST_F(Following, AScreenDeletedInTheListIsGoneFromTheMainWindowToo) {
     Store("SearchLogoPath", TextValue(logos + "Blue\\"));
     WithEditor([&](Principale& main, SelPictureForm& editor) {

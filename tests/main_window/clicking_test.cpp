@@ -120,6 +120,35 @@ TEST_F(Clicking, TheDoubleClickThatOpensTheActualSizeDoesNotCloseIt) {
     });
 }
 
+TEST_F(Clicking, ADoubleClickOnAPictureOpensTheActualSizeAndLeavesItOpen) {
+    WithMainWindow([&](Principale& main) {
+        // The view comes up in the middle of the screen: the picture is to lie there.
+        RECT work{};
+        RECT whole{};
+        SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+        GetWindowRect(main.handle(), &whole);
+        const POINT picture = user::CentreOf(main.Imag[0].handle());
+        SetWindowPos(main.handle(), nullptr, whole.left + (work.left + work.right) / 2 - picture.x,
+                     whole.top + (work.top + work.bottom) / 2 - picture.y, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER);
+        Settle(main);
+        const POINT at = user::CentreOf(main.Imag[0].handle());
+        user::DoubleClickAt(at);
+        const HWND view = user::WaitForTop("FrmView");
+        ASSERT_NE(view, nullptr);
+        RECT covered{};
+        GetWindowRect(view, &covered);
+        EXPECT_TRUE(PtInRect(&covered, at));
+        user::Press(VK_SHIFT);  // makes no character, and comes after the second click
+        EXPECT_FALSE(WaitUntil([&] { return !IsWindow(view); }, 400));
+        // A click of its own closes it, at the same place too.
+        user::ClickAt(at);
+        EXPECT_TRUE(user::WaitUntilGone(view));
+        Settle(main);
+        EXPECT_EQ(user::FindTop("FrmView"), nullptr);
+    });
+}
+
 TEST_F(Clicking, APictureWithoutACustomProgramLeadsToWhereThatIsSet) {
     Store("DefaultAction", TextValue("2"));
     WithMainWindow([&](Principale& main) {

@@ -117,6 +117,19 @@ TEST_F(Importing, PassesOverTheRootOfADrive) {
     EXPECT_EQ(NamesIn(logos), before);
 }
 
+TEST_F(Importing, PassesOverTheLogoFolderItself) {
+    const auto before = NamesIn(logos);
+    const std::string folder = logos.substr(0, logos.size() - 1);
+    std::string capitals = folder;
+    CharUpperA(capitals.data());
+    for (const std::string& dropped : {folder, capitals})
+        Drop({dropped}, NoQuestion, [&](Principale& main) {
+            EXPECT_EQ(main.SetNames(), (std::vector<std::string>{"Blue", "Green.SLS", "Red"}));
+            EXPECT_EQ(Selected(main), "Blue");
+        });
+    EXPECT_EQ(NamesIn(logos), before);
+}
+
 TEST_F(Importing, GoesOnAfterADeclinedFolder) {
     Drop(
         {Outside("Red"), Outside("New")}, [&](Principale&) { user::AnswerBox(IDNO); },

@@ -88,5 +88,33 @@ TEST_F(OpeningTheBrowser, EndsTheWaitingForItOnceItIsOpen) {
     });
 }
 
+TEST_F(OpeningTheBrowser, KeepsTheSetSelectedThatIsRenamedThere) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        StartCommand(main, ID_ToolBrowser);
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        ASSERT_NE(browser, nullptr);
+        user::Activate(browser);
+        // Chosen in the name's list, typed over, updated.
+        const HWND name = GetDlgItem(browser, ID_NameLogoSet);
+        SendMessageA(name, CB_SETCURSEL, 2, 0);
+        SendMessageA(browser, WM_COMMAND, MAKEWPARAM(ID_NameLogoSet, CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(name));
+        user::Press('N', {VK_MENU});
+        user::Press(VK_HOME);
+        user::Press(VK_END, {VK_SHIFT});
+        user::Type("Crimson");
+        EXPECT_TRUE(WaitUntil([&] { return user::TextOf(name) == "Crimson"; }));
+        EXPECT_TRUE(user::Click(GetDlgItem(browser, ID_ActButton)));
+        EXPECT_TRUE(user::ChooseFromPopUp(ID_OkButton + 1));
+        EXPECT_TRUE(WaitUntil([&] { return Exists(logos + "Crimson"); }));
+        Close(browser);
+        EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(main.handle()) != 0; }));
+        EXPECT_TRUE(WaitUntil([&] { return Selected(main) == "Crimson"; }));
+        Settle(main);
+        EXPECT_EQ(main.Imag[0].Tag(), logos + "Crimson\\LOGO.SYS");
+    });
+}
+
 }  // namespace
 }  // namespace vistrel::test

@@ -79,6 +79,23 @@ TEST_F(Selection, TakenAwayByAClickClearsPicturesAndKind) {
     });
 }
 
+TEST_F(Selection, TakenAwayByAPressThatIsLetGoElsewhereClearsPicturesAndKind) {
+    WithMainWindow([&](Principale& main) {
+        const POINT elsewhere = user::CentreOf(main.LblScreen[0].handle());
+        RECT list{};
+        GetWindowRect(main.MyList.handle(), &list);
+        const POINT belowSets{(list.left + list.right) / 2, list.bottom - 30};
+        for (const auto drag : {user::Drag, user::RightDrag}) {
+            ClickSet(main, "Red");
+            drag(belowSets, elsewhere);
+            EXPECT_TRUE(WaitUntil([&] { return main.MyList.SelectedItem() < 0; }));
+            Settle(main);
+            ExpectEmpty(main);
+            EXPECT_FALSE(SetToolsEnabled(main));
+        }
+    });
+}
+
 TEST_F(Selection, TakenAwayByTheKeyboardClearsPicturesAndKind) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");

@@ -137,6 +137,21 @@ TEST_F(Preferences, OfferFixedDrivesOnlyAndEachOnce) {
     EXPECT_EQ(main.settings.bootRoot, "D:\\");
 }
 
+TEST_F(Preferences, DropTheMenuOfDrivesUnderItsButton) {
+    WithDialog([&](FrmOptions& options) {
+        user::Click(options.DriveHost.handle());
+        EXPECT_NE(user::WaitForPopUp(), nullptr);
+        RECT button{};
+        RECT menu{};
+        GetWindowRect(options.DriveHost.handle(), &button);
+        GetWindowRect(user::FindTop("#32768"), &menu);
+        EXPECT_EQ(menu.left, button.left);
+        EXPECT_EQ(menu.top, button.bottom);
+        user::Press(VK_ESCAPE);
+        EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
+    });
+}
+
 TEST_F(Preferences, KeepTheBoxesWhenTheSystemsDialogsAreCancelled) {
     main.settings.customProgPath = "C:\\p.exe";
     WithDialog([&](FrmOptions& options) {
