@@ -154,7 +154,7 @@ TEST_F(TypedLine, ThatIsEmptiedKeepsItsWords) {
 }
 
 TEST_F(TypedLine, LongerThanTheScreenIsCutOffAtBothSides) {
-    const std::string text(70, 'M');
+    const std::string text(200, 'M');
     WithEditor([&](Principale&, SelPictureForm& editor) {
         const HWND window = OpenOn(editor, "dark.bmp");
         TurnTo(window, 2);
