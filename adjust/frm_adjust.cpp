@@ -50,7 +50,8 @@ void FrmAdjust::AddPage(Page page, std::span<const controls::Part> parts) {
 void FrmAdjust::AddFrame() {
     namespace number = help_number;
     const controls::Part parts[] = {
-        {ScreenBox, ID_ScreenBox, number::ScreenBox, "The screen as it will be"},
+        // A tip would lie over the picture; the hint below says what can be done with it.
+        {ScreenBox, ID_ScreenBox, number::ScreenBox},
         {BtnOriginal, ID_BtnOriginal, number::BtnOriginal,
          "Shows the picture as it was, while you hold this down"},
         {LblHint, ID_LblHint},
@@ -230,15 +231,15 @@ bool FrmAdjust::Form_KeyDown(int key) {
 }
 
 bool FrmAdjust::IsPictureAsItWas() {
-    const auto size = compose::SizeOfPicture(source_);
-    if (!size) {
+    const auto checksum = compose::ChecksumOfPicture(source_);
+    if (!checksum) {
         platform::Tell(
             handle(),
             source_ + " cannot be read any more. When it is back in its place, press OK again.");
         return false;
     }
-    if (*size == live_.FileSize()) return true;
-    if (live_.Read(source_)) ShowFinished();
+    if (*checksum == live_.Checksum()) return true;
+    if (ReadPicture()) ShowFinished();
     platform::Tell(handle(),
                    source_ + " has changed. Look whether it is still framed as you like.");
     return false;

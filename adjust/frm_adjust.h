@@ -150,7 +150,7 @@ class FrmAdjust : public controls::Window {
     void BtnReadyMade_Click();
     void BtnFont_Click();
     void BtnTextColor_Click();
-    bool TextLines_AfterLabelEdit(const std::string& text);
+    void TextLines_LabelChange(const std::string& text);
     /// Draws the selected line anew after `change`.
     void ChangeLine(const std::function<void(TextLine&)>& change);
     void LinesChanged();

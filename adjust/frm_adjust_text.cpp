@@ -67,9 +67,9 @@ void FrmAdjust::ConnectText() {
         ShowLine();
         ShowPossible();
     };
-    TextLines.AfterLabelEdit = [this](const std::string& text) {
-        return TextLines_AfterLabelEdit(text);
-    };
+    // The screen shows each letter as it is typed; what is taken in the end is there already.
+    TextLines.LabelChange = [this](const std::string& text) { TextLines_LabelChange(text); };
+    TextLines.AfterLabelEdit = [](const std::string&) { return true; };
     TextLines.DblClick = [this] { TextLines.StartLabelEdit(); };
     TextLines.KeyUp = [this](int key) {
         if (TextLines.EditingLabel() || !SelectedLine()) return;
@@ -157,14 +157,13 @@ void FrmAdjust::MenuCommand(int id) {
         AddLine(kReadyLines[chosen]);
 }
 
-bool FrmAdjust::TextLines_AfterLabelEdit(const std::string& text) {
+void FrmAdjust::TextLines_LabelChange(const std::string& text) {
     const auto edited = static_cast<std::size_t>(TextLines.EditedItem());
-    if (edited >= lines_.size()) return false;
+    if (edited >= lines_.size() || lines_[edited].line().text == text) return;
     TextLine line = lines_[edited].line();
     line.text = text;
     lines_[edited] = DrawnLine(line);
     LinesChanged();
-    return true;
 }
 
 void FrmAdjust::ChangeLine(const std::function<void(TextLine&)>& change) {
@@ -178,7 +177,10 @@ void FrmAdjust::ChangeLine(const std::function<void(TextLine&)>& change) {
 }
 
 void FrmAdjust::BtnFont_Click() {
-    const auto chosen = platform::PickFont(handle(), lines_[*SelectedLine()].line().font);
+    platform::TextFont now = lines_[*SelectedLine()].line().font;
+    // The dialog has no row for a font that is gone.
+    now.face = preview::FaceFor(now.face);
+    const auto chosen = platform::PickFont(handle(), now);
     if (chosen) ChangeLine([&](TextLine& line) { line.font = *chosen; });
 }
 

@@ -2,6 +2,7 @@
 // reduction of the picture that is read once, and with no stage run again that still holds.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,7 +15,8 @@ class LiveScreen {
     /// Reads the picture. False when it cannot be read; what was read before then stays.
     bool Read(const std::string& path);
 
-    pictures::PictureSize FileSize() const { return read_->file; }
+    /// Of the file as it was read; see compose::ChecksumOfPicture.
+    std::uint64_t Checksum() const { return read_->checksum; }
     pictures::PictureSize TurnedSize(const compose::Composition& composition) const;
 
     /// At once, in all its colours.

@@ -47,11 +47,7 @@ bool Control::Attach(Window& parent, int id) {
     return true;
 }
 
-std::string Control::Text() const {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(handle_)) + 1, '\0');
-    text.resize(GetWindowTextA(handle_, text.data(), static_cast<int>(text.size())));
-    return text;
-}
+std::string Control::Text() const { return TextOf(handle_); }
 
 void Control::SetText(const std::string& text) { SetWindowTextA(handle_, text.c_str()); }
 

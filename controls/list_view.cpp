@@ -254,8 +254,13 @@ bool ListView::OnEndLabelEdit(const char* text) {
         taken = AfterLabelEdit(text);
         endingEdit_ = false;
     }
+    if (!taken && LabelChange) LabelChange(ItemText(editedItem_));
     editedItem_ = -1;
     return taken;
+}
+
+void ListView::TellTyped(void* label) {
+    if (editedItem_ >= 0 && LabelChange) LabelChange(TextOf(static_cast<HWND>(label)));
 }
 
 /// A click on the item that is selected already changes nothing that the control would report.
@@ -332,6 +337,9 @@ bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
         pressedAt_ = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
         clickTold_ = false;
     }
+    // From the label's own window, which the control makes while it is edited.
+    if (message == WM_COMMAND && HIWORD(wParam) == EN_CHANGE)
+        TellTyped(reinterpret_cast<void*>(lParam));
     if (message == WM_SIZE && columnFills_ && Mode() == ListViewMode::Report)
         SetColumnWidth(LOWORD(lParam));
     return Control::OnMessage(message, wParam, lParam, result);

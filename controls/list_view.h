@@ -87,6 +87,9 @@ class ListView : public Control {
     /// Editing ended with a new text, which is neither empty nor the old one; false leaves the
     /// label as it is.
     std::function<bool(const std::string& newText)> AfterLabelEdit;
+    /// What stands in an item's label while it is being edited, at each change; when editing ends
+    /// without a new text, once more what stood there before.
+    std::function<void(const std::string& text)> LabelChange;
     /// Files and folders were dropped on the list: their full paths. Setting this before the window
     /// is created makes the list a drop target.
     std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
@@ -109,6 +112,7 @@ class ListView : public Control {
     bool HasKeys(int index) const;
     void TellClick();
     bool OnEndLabelEdit(const char* text);
+    void TellTyped(void* label);
 
     std::vector<std::string> iconKeys_;
     bool columnFills_ = false;

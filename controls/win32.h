@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "controls/geometry.h"
 
 namespace vistrel::controls {
@@ -17,6 +19,13 @@ inline Rect PlaceOnScreen(HWND window) {
     RECT r{};
     GetWindowRect(window, &r);
     return RectOf(r);
+}
+
+inline std::string TextOf(HWND window) {
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return text;
 }
 
 }  // namespace vistrel::controls

@@ -48,9 +48,9 @@ void Compare(std::vector<Step>& steps) {
     constexpr int kRounds = 15;
     for (int round = 0; round < kRounds; ++round) {
         for (Step& step : steps) {
-            const double begun = ProcessorTime();
+            const double begun = bench::ProcessorTime();
             step.run();
-            step.milliseconds.push_back(ProcessorTime() - begun);
+            step.milliseconds.push_back(bench::ProcessorTime() - begun);
         }
     }
     const double whole = Median(steps[0].milliseconds);

@@ -10,8 +10,8 @@ namespace vistrel::compose {
 /// Fills the screen in one colour.
 void PaintPlain(const Color& color, pictures::RgbPicture& screen);
 
-/// Draws the picture's outermost lines out to the screen's edges, the softer the farther out.
-/// `picture` reaches over the whole width or the whole height.
-void DrawOutEdges(const ScreenRectangle& picture, pictures::RgbPicture& screen);
+/// Fills what lies beside `picture` with its colours there, blurred so much that no line or stripe
+/// of it is left. The picture reaches over the whole width or the whole height.
+void PaintBlurred(const ScreenRectangle& picture, pictures::RgbPicture& screen);
 
 }  // namespace vistrel::compose

@@ -48,7 +48,7 @@ Framed EmptyScreen(const ScreenRectangle& picture, const Framing& framing) {
 
 void DrawBorder(const Framing& framing, Framed& framed) {
     if (framing.border == Border::Plain) return;
-    DrawOutEdges(framed.picture, framed.screen);
+    PaintBlurred(framed.picture, framed.screen);
     framed.picture = {0, 0, pictures::kLogoWidth, pictures::kLogoHeight};
 }
 

@@ -35,12 +35,30 @@ pictures::PictureSize ReducedSize(const pictures::PictureSize& file) {
     return {side(across, file.width), side(down, file.height)};
 }
 
+/// The sum of the bytes and the sum of those sums, so that their order counts too.
+std::uint64_t ChecksumOf(const std::vector<std::uint8_t>& bytes) {
+    std::uint32_t sum = 1, sums = 0;
+    for (const std::uint8_t byte : bytes) {
+        sum += byte;
+        sums += sum;
+    }
+    return std::uint64_t{sums} << 32 | sum;
+}
+
 }  // namespace
 
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
 std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try {
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
     return file ? pictures::FormatOfName(path).size(*file) : std::nullopt;
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> ChecksumOfPicture(const std::string& path) try {
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    if (!file || !pictures::SizeOfPicture(pictures::FormatOfName(path), *file)) return std::nullopt;
+    return ChecksumOf(*file);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
@@ -57,7 +75,7 @@ std::optional<Intermediate> ReadComposed(const std::string& path) try {
                         reduced.width, reduced.height);
     if (!picture) return std::nullopt;
     picture->pixels.push_back(0);
-    return Intermediate{*size, std::move(*picture)};
+    return Intermediate{*size, ChecksumOf(*file), std::move(*picture)};
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }

@@ -16,6 +16,7 @@
 // Adjust is run, on the Framed that it has.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -31,6 +32,7 @@ namespace vistrel::compose {
 /// file.
 struct Intermediate {
     pictures::PictureSize file;  ///< the picture's size in the file
+    std::uint64_t checksum = 0;  ///< as ChecksumOfPicture tells it
     /// One byte longer than it would have to be, so that four can be read at every pixel.
     pictures::RgbPicture reduced;
 };
@@ -46,6 +48,9 @@ inline constexpr int kMostIntermediatePixels = 640 * 800;
 
 /// The size of the picture in a file, upright. Empty when it cannot be read.
 std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path);
+
+/// Another number when anything in the file is another. Empty as for SizeOfPicture.
+std::optional<std::uint64_t> ChecksumOfPicture(const std::string& path);
 
 /// Empty when the picture cannot be read or memory runs out.
 std::optional<Intermediate> ReadComposed(const std::string& path);

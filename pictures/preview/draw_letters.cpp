@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <new>
 
+#include "platform/characters.h"
 #include "platform/win32.h"
 
 namespace vistrel::preview {
@@ -53,6 +54,19 @@ class Drawing {
         SIZE size{};
         GetTextExtentPoint32A(dc_, text.c_str(), static_cast<int>(text.size()), &size);
         return size;
+    }
+
+    /// As much of the text, from its beginning, as is not wider than this.
+    std::string WhatFits(const std::string& text, int width) const {
+        int count = 0;
+        SIZE size{};
+        GetTextExtentExPointA(dc_, text.c_str(), static_cast<int>(text.size()), width, &count,
+                              nullptr, &size);
+        std::size_t end = 0;
+        while (end < text.size() &&
+               end + platform::CharacterLength(text, end) <= static_cast<std::size_t>(count))
+            end += platform::CharacterLength(text, end);
+        return text.substr(0, end);
     }
 
     std::string Face() const {
@@ -119,18 +133,18 @@ std::vector<std::uint8_t> CoverOf(const Drawing& drawing, int width, int height)
 
 }  // namespace
 
-Letters DrawLetters(const std::string& text, const platform::TextFont& font) try {
-    if (text.empty()) return {};
+Letters DrawLetters(const std::string& whole, const platform::TextFont& font) try {
+    if (whole.empty()) return {};
     Drawing drawing(font);
-    const SIZE size = drawing.SizeOf(text);
     Letters letters;
-    letters.width = (static_cast<int>(size.cx) + kAcross - 1) / kAcross;
-    letters.height = (static_cast<int>(size.cy) + kDown - 1) / kDown;
+    letters.height = (static_cast<int>(drawing.SizeOf(whole).cy) + kDown - 1) / kDown;
     // Slanted and swung letters reach beyond their room.
     const int beside = letters.height / 2;
+    const std::string text = drawing.WhatFits(whole, kWidest - 2 * beside * kAcross);
+    letters.width = (static_cast<int>(drawing.SizeOf(text).cx) + kAcross - 1) / kAcross;
     compose::Mask& mask = letters.mask;
     mask.left = -beside;
-    mask.width = std::min(letters.width + 2 * beside, kWidest / kAcross);
+    mask.width = letters.width + 2 * beside;
     mask.height = letters.height;
     if (!drawing.Draw(text, beside * kAcross, mask.width * kAcross, mask.height * kDown)) return {};
     mask.cover = CoverOf(drawing, mask.width, mask.height);

@@ -17,7 +17,8 @@ struct Letters {
 };
 
 /// Draws one line. On the screen, whose pixels are wider than high, the letters have the shape of
-/// the font. The mask is empty when there is nothing to draw or no memory.
+/// the font. Of a line longer than three screens only its beginning is drawn and counts. The mask
+/// is empty when there is nothing to draw or no memory.
 Letters DrawLetters(const std::string& text, const platform::TextFont& font);
 
 /// The name of the font that the system takes when one of this name is asked for: another one where

@@ -173,12 +173,17 @@ TEST_F(Adjusting, TheArrowKeysMoveThePictureByAPixel) {
         for (int i = 0; i < 3; ++i) user::Press(VK_LEFT);
         user::Type("+");
         Await([&] { return user::TextOf(Item(window, ID_LblZoomValue)) == "109%"; }, "zoomed");
+        user::Type("+");
+        Await([&] { return user::TextOf(Item(window, ID_LblZoomValue)) == "118%"; }, "larger");
+        user::Type("-");
+        Await([&] { return user::TextOf(Item(window, ID_LblZoomValue)) == "109%"; }, "smaller");
         CloseBy(editor, window, IDOK);
         compose::Composition composition;
         composition.framing.kind = compose::FramingKind::Fill;
         for (int i = 0; i < 3; ++i)
             composition.framing = compose::MovedBy(kPhoto, composition, -1, 0);
-        composition.framing = compose::ZoomedAt(kPhoto, composition, 1091, 160, 200);
+        for (const int zoom : {1091, 1189, 1091})
+            composition.framing = compose::ZoomedAt(kPhoto, composition, zoom, 160, 200);
         EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, composition));
     });
 }
@@ -211,6 +216,107 @@ TEST_F(Adjusting, APictureOfAnotherSizeMeanwhileIsShownAnew) {
                   photo + " has changed. Look whether it is still framed as you like.");
         CloseBy(editor, window, IDOK);
         EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, {}));
+    });
+}
+
+TEST_F(Adjusting, APictureThatWasPaintedOverMeanwhileIsShownAnew) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        RgbPicture dark{800, 300, std::vector<std::uint8_t>(std::size_t{800} * 300 * 3, 40)};
+        Put(photo, JpgOf(dark));
+        EXPECT_EQ(PressOkAndAnswer(window).text,
+                  photo + " has changed. Look whether it is still framed as you like.");
+        Await([&] { return GetRValue(ColorAt(window, 300, 30)) < 60; }, "shown anew");
+        CloseBy(editor, window, IDOK);
+        EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, {}));
+    });
+}
+
+TEST_F(Adjusting, CancelLeavesASlotAsItWas) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Fill(editor, "photo.jpg", 1);
+        const std::string before = editor.ImgPreview[1].Tag();
+        const std::string bytes = *Contents(before);
+        user::RightClick(editor.ImgPreview[1].handle());
+        EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmAdjustSlot + 1));
+        const HWND window = WaitForIt();
+        Press(window, ID_OptFraming + 1);
+        Press(window, ID_ChkMirror);
+        CloseBy(editor, window, IDCANCEL);
+        EXPECT_EQ(editor.ImgPreview[1].Tag(), before);
+        EXPECT_TRUE(Contents(before) == bytes);
+    });
+}
+
+TEST_F(Adjusting, PicturesOfExtremeShapesAreFilledZoomedAndMoved) {
+    Put(pictures + "dot.bmp", BmpOf(TestPicture(1, 1)));
+    Put(pictures + "wide.bmp", BmpOf(TestPicture(kLargestSide, 1)));
+    Put(pictures + "high.bmp", BmpOf(TestPicture(1, kLargestSide)));
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        for (const char* name : {"dot.bmp", "wide.bmp", "high.bmp"}) {
+            const HWND window = OpenOn(editor, name);
+            EXPECT_TRUE(user::Click(Item(window, ID_OptFraming + 1)));
+            Await([&] { return Enabled(window, ID_ZoomBar); }, "filled");
+            Slide(window, ID_ZoomBar, 96);
+            DragInBox(window, {200, 100}, {90, 60});
+            Press(window, ID_BtnTurnRight);
+            Press(window, ID_OptFraming + 2);
+            Choose(window, ID_BorderKind, 1);
+            CloseBy(editor, window, IDOK);
+            EXPECT_EQ(editor.ImageInfo.Text(), "320 x  400 x  256") << name;
+            EXPECT_EQ(editor.ImageInfo.ForeColor(), 32768) << name;
+        }
+    });
+}
+
+TEST_F(Adjusting, TheEntryOfTheDitheringIsTheStrengthOfIt) {
+    using enum reduce::Dither;
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        HWND again = window;
+        int entry = 0;
+        for (const reduce::Dither strength : {On, Off, Light, Medium, Strong}) {
+            TurnTo(again, 1);
+            Choose(again, ID_DitherKind, entry);
+            CloseBy(editor, again, IDOK);
+            compose::Composition composition;
+            composition.dither = strength;
+            EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, composition)) << entry;
+            if (++entry == 5) return;
+            EXPECT_TRUE(user::Click(editor.AdjustButton.handle()));
+            again = WaitForIt();
+        }
+    });
+}
+
+TEST_F(Adjusting, OfSeveralLinesEachHasItsOwnPlaceAndOneIsTakenAway) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        const HWND window = OpenOn(editor, "photo.jpg");
+        TurnTo(window, 2);
+        for (const char* text : {"One", "Two", "Three"}) AddLine(window, text);
+        Choose(window, ID_AlignKind, 2);
+        // By the keyboard to the middle one, which is taken away by its key.
+        SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(window, ID_TextLines)),
+                     TRUE);
+        user::Press(VK_UP);
+        user::Press(VK_DELETE);
+        const HWND lines = Item(window, ID_TextLines);
+        Await([&] { return SendMessageA(lines, LVM_GETITEMCOUNT, 0, 0) == 2; }, "taken away");
+        user::TakeShot("adjust-lines");
+        CloseBy(editor, window, IDOK);
+        TextLine one, two, three;
+        one.text = "One";
+        one.y = kLogoHeight * 5 / 6;
+        two = one;
+        two.y = std::min(one.y + DrawnLine(one).mask().letters.height, kLogoHeight - kMarginDown);
+        three = two;
+        three.text = "Three";
+        three.y = std::min(two.y + DrawnLine(two).mask().letters.height, kLogoHeight - kMarginDown);
+        DrawnLine last(three);
+        last.Align(Alignment::Right);
+        compose::Composition composition;
+        composition.text = MasksOf({DrawnLine(one), last});
+        EXPECT_TRUE(Contents(editor.CurView.Tag()) == MadeOf(photo, composition));
     });
 }
 

@@ -70,6 +70,8 @@ TEST(Letters, AreNoneOfNoText) { EXPECT_TRUE(DrawLetters("", Large()).mask.IsEmp
 TEST(Letters, OfALineThatIsMuchTooLongAreCutOff) {
     const Letters letters = DrawLetters(std::string(2000, 'W'), Large());
     EXPECT_LE(letters.mask.width, 960);
+    // What is placed by its middle or its right end is what is drawn.
+    EXPECT_LE(letters.width, 960);
     EXPECT_EQ(letters.mask.cover.size(),
               static_cast<std::size_t>(letters.mask.width) * letters.mask.height);
 }

@@ -127,5 +127,23 @@ TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
     }
 }
 
+TEST_F(PictureSetsOf, FiveHundredOnADiskThatFillsUpLeaveWholeSetsAndNameTheRest) {
+    Names some;
+    for (int i = 0; i < 500; ++i) some.push_back(Picture("p" + std::to_string(1000 + i) + ".bmp"));
+    PictureSets sets(logos, some, SetKind::StartupOnly, compose::FramingKind::Fill);
+    // Room for some sets and a part of one.
+    fault::FailOperation(100);
+    Run(sets);
+    fault::Reset();
+    EXPECT_GT(sets.Made().size(), 10u);
+    EXPECT_LT(sets.Made().size(), 100u);
+    EXPECT_EQ(NamesIn(logos).size(), sets.Made().size());
+    EXPECT_EQ(sets.Made().size() + sets.NotWritten().size(), some.size());
+    EXPECT_EQ(sets.NotWritten().front(), some[sets.Made().size()]);
+    EXPECT_EQ(sets.NotWritten().back(), some.back());
+    for (const std::string& name : sets.Made())
+        EXPECT_EQ(Contents(logos + name + "\\LOGO.SYS")->size(), 129078u) << name;
+}
+
 }  // namespace
 }  // namespace vistrel::test

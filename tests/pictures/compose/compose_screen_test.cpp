@@ -194,6 +194,20 @@ TEST(ScreenTest, ACropOutsideThePictureShowsItsNearestPixel) {
         ASSERT_EQ(framed->screen.pixels[i], 50 + 70 * (i % 3));
 }
 
+TEST(ScreenTest, AFileThatHasChangedHasAnotherChecksum) {
+    const Folder folder;
+    RgbPicture picture = MakePicture(40, 30);
+    const std::string path = folder.Save("small.bmp", BmpOf(picture));
+    const auto before = ChecksumOfPicture(path);
+    ASSERT_TRUE(before.has_value());
+    EXPECT_EQ(ReadComposed(path)->checksum, *before);
+    std::swap(picture.pixels[0], picture.pixels[300]);
+    folder.Save("small.bmp", BmpOf(picture));
+    EXPECT_NE(ChecksumOfPicture(path), before);
+    EXPECT_FALSE(ChecksumOfPicture(folder.Save("none.gif", {1, 2, 3})).has_value());
+    EXPECT_FALSE(ChecksumOfPicture(folder.PathOf("missing.bmp")).has_value());
+}
+
 TEST(ScreenTest, AFileThatHasGoneIsNotRead) {
     const Folder folder;
     const std::string path = folder.Save("small.bmp", BmpOf(MakePicture(40, 30)));
