@@ -175,7 +175,7 @@ void SelPictureForm::PlaceSlot(int index, const controls::Rect& slot) {
     const int text = LblSlot[index].Bounds().height;  // two lines, as the caption has
     // Within the frame, which its background must not cover.
     LblNotAval[index].MoveTo(
-        {slot.left + Gap() / 2, slot.top + (slot.height - text) / 2, slot.width - Gap(), text});
+        {slot.left + Gap(), slot.top + (slot.height - text) / 2, slot.width - 2 * Gap(), text});
 }
 
 void SelPictureForm::PlaceBeside(int index, const controls::Rect& slot) {

@@ -103,6 +103,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     // Where a click or a key arrives, in the order in which a user meets them.
     void ActiveBar1_Click(const controls::Tool& tool);
     void MyList_ItemClick();
+    void MyList_SelectionChanged();
     void MyList_MouseDown(controls::Point at);
     void MyList_MouseUp(int button);
     void MyList_DblClick();
@@ -142,7 +143,6 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void CheckSetCommands();
     void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
-    void MyList_SelectionChanged();
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
     void ShowInstalledSet();

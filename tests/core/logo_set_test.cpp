@@ -1,6 +1,8 @@
 // A logo set on disk as a whole, without a window.
 #include "core/logo_set.h"
 
+#include <windows.h>
+
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
 

@@ -261,5 +261,27 @@ TEST_F(Appearance, TheRoomOfALargeScreenGoesToThePictures) {
     });
 }
 
+/// The width that a label's text takes, broken into lines as the label does.
+LONG WidthOfText(const controls::Label& label) {
+    RECT r{};
+    GetClientRect(label.handle(), &r);
+    const HDC dc = GetDC(label.handle());
+    SelectObject(dc, reinterpret_cast<HFONT>(SendMessageA(label.handle(), WM_GETFONT, 0, 0)));
+    DrawTextA(dc, user::TextOf(label.handle()).c_str(), -1, &r, DT_CALCRECT | DT_WORDBREAK);
+    ReleaseDC(label.handle(), dc);
+    return r.right - r.left;
+}
+
+TEST_F(Appearance, WhatStandsInPlaceOfASlotKeepsAMarginWithinItsFrame) {
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        Press(editor.OptDefShut);
+        user::TakeShot("shared-screens", editor.handle());
+        RECT frame{};
+        GetWindowRect(editor.SlotFrame[0].handle(), &frame);
+        constexpr LONG kMargin = 8;
+        EXPECT_LE(WidthOfText(editor.LblNotAval[0]), frame.right - frame.left - 2 * kMargin);
+    });
+}
+
 }  // namespace
 }  // namespace vistrel::test
