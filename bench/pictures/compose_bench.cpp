@@ -64,6 +64,10 @@ int Run(const std::string& source, const std::string& only) {
     const compose::Composition composition = Busy();
     compose::Composition toneAlone = composition;
     toneAlone.light.saturation = 0;
+    compose::Composition bordered = composition;
+    bordered.framing.kind = compose::FramingKind::Fit;
+    bordered.framing.border = compose::Border::BlurredEdge;
+    bordered.crop = compose::Crop{0, 0, 1 << 20, 1200};
     const auto intermediate = compose::ReadComposed(source);
     const auto framed = compose::ReadFramed(source, composition);
     if (!intermediate || !framed) {
@@ -77,6 +81,7 @@ int Run(const std::string& source, const std::string& only) {
         {"ReadComposed", [&] { compose::ReadComposed(source); }},
         {"ReadFramed", [&] { compose::ReadFramed(source, composition); }},
         {"Frame", [&] { compose::Frame(*intermediate, composition); }},
+        {"FrameBlurred", [&] { compose::Frame(*intermediate, bordered); }},
         {"FrameFinely", [&] { compose::FrameFinely(*intermediate, composition); }},
         {"Adjust", [&] { compose::Adjust(*framed, composition); }},
         {"AdjustToneAlone", [&] { compose::Adjust(*framed, toneAlone); }},
