@@ -57,7 +57,7 @@ std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try 
 
 std::optional<std::uint64_t> ChecksumOfPicture(const std::string& path) try {
     const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    if (!file || !pictures::SizeOfPicture(pictures::FormatOfName(path), *file)) return std::nullopt;
+    if (!file || !pictures::FormatOfName(path).size(*file)) return std::nullopt;
     return ChecksumOf(*file);
 } catch (const std::bad_alloc&) {
     return std::nullopt;

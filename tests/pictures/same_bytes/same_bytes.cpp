@@ -25,13 +25,12 @@ using namespace scale;
 
 namespace {
 
-/// The files lie beside this source, or beside the program where that runs on another system.
-std::string PathBeside(const char* name) {
-#ifdef _WIN32
-    return name;
+/// In the folder of the recorded files; beside the program where that runs on another system.
+std::string PathOfRecorded(const char* name) {
+#ifdef RECORDED_FOLDER
+    return std::string(RECORDED_FOLDER "/") + name;
 #else
-    const std::string source = __FILE__;
-    return source.substr(0, source.rfind('/') + 1) + name;
+    return name;
 #endif
 }
 
@@ -48,8 +47,8 @@ std::string DigestOfConversion(const Bytes& source, const char* ending) {
 }
 
 std::string DigestOfPhoto(const char* name) {
-    const auto file = ReadWholeFile(PathBeside(name));
-    EXPECT_TRUE(file.has_value()) << PathBeside(name);
+    const auto file = ReadWholeFile(PathOfRecorded(name));
+    EXPECT_TRUE(file.has_value()) << PathOfRecorded(name);
     return file ? DigestOfConversion(*file, ".jpg") : "";
 }
 
@@ -87,8 +86,8 @@ std::string DigestOfFramed(const char* name, compose::FramingKind kind) {
     composition.framing.centreX = compose::kWhole / 3;
     composition.framing.border = compose::Border::BlurredEdge;
     composition.light = {5, 20, 130, 40, true};
-    const auto framed = compose::ReadFramed(PathBeside(name), composition);
-    EXPECT_TRUE(framed.has_value()) << PathBeside(name);
+    const auto framed = compose::ReadFramed(PathOfRecorded(name), composition);
+    EXPECT_TRUE(framed.has_value()) << PathOfRecorded(name);
     return framed ? Md5(compose::Adjust(*framed, composition).pixels) : "";
 }
 
@@ -115,7 +114,7 @@ std::string AllDigests() {
 
 TEST(Conversion, GivesTheRecordedBytesInThisBuild) {
     const std::string found = AllDigests();
-    const auto file = ReadWholeFile(PathBeside("digests.txt"));
+    const auto file = ReadWholeFile(PathOfRecorded("digests.txt"));
     ASSERT_TRUE(file.has_value());
     const std::string recorded(file->begin(), file->end());
     EXPECT_EQ(found, recorded);
