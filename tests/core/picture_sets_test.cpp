@@ -108,8 +108,9 @@ TEST_F(PictureSetsOf, StoppedLeaveNoSetUnfinished) {
 
 TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
     const Names some = {Picture("a.bmp"), Picture("b.bmp"), Picture("c.bmp")};
-    // The folder of the first set is operation 1, its screen 2; names are looked up without one.
-    for (int failing = 1; failing < 12; ++failing) {
+    // Making the folder, reading the picture and each step of writing its screen are operations;
+    // names are looked up without one.
+    for (int failing = 1; failing < 30; ++failing) {
         RemoveTree(logos);
         MakeFolders(logos);
         PictureSets sets(logos, some, SetKind::StartupOnly, compose::FramingKind::Fill);
@@ -120,7 +121,9 @@ TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
         EXPECT_EQ(NamesIn(logos).size(), sets.Made().size()) << failing;
         for (const std::string& name : sets.Made())
             EXPECT_EQ(NamesIn(logos + name + "\\"), Names{"LOGO.SYS"}) << failing;
-        EXPECT_EQ(sets.Made().size() + sets.NotWritten().size(), some.size()) << failing;
+        EXPECT_EQ(sets.Made().size() + sets.NotWritten().size() + sets.NotRead().size(),
+                  some.size())
+            << failing;
         if (counted < failing) {
             EXPECT_EQ(sets.Made().size(), some.size());
         }
@@ -137,8 +140,9 @@ TEST_F(PictureSetsOf, FiveHundredOnADiskThatFillsUpLeaveWholeSetsAndNameTheRest)
     fault::Reset();
     EXPECT_GT(sets.Made().size(), 10u);
     ASSERT_LT(sets.Made().size(), 100u);
-    ASSERT_EQ(sets.Made().size() + sets.NotWritten().size(), some.size());
-    EXPECT_EQ(sets.NotWritten().front(), some[sets.Made().size()]);
+    // What fails first may be the reading of a picture.
+    EXPECT_LE(sets.NotRead().size(), 1u);
+    ASSERT_EQ(sets.Made().size() + sets.NotWritten().size() + sets.NotRead().size(), some.size());
     EXPECT_EQ(sets.NotWritten().back(), some.back());
     for (const std::string& name : sets.Made())
         EXPECT_EQ(Contents(logos + name + "\\LOGO.SYS")->size(), 129078u) << name;
