@@ -71,7 +71,7 @@ void SelPictureForm::ShowPictureAnew() {
     if (ImageInfo.ForeColor() == kNoPictureColor) return;
     if (!platform::FileAttributes(SelectedPicture))
         ForgetPicture();
-    else if (IsPictureName(SelectedPicture))
+    else if (pictures::IsPictureName(SelectedPicture))
         CheckImage(SelectedPicture);
 }
 
