@@ -295,7 +295,9 @@ TEST_F(ChangeSetTest, OnNtTheNameIsStoredWithoutANul) {
     PutSet("Blue");
     const char* key = "Software\\Wine\\AppDefaults\\Rotaline.exe";
     HKEY open = nullptr;
-    RegCreateKeyExA(HKEY_CURRENT_USER, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &open, nullptr);
+    ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &open,
+                              nullptr),
+              ERROR_SUCCESS);
     RegSetValueExA(open, "Version", 0, REG_SZ, reinterpret_cast<const BYTE*>("winxp"), 6);
     EXPECT_EQ(Rotaline(), Outcome::Done);
     RegDeleteValueA(open, "Version");
