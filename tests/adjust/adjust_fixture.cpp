@@ -116,6 +116,16 @@ void Adjusting::Hold(POINT at) {
     SendMouse(MOUSEEVENTF_LEFTDOWN, at);
 }
 
+void Adjusting::HoldUntil(POINT at, const std::function<bool()>& condition, const char* what) {
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        Hold(at);
+        if (WaitUntil(condition, 7000)) return;
+        LetGo(at);
+    }
+    ADD_FAILURE() << what;
+}
+
 void Adjusting::MoveHeld(POINT to) {
     user::MoveTo(to);
     SendMouse(0, to);

@@ -46,6 +46,8 @@ class Adjusting : public LogoBrowser {
     static SIZE BoxSize(HWND window);
     /// Presses the left button at a point of the screen and holds it, moves it, lets it go.
     static void Hold(POINT at);
+    /// Presses and holds until something is seen; a press that was lost is repeated.
+    static void HoldUntil(POINT at, const std::function<bool()>& condition, const char* what);
     static void MoveHeld(POINT to);
     static void LetGo(POINT at);
 

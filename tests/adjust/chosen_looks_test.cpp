@@ -70,7 +70,15 @@ class ChosenLooks : public Adjusting {
         GetWindowRect(Item(dialog, kBasicColors), &r);
         const POINT at{r.left + (2 * across + 1) * (r.right - r.left) / (2 * kColorsAcross),
                        r.top + (2 * down + 1) * (r.bottom - r.top) / (2 * kColorsDown)};
-        const COLORREF color = seen::PixelAt(at);
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        COLORREF color = 0;
+        // What is drawn comes to the screen a little later; none of the cells is grey.
+        Await(
+            [&] {
+                color = seen::PixelAt(at);
+                return GetRValue(color) != GetGValue(color) || GetGValue(color) != GetBValue(color);
+            },
+            "colours drawn");
         user::ClickAt(at);
         return color;
     }

@@ -40,8 +40,8 @@ TEST_F(AdjustedScreen, ShowsTheOriginalWhileTheButtonIsHeld) {
         Slide(window, ID_LightBar, 100);
         Await([&] { return IsNear(ColorAt(window, 160, 200), 187, 187, 187); }, "lighter");
         const POINT button = user::CentreOf(Item(window, ID_BtnOriginal));
-        Hold(button);
-        Await([&] { return IsNear(ColorAt(window, 160, 200), 60, 60, 60); }, "original");
+        HoldUntil(
+            button, [&] { return IsNear(ColorAt(window, 160, 200), 60, 60, 60); }, "original");
         LetGo(button);
         Await([&] { return IsNear(ColorAt(window, 160, 200), 187, 187, 187); }, "adjusted again");
         CloseBy(editor, window, IDCANCEL);
