@@ -12,6 +12,8 @@
 #include "pictures/file.h"
 #include "pictures/formats.h"
 #include "pictures/read_picture.h"
+#include "pictures/screen/check.h"
+#include "pictures/screen/mend.h"
 #include "tools/options.h"
 
 namespace vistrel::tools {
@@ -81,6 +83,23 @@ int WriteRgb(const std::string& source, const std::string& target) {
                : Complain(target, "cannot be written");
 }
 
+int CheckScreen(const std::string& path) {
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    if (!file) return Complain(path, "cannot be read");
+    const std::vector<screen::ScreenFault> faults = screen::FaultsOfScreen(*file);
+    for (const screen::ScreenFault fault : faults)
+        std::printf("%s %s\n", path.c_str(), screen::InWords(fault));
+    return faults.empty() ? 0 : 1;
+}
+
+int MendScreen(const std::string& path, const std::string& target) {
+    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
+    if (!file) return Complain(path, "cannot be read");
+    const std::optional<std::vector<std::uint8_t>> mended = screen::MendScreen(*file);
+    if (!mended) return Complain(path, screen::InWords(screen::ScreenFault::NotABitmap));
+    return pictures::WriteWholeFile(target, *mended) ? 0 : Complain(target, "cannot be written");
+}
+
 int Repeat(int times, const std::string& source, const std::string& target,
            const compose::Composition& composition) {
     std::vector<double> milliseconds;
@@ -108,8 +127,11 @@ int Run(const ConvertOptions& options) {
     const std::vector<std::string>& files = options.files;
     if (options.info)
         return files.size() == 1 ? PrintInfo(files[0]) : Misused("--info wants one picture");
+    if (options.check)
+        return files.size() == 1 ? CheckScreen(files[0]) : Misused("--check wants one screen");
     if (files.size() != 2) return Misused("a picture and a target are wanted");
     if (options.rgb) return WriteRgb(files[0], files[1]);
+    if (options.mend) return MendScreen(files[0], files[1]);
     const int status = CheckCrop(files[0], options.composition);
     if (status != 0) return status;
     return options.repeat > 0 ? Repeat(options.repeat, files[0], files[1], options.composition)

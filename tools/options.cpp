@@ -16,6 +16,8 @@ const char kHelp[] =
     "  logo-convert [OPTIONS] SOURCE TARGET   make a screen file of a picture\n"
     "  logo-convert --info SOURCE             print width, height and depth\n"
     "  logo-convert --rgb SOURCE TARGET       write its 24-bit pixels\n"
+    "  logo-convert --check SCREEN            print what is wrong with a screen file\n"
+    "  logo-convert --mend SCREEN TARGET      make one without that\n"
     "\n"
     "  --fill               as much of it as fills the screen, shapes as they are\n"
     "  --fit COLOR | blur   all of it, with a border: black, white, RRGGBB in\n"
@@ -31,7 +33,8 @@ const char kHelp[] =
     "  --repeat N           convert N times and print the median time in ms\n"
     "\n"
     "The exit status is 0 when all went well, 1 when a file could not be read or\n"
-    "written, 2 when the options are wrong. TARGET is then as it was.\n";
+    "written or a screen has a fault, 2 when the options are wrong. TARGET is then\n"
+    "as it was.\n";
 
 namespace {
 
@@ -121,6 +124,8 @@ constexpr Option kOptions[] = {
     {"--help", nullptr, [](const std::string&, ConvertOptions& o) { return o.help = true; }},
     {"--info", nullptr, [](const std::string&, ConvertOptions& o) { return o.info = true; }},
     {"--rgb", nullptr, [](const std::string&, ConvertOptions& o) { return o.rgb = true; }},
+    {"--check", nullptr, [](const std::string&, ConvertOptions& o) { return o.check = true; }},
+    {"--mend", nullptr, [](const std::string&, ConvertOptions& o) { return o.mend = true; }},
     {"--repeat", "a number from 1 to 1000",
      [](const std::string& value, ConvertOptions& o) {
          return SetNumber(value, 1, 1000, o.repeat);

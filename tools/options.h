@@ -15,6 +15,8 @@ struct ConvertOptions {
     bool help = false;
     bool info = false;      ///< print the picture's size
     bool rgb = false;       ///< write its pixels
+    bool check = false;     ///< print what is wrong with a screen file
+    bool mend = false;      ///< write it without that
     std::string complaint;  ///< what is wrong with the arguments; empty when nothing is
 };
 

@@ -1,6 +1,7 @@
 #include "pictures/screen/mend.h"
 
 #include <algorithm>
+#include <new>
 
 #include "pictures/bmp/reader.h"
 #include "pictures/convert.h"
@@ -40,7 +41,8 @@ std::optional<std::vector<std::uint8_t>> Reduced(pictures::FileBytes file) {
 
 }  // namespace
 
-std::optional<std::vector<std::uint8_t>> MendScreen(pictures::FileBytes file) {
+// Nothing is thrown at callers: where memory runs out, nothing can be mended.
+std::optional<std::vector<std::uint8_t>> MendScreen(pictures::FileBytes file) try {
     const std::vector<ScreenFault> faults = FaultsOfScreen(file);
     if (IsIn(faults, ScreenFault::NotABitmap)) return std::nullopt;
     std::vector<std::uint8_t> mended(file.begin(), file.end());
@@ -57,6 +59,8 @@ std::optional<std::vector<std::uint8_t>> MendScreen(pictures::FileBytes file) {
     if (!indices) return std::nullopt;
     return ScreenFile({pictures::kLogoWidth, pictures::kLogoHeight, std::move(*indices),
                        header->palette, moves ? static_cast<int>(FirstAnimated(file)) : 0});
+} catch (const std::bad_alloc&) {
+    return std::nullopt;
 }
 
 }  // namespace vistrel::screen

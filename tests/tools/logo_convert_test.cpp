@@ -140,9 +140,9 @@ TEST_F(LogoConvertTest, HelpFitsAScreenOf80By25Characters) {
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count) EXPECT_LT(line.size(), 80u) << line;
     EXPECT_LT(count, 25);
-    for (const char* option :
-         {"--info", "--rgb", "--repeat", "--fill", "--fit", "--crop", "--turn", "--mirror",
-          "--brightness", "--contrast", "--gamma", "--saturation", "--auto", "--dither"}) {
+    for (const char* option : {"--info", "--rgb", "--check", "--mend", "--repeat", "--fill",
+                               "--fit", "--crop", "--turn", "--mirror", "--brightness",
+                               "--contrast", "--gamma", "--saturation", "--auto", "--dither"}) {
         EXPECT_NE(help.text.find(option), std::string::npos) << option;
     }
 }
@@ -187,6 +187,31 @@ TEST_F(LogoConvertTest, FilesThatCannotBeReadOrWrittenAreNamed) {
     EXPECT_EQ(unwritten.status, 1);
     EXPECT_NE(unwritten.text.find(nowhere + ": cannot be written"), std::string::npos);
     EXPECT_EQ(folder_.Files(), 1);
+}
+
+TEST_F(LogoConvertTest, AScreensFaultsAreNamedAndMended) {
+    const Outcome found = Run("--check '" + source_ + "'");
+    EXPECT_EQ(found.status, 1);
+    EXPECT_EQ(found.text, source_ + " does not have 8 bits a pixel\n" + source_ +
+                              " does not have 320 x 400 pixels\n");
+    const Outcome mended = Convert("--mend");
+    EXPECT_EQ(mended.status, 0);
+    EXPECT_EQ(mended.text, "");
+    const Outcome sound = Run("--check '" + target_ + "'");
+    EXPECT_EQ(sound.status, 0);
+    EXPECT_EQ(sound.text, "");
+}
+
+TEST_F(LogoConvertTest, WhatIsNoScreenIsToldAndNotMended) {
+    const std::string text = folder_.Save("text.sys", {'n', 'o', 'n', 'e'});
+    EXPECT_EQ(Run("--check '" + text + "'").text, text + " is no bitmap\n");
+    const Outcome mended = Run("--mend '" + text + "' '" + target_ + "'");
+    EXPECT_EQ(mended.status, 1);
+    EXPECT_NE(mended.text.find(text + ": is no bitmap"), std::string::npos) << mended.text;
+    EXPECT_FALSE(std::filesystem::exists(target_));
+    EXPECT_EQ(Run("--check '" + folder_.PathOf("missing.sys") + "'").status, 1);
+    EXPECT_EQ(Run("--check '" + text + "' '" + target_ + "'").status, 2);
+    EXPECT_EQ(Run("--mend '" + text + "'").status, 2);
 }
 
 TEST_F(LogoConvertTest, InfoAndPixelsAreAsBefore) {
