@@ -20,8 +20,7 @@ class BootLogo : public RunningProgram {
     /// Starts the program and opens its preferences.
     HWND OpenPreferences() {
         if (!Start()) return nullptr;
-        user::Press('O', {VK_MENU});
-        EXPECT_NE(user::WaitForTop("#32768", "", process), nullptr);
+        EXPECT_NE(user::OpenMenuByLetter('O', process), nullptr);
         user::Press('P');
         return user::WaitForTop("FrmOptions", "", process);
     }

@@ -9,8 +9,7 @@ class Ending : public RunningProgram {
  protected:
     /// Opens the preferences, which keep the main window waiting.
     HWND OpenPreferences() {
-        user::Press('O', {VK_MENU});
-        EXPECT_NE(user::WaitForTop("#32768", "", process), nullptr);
+        EXPECT_NE(user::OpenMenuByLetter('O', process), nullptr);
         user::Press('P');
         return user::WaitForTop("FrmOptions", "", process);
     }

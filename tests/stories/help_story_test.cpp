@@ -12,8 +12,7 @@ class AskingForHelp : public RunningProgram {
  protected:
     /// Chooses the item at this place (from 0) of the Help menu.
     void ChooseFromHelpMenu(int place) {
-        user::Press('H', {VK_MENU});
-        EXPECT_NE(user::WaitForTop("#32768", "", process), nullptr);
+        EXPECT_NE(user::OpenMenuByLetter('H', process), nullptr);
         for (int i = 0; i < place; ++i) user::Press(VK_DOWN);
         user::Press(VK_RETURN);
         EXPECT_TRUE(WaitUntil([&] { return user::FindTop("#32768", "", process) == nullptr; }));

@@ -65,8 +65,7 @@ TEST_F(Story, ChangesTheScreensAtEveryStartOfWindowsOnceToldTo) {
     HWND main = Start();
     ASSERT_NE(main, nullptr);
     EXPECT_TRUE(WaitUntil([&] { return LabelOf(main, ID_DefaultLogo) == "Sunny Day"; }));
-    user::Press('O', {VK_MENU});
-    ASSERT_NE(user::WaitForTop("#32768", "", process), nullptr);
+    ASSERT_NE(user::OpenMenuByLetter('O', process), nullptr);
     user::Press('P');
     const HWND preferences = user::WaitForTop("FrmOptions", "", process);
     ASSERT_NE(preferences, nullptr);

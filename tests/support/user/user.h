@@ -94,6 +94,10 @@ HMENU WaitForPopUp();
 /// seconds. Null when none comes at all.
 HMENU PopUpByKey();
 
+/// Opens a menu of the menu bar by Alt and its letter; presses again when none comes in seconds.
+/// The open menu's window, of this process (0 is any); null when none comes at all.
+HWND OpenMenuByLetter(char letter, DWORD process);
+
 // Message boxes.
 
 /// What a user sees of a message box.

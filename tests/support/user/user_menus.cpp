@@ -134,6 +134,17 @@ bool ReadBox(HWND dialog, Box* box) {
     return true;
 }
 
+/// Presses the keys that open a menu, and again where nothing has come of them.
+HWND PressUntilMenu(WORD key, const std::vector<WORD>& held, DWORD process) {
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        Press(key, held);
+        const HWND menu = WaitForTop("#32768", "", process, 5000);
+        if (menu != nullptr) return menu;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 bool ChooseFromMenuBar(HWND window, unsigned command) {
@@ -151,12 +162,12 @@ HMENU WaitForPopUp() {
 }
 
 HMENU PopUpByKey() {
-    constexpr int kTries = 3;
-    for (int i = 0; i < kTries; ++i) {
-        Press(VK_APPS);
-        if (WaitForTop("#32768", "", 0, 5000) != nullptr) break;
-    }
+    PressUntilMenu(VK_APPS, {}, 0);
     return WaitForPopUp();
+}
+
+HWND OpenMenuByLetter(char letter, DWORD process) {
+    return PressUntilMenu(static_cast<WORD>(letter), {VK_MENU}, process);
 }
 
 bool ChooseFromPopUp(unsigned command) {
