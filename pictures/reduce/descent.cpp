@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstring>
 
 #include "pictures/reduce/alternatives.h"
 #include "pictures/reduce/error_field.h"
@@ -51,18 +53,17 @@ class Descent {
 };
 
 void Descent::FillErrors(const std::uint8_t* rgb) {
+    // Points as machine words: no number of them is negative, whichever way they are added up.
+    constexpr std::uint64_t kNone = loops::kNoError * (0x0001000100010001u);
     for (int y = 0; y < height_; ++y) {
         const std::uint8_t* const indices = Indices(y);
         std::uint16_t* error = field_.Errors(y);
         for (int x = 0; x < width_; ++x, rgb += 3, error += loops::kPoint) {
-            const ColorPoint wanted = space_.FromRgb(rgb);
-            const std::uint16_t* const color = &colors_[indices[x] * loops::kPoint];
-            error[0] =
-                static_cast<std::uint16_t>(loops::kNoError + color[0] - ToErrorUnits(wanted.x));
-            error[1] =
-                static_cast<std::uint16_t>(loops::kNoError + color[1] - ToErrorUnits(wanted.y));
-            error[2] =
-                static_cast<std::uint16_t>(loops::kNoError + color[2] - ToErrorUnits(wanted.z));
+            const auto wanted = std::bit_cast<std::uint64_t>(space_.FromRgb(rgb));
+            std::uint64_t chosen;
+            std::memcpy(&chosen, &colors_[indices[x] * loops::kPoint], sizeof chosen);
+            const std::uint64_t here = kNone + chosen - InErrorUnits(wanted);
+            std::memcpy(error, &here, sizeof here);
         }
     }
 }

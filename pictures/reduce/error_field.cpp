@@ -1,7 +1,8 @@
 // The field of errors.
 #include "pictures/reduce/error_field.h"
 
-#include <algorithm>
+#include <bit>
+#include <cstring>
 
 namespace vistrel::reduce {
 namespace {
@@ -16,20 +17,12 @@ constexpr int kUnitsOfErrors = 3;
 
 }  // namespace
 
-std::uint16_t ToErrorUnits(int coordinate) {
-    return static_cast<std::uint16_t>((coordinate * kUnitsOfErrors + kUnitsOfPoints / 2) /
-                                      kUnitsOfPoints);
-}
-
 ErrorPalette InErrorUnits(const Palette& palette) {
     ErrorPalette result{};
     for (int i = 0; i < palette.size; ++i) {
-        const auto put = [&](int at, int units) {
-            result[i * loops::kPoint + at] = ToErrorUnits(units);
-        };
-        put(0, palette.colors[i].x);
-        put(1, palette.colors[i].y);
-        put(2, palette.colors[i].z);
+        const auto point = std::bit_cast<std::uint64_t>(palette.colors[i]);
+        const std::uint64_t inUnits = InErrorUnits(point);
+        std::memcpy(&result[i * loops::kPoint], &inUnits, sizeof inUnits);
     }
     return result;
 }

@@ -10,8 +10,11 @@
 
 namespace vistrel::reduce {
 
-/// A coordinate of a colour in the unit of errors, a sixth of a level.
-std::uint16_t ToErrorUnits(int coordinate);
+/// A colour's point, as a machine word, in the unit of errors, a sixth of a level.
+inline std::uint64_t InErrorUnits(std::uint64_t point) {
+    constexpr std::uint64_t kHalf = 0x0004000400040004u, kKept = 0x1FFF1FFF1FFF1FFFu;
+    return (point * 3 + kHalf) >> 3 & kKept;
+}
 
 /// A palette in that unit.
 using ErrorPalette = std::array<std::uint16_t, kMostColors * loops::kPoint>;
