@@ -25,7 +25,7 @@ bool HasFirstComponent(const JpgScan& scan) {
 }
 
 // Every block takes a bit of the file at least, so that a short file cannot have a large picture.
-bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
+bool CanHoldEnough(const pictures::PictureFile& file, const JpgFrame& frame) {
     std::int64_t blocks = 0;
     for (const JpgComponent& component : frame.components) {
         blocks += static_cast<std::int64_t>(component.blocksAcross) * component.blocksDown;
@@ -33,7 +33,7 @@ bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
     return static_cast<std::int64_t>(file.size()) * 8 * kLeastPart >= blocks;
 }
 
-bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadSequential(const pictures::PictureFile& file, JpgMarkers& markers,
                     std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     const JpgFrame& frame = markers.frame();
     std::vector<bool> taken(frame.components.size());
@@ -68,7 +68,7 @@ bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
     return isEnough;
 }
 
-bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadProgressive(const pictures::PictureFile& file, JpgMarkers& markers,
                      std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     const JpgFrame& frame = markers.frame();
     std::vector<ProgressiveComponent> components;
@@ -119,7 +119,7 @@ JpgFrame UpperTenth(JpgFrame frame) {
 
 /// True when what makes a picture enough is there in the upper tenth already, as in all sound files
 /// whose first scan is the first component's.
-bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies> means,
+bool BeginsWithEnough(const pictures::PictureFile& file, std::span<const KeptFrequencies> means,
                       BlockRowSink& sink) {
     JpgMarkers markers(file);
     if (!markers.NextScan() || !HasFirstComponent(markers.scan()) || !markers.scan().IsDc() ||
@@ -151,7 +151,7 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
     return bytes;
 }
 
-bool HasEnough(pictures::FileBytes file) {
+bool HasEnough(const pictures::PictureFile& file) {
     struct PassOver : BlockRowSink {
         void AddBlockRow(int, int, const std::int16_t*) override {}
     } passOver;
@@ -163,7 +163,7 @@ bool HasEnough(pictures::FileBytes file) {
            ReadCoefficients(file, markers, means, passOver);
 }
 
-bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadCoefficients(const pictures::PictureFile& file, JpgMarkers& markers,
                       std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     if (!CanHoldEnough(file, markers.frame())) return false;
     return markers.frame().progressive ? ReadProgressive(file, markers, kept, sink)

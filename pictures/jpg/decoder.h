@@ -17,11 +17,11 @@ std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequen
 /// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
 /// which stand for grey. False when the file has not even a tenth of the picture; `sink` has then
 /// had some rows or none.
-bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadCoefficients(const pictures::PictureFile& file, JpgMarkers& markers,
                       std::span<const KeptFrequencies> kept, BlockRowSink& sink);
 
 /// Whether ReadCoefficients would find a tenth of the picture in a file: told without the memory
 /// for all of it.
-bool HasEnough(pictures::FileBytes file);
+bool HasEnough(const pictures::PictureFile& file);
 
 }  // namespace vistrel::jpg

@@ -16,7 +16,10 @@ constexpr int kQuantTables = 0xDB, kLines = 0xDC, kRestartInterval = 0xDD;
 constexpr int kJfif = 0xE0, kExif = 0xE1, kAdobe = 0xEE, kComment = 0xFE;
 constexpr int kTemporary = 0x01;
 
-int Word(pictures::FileBytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
+template <class Bytes>
+int Word(Bytes&& bytes, std::size_t at) {
+    return bytes[at] << 8 | bytes[at + 1];
+}
 
 int DivideUp(int value, int by) { return (value + by - 1) / by; }
 
@@ -34,12 +37,15 @@ bool IsNeedless(int marker) {
     return (marker >= kJfif && marker < kJfif + 16) || marker == kComment;
 }
 
+// Of these, what is looked into.
+bool TellsSomething(int marker) { return marker == kJfif || marker == kExif || marker == kAdobe; }
+
 }  // namespace
 
-JpgMarkers::JpgMarkers(pictures::FileBytes file)
-    : file_(file), tables_(std::make_unique<JpgTables>()) {
-    const bool isJpg = file.size() > 3 && file[0] == 0xFF && file[1] == kStart;
-    position_ = isJpg ? 2 : file.size();
+JpgMarkers::JpgMarkers(const pictures::PictureFile& file)
+    : whole_(file), file_(file), tables_(std::make_unique<JpgTables>()) {
+    const bool isJpg = file_.size() > 3 && file_[0] == 0xFF && file_[1] == kStart;
+    position_ = isJpg ? 2 : file_.size();
 }
 
 bool JpgMarkers::NextScan() {
@@ -56,7 +62,11 @@ bool JpgMarkers::NextScan() {
         if (given < 2 && !IsNeedless(marker)) return false;
         const std::size_t length = std::max<std::size_t>(given, 2);
         if (position_ + length > file_.size()) return false;
-        const pictures::FileBytes content = file_.subspan(position_ + 2, length - 2);
+        std::vector<std::uint8_t> content;
+        if (!IsNeedless(marker) || TellsSomething(marker)) {
+            content.resize(length - 2);
+            whole_.Copy(position_ + 2, content);
+        }
         position_ += length;
         if (!ReadSegment(marker, content)) return false;
         if (marker == kScan) return true;
@@ -180,7 +190,7 @@ bool JpgMarkers::ForEachTable(UseTable use) {
 }
 
 // A frame without a height has it in a segment right behind its first scan.
-int JpgMarkers::HeightBehindScan() const {
+int JpgMarkers::HeightBehindScan() {
     std::size_t at = FindMarker(file_, position_);
     while (at + 6 <= file_.size() && StandsAlone(file_[at + 1])) at = FindMarker(file_, at + 2);
     const bool isThere = at + 6 <= file_.size() && file_[at + 1] == kLines;

@@ -12,7 +12,7 @@ namespace vistrel::jpg {
 /// the coded data and says by ContinueAt where they ended.
 class JpgMarkers {
  public:
-    explicit JpgMarkers(pictures::FileBytes file);
+    explicit JpgMarkers(const pictures::PictureFile& file);
 
     /// Goes on to the next scan. False at the end of the picture and when nothing further can be
     /// understood. The frame is there when this has been true once.
@@ -47,9 +47,10 @@ class JpgMarkers {
     void SupplyUsualTables();
     template <class UseTable>
     bool ForEachTable(UseTable use);
-    int HeightBehindScan() const;
+    int HeightBehindScan();
 
-    pictures::FileBytes file_;
+    const pictures::PictureFile whole_;
+    pictures::FileWindow file_;
     std::size_t position_ = 0;
     JpgFrame frame_;
     JpgScan scan_;

@@ -88,14 +88,14 @@ std::int64_t BytesToReadWhole(const JpgFrame& frame) {
     return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
 }
 
-bool IsJpgToBeTurned(pictures::FileBytes file) {
+bool IsJpgToBeTurned(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return false;
     const Turning turning = TurningOf(markers.orientation());
     return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
 }
 
-std::optional<pictures::RgbPicture> ReadJpg(pictures::FileBytes file) {
+std::optional<pictures::RgbPicture> ReadJpg(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();

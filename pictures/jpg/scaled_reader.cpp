@@ -240,7 +240,7 @@ pictures::PictureSize UprightSize(const JpgMarkers& markers) {
 }
 
 // A part of the picture, by markers at the file's first scan.
-std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarkers& markers,
+std::optional<pictures::RgbPicture> ReadPart(const pictures::PictureFile& file, JpgMarkers& markers,
                                              const pictures::PictureArea& area, int width,
                                              int height) {
     const JpgFrame& frame = markers.frame();
@@ -266,13 +266,13 @@ std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarker
 
 }  // namespace
 
-std::optional<pictures::PictureSize> SizeOfJpg(pictures::FileBytes file) {
+std::optional<pictures::PictureSize> SizeOfJpg(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     return UprightSize(markers);
 }
 
-std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, int width,
+std::optional<pictures::ScaledPicture> ReadJpgScaled(const pictures::PictureFile& file, int width,
                                                      int height) {
     JpgMarkers markers(file);
     if (!pictures::IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
@@ -283,7 +283,7 @@ std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, i
     return pictures::ScaledPicture{std::move(*picture), size.width, size.height};
 }
 
-std::optional<pictures::RgbPicture> ReadJpgScaled(pictures::FileBytes file,
+std::optional<pictures::RgbPicture> ReadJpgScaled(const pictures::PictureFile& file,
                                                   const pictures::PictureArea& area, int width,
                                                   int height) {
     JpgMarkers markers(file);

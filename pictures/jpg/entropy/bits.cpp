@@ -17,20 +17,24 @@ bool IsRestart(std::uint8_t marker) {
 
 }  // namespace
 
-std::size_t FindMarker(pictures::FileBytes file, std::size_t from) {
-    while (from < file.size()) {
-        const void* found = std::memchr(file.data() + from, kEscape, file.size() - from);
-        if (!found) break;
-        const std::size_t at =
-            static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - file.data());
-        if (at + 1 >= file.size()) break;
-        if (file[at + 1] != 0 && file[at + 1] != kEscape) return at;
-        from = at + 1;
+std::size_t FindMarker(pictures::FileWindow& file, std::size_t from) {
+    for (;;) {
+        const pictures::FileBytes seen = file.From(from, 2);
+        if (seen.size() < 2) return file.size();
+        // Of the last byte it is not known yet what follows.
+        const void* const found = std::memchr(seen.data(), kEscape, seen.size() - 1);
+        if (!found) {
+            from += seen.size() - 1;
+            continue;
+        }
+        const auto at =
+            static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - seen.data());
+        if (seen[at + 1] != 0 && seen[at + 1] != kEscape) return from + at;
+        from += at + 1;
     }
-    return file.size();
 }
 
-ScanBytes::ScanBytes(pictures::FileBytes file, std::size_t start)
+ScanBytes::ScanBytes(const pictures::PictureFile& file, std::size_t start)
     : file_(file), filePosition_(std::min(start, file.size())) {
     Fill();
 }
@@ -51,9 +55,9 @@ BitReader ScanBytes::More(BitReader bits) {
 void ScanBytes::Fill() {
     std::ptrdiff_t at = std::max<std::ptrdiff_t>(dataEnd_, 0);
     while (!atMarker_ && at < kWindow) {
-        const std::size_t most =
-            std::min(static_cast<std::size_t>(kWindow - at), file_.size() - filePosition_);
-        const std::uint8_t* from = file_.data() + filePosition_;
+        const pictures::FileBytes seen = file_.From(filePosition_);
+        const std::size_t most = std::min(static_cast<std::size_t>(kWindow - at), seen.size());
+        const std::uint8_t* from = seen.data();
         const void* escape = most ? std::memchr(from, kEscape, most) : nullptr;
         const std::size_t run =
             escape ? static_cast<std::size_t>(static_cast<const std::uint8_t*>(escape) - from)

@@ -252,7 +252,7 @@ std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
     return blocks * kept.stride * kNumber + (NeedsNonZero(kept) ? BlocksOf(component) * kBits : 0);
 }
 
-ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
+ScanOutcome ReadProgressiveScan(const pictures::PictureFile& file, const JpgFrame& frame,
                                 const JpgScan& scan, const JpgTables& tables,
                                 std::span<ProgressiveComponent> components) {
     const auto walk = [&](auto reader) {

@@ -32,7 +32,7 @@ struct ProgressiveComponent {
 };
 
 /// Reads one scan into `components`, which has an entry per component of the frame.
-ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
+ScanOutcome ReadProgressiveScan(const pictures::PictureFile& file, const JpgFrame& frame,
                                 const JpgScan& scan, const JpgTables& tables,
                                 std::span<ProgressiveComponent> components);
 

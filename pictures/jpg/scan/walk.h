@@ -34,7 +34,7 @@ struct ScanMcus {
 /// column, row)` for each block of a scan in the file's order and `Reader::EndMcuRow()` at the
 /// end of each row of MCUs. MCUs that the file lacks are skipped in silence.
 template <class Reader>
-ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
+ScanOutcome WalkScan(const pictures::PictureFile& file, const JpgFrame& frame, const JpgScan& scan,
                      int restartInterval, Reader& reader) {
     const ScanMcus mcus(frame, scan);
     ScanBytes bytes(file, scan.dataStart);
