@@ -8,11 +8,19 @@ void PictureFile::Copy(std::size_t at, std::span<std::uint8_t> to) const {
     const std::size_t from = std::min(at, size_);
     const std::size_t there = std::min(to.size(), size_ - from);
     if (source_ == nullptr) {
-        std::copy_n(memory_.data() + from, there, to.begin());
+        std::copy_n(memory_.data() + from, there, to.data());
     } else if (there > 0) {
         source_->Read(from, to.first(there));
     }
     std::fill(to.begin() + static_cast<std::ptrdiff_t>(there), to.end(), std::uint8_t{0});
+}
+
+FileBytes PictureFile::Piece(std::size_t at, std::size_t count,
+                             std::vector<std::uint8_t>& room) const {
+    if (source_ == nullptr) return memory_.subspan(at, count);
+    room.resize(count);
+    Copy(at, room);
+    return room;
 }
 
 FileBytes FileWindow::From(std::size_t at, std::size_t least) {

@@ -33,6 +33,10 @@ class PictureFile {
     /// Copies the bytes from `at` on. Behind the end stand zeros.
     void Copy(std::size_t at, std::span<std::uint8_t> to) const;
 
+    /// `count` bytes from `at` on, which must lie before the end: those in memory, or a copy that
+    /// is put into `room`.
+    FileBytes Piece(std::size_t at, std::size_t count, std::vector<std::uint8_t>& room) const;
+
  private:
     ByteSource* source_ = nullptr;
     FileBytes memory_;

@@ -103,8 +103,8 @@ std::optional<Framed> ReadFramed(const std::string& path, const Composition& com
     return std::nullopt;
 }
 
-pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition) {
-    pictures::RgbPicture screen = framed.screen;
+pictures::RgbPicture Adjust(Framed framed, const Composition& composition) {
+    pictures::RgbPicture screen = std::move(framed.screen);
     ApplyLight(composition.light, framed.picture, screen);
     PaintText(composition.text, screen);
     return screen;
@@ -141,10 +141,10 @@ bool Write(const std::string& path, const screen::IndexedScreen& screen) try {
 
 pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
                                       const Composition& composition) try {
-    const std::optional<Framed> framed = ReadFramed(sourcePath, composition);
+    std::optional<Framed> framed = ReadFramed(sourcePath, composition);
     if (!framed) return pictures::ConversionResult::NotRead;
     const std::optional<screen::IndexedScreen> screen =
-        Reduce(Adjust(*framed, composition), composition.dither);
+        Reduce(Adjust(std::move(*framed), composition), composition.dither);
     if (!screen) return pictures::ConversionResult::NotReduced;
     return Write(targetPath, *screen) ? pictures::ConversionResult::Written
                                       : pictures::ConversionResult::NotWritten;

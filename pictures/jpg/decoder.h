@@ -9,10 +9,6 @@
 
 namespace vistrel::jpg {
 
-/// The memory that ReadCoefficients takes for what it has to keep: nothing to speak of unless the
-/// file is progressive.
-std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept);
-
 /// Reads the scans of the file from the one on at which `markers` stands, and hands over every row
 /// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
 /// which stand for grey. False when the file has not even a tenth of the picture; `sink` has then

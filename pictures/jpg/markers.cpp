@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+
+#include "pictures/jpg/scan/walk.h"
 
 namespace vistrel::jpg {
 namespace {
@@ -51,22 +54,22 @@ JpgMarkers::JpgMarkers(const pictures::PictureFile& file)
 bool JpgMarkers::NextScan() {
     for (;;) {
         const std::size_t at = FindMarker(file_, position_);
-        if (at + 4 > file_.size()) return false;
-        const int marker = file_[at + 1];
+        const pictures::FileBytes start = file_.From(at, 4);
+        if (start.size() < 4) return false;
+        const int marker = start[1];
         position_ = at + 2;
         if (StandsAlone(marker)) continue;
         if (marker == kStart || marker == kEnd) return false;
         // A length counts its own two bytes. Segments that are not needed are skipped even where
         // it says less, as other programs do.
-        const std::size_t given = static_cast<std::size_t>(Word(file_, position_));
+        const std::size_t given = static_cast<std::size_t>(Word(start, 2));
         if (given < 2 && !IsNeedless(marker)) return false;
         const std::size_t length = std::max<std::size_t>(given, 2);
         if (position_ + length > file_.size()) return false;
-        std::vector<std::uint8_t> content;
-        if (!IsNeedless(marker) || TellsSomething(marker)) {
-            content.resize(length - 2);
-            whole_.Copy(position_ + 2, content);
-        }
+        std::vector<std::uint8_t> room;
+        pictures::FileBytes content;
+        if (!IsNeedless(marker) || TellsSomething(marker))
+            content = whole_.Piece(position_ + 2, length - 2, room);
         position_ += length;
         if (!ReadSegment(marker, content)) return false;
         if (marker == kScan) return true;
@@ -177,6 +180,14 @@ bool JpgMarkers::BuildTables() {
     return ForEachTable([](HuffmanTable& table) { return table.Build(); });
 }
 
+// Up to the first restart marker, NextScan finds the way by itself.
+void JpgMarkers::PassOverScan() {
+    if (tables_->restartInterval == 0) return;
+    const ScanMcus mcus(frame_, scan_);
+    const std::int64_t last = std::int64_t{mcus.across} * mcus.down - 1;
+    position_ = FindEndOfScan(file_, scan_.dataStart, last / tables_->restartInterval);
+}
+
 // True when `use` is true of every Huffman table that the scan reads by.
 template <class UseTable>
 bool JpgMarkers::ForEachTable(UseTable use) {
@@ -218,8 +229,8 @@ bool JpgMarkers::ReadHuffmanTables(pictures::FileBytes content) {
         const bool isAc = content[0] >> 4 != 0;
         const std::size_t index = content[0] & 15;
         const pictures::FileBytes counts = content.subspan(1, kLengths);
-        std::size_t symbols = 0;
-        for (const std::uint8_t count : counts) symbols += count;
+        const auto symbols =
+            std::accumulate(counts.data(), counts.data() + kLengths, std::size_t{0});
         if (index > 3 || content.size() < 1 + kLengths + symbols) return false;
         HuffmanTable& table = isAc ? tables_->ac[index] : tables_->dc[index];
         table.Define({counts, content.subspan(1 + kLengths, symbols)}, !isAc);

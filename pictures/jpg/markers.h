@@ -22,6 +22,9 @@ class JpgMarkers {
     /// there can be.
     bool BuildTables();
 
+    /// Goes on behind the scan's coded data without reading them.
+    void PassOverScan();
+
     /// Goes on reading markers at `position`.
     void ContinueAt(std::size_t position) { position_ = position; }
 

@@ -78,14 +78,11 @@ constexpr std::int64_t kAskedForAnyway = 12 * 1024 * 1024;
 }  // namespace
 
 std::int64_t BytesToReadWhole(const JpgFrame& frame) {
-    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
     std::int64_t planes = 0;
     for (const JpgComponent& component : frame.components) {
         planes += BlocksOf(component) * kBlockSize;
     }
-    const std::int64_t picture = std::int64_t{frame.width} * frame.height * 3;
-    const std::int64_t firstPlane = BlocksOf(frame.components[0]) * kBlockSize;
-    return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
+    return planes + std::int64_t{frame.width} * frame.height * 3;
 }
 
 bool IsJpgToBeTurned(const pictures::PictureFile& file) {

@@ -161,10 +161,8 @@ class ComponentScalers : public BlockRowSink {
     std::vector<Channel> channels_;
 };
 
-// The most memory that a file may take beside the scaled picture; a file that would take more is
-// read less finely.
+// The most memory that reading a file whole may take.
 constexpr std::int64_t kMostBytes = 20 * 1024 * 1024;
-constexpr std::int64_t kMostCoefficientBytes = 16 * 1024 * 1024;
 
 // True when nothing is gained by scaling components one by one: a picture that does not become
 // smaller needs all frequencies, and inks make colours by multiplying, which should come before
@@ -182,36 +180,10 @@ Size SizeOfColors(const JpgFrame& frame, Size seen, Size target) {
     return {std::min(seen.width, target.width * 2), std::min(seen.height, target.height * 2)};
 }
 
-KeptFrequencies WithFewer(const KeptFrequencies& kept) {
-    const auto fewer = [](int count) { return count == 8 ? kMostReduced : count - 1; };
-    if (kept.across == 1 && kept.down == 1) return kept;
-    KeptFrequencies less = kept.across >= kept.down
-                               ? KeptFrequencies::Of(fewer(kept.across), kept.down)
-                               : KeptFrequencies::Of(kept.across, fewer(kept.down));
-    less.firstRow = kept.firstRow;
-    less.endRow = kept.endRow;
-    return less;
-}
-
-// A row more on either side does no harm.
-void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component,
-                  const pictures::PictureArea& area, KeptFrequencies& kept) {
-    const SeenAxis down =
-        AxisOf(area.top, area.height, component.down, frame.maxDown, kept.down, 1);
-    kept.firstRow = std::max(down.first / kept.down - 1, 0);
-    kept.endRow = (down.first + down.axis.samples - 1) / kept.down + 2;
-}
-
-std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const pictures::PictureArea& area,
-                                           Size seen, Size target) {
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size seen, Size target) {
     std::vector<KeptFrequencies> kept;
-    for (const JpgComponent& component : frame.components) {
+    for (const JpgComponent& component : frame.components)
         kept.push_back(FrequenciesOf(frame, component, seen, target));
-        KeepSeenRows(frame, component, area, kept.back());
-    }
-    for (int i = 0; i < 2 * 8 && CoefficientBytes(frame, kept) > kMostCoefficientBytes; ++i) {
-        for (KeptFrequencies& each : kept) each = WithFewer(each);
-    }
     return kept;
 }
 
@@ -256,7 +228,7 @@ std::optional<pictures::RgbPicture> ReadPart(const pictures::PictureFile& file, 
         return scale::Resize(*whole, area, width, height);
     }
     const Size colors = SizeOfColors(frame, seen, target);
-    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, stored, seen, colors);
+    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, seen, colors);
     ComponentScalers scalers(frame, kept, stored, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
     pictures::RgbPicture picture = MakePicture(markers, scalers, colors);

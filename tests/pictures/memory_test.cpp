@@ -181,7 +181,11 @@ TEST(MemoryTest, LargeGifsAreNeverThereAsAWhole) {
 TEST(MemoryTest, LargeJpgsAreNeverThereAsAWhole) {
     JpgOptions options;
     options.sampling = {{2, 2}};
-    EXPECT_LE(MemoryForAScreen(MakeJpg(MakePicture(4000, 3000), options)), kLargePicture);
+    for (const bool progressive : {false, true}) {
+        SCOPED_TRACE(progressive);
+        options.progressive = progressive;
+        EXPECT_LE(MemoryForAScreen(MakeJpg(MakePicture(4000, 3000), options)), kLargePicture);
+    }
 }
 
 TEST(MemoryTest, SmallRunLengthFilesOfLargePictures) {
@@ -275,7 +279,9 @@ TEST(MemoryTest, AMillionScanHeaders) {
     const Bytes scan = {0xFF, 0xDA, 0, 8, 1, 1, 0, 1, 63, 0x10};
     Bytes scans;
     for (int i = 0; i < 1'000'000; ++i) scans.insert(scans.end(), scan.begin(), scan.end());
-    ExpectModestMemory(WithInserted(file, end, scans));
+    const Bytes bomb = WithInserted(file, end, scans);
+    ExpectModestMemory(bomb);
+    EXPECT_LE(MemoryForAScreen(bomb), kAnyFile);
 }
 
 #ifdef PICTURE_CORPUS

@@ -15,6 +15,27 @@ bool IsRestart(std::uint8_t marker) {
     return marker >= kFirstRestart && marker < kFirstRestart + 8;
 }
 
+struct RestartPlace {
+    std::size_t at;  // behind the marker; where there is none, at what comes in its place
+    bool isThere;
+};
+
+// Finds restart marker number `expected` (0 to 7) at or after `at`.
+RestartPlace FindRestart(pictures::FileWindow& file, std::size_t at, int expected) {
+    for (;;) {
+        at = FindMarker(file, at);
+        if (at == file.size()) return {at, false};
+        const std::uint8_t marker = file[at + 1];
+        const int ahead = IsRestart(marker) ? (marker - kFirstRestart - expected) & 7 : -1;
+        // A later one: this interval's data are lost.
+        if (ahead == 1 || ahead == 2) return {at, false};
+        if (ahead == -1 && marker >= kFirstFrame) return {at, false};
+        at += 2;
+        // One or two too low is left over from before; anything else is taken as the right one.
+        if (ahead >= 0 && ahead < 6) return {at, true};
+    }
+}
+
 }  // namespace
 
 std::size_t FindMarker(pictures::FileWindow& file, std::size_t from) {
@@ -101,24 +122,18 @@ std::size_t ScanBytes::FindEnd() {
 }
 
 void ScanBytes::Restart(int expected) {
-    std::size_t at = FindEnd();
-    bool found = false;
-    while (at < file_.size()) {
-        at = FindMarker(file_, at);
-        if (at + 1 >= file_.size()) break;
-        const std::uint8_t marker = file_[at + 1];
-        const int ahead = IsRestart(marker) ? (marker - kFirstRestart - expected) & 7 : -1;
-        if (ahead == 1 || ahead == 2) break;  // a later one: this interval's data are lost
-        if (ahead == -1 && marker >= kFirstFrame) break;
-        at += 2;
-        // One or two too low is left over from before; anything else is taken as the right one.
-        found = ahead >= 0 && ahead < 6;
-        if (found) break;
-    }
-    filePosition_ = std::min(at, file_.size());
-    atMarker_ = !found;
-    dataEnd_ = found ? 0 : -1;
+    const RestartPlace place = FindRestart(file_, FindEnd(), expected);
+    filePosition_ = place.at;
+    atMarker_ = !place.isThere;
+    dataEnd_ = place.isThere ? 0 : -1;
     Fill();
+}
+
+std::size_t FindEndOfScan(pictures::FileWindow& file, std::size_t start, std::int64_t restarts) {
+    std::size_t at = start;
+    for (std::int64_t i = 0; i < restarts; ++i)
+        at = FindRestart(file, at, static_cast<int>(i & 7)).at;
+    return FindMarker(file, at);
 }
 
 }  // namespace vistrel::jpg

@@ -114,6 +114,10 @@ class ScanBytes {
     std::array<std::uint8_t, kWindow + kBlockBytes> buffer_;
 };
 
+/// Where the file goes on behind a scan whose data begin at `start`: behind as many of its restart
+/// markers as are there of `restarts`.
+std::size_t FindEndOfScan(pictures::FileWindow& file, std::size_t start, std::int64_t restarts);
+
 /// The position of the next marker's 0xFF at or after `from` that is neither an escaped data byte
 /// nor a filler; file.size() when there is none.
 std::size_t FindMarker(pictures::FileWindow& file, std::size_t from);

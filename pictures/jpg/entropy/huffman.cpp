@@ -12,9 +12,9 @@ constexpr int kRunOfSixteen = 0xF0;
 }  // namespace
 
 void HuffmanTable::Define(const HuffmanCode& code, bool IsDc) {
-    std::copy_n(code.counts.begin(), counts_.size(), counts_.begin());
+    std::copy_n(code.counts.data(), counts_.size(), counts_.data());
     symbolsGiven_ = std::min(code.symbols.size(), symbols_.size());
-    std::copy_n(code.symbols.begin(), symbolsGiven_, symbols_.begin());
+    std::copy_n(code.symbols.data(), symbolsGiven_, symbols_.data());
     isDc_ = IsDc;
     isDefined_ = true;
     isBuilt_ = false;
