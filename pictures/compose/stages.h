@@ -66,7 +66,7 @@ Framed FrameFinely(const Intermediate& intermediate, const Composition& composit
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition);
 
 /// Light and text.
-pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition);
+pictures::RgbPicture Adjust(Framed framed, const Composition& composition);
 
 /// The 256 colours that will be on the disk. Empty when memory runs out.
 std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
