@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/jpg/frame.h"
+#include "pictures/loops/loops.h"
 
 namespace vistrel::jpg {
 
@@ -17,7 +18,7 @@ void ConvertRow(const JpgColorKind& kind, const std::uint8_t* const* rows, int w
                 std::uint8_t* rgb);
 
 /// Samples with a fraction, as scaling gives them: 64 times a sample's distance from 128.
-inline constexpr int kFineBits = 6;
+inline constexpr int kFineBits = loops::kSampleBits;
 
 /// The same for rows of fine samples, which may overshoot the range of bytes. Inks make colours by
 /// multiplying, which should be done before scaling, or at least before most of it.

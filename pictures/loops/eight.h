@@ -85,6 +85,54 @@ struct Eight {
         return rounded.PackedWith(rounded);
     }
 
+    Eight AddSaturated(Eight other) const { return {_mm_adds_epi16(v, other.v)}; }
+    Eight SubtractSaturated(Eight other) const { return {_mm_subs_epi16(v, other.v)}; }
+    Eight SubtractWide(Eight other) const { return {_mm_sub_epi32(v, other.v)}; }
+    /// All bits of a number where it is above the other one, else none.
+    Eight Above(Eight other) const { return {_mm_cmpgt_epi16(v, other.v)}; }
+    bool IsZero() const {
+        return _mm_movemask_epi8(_mm_cmpeq_epi16(v, _mm_setzero_si128())) == 0xFFFF;
+    }
+    /// All numbers one place down, the first one lost; and with 0 for the fourth.
+    Eight WithoutFirst() const { return {_mm_srli_si128(v, 2)}; }
+    Eight WithoutFourth() const { return {_mm_and_si128(v, _mm_set_epi32(0, 0, 0xFFFF, -1))}; }
+    /// What lies outside of -most - 1..most becomes the nearest within.
+    template <int kMost>
+    Eight Clamped() const {
+        return {_mm_max_epi16(_mm_min_epi16(v, All(kMost).v), All(-kMost - 1).v)};
+    }
+    /// Numbers as bytes, or the nearest that fit: in the lower half, or to memory.
+    Eight PackedBytes() const { return {_mm_packus_epi16(v, v)}; }
+    void StoreAsBytes(std::uint8_t* at) const { PackedBytes().StorePoint(at); }
+    Eight LowBytesWith(Eight other) const { return {_mm_unpacklo_epi8(v, other.v)}; }
+    /// The fifth number of eight.
+    static void SetFifth(Eight* parts, std::int16_t number) {
+        parts->v = _mm_insert_epi16(parts->v, number, 4);
+    }
+    static std::int16_t Fifth(const Eight* parts) {
+        return static_cast<std::int16_t>(_mm_extract_epi16(parts->v, 4));
+    }
+    /// Columns become rows: pairs, then fours, then eights of numbers from one column come
+    /// together.
+    template <int kAcross, int kDown, class Block>
+    static void Transpose(const Block& from, Block& to) {
+        __m128i a[8], b[8];
+        for (int i = 0; i < 4; ++i) {
+            a[2 * i] = _mm_unpacklo_epi16(from.rows[2 * i][0].v, from.rows[2 * i + 1][0].v);
+            a[2 * i + 1] = _mm_unpackhi_epi16(from.rows[2 * i][0].v, from.rows[2 * i + 1][0].v);
+        }
+        for (int i = 0; i < 8; i += 4) {
+            b[i] = _mm_unpacklo_epi32(a[i], a[i + 2]);
+            b[i + 1] = _mm_unpackhi_epi32(a[i], a[i + 2]);
+            b[i + 2] = _mm_unpacklo_epi32(a[i + 1], a[i + 3]);
+            b[i + 3] = _mm_unpackhi_epi32(a[i + 1], a[i + 3]);
+        }
+        for (int i = 0; i < 4; ++i) {
+            to.rows[2 * i][0].v = _mm_unpacklo_epi64(b[i], b[i + 4]);
+            to.rows[2 * i + 1][0].v = _mm_unpackhi_epi64(b[i], b[i + 4]);
+        }
+    }
+
     static void End() {}
 
     class Eighths;

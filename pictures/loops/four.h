@@ -85,6 +85,53 @@ struct Four {
         return ab.PackedWith(cd);
     }
 
+    Four AddSaturated(Four other) const { return {_mm_adds_pi16(v, other.v)}; }
+    Four SubtractSaturated(Four other) const { return {_mm_subs_pi16(v, other.v)}; }
+    Four SubtractWide(Four other) const { return {_mm_sub_pi32(v, other.v)}; }
+    /// All bits of a number where it is above the other one, else none.
+    Four Above(Four other) const { return {_mm_cmpgt_pi16(v, other.v)}; }
+    bool IsZero() const { return _mm_cvtsi64_si32(_mm_or_si64(v, _mm_srli_si64(v, 32))) == 0; }
+    /// All numbers one place down, the first one lost; and with 0 for the fourth.
+    Four WithoutFirst() const { return {_mm_srli_si64(v, 16)}; }
+    Four WithoutFourth() const { return {_mm_srli_si64(_mm_slli_si64(v, 16), 16)}; }
+    /// What lies outside of -most - 1..most becomes the nearest within.
+    template <int kMost>
+    Four Clamped() const {
+        const Four above = All(32767 - kMost);
+        return AddSaturated(above).SubtractSaturated(above).SubtractSaturated(above).AddSaturated(
+            above);
+    }
+    /// Numbers as bytes, or the nearest that fit: in the lower half, or to memory.
+    Four PackedBytes() const { return {_mm_packs_pu16(v, v)}; }
+    void StoreAsBytes(std::uint8_t* at) const {
+        const int bytes = _mm_cvtsi64_si32(PackedBytes().v);
+        std::memcpy(at, &bytes, sizeof bytes);
+    }
+    Four LowBytesWith(Four other) const { return {_mm_unpacklo_pi8(v, other.v)}; }
+    /// The fifth number of eight in two vectors.
+    static void SetFifth(Four* parts, std::int16_t number) {
+        parts[1] = {_mm_cvtsi32_si64(static_cast<std::uint16_t>(number))};
+    }
+    static std::int16_t Fifth(const Four* parts) {
+        return static_cast<std::int16_t>(_mm_cvtsi64_si32(parts[1].v));
+    }
+    /// Columns become rows: `from` has kDown rows of kAcross numbers that matter.
+    template <int kAcross, int kDown, class Block>
+    static void Transpose(const Block& from, Block& to) {
+        for (int down = 0; down < kDown; down += 4) {
+            for (int across = 0; across < kAcross; across += 4) {
+                const auto row = [&](int y) { return from.rows[down + y][across / 4]; };
+                const Four a = row(0).LowWith(row(1)), b = row(0).HighWith(row(1));
+                const Four c = row(2).LowWith(row(3)), d = row(2).HighWith(row(3));
+                const auto put = [&](int y, __m64 made) { to.rows[across + y][down / 4].v = made; };
+                put(0, _mm_unpacklo_pi32(a.v, c.v));
+                put(1, _mm_unpackhi_pi32(a.v, c.v));
+                put(2, _mm_unpacklo_pi32(b.v, d.v));
+                put(3, _mm_unpackhi_pi32(b.v, d.v));
+            }
+        }
+    }
+
     /// Gives the registers back to floating-point numbers.
     static void End() { _mm_empty(); }
 

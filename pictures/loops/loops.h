@@ -81,6 +81,30 @@ struct AlongJob {
     int stride;  ///< from one result to the next
 };
 
+/// Bits behind the point of samples that have some; these count from the middle of the range of
+/// bytes.
+inline constexpr int kSampleBits = 6;
+
+/// The weights of JFIF for red, green and blue, less the nearest whole numbers, times 65,536: so no
+/// product of theirs with a number of 16 bits overflows.
+inline constexpr int kRedOfCr = 91881 - 65536;        // 1.402
+inline constexpr int kGreenOfCb = -22554;             // -0.34414
+inline constexpr int kGreenOfCr = 65536 - 46802;      // -0.71414
+inline constexpr int kBlueOfCb = 116130 - 2 * 65536;  // 1.772
+
+/// Blocks of `down` rows of `across` coefficients, which lie side by side in the picture.
+struct IdctJob {
+    const std::int16_t* steps;  ///< of quantisation
+    int most;                   ///< coefficients up to this times any step fit into 16 bits
+    int across;
+    int down;
+    const std::int16_t* blocks;
+    int blockStride;  ///< numbers from block to block
+    int count;
+    std::int16_t* samples;
+    std::ptrdiff_t stride;  ///< from one row of samples to the next
+};
+
 struct Loops {
     /// Adds to each pixel's error what its colour has moved, `to` less `from`.
     void (*moveErrors)(const std::uint16_t* from, const std::uint16_t* to,
@@ -111,6 +135,20 @@ struct Loops {
 
     /// Adds up samples of rows, each times its weight.
     void (*weighAlong)(const AlongJob& job);
+
+    /// Dequantizes and transforms blocks, from the first on, and returns how many are done. That is
+    /// none where there are no vectors, or none for the shape, and fewer than all when a block's
+    /// numbers do not fit into 16 bits on the way, as in damaged files. Samples are those that
+    /// arithmetic on single numbers gives.
+    int (*transform)(const IdctJob& job);
+
+    /// Does the same for one block of 8 x 8, to bytes. False when it cannot.
+    bool (*transformToBytes)(const std::int16_t* steps, int most, const std::int16_t* block,
+                             std::uint8_t* samples, std::ptrdiff_t stride);
+
+    /// Makes pixels of rows of luma and of differences of colour, from the first on, and returns
+    /// how many are done.
+    int (*yccToRgb)(const std::int16_t* const* rows, int width, std::uint8_t* rgb);
 };
 
 /// What loops may ask of a processor.

@@ -8,6 +8,8 @@
 #include "pictures/loops/four.h"
 #include "pictures/loops/kinds.h"
 #include "pictures/loops/vector_choice.h"
+#include "pictures/loops/vector_color.h"
+#include "pictures/loops/vector_idct.h"
 #include "pictures/loops/vector_scale.h"
 
 namespace vistrel::loops::mmx {
@@ -18,7 +20,10 @@ const Loops kLoops = {MoveErrors<Four>,
                       ChooseByVectors<Four>,
                       MixByVectors<Four, std::uint8_t>,
                       MixByVectors<Four, std::int16_t>,
-                      WeighAlongByVectors<Four>};
+                      WeighAlongByVectors<Four>,
+                      TransformByVectors<Four>,
+                      TransformToBytes<Four>,
+                      YccToRgbByVectors<Four>};
 
 }  // namespace vistrel::loops::mmx
 

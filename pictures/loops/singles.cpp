@@ -99,7 +99,16 @@ void WeighAlong(const AlongJob& job) {
 
 }  // namespace
 
-const Loops kLoops = {MoveErrors<Two>,      BlurAlong<Two>,       BlurDown<Two>, Choose,
-                      MixAll<std::uint8_t>, MixAll<std::int16_t>, WeighAlong};
+const Loops kLoops = {MoveErrors<Two>,
+                      BlurAlong<Two>,
+                      BlurDown<Two>,
+                      Choose,
+                      MixAll<std::uint8_t>,
+                      MixAll<std::int16_t>,
+                      WeighAlong,
+                      [](const IdctJob&) { return 0; },
+                      [](const std::int16_t*, int, const std::int16_t*, std::uint8_t*,
+                         std::ptrdiff_t) { return false; },
+                      [](const std::int16_t* const*, int, std::uint8_t*) { return 0; }};
 
 }  // namespace vistrel::loops::singles

@@ -8,6 +8,8 @@
 #include "pictures/loops/error_loops.h"
 #include "pictures/loops/kinds.h"
 #include "pictures/loops/vector_choice.h"
+#include "pictures/loops/vector_color.h"
+#include "pictures/loops/vector_idct.h"
 #include "pictures/loops/vector_scale.h"
 
 namespace vistrel::loops::sse2 {
@@ -18,7 +20,10 @@ const Loops kLoops = {MoveErrors<Eight>,
                       ChooseByVectors<Eight>,
                       MixByVectors<Eight, std::uint8_t>,
                       MixByVectors<Eight, std::int16_t>,
-                      WeighAlongByVectors<Eight>};
+                      WeighAlongByVectors<Eight>,
+                      TransformByVectors<Eight>,
+                      TransformToBytes<Eight>,
+                      YccToRgbByVectors<Eight>};
 
 }  // namespace vistrel::loops::sse2
 

@@ -9,6 +9,7 @@
 #include "pictures/jpg/idct/block.h"
 #include "pictures/jpg/idct/full.h"
 #include "pictures/jpg/idct/reduced.h"
+#include "tests/support/picture_files/all_loops.h"
 
 namespace vistrel::test {
 
@@ -98,7 +99,18 @@ QuantTable SomeSteps(Numbers& numbers) {
     return quant;
 }
 
-TEST(JpgInverse, ReducedBlocksAreTheSumsOfTheirTerms) {
+/// By each kind of innermost loops that this machine can run.
+class JpgInverse : public testing::TestWithParam<loops::Kind> {
+ protected:
+    void SetUp() override {
+        if (!loops::CanRun(GetParam())) GTEST_SKIP() << "this machine cannot run these loops";
+        loops::Force(GetParam());
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(ByLoops, JpgInverse, kAllLoops, NameOfLoops);
+
+TEST_P(JpgInverse, ReducedBlocksAreTheSumsOfTheirTerms) {
     constexpr int kBlocks = 9;
     Numbers numbers;
     for (const int across : kFrequencies) {
@@ -133,7 +145,7 @@ TEST(JpgInverse, ReducedBlocksAreTheSumsOfTheirTerms) {
     }
 }
 
-TEST(JpgInverse, WholeBlocksAreTheSumsOfTheirTerms) {
+TEST_P(JpgInverse, WholeBlocksAreTheSumsOfTheirTerms) {
     Numbers numbers;
     for (int kind = 0; kind < 3000; ++kind) {
         numbers.NextKind();
@@ -151,7 +163,7 @@ TEST(JpgInverse, WholeBlocksAreTheSumsOfTheirTerms) {
     }
 }
 
-TEST(JpgInverse, ColorsOfAnySamplesAreThoseOfTheFormulas) {
+TEST_P(JpgInverse, ColorsOfAnySamplesAreThoseOfTheFormulas) {
     constexpr int kWidth = 8 * 40 + 5;
     Numbers numbers;
     std::vector<std::int16_t> rows[3];

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "pictures/jpg/idct/block.h"
+#include "pictures/loops/loops.h"
 
 namespace vistrel::jpg {
 
@@ -16,7 +17,10 @@ DequantTable DequantTableOf(const QuantTable& quant) {
 
 void IdctFull(const std::int16_t* block, const DequantTable& steps, std::uint8_t* samples,
               std::ptrdiff_t stride) {
-    if (IdctFullByVectors(steps.forVectors, block, samples, stride)) return;
+    const VectorDequantTable& narrow = steps.forVectors;
+    if (loops::Chosen().transformToBytes(narrow.numbers.data(), narrow.most, block, samples,
+                                         stride))
+        return;
     constexpr std::int32_t kMiddle = 128, kHighest = 255;
     IdctBlock(block, steps.numbers.data(), [=](int row, const Wrapping* sums) {
         std::uint8_t* to = samples + row * stride;

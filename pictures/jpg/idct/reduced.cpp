@@ -5,6 +5,7 @@
 
 #include "pictures/jpg/color.h"
 #include "pictures/jpg/idct/block.h"
+#include "pictures/loops/loops.h"
 
 namespace vistrel::jpg {
 namespace {
@@ -116,8 +117,9 @@ void ReducedIdct::Transform(const std::int16_t* blocks, int count, std::int16_t*
                             std::ptrdiff_t stride) {
     const auto blockAt = [&](int i) { return blocks + std::ptrdiff_t{i} * shape_.stride; };
     for (int i = 0; i < count;) {
-        i += IdctByVectors(vectorSteps_, shape_, blockAt(i), count - i, samples + i * shape_.across,
-                           stride);
+        i += loops::Chosen().transform({vectorSteps_.numbers.data(), vectorSteps_.most,
+                                        shape_.across, shape_.down, blockAt(i), shape_.stride,
+                                        count - i, samples + i * shape_.across, stride});
         const int some = std::min(kBlocksAtOnce, count - i);
         TransformBySingles(blockAt(i), some, samples + i * shape_.across, stride);
         i += some;

@@ -1,8 +1,7 @@
-// The IDCT of blocks by vectors of eight 16-bit numbers, where the compiler has them.
+// What the IDCT by vectors wants to know of a quantisation table.
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -10,7 +9,7 @@
 
 namespace vistrel::jpg {
 
-/// A quantisation table for the transforms below.
+/// A quantisation table for loops::Loops::transform.
 struct VectorDequantTable {
     std::array<std::int16_t, kBlockSize> numbers = {};
     int most = 0;  ///< coefficients up to this times any of the steps fit into 16 bits
@@ -28,17 +27,5 @@ struct BlockShape {
     int down;
     int stride;
 };
-
-/// Dequantizes and transforms blocks that lie side by side, from the first on, as
-/// ReducedIdct::Transform does, and returns how many are done. That is none where there are no
-/// vectors, or none for the shape, and fewer than `count` when a block's numbers do not fit into 16
-/// bits on the way, as in damaged files. Samples are those that arithmetic on single numbers gives.
-int IdctByVectors(const VectorDequantTable& steps, const BlockShape& shape,
-                  const std::int16_t* blocks, int count, std::int16_t* samples,
-                  std::ptrdiff_t stride);
-
-/// Does what IdctFull does, for one block. False when it cannot.
-bool IdctFullByVectors(const VectorDequantTable& steps, const std::int16_t* block,
-                       std::uint8_t* samples, std::ptrdiff_t stride);
 
 }  // namespace vistrel::jpg

@@ -11,9 +11,9 @@
 #include "pictures/compose/stages.h"
 #include "pictures/convert.h"
 #include "pictures/file.h"
-#include "pictures/loops/loops.h"
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
+#include "tests/support/picture_files/all_loops.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
 #include "tests/support/picture_files/md5.h"
@@ -128,19 +128,7 @@ TEST_P(Conversion, GivesTheRecordedBytesInThisBuild) {
     if (found != recorded) WriteWholeFile("digests_found.txt", Bytes(found.begin(), found.end()));
 }
 
-INSTANTIATE_TEST_SUITE_P(ByLoops, Conversion,
-                         testing::Values(loops::Kind::Singles, loops::Kind::Mmx, loops::Kind::Sse2),
-                         [](const auto& info) {
-                             switch (info.param) {
-                                 case loops::Kind::Singles:
-                                     return "OfSingles";
-                                 case loops::Kind::Mmx:
-                                     return "OfMmx";
-                                 case loops::Kind::Sse2:
-                                     return "OfSse2";
-                             }
-                             return "";
-                         });
+INSTANTIATE_TEST_SUITE_P(ByLoops, Conversion, kAllLoops, NameOfLoops);
 
 }  // namespace
 }  // namespace vistrel::test
