@@ -44,9 +44,11 @@ class OpenedFile : public FileOnDisk {
 
     std::size_t size() const override { return size_; }
 
+    // However many pieces there are, reading them is one operation that can be made to fail.
     void Read(std::size_t at, std::span<std::uint8_t> to) override {
-        failed_ = failed_ || fault::ShouldFail() ||
-                  std::fseek(file_.get(), static_cast<long>(at), SEEK_SET) != 0 ||
+        if (!isBegun_) failed_ = fault::ShouldFail();
+        isBegun_ = true;
+        failed_ = failed_ || std::fseek(file_.get(), static_cast<long>(at), SEEK_SET) != 0 ||
                   std::fread(to.data(), 1, to.size(), file_.get()) != to.size();
         if (failed_) std::fill(to.begin(), to.end(), std::uint8_t{0});
     }
@@ -56,6 +58,7 @@ class OpenedFile : public FileOnDisk {
  private:
     File file_;
     const std::size_t size_;
+    bool isBegun_ = false;
     bool failed_ = false;
 };
 

@@ -1,3 +1,4 @@
+// Windows on files: in memory there is one over all of it.
 #include "pictures/picture_file.h"
 
 #include <algorithm>

@@ -7,10 +7,14 @@ namespace vistrel::gif {
 
 // False behind the last block, which an empty one or the end of the file follows.
 bool GifData::BeginBlock() {
-    if (next_ >= file_.size() || file_[next_] == 0) return false;
-    const std::size_t size = file_[next_++];
-    blockEnd_ = next_ + std::min(size, file_.size() - next_);
-    return next_ < blockEnd_;
+    const std::size_t size = position_ < file_.size() ? file_[position_] : 0;
+    if (size == 0) return false;
+    const pictures::FileBytes bytes = file_.From(position_ + 1, size);
+    blockSize_ = std::min(size, bytes.size());
+    std::copy_n(bytes.data(), blockSize_, block_.begin());
+    position_ += 1 + blockSize_;
+    next_ = 0;
+    return blockSize_ > 0;
 }
 
 GifLzw::GifLzw(GifData data, int literalBits)

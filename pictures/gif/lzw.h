@@ -12,21 +12,22 @@ namespace vistrel::gif {
 class GifData {
  public:
     /// `start` is where the first sub-block begins in `file`.
-    GifData(const pictures::PictureFile& file, std::size_t start)
-        : file_(file), next_(start), blockEnd_(start) {}
+    GifData(const pictures::PictureFile& file, std::size_t start) : file_(file), position_(start) {}
 
     /// The next byte; -1 at the end.
     int Next() {
-        if (next_ == blockEnd_ && !BeginBlock()) return -1;
-        return file_[next_++];
+        if (next_ == blockSize_ && !BeginBlock()) return -1;
+        return block_[next_++];
     }
 
  private:
     bool BeginBlock();
 
     pictures::FileWindow file_;
-    std::size_t next_;
-    std::size_t blockEnd_;
+    std::size_t position_;  // of the next sub-block in the file
+    std::array<std::uint8_t, 255> block_{};
+    std::size_t blockSize_ = 0;
+    std::size_t next_ = 0;  // of its bytes
 };
 
 /// A number of the GIF palette: a few files have codes for more colours than a palette can hold.
