@@ -72,10 +72,7 @@ void FindNearest(const pictures::RgbPicture& picture, const Area& painted, Still
     }
 }
 
-std::optional<StillPart> ReduceAnew(const pictures::RgbPicture& original, const Area& painted,
-                                    int room) {
-    pictures::RgbPicture picture = original;
-    FillIn(picture, painted);
+std::optional<StillPart> Reduced(const pictures::RgbPicture& picture, int room) {
     StillPart still;
     still.indices.resize(kScreenPixels);
     const int colors = std::max(room, 2);
@@ -85,7 +82,38 @@ std::optional<StillPart> ReduceAnew(const pictures::RgbPicture& original, const 
         return std::nullopt;
     for (std::size_t i = 0; i < entries.size(); i += 4)
         still.colors.push_back({entries[i + 2], entries[i + 1], entries[i]});
-    FindNearest(original, painted, still);
+    return still;
+}
+
+/// The sum of the squared errors of what stands.
+std::uint64_t ErrorOf(const StillPart& still, const pictures::RgbPicture& original,
+                      const Area& painted) {
+    std::uint64_t sum = 0;
+    for (std::size_t i = 0; i < kScreenPixels; ++i) {
+        if (painted.in[i]) continue;
+        const ScreenColor& color = still.colors[still.indices[i]];
+        for (std::size_t c = 0; c < 3; ++c) {
+            const int error = color[c] - original.pixels[i * 3 + c];
+            sum += static_cast<std::uint64_t>(error * error);
+        }
+    }
+    return sum;
+}
+
+// What fills the moving part makes it cheap, but may look to the reducer like a picture that wants
+// stronger dithering: the whole picture is tried as well.
+std::optional<StillPart> ReduceAnew(const pictures::RgbPicture& original, const Area& painted,
+                                    int room) {
+    pictures::RgbPicture filled = original;
+    FillIn(filled, painted);
+    std::optional<StillPart> still = Reduced(filled, room);
+    if (!still) return std::nullopt;
+    const std::uint64_t error = ErrorOf(*still, original, painted);
+    if (error > 0 && !painted.IsEmpty()) {
+        std::optional<StillPart> whole = Reduced(original, room);
+        if (whole && ErrorOf(*whole, original, painted) < error) still = std::move(whole);
+    }
+    FindNearest(original, painted, *still);
     return still;
 }
 

@@ -35,8 +35,8 @@ struct StillPart {
 
 /// Reduces what stands to as many colours as the movement leaves: anew from the original, where
 /// moving pixels cost no colour, or by merging the nearest colours of the base, which keeps its
-/// colours and their numbers when they fit. Takes as long as a conversion. Empty when memory runs
-/// out.
+/// colours and their numbers when they fit. Takes as long as two conversions. Empty when memory
+/// runs out.
 std::optional<StillPart> ReduceStill(const MovingPicture& document);
 
 /// The screen; what moves has the last entries and shares none with what stands. Fast. `still` may
