@@ -22,7 +22,7 @@ const char kHelp[] =
     "\n"
     "  --fill               as much of it as fills the screen, shapes as they are\n"
     "  --fit COLOR | blur   all of it, with a border: black, white, RRGGBB in\n"
-    "                       hexadecimal, or its own blurred edge (neither: stretched)\n"
+    "                       hexadecimal, or its own blurred edge (else: stretched)\n"
     "  --crop X,Y,W,H       only this part, in pixels of the turned picture\n"
     "  --turn N, --mirror   clockwise by 0, 90, 180 or 270; then left to right\n"
     "  --brightness N       -100 to 100, as --contrast N and --saturation N\n"

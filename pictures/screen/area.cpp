@@ -37,23 +37,34 @@ Area RectangleArea(int left, int top, int width, int height) {
     return area;
 }
 
+namespace {
+
+/// The first column whose middle is not to the left of a line, in a row that the line crosses.
+int FirstBeside(const ScreenPoint& from, const ScreenPoint& to, int y) {
+    const std::int64_t down = to.y - from.y;
+    const std::int64_t way = std::int64_t{to.x - from.x} * (y - from.y) + from.x * down;
+    const std::int64_t x = way <= 0 ? 0 : (way + down - 1) / down;
+    return static_cast<int>(std::min<std::int64_t>(x, kLogoWidth));
+}
+
+/// Sides that are far too long keep to where numbers are exact.
+ScreenPoint Near(const ScreenPoint& point) {
+    constexpr int kFar = 1'000'000;
+    return {std::clamp(point.x, -kFar, kFar), std::clamp(point.y, -kFar, kFar)};
+}
+
+}  // namespace
+
 // In each row every side that crosses its middle turns over all that lies to the right of it.
 Area LassoArea(std::span<const ScreenPoint> corners) {
     Area area;
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        ScreenPoint from = corners[i];
-        ScreenPoint to = corners[(i + 1) % corners.size()];
+        ScreenPoint from = Near(corners[i]);
+        ScreenPoint to = Near(corners[(i + 1) % corners.size()]);
         if (from.y > to.y) std::swap(from, to);
-        for (int y = std::max(from.y, 0); y < std::min(to.y, kLogoHeight); ++y) {
-            // Differences of any two numbers of 32 bits, and no product beyond 64.
-            const std::int64_t down = std::int64_t{to.y} - from.y;
-            const std::int64_t across = std::int64_t{to.x} - from.x;
-            const std::int64_t part = (std::int64_t{y} - from.y) * 65536 / down;
-            const std::int64_t x = from.x + (across * part + 65535) / 65536;
-            const int first = static_cast<int>(std::clamp<std::int64_t>(x, 0, kLogoWidth));
-            for (int turned = first; turned < kLogoWidth; ++turned)
-                area.in[Area::At(turned, y)] ^= 1;
-        }
+        for (int y = std::max(from.y, 0); y < std::min(to.y, kLogoHeight); ++y)
+            for (int x = FirstBeside(from, to, y); x < kLogoWidth; ++x)
+                area.in[Area::At(x, y)] ^= 1;
     }
     return area;
 }

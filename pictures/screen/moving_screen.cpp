@@ -154,11 +154,10 @@ std::optional<MovingPicture> BeginMoving(IndexedScreen base,
 pictures::RgbPicture StillPicture(const MovingPicture& document) {
     if (document.original) return *document.original;
     pictures::RgbPicture picture{document.base.width, document.base.height, {}};
-    picture.pixels.reserve(kScreenPixels * 3);
-    for (const std::uint8_t index : document.base.indices) {
-        const ScreenColor& color = document.base.palette[index];
-        picture.pixels.insert(picture.pixels.end(), color.begin(), color.end());
-    }
+    picture.pixels.resize(kScreenPixels * 3);
+    std::uint8_t* out = picture.pixels.data();
+    for (const std::uint8_t index : document.base.indices)
+        out = std::copy_n(document.base.palette[index].data(), 3, out);
     return picture;
 }
 

@@ -33,14 +33,13 @@ struct Seen {
     int FromCentre(int x, int y) const { return LengthOf(x - centreX, y - centreY); }
 };
 
-int Turns(std::int64_t way, int size) {
-    return static_cast<int>((way * kTurn / size) & (kTurn - 1));
-}
+/// What part of a turn a way of up to 32,767 ends at.
+int Turns(int way, int size) { return way * kTurn / size & (kTurn - 1); }
 
-int Diagonally(int x, int y) { return static_cast<int>((std::int64_t{x} + y) * 46341 / 65536); }
+int Diagonally(int x, int y) { return (x + y) * 46341 / 65536; }
 
 /// A wave that goes up and down once in `length`.
-int Swing(std::int64_t way, int length, int height) {
+int Swing(int way, int length, int height) {
     return SineOf(Turns(way, length)) * height / kSineOne;
 }
 
@@ -78,7 +77,7 @@ int Rain(const Seen& seen, int x, int y) {
     if (noise % 3 != 0) return kIsGap;
     const int size = seen.SizeOr(120 * kRow);
     const int own = size * 3 / 4 + static_cast<int>(Share(NoiseAt(noise), std::uint32_t(size / 2)));
-    return Turns(y + std::int64_t{noise % 1024} * own / 1024, own);
+    return Turns(y + static_cast<int>(noise % 1024) * own / 1024, own);
 }
 
 /// The part of a turn at a point, or kIsGap.

@@ -18,11 +18,18 @@ inline constexpr int kRow = kDown;
 /// A whole turn, of a circle and of the ring of colours.
 inline constexpr int kTurn = 65536;
 
-/// The whole part of the square root.
+/// The whole part of the square root, bit by bit.
 inline std::uint32_t RootOf(std::uint32_t number) {
     std::uint32_t root = 0;
-    for (std::uint32_t bit = 1u << 15; bit != 0; bit >>= 1)
-        if ((root + bit) * (root + bit) <= number) root += bit;
+    std::uint32_t bit = 1u << 30;
+    while (bit > number) bit >>= 2;
+    for (; bit != 0; bit >>= 2) {
+        const std::uint32_t tried = root + bit;
+        root >>= 1;
+        if (number < tried) continue;
+        number -= tried;
+        root += bit;
+    }
     return root;
 }
 
@@ -32,26 +39,27 @@ inline int LengthOf(int across, int down) {
     return static_cast<int>(RootOf(square(across) + square(down)));
 }
 
-inline constexpr int kSineOne = 16384;
+inline constexpr int kSineOne = 8192;
 
 /// The sine of an angle, by the fraction that Bhaskara gave for it: right to a five-hundredth.
 inline int SineOf(int angle) {
-    const int half = angle & (kTurn / 2 - 1);
-    const std::int64_t part = std::int64_t{half} * (kTurn / 2 - half) >> 14;
+    const unsigned half = angle & (kTurn / 2 - 1);
+    const unsigned part = half * (kTurn / 2 - half) >> 14;
     const auto sine = static_cast<int>(16 * kSineOne * part / (5 * kTurn - 4 * part));
     return (angle & kTurn / 2) ? -sine : sine;
 }
 
 inline int CosineOf(int angle) { return SineOf(angle + kTurn / 4); }
 
-/// The angle of a direction, clockwise from the right, as an arc of the tangent that is right to a
-/// quarter of a degree.
+/// The angle of a direction, clockwise from the right, right to a quarter of a degree; parts of up
+/// to 30,000.
 inline int AngleOf(int across, int down) {
-    const std::int64_t x = std::abs(across), y = std::abs(down);
+    const int x = std::abs(across), y = std::abs(down);
     if (x == 0 && y == 0) return 0;
-    const std::int64_t tangent = std::min(x, y) * kTurn / std::max(x, y);
-    int angle =
-        static_cast<int>(tangent * (kTurn / 8 + (2847 * (kTurn - tangent) / kTurn)) / kTurn);
+    const int tangent = std::min(x, y) * kTurn / std::max(x, y);
+    constexpr int kBend = 2847;  // 0.273 of a radian
+    const int slope = kTurn / 8 + kBend * (kTurn - tangent) / kTurn;
+    int angle = tangent / 4 * slope / (kTurn / 4);
     if (y > x) angle = kTurn / 4 - angle;
     if (across < 0) angle = kTurn / 2 - angle;
     return (down < 0 ? -angle : angle) & (kTurn - 1);

@@ -57,11 +57,9 @@ inline screen::Area AreaFor(screen::Pattern pattern, const pictures::RgbPicture&
         screen::Add(area, screen::RectangleArea(150, 190, 20, 20));
         return area;
     }
-    std::vector<screen::ScreenPoint> corners;
-    for (int i = 0; i < 40; ++i)
-        corners.push_back({160 + static_cast<int>(140 * std::cos(i * 0.157)),
-                           150 + static_cast<int>(140 * std::sin(i * 0.157))});
-    return screen::LassoArea(corners);
+    constexpr screen::ScreenPoint kRound[] = {{100, 20},  {220, 20},  {300, 90}, {300, 210},
+                                              {220, 290}, {100, 290}, {20, 210}, {20, 90}};
+    return screen::LassoArea(kRound);
 }
 
 /// A screen with a movement in its upper half.
