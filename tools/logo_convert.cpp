@@ -14,6 +14,7 @@
 #include "pictures/read_picture.h"
 #include "pictures/screen/check.h"
 #include "pictures/screen/mend.h"
+#include "tools/moving.h"
 #include "tools/options.h"
 
 namespace vistrel::tools {
@@ -45,9 +46,10 @@ int CheckCrop(const std::string& source, const compose::Composition& composition
     return Complain(source, what.c_str());
 }
 
-int Convert(const std::string& source, const std::string& target,
-            const compose::Composition& composition) {
-    switch (compose::MakeScreen(source, target, composition)) {
+/// Complains unless `result` says that all went well.
+int StatusOf(pictures::ConversionResult result, const std::string& source,
+             const std::string& target) {
+    switch (result) {
         case pictures::ConversionResult::Written:
             return 0;
         case pictures::ConversionResult::NotRead:
@@ -58,6 +60,12 @@ int Convert(const std::string& source, const std::string& target,
             break;
     }
     return Complain(target, "cannot be written");
+}
+
+int Convert(const std::string& source, const std::string& target, const ConvertOptions& options) {
+    return StatusOf(options.bars.empty() ? compose::MakeScreen(source, target, options.composition)
+                                         : MakeScreenWithBars(source, target, options),
+                    source, target);
 }
 
 /// As previews report it.
@@ -100,16 +108,22 @@ int MendScreen(const std::string& path, const std::string& target) {
     return pictures::WriteWholeFile(target, *mended) ? 0 : Complain(target, "cannot be written");
 }
 
-int Repeat(int times, const std::string& source, const std::string& target,
-           const compose::Composition& composition) {
+int Frames(int count, const std::string& screen, const std::string& out) {
+    const pictures::ConversionResult result = WriteFrames(screen, out, count);
+    if (result == pictures::ConversionResult::NotRead)
+        return Complain(screen, "is no screen that Windows shows");
+    return StatusOf(result, screen, out);
+}
+
+int Repeat(const std::string& source, const std::string& target, const ConvertOptions& options) {
     std::vector<double> milliseconds;
-    for (int i = 0; i < times; ++i) {
+    for (int i = 0; i < options.repeat; ++i) {
         const std::clock_t start = std::clock();
-        const int status = Convert(source, target, composition);
+        const int status = Convert(source, target, options);
         if (status != 0) return status;
         milliseconds.push_back(1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
-    const auto middle = milliseconds.begin() + times / 2;
+    const auto middle = milliseconds.begin() + options.repeat / 2;
     std::nth_element(milliseconds.begin(), middle, milliseconds.end());
     std::printf("%.3f\n", *middle);
     return 0;
@@ -131,11 +145,12 @@ int Run(const ConvertOptions& options) {
         return files.size() == 1 ? CheckScreen(files[0]) : Misused("--check wants one screen");
     if (files.size() != 2) return Misused("a picture and a target are wanted");
     if (options.rgb) return WriteRgb(files[0], files[1]);
+    if (options.frames > 0) return Frames(options.frames, files[0], files[1]);
     if (options.mend) return MendScreen(files[0], files[1]);
     const int status = CheckCrop(files[0], options.composition);
     if (status != 0) return status;
-    return options.repeat > 0 ? Repeat(options.repeat, files[0], files[1], options.composition)
-                              : Convert(files[0], files[1], options.composition);
+    return options.repeat > 0 ? Repeat(files[0], files[1], options)
+                              : Convert(files[0], files[1], options);
 }
 
 }  // namespace

@@ -20,23 +20,23 @@ const char kHelp[] =
     "  logo-convert --rgb SOURCE TARGET       write its 24-bit pixels\n"
     "  logo-convert --check SCREEN            print what is wrong with a screen file\n"
     "  logo-convert --mend SCREEN TARGET      make one without that\n"
+    "  logo-convert --frames N SCREEN OUT     write its first N as OUT-01.bmp ...\n"
     "\n"
     "  --fill               as much of it as fills the screen, shapes as they are\n"
     "  --fit COLOR | blur   all of it, with a border: black, white, RRGGBB in\n"
-    "                       hexadecimal, or its own blurred edge\n"
-    "                       (neither: stretched over the whole screen)\n"
+    "                       hexadecimal, or its own blurred edge (else: stretched)\n"
     "  --crop X,Y,W,H       only this part, in pixels of the turned picture\n"
-    "  --turn N             clockwise by 0, 90, 180 or 270 degrees\n"
-    "  --mirror             left to right, after turning\n"
+    "  --turn N, --mirror   clockwise by 0, 90, 180 or 270; then left to right\n"
     "  --brightness N       -100 to 100, as --contrast N and --saturation N\n"
     "  --gamma N            10 to 500; above 100 is lighter\n"
     "  --auto               darkest and lightest become black and white\n"
     "  --dither STRENGTH    none, light, medium or strong (else: as suits it)\n"
+    "  --bar KIND[,Y,H,N[,COLOR,COLOR...]]  N colours move, H rows from row Y on:\n"
+    "                       gradient, pulse, stripes, comet or dots\n"
     "  --repeat N           convert N times and print the median time in ms\n"
     "\n"
-    "The exit status is 0 when all went well, 1 when a file could not be read or\n"
-    "written or a screen has a fault, 2 when the options are wrong. TARGET is then\n"
-    "as it was.\n";
+    "The exit status is 0, or 1 when a file could not be read or written or has a\n"
+    "fault, or 2 when the options are wrong. TARGET is then as it was.\n";
 
 namespace {
 
@@ -127,6 +127,59 @@ bool ForceLoops(const std::string& text) {
     return false;
 }
 
+std::vector<std::string> PartsOf(const std::string& text) {
+    std::vector<std::string> parts;
+    std::size_t from = 0;
+    for (std::size_t comma; (comma = text.find(',', from)) != std::string::npos; from = comma + 1)
+        parts.push_back(text.substr(from, comma - from));
+    parts.push_back(text.substr(from));
+    return parts;
+}
+
+bool SetBarKind(const std::string& text, Bar& bar) {
+    struct Named {
+        const char* name;
+        screen::Pattern pattern;
+        screen::RingShape shape;
+    };
+    constexpr Named kKinds[] = {
+        {"gradient", screen::Pattern::Along, screen::RingShape::Smooth},
+        {"pulse", screen::Pattern::Along, screen::RingShape::Pulse},
+        {"stripes", screen::Pattern::Along, screen::RingShape::Stripes},
+        {"comet", screen::Pattern::Along, screen::RingShape::Comet},
+        {"dots", screen::Pattern::Dots, screen::RingShape::Comet},
+    };
+    for (const Named& kind : kKinds) {
+        if (text != kind.name) continue;
+        bar.pattern = kind.pattern;
+        bar.ring.shape = kind.shape;
+        return true;
+    }
+    return false;
+}
+
+bool AddBar(const std::string& text, ConvertOptions& options) {
+    constexpr std::size_t kNumbers = 4, kMost = kNumbers + 4;
+    const std::vector<std::string> parts = PartsOf(text);
+    Bar bar;
+    if (!SetBarKind(parts[0], bar)) return false;
+    if (parts.size() != 1 && (parts.size() < kNumbers || parts.size() > kMost)) return false;
+    if (parts.size() == kNumbers + 1) return false;  // one colour alone does not move
+    if (parts.size() >= kNumbers &&
+        (!SetNumber(parts[1], 0, pictures::kLogoHeight - 1, bar.top) ||
+         !SetNumber(parts[2], 1, pictures::kLogoHeight, bar.height) ||
+         !SetNumber(parts[3], screen::kFewestMoving, screen::kMostMoving, bar.ring.count)))
+        return false;
+    if (parts.size() > kNumbers) bar.ring.keys.clear();
+    for (std::size_t i = kNumbers; i < parts.size(); ++i) {
+        const std::optional<compose::Color> color = ColorOf(parts[i]);
+        if (!color) return false;
+        bar.ring.keys.push_back({color->red, color->green, color->blue});
+    }
+    options.bars.push_back(bar);
+    return true;
+}
+
 /// An option; those without a value have nothing that is wanted, and are given an empty one.
 struct Option {
     const char* name;
@@ -142,6 +195,12 @@ constexpr Option kOptions[] = {
     {"--rgb", nullptr, [](const std::string&, ConvertOptions& o) { return o.rgb = true; }},
     {"--check", nullptr, [](const std::string&, ConvertOptions& o) { return o.check = true; }},
     {"--mend", nullptr, [](const std::string&, ConvertOptions& o) { return o.mend = true; }},
+    {"--frames", "a number from 1 to 255",
+     [](const std::string& value, ConvertOptions& o) {
+         return SetNumber(value, 1, 255, o.frames);
+     }},
+    {"--bar", "KIND[,Y,H,N[,COLOR,COLOR...]], as --help tells",
+     [](const std::string& value, ConvertOptions& o) { return AddBar(value, o); }},
     {"--repeat", "a number from 1 to 1000",
      [](const std::string& value, ConvertOptions& o) {
          return SetNumber(value, 1, 1000, o.repeat);

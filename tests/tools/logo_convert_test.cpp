@@ -8,6 +8,7 @@
 
 #include "pictures/file.h"
 #include "tests/pictures/compose/scene.h"
+#include "tests/pictures/screen/system_screen.h"
 
 namespace vistrel::test {
 
@@ -140,9 +141,10 @@ TEST_F(LogoConvertTest, HelpFitsAScreenOf80By25Characters) {
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count) EXPECT_LT(line.size(), 80u) << line;
     EXPECT_LT(count, 25);
-    for (const char* option : {"--info", "--rgb", "--check", "--mend", "--repeat", "--fill",
-                               "--fit", "--crop", "--turn", "--mirror", "--brightness",
-                               "--contrast", "--gamma", "--saturation", "--auto", "--dither"}) {
+    for (const char* option :
+         {"--info", "--rgb", "--check", "--mend", "--repeat", "--fill", "--fit", "--crop", "--turn",
+          "--mirror", "--brightness", "--contrast", "--gamma", "--saturation", "--auto", "--dither",
+          "--bar", "--frames"}) {
         EXPECT_NE(help.text.find(option), std::string::npos) << option;
     }
 }
@@ -161,6 +163,11 @@ TEST_F(LogoConvertTest, WrongOptionsAreNamedWithWhatIsWanted) {
     for (const char* crop : {"1,2,3", "1,2,3,4,5", "1,2,3,", "1,2,0,4", "1,2,3,-4", "a,b,c,d", ""})
         ExpectComplains(std::string("--crop '") + crop + "'", "--crop wants four numbers");
     ExpectComplains("--fill --fit black", "--fill and --fit do not go together");
+    for (const char* bar : {"", "line", "comet,384,16", "comet,400,1,20", "comet,0,0,20",
+                            "comet,0,9,1", "comet,0,9,65", "comet,0,9,20,black",
+                            "comet,0,9,20,black,red", "comet,0,9,20,,", "comet,"})
+        ExpectComplains(std::string("--bar '") + bar + "'", "--bar wants KIND[,Y,H,N");
+    ExpectComplains("--frames 0", "--frames wants a number from 1 to 255, not \"0\"");
     ExpectComplains("another.bmp", "a picture and a target are wanted");
 }
 
@@ -212,6 +219,76 @@ TEST_F(LogoConvertTest, WhatIsNoScreenIsToldAndNotMended) {
     EXPECT_EQ(Run("--check '" + folder_.PathOf("missing.sys") + "'").status, 1);
     EXPECT_EQ(Run("--check '" + text + "' '" + target_ + "'").status, 2);
     EXPECT_EQ(Run("--mend '" + text + "'").status, 2);
+}
+
+TEST_F(LogoConvertTest, ABarMovesWhereItWasAskedFor) {
+    for (const std::string kind : {"gradient", "pulse", "stripes", "comet", "dots"}) {
+        const Outcome outcome = Convert("--fill --bar " + kind + ",300,40,12,102030,white");
+        EXPECT_EQ(outcome.status, 0) << outcome.text;
+        EXPECT_EQ(outcome.text, "");
+        EXPECT_EQ(Run("--check '" + target_ + "'").status, 0) << kind;
+        const SystemScreen made(ReadWholeFile(target_).value());
+        EXPECT_EQ(made.First(), 244);
+        bool moves = false;
+        for (int y = 0; y < 400; ++y) {
+            for (int x = 0; x < 320; ++x) {
+                ASSERT_LE(made.Moves(x, y), y >= 300 && y < 340) << kind;
+                moves = moves || made.Moves(x, y);
+            }
+        }
+        EXPECT_TRUE(moves) << kind;
+    }
+}
+
+TEST_F(LogoConvertTest, ABarOfItsKindAloneLiesAtTheBottomInBlackAndWhite) {
+    ASSERT_EQ(Convert("--bar gradient --repeat 1").status, 0);
+    const SystemScreen made(ReadWholeFile(target_).value());
+    EXPECT_EQ(made.First(), 236);
+    for (int x = 0; x < 320; ++x) {
+        EXPECT_FALSE(made.Moves(x, 383));
+        EXPECT_TRUE(made.Moves(x, 384));
+        EXPECT_TRUE(made.Moves(x, 399));
+    }
+    EXPECT_EQ(made.Shown(236), (SystemScreen::Color{0, 0, 0}));
+    EXPECT_EQ(made.Shown(246), (SystemScreen::Color{255, 255, 255}));
+}
+
+TEST_F(LogoConvertTest, WhatMovesOnAScreenMovesOnBesideANewBar) {
+    ASSERT_EQ(Convert("--bar stripes,0,20,10 --bar dots,50,20,10").status, 0);
+    const std::string both = folder_.PathOf("both.sys");
+    ASSERT_EQ(Run("--bar comet,380,20,20 '" + target_ + "' '" + both + "'").status, 0);
+    const SystemScreen first(ReadWholeFile(target_).value());
+    const SystemScreen second(ReadWholeFile(both).value());
+    for (int y = 0; y < 380; ++y)
+        for (int x = 0; x < 320; ++x) ASSERT_EQ(first.Moves(x, y), second.Moves(x, y)) << x << y;
+    EXPECT_TRUE(second.Moves(0, 380));
+    EXPECT_TRUE(first.Moves(0, 0));
+    EXPECT_FALSE(first.Moves(0, 30));
+}
+
+TEST_F(LogoConvertTest, FramesAreWhatTheSystemShowsStepByStep) {
+    ASSERT_EQ(Convert("--bar comet,380,20,3").status, 0);
+    const Outcome outcome = Run("--frames 4 '" + target_ + "' '" + folder_.PathOf("boot") + "'");
+    EXPECT_EQ(outcome.status, 0) << outcome.text;
+    EXPECT_EQ(outcome.text, "");
+    SystemScreen screen(ReadWholeFile(target_).value());
+    for (int i = 1; i <= 4; ++i) {
+        const auto file = ReadWholeFile(folder_.PathOf("boot-0" + std::to_string(i) + ".bmp"));
+        ASSERT_TRUE(file) << i;
+        const SystemScreen frame(*file);
+        EXPECT_EQ(frame.First(), 0);
+        EXPECT_EQ(frame.Frame(), screen.Frame()) << i;
+        screen.Step();
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder_.PathOf("boot-05.bmp")));
+}
+
+TEST_F(LogoConvertTest, FramesOfWhatIsNoScreenAreNotWritten) {
+    const Outcome outcome = Run("--frames 2 '" + source_ + "' '" + folder_.PathOf("boot") + "'");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.text.find(source_ + ": is no screen"), std::string::npos) << outcome.text;
+    EXPECT_EQ(Run("--bar comet '" + folder_.PathOf("none.bmp") + "' '" + target_ + "'").status, 1);
+    EXPECT_EQ(folder_.Files(), 1);
 }
 
 TEST_F(LogoConvertTest, InfoAndPixelsAreAsBefore) {

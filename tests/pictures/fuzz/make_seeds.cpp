@@ -1,5 +1,5 @@
 // Writes small sound pictures of every kind for the fuzzers to start from:
-// make_seeds FOLDER makes FOLDER/bmp, gif, jpg, jpg_scaled and convert.
+// make_seeds FOLDER makes FOLDER/bmp, gif, jpg, jpg_scaled, screen and convert.
 #include <filesystem>
 #include <fstream>
 
@@ -20,6 +20,7 @@ class SeedFolder {
     void Add(const std::string& format, int formatNumber, const Bytes& file) {
         Write(format, {}, file);
         Write("convert", {static_cast<std::uint8_t>(formatNumber)}, file);
+        if (format == "bmp") Write("screen", {}, file);
         if (format == "jpg") Write("jpg_scaled", {15, 9}, file);
     }
 
@@ -69,6 +70,15 @@ void AddBitmaps(SeedFolder& seeds) {
         file.pixels.insert(file.pixels.begin(), {0, 2, 3, 1});  // a jump
         seeds.AddBmp(file.Encode());
     }
+    // A screen whose colours move, but that it is encoded.
+    BmpFile screen = Bitmap(320, 400, 8);
+    screen.compression = kBmpRle8;
+    Bytes rows(320 * 400);
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = static_cast<std::uint8_t>(i / 2560);
+    screen.pixels = EncodeRle(rows, 320, 400, 8);
+    Bytes moving = screen.Encode();
+    moving[50] = 40;
+    seeds.AddBmp(moving);
     const RgbPicture picture = MakePicture(width, height);
     BmpFile file = Bitmap(width, -height, 24);
     file.pixels = PackRgb24(picture);

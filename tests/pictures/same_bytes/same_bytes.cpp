@@ -13,6 +13,7 @@
 #include "pictures/file.h"
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
+#include "tests/pictures/screen/moving_kinds.h"
 #include "tests/support/picture_files/all_loops.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
@@ -93,6 +94,25 @@ std::string DigestOfFramed(const char* name, compose::FramingKind kind) {
     return framed ? Md5(compose::Adjust(*framed, composition).pixels) : "";
 }
 
+/// Screens with every kind of movement, over one of more colours than are left.
+std::string DigestOfMoving() {
+    screen::IndexedScreen base{320, 400, MakeIndices(320, 400, 250), {}, 0};
+    const std::vector<RgbColor> palette = MakePalette(256);
+    std::copy(palette.begin(), palette.end(), base.palette.begin());
+    Bytes files;
+    for (const Kind& kind : Kinds()) {
+        const bool isFilled = kind.pattern == screen::Pattern::Plasma;
+        const auto document =
+            MakeMoving(kind, base, isFilled ? std::optional(MakePicture(320, 400)) : std::nullopt);
+        const auto made = screen::MakeMovingScreen(document);
+        EXPECT_TRUE(made.has_value()) << kind.name;
+        if (!made) continue;
+        const Bytes file = screen::ScreenFile(*made);
+        files.insert(files.end(), file.begin(), file.end());
+    }
+    return Md5(files);
+}
+
 std::string AllDigests() {
     return Line("bitmap larger than a screen", DigestOfBitmap(700, 900)) +
            Line("bitmap of a screen's size", DigestOfBitmap(320, 400)) +
@@ -111,7 +131,8 @@ std::string AllDigests() {
            Line("photograph, filled and lit",
                 DigestOfFramed("baseline.jpg", compose::FramingKind::Fill)) +
            Line("photograph, fitted and lit",
-                DigestOfFramed("progressive.jpg", compose::FramingKind::Fit));
+                DigestOfFramed("progressive.jpg", compose::FramingKind::Fit)) +
+           Line("screens that move", DigestOfMoving());
 }
 
 /// Each kind of innermost loops that this machine can run, the others being skipped.

@@ -104,6 +104,49 @@ TEST(MendedScreen, OfOtherDepthAndSizeIsWhatAConversionMakes) {
     EXPECT_EQ(MendScreen(bytes), converted);
 }
 
+/// A screen that has as many faults as `number` says; the rest that it leaves is told.
+Bytes Mixed(int number, int& rest) {
+    rest = number;
+    const auto pick = [&](std::initializer_list<int> values) {
+        const int value = values.begin()[std::size_t(rest) % values.size()];
+        rest /= static_cast<int>(values.size());
+        return value;
+    };
+    BmpFile file;
+    file.headerSize = std::uint32_t(pick({40, 12, 108, 124}));
+    file.bitsPerPixel = pick({8, 4, 1});
+    file.width = pick({320, 70});
+    file.height = file.width == 320 ? 400 : 50;
+    const int colors = std::min(pick({256, 200, 2}), 1 << file.bitsPerPixel);
+    file.palette = MakePalette(colors);
+    file.colorsUsed = std::uint32_t(colors);
+    const Bytes indices = MakeIndices(file.width, file.height, colors);
+    const int encoding = file.bitsPerPixel == 1 ? 0 : pick({0, 1});
+    file.compression = encoding == 0 ? 0 : file.bitsPerPixel == 8 ? kBmpRle8 : kBmpRle4;
+    file.pixels = encoding == 0 ? PackIndices(indices, file.width, file.height, file.bitsPerPixel)
+                                : EncodeRle(indices, file.width, file.height, file.bitsPerPixel);
+    if (pick({0, 1}) == 1 && file.headerSize > 12 && encoding == 0) file.height = -file.height;
+    const int first = pick({0, 1, 100, 256});
+    Bytes bytes = file.Encode();
+    if (file.headerSize > 12) PutFirstMoving(bytes, std::uint32_t(first));
+    if (pick({0, 1}) == 1) bytes.resize(bytes.size() * 9 / 10);
+    return bytes;
+}
+
+TEST(MendedScreen, HasNoFaultWhateverItHadAtOnce) {
+    int mended = 0;
+    for (int number = 0, rest = 0; rest == 0; number += 7) {
+        const Bytes file = Mixed(number, rest);
+        if (FaultsOfScreen(file) == std::vector<ScreenFault>{ScreenFault::NotABitmap}) continue;
+        const auto once = MendScreen(file);
+        ASSERT_TRUE(once) << number;
+        EXPECT_EQ(FaultsOfScreen(*once), std::vector<ScreenFault>{}) << number;
+        EXPECT_EQ(MendScreen(*once), once) << number;
+        ++mended;
+    }
+    EXPECT_GT(mended, 100);
+}
+
 TEST(MendedScreen, IsNoneWhenThereIsNoBitmap) {
     EXPECT_EQ(MendScreen(Bytes{}), std::nullopt);
     EXPECT_EQ(MendScreen(Bytes(3000, 'M')), std::nullopt);
