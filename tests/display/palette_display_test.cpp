@@ -295,7 +295,11 @@ int PresentOf(const screen::IndexedScreen& screen) {
 }
 
 TEST_F(PaletteDisplay, ShowsAScreenAsAtStartInItsOwnColors) {
+    Principale main(locations);
+    Open(main);
     for (const bool animated : {true, false}) {
+        ASSERT_TRUE(user::Activate(main.handle()));
+        ASSERT_TRUE(WaitUntil([] { return Present(DisplayPalette()) == kDisplayColors; }));
         Put(screen, Landscape(animated));
         auto screens = boot_show::ReadScreens({{screen, boot_show::Colors::Move}});
         ASSERT_EQ(screens.size(), 1u);
@@ -306,14 +310,6 @@ TEST_F(PaletteDisplay, ShowsAScreenAsAtStartInItsOwnColors) {
         EXPECT_TRUE(WaitUntil([&] { return PresentOf(own) >= 230; })) << PresentOf(own);
         user::TakeShot("show-256-colours");
     }
-}
-
-TEST_F(PaletteDisplay, MovesTheDisplaysColorsWhileAScreenIsShownAsAtStart) {
-    Put(screen, Landscape(true));
-    boot_show::FrmBootShow show(boot_show::ReadScreens({{screen, boot_show::Colors::Move}}));
-    Open(show);
-    const auto before = DisplayColors();
-    EXPECT_TRUE(WaitUntil([&] { return DisplayColors() != before; }));
 }
 
 TEST_F(PaletteDisplay, DithersTheSplashPicture) {
