@@ -82,7 +82,7 @@ TEST_F(ShowingASet, MovesTheColoursOfTheStartupScreenAlone) {
 TEST_F(ShowingASet, MovesADotInTheCorner) {
     std::string file = ScreenFile(255, 0, 0);
     file[50] = static_cast<char>(254);
-    file[54 + 254 * 4] = file[54 + 255 * 4 + 1] = static_cast<char>(255);
+    file.replace(54 + 254 * 4, 8, "\xFF\0\0\0\0\xFF\0\0", 8);  // blue and green
     const std::size_t pixels = 54 + 256 * 4;
     file[pixels + 319] = static_cast<char>(254);
     Put(screens + "LOGO.SYS", file);
