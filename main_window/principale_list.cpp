@@ -101,6 +101,8 @@ void Principale::ShowFaults() {
     }
     LblFaults.SetText(wrong > 1 ? brief : all);
     LblFaults.SetTip(all);
+    // The right button on the bare window opens a menu, and on a text another one.
+    LblFaults.SetVisible(wrong > 0);
 }
 
 void Principale::RedrawScreens() {

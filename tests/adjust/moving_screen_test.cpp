@@ -40,7 +40,7 @@ TEST_F(MovingScreenAdjusted, GoesOnMovingWithTextOnIt) {
         CloseBy(editor, window, IDOK);
         EXPECT_EQ(FirstMovingOf(editor.SelectedPicture), kFirstMoving);
         // From there into a slot as it is.
-        Press(editor.AddButton[0]);
+        LogoBrowser::Press(editor.AddButton[0]);
         EXPECT_EQ(FirstMovingOf(editor.ImgPreview[0].Tag()), kFirstMoving);
     });
 }

@@ -69,6 +69,7 @@ TEST_F(Faults, OfASetAreNamedWhereItIsSelected) {
         user::TakeShot("faults-main");
         ClickSet(main, "Red");
         EXPECT_EQ(said(), "");
+        EXPECT_FALSE(IsWindowVisible(main.LblFaults.handle()));
         EXPECT_EQ(user::TextOf(main.LblScreen[0].handle()), "LOGO.SYS\r\nStartup screen");
     });
 }
