@@ -110,6 +110,8 @@ bool Window::Create(platform::WindowHandle owner) {
     tips_ = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, handle_,
                             nullptr, platform::ProgramInstance(), nullptr);
+    // A long tip is broken into lines, else it would leave the screen.
+    SendMessageA(tips_, TTM_SETMAXTIPWIDTH, 0, WorkArea().width / 2);
     if (!AttachControls()) {
         DestroyWindow(handle_);
         return false;
@@ -153,6 +155,8 @@ bool Window::Unload() {
     DestroyWindow(handle_);
     return true;
 }
+
+void Window::CloseSoon() { PostMessageA(handle_, WM_CLOSE, 0, 0); }
 
 // The owner must be able to take the focus before this window gives it up.
 void Window::FreeOwner() {

@@ -7,6 +7,7 @@
 #include "about/frm_splash.h"
 #include "adjust/frm_adjust.h"
 #include "adjust/frm_many_sets.h"
+#include "boot_show/frm_boot_show.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
@@ -55,10 +56,11 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
         FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {}}, [] { return std::string(); });
         ASSERT_TRUE(adjust.ReadPicture());
         FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
+        boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
         FrmAboutReg about;
         frmSplash splash;
         for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
-                                                             &view, &about, &splash}) {
+                                                             &view, &show, &about, &splash}) {
             ASSERT_TRUE(window->Create(nullptr));
             Check(*window);
         }
