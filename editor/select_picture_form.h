@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@
 #include "controls/window.h"
 #include "core/save_set.h"
 #include "editor/host.h"
+#include "pictures/rgb_picture.h"
 
 namespace vistrel::editor {
 
@@ -72,6 +74,7 @@ class SelPictureForm : public controls::Window {
     controls::MenuItem ItmSetLogo[3];
     controls::MenuItem ItmAdjust;
     controls::MenuItem ItmManySets;
+    controls::MenuItem ItmMoveColors;
 
     // What one session holds
     bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
@@ -211,6 +214,13 @@ class SelPictureForm : public controls::Window {
     std::vector<std::string> SelectedPictures() const;
     void ItmManySets_Click();
 
+    // Moving colours
+    void ItmMoveColors_Click();
+    void MoveSlot();
+    void MoveColorsOfBox();
+    std::string Moved(const std::string& path);
+    std::optional<pictures::RgbPicture> OriginalOf(const std::string& screen) const;
+
     // Names, loading and saving
     void ListNames();
     void NameLogoSet_Change();
@@ -240,7 +250,8 @@ class SelPictureForm : public controls::Window {
         commands_;  ///< what the menus' items run, by their numbers
     platform::IconHandle dragIcon_ = nullptr;
     SetType type_ = SetType::Complete;
-    controls::Size smallest_;          ///< of the whole window: what fits a screen of 640 x 480
+    controls::Size smallest_;  ///< of the whole window: what fits a screen of 640 x 480
+    const controls::PictureBox* menuBox_ = nullptr;  ///< whose menu was opened last
     controls::Point pressedAt_;        ///< where the left button went down over CurView
     std::string oldName_;              ///< of the item whose label is edited
     std::string setsOwnTag_[3];        ///< of slots 1 and 2 while they show the shared screens

@@ -62,6 +62,10 @@ void SelPictureForm::ShowAsSelected(const std::string& screen) {
 void SelPictureForm::ShowPictureMenu(const controls::PictureBox& box, controls::Point at) {
     const platform::MenuHandle menu = host_.OpenWithMenu(box.Tag());
     const bool isSlot = &box != &CurView;
+    menuBox_ = &box;
+    // Colours move on a startup screen only.
+    controls::SetMenuEnabled(menu, ID_ItmMoveColors,
+                             isSlot ? &box == &ImgPreview[0] : IsAdjustable());
     if (isSlot) {
         controls::AddMenuSeparator(menu);
         controls::AddMenuItem(menu, ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview),

@@ -39,6 +39,7 @@ void SelPictureForm::MenuOpens(platform::MenuHandle menu) {
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
     ItmAdjust.SetEnabled(IsAdjustable());
     ItmManySets.SetEnabled(!SelectedPictures().empty());
+    ItmMoveColors.SetEnabled(IsAdjustable());
 }
 
 // The keys of the list are those of its menu.

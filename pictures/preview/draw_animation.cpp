@@ -39,7 +39,8 @@ void FillEntries(const screen::IndexedScreen& screen, PALETTEENTRY* entries) {
     for (int i = 0; i < 256; ++i) {
         const int from = (screen.firstAnimated + i) % 256;
         const auto& color = screen.palette[from];
-        const BYTE flags = from >= screen.firstAnimated ? PC_RESERVED : 0;
+        const bool moves = screen.IsAnimated() && from >= screen.firstAnimated;
+        const BYTE flags = moves ? PC_RESERVED : 0;
         entries[i] = {color[0], color[1], color[2], flags};
     }
 }
@@ -56,7 +57,10 @@ HPALETTE OwnPalette(const screen::IndexedScreen& screen) {
 
 }  // namespace
 
-ScreenAnimation::ScreenAnimation(std::unique_ptr<State> state) : state_(std::move(state)) {}
+ScreenAnimation::ScreenAnimation(screen::IndexedScreen screen) : state_(std::make_unique<State>()) {
+    state_->screen = std::move(screen);
+    state_->rows = PaddedRows(state_->screen);
+}
 
 ScreenAnimation::~ScreenAnimation() {
     if (state_->box) state_->box->PaintInstead = nullptr;
@@ -67,10 +71,7 @@ std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) 
     if (!bytes) return nullptr;
     auto screen = screen::ReadIndexedScreen(*bytes);
     if (!screen || !screen->IsAnimated()) return nullptr;
-    auto state = std::make_unique<State>();
-    state->screen = std::move(*screen);
-    state->rows = PaddedRows(state->screen);
-    return std::unique_ptr<ScreenAnimation>(new ScreenAnimation(std::move(state)));
+    return std::make_unique<ScreenAnimation>(std::move(*screen));
 }
 
 void ScreenAnimation::Attach(controls::PictureBox& box) {
@@ -110,6 +111,7 @@ void ScreenAnimation::Paint(platform::DeviceContext target) {
 }
 
 void ScreenAnimation::Step() {
+    if (!state_->screen.IsAnimated()) return;
     screen::RotateColors(state_->screen);
     if (!state_->palette) {
         InvalidateRect(state_->box->handle(), nullptr, FALSE);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "controls/picture_box.h"
+#include "pictures/screen/indexed_screen.h"
 
 namespace vistrel::preview {
 
@@ -13,6 +14,8 @@ class ScreenAnimation {
  public:
     /// Empty when the file is no screen with animated colours.
     static std::unique_ptr<ScreenAnimation> Load(const std::string& path);
+    /// Of any screen; one whose colours do not move stands still.
+    explicit ScreenAnimation(screen::IndexedScreen screen);
     ~ScreenAnimation();
     ScreenAnimation(const ScreenAnimation&) = delete;
     ScreenAnimation& operator=(const ScreenAnimation&) = delete;
@@ -24,7 +27,6 @@ class ScreenAnimation {
 
  private:
     struct State;
-    explicit ScreenAnimation(std::unique_ptr<State> state);
     void Paint(platform::DeviceContext target);
 
     std::unique_ptr<State> state_;

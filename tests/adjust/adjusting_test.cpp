@@ -140,7 +140,7 @@ TEST_F(Adjusting, ASlotsPictureIsMadeAnewOfThePhotographAndPutBack) {
         EXPECT_TRUE(editor.SetChanged);
         // The browser's own picture has no such item, nor has an empty slot a menu.
         user::RightClick(editor.CurView.handle());
-        EXPECT_EQ(EndOf(seen::TextsOf(user::WaitForPopUp())), "-,Autoshow animation");
+        EXPECT_EQ(EndOf(seen::TextsOf(user::WaitForPopUp())), "-,Moving &colours...");
         DismissMenu();
     });
 }
