@@ -2,6 +2,8 @@
 // is away from the beginning.
 #include "pictures/screen/patterns.h"
 
+#include <array>
+
 #include "pictures/screen/seen.h"
 
 namespace vistrel::screen {
@@ -28,7 +30,7 @@ struct Seen {
     int left, top, width, height, centreX, centreY, size;
 
     int SizeOr(int suiting) const { return size > 0 ? size : std::max(suiting, kRow); }
-    int FromCentre(int x, int y) const { return LengthOf(x - centreX, y - centreY) / 16; }
+    int FromCentre(int x, int y) const { return LengthOf(x - centreX, y - centreY); }
 };
 
 int Turns(std::int64_t way, int size) {
@@ -49,24 +51,24 @@ int Waves(const Seen& seen, int x, int y) {
 }
 
 int Ripples(const Seen& seen, int x, int y) {
-    constexpr std::uint32_t kPoints = 6;
-    int nearest = 1 << 20;
-    for (std::uint32_t i = 0; i < kPoints; ++i) {
-        const auto place = [i](std::uint32_t seed, int from, int length) {
-            return from + static_cast<int>(Share(NoiseAt(2 * i + seed), std::uint32_t(length)));
-        };
-        const int pointX = place(1, seen.left, seen.width);
-        const int pointY = place(2, seen.top, seen.height);
-        nearest = std::min(nearest, LengthOf(x - pointX, y - pointY) / 16);
+    // In thousandths of the area: apart from each other, and in no order.
+    constexpr std::array<std::array<int, 2>, 5> kPoints = {
+        {{210, 300}, {560, 130}, {840, 420}, {430, 690}, {80, 880}}};
+    int nearest = 1 << 30;
+    for (const auto& [across, down] : kPoints) {
+        const int toX = x - seen.left - seen.width * across / 1000;
+        const int toY = y - seen.top - seen.height * down / 1000;
+        nearest = std::min(nearest, toX * toX + toY * toY);
     }
-    return Turns(nearest, seen.SizeOr(40 * kRow));
+    return Turns(static_cast<int>(RootOf(static_cast<std::uint32_t>(nearest))),
+                 seen.SizeOr(40 * kRow));
 }
 
 int Plasma(const Seen& seen, int x, int y) {
     const int size = seen.SizeOr(160 * kRow);
-    const int round = LengthOf(x - seen.centreX, y - seen.centreY) / 16;
     return (Swing(x, size, kTurn / 2) + Swing(y, size * 4 / 5, kTurn / 2) +
-            Swing(Diagonally(x, y), size * 2 / 3, kTurn / 3) + Swing(round, size / 2, kTurn / 3)) &
+            Swing(Diagonally(x, y), size * 2 / 3, kTurn / 3) +
+            Swing(seen.FromCentre(x, y), size / 2, kTurn / 3)) &
            (kTurn - 1);
 }
 

@@ -26,10 +26,10 @@ inline std::uint32_t RootOf(std::uint32_t number) {
     return root;
 }
 
-/// The length of a way in sixteenths of the unit of its parts, of up to 8,000 each.
+/// The length of a way with parts of up to 30,000 each.
 inline int LengthOf(int across, int down) {
     const auto square = [](int side) { return static_cast<std::uint32_t>(side * side); };
-    return static_cast<int>(4 * RootOf(16 * (square(across) + square(down))));
+    return static_cast<int>(RootOf(square(across) + square(down)));
 }
 
 inline constexpr int kSineOne = 16384;
