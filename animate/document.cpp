@@ -77,7 +77,8 @@ std::string NameOf(const screen::Layer& layer) {
     constexpr const char* kinds[] = {"Bar", "Shimmer", "Background", "From a screen"};
     const LayerKind kind = KindOf(layer.pattern);
     const std::string name = kinds[static_cast<int>(kind)];
-    if (kind == LayerKind::Screen) return name;
+    // The run of a bar's colours is that of all colours.
+    if (kind == LayerKind::Screen || layer.pattern == Pattern::Along) return name;
     for (const PatternName& row : PatternsOf(kind))
         if (row.pattern == layer.pattern) return name + ": " + row.name;
     return name;

@@ -78,6 +78,9 @@ void FrmAnimate::Form_Load() {
     // The box is one that shows a picture: keys go there too.
     MovingBox.Canvas();
     MovingBox.Keep();
+    // The moving screen needs all of the display's colours that there are.
+    RingBox.LeaveColors();
+    BoardBox.LeaveColors();
     FillLists();
     ShowPage();
     ShowDocument();

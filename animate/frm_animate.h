@@ -113,8 +113,9 @@ class FrmAnimate : public controls::Window {
 
     // The document
     using Edit = std::function<void(Document& document)>;
-    /// Changes the document, so that it can be undone; what the same hand does without rest is
-    /// one step.
+    /// Changes the document, so that it can be undone. What the same hand does in a row, a slider
+    /// or the mouse, is one step.
+    static constexpr const void* kNobody = nullptr;
     void Change(const void* hand, const Edit& edit);
     void Apply(const void* hand, const Edit& edit);
     void GoBack(bool undo);
@@ -188,7 +189,7 @@ class FrmAnimate : public controls::Window {
     controls::Timer stepTimer_;
     controls::Timer restTimer_;
     controls::OwnedMenu addMenu_;
-    const void* lastHand_ = nullptr;  ///< who changed the document last
+    const void* lastHand_ = kNobody;  ///< who changed the document last
     bool filling_ = false;            ///< lists are filled, and nobody has chosen in them
 
     // While something is dragged

@@ -138,8 +138,7 @@ void FrmAnimate::ChangeByHand(const std::function<void(screen::IndexedScreen&)>&
     change(*screen);
     auto begun = BeginDocument(std::move(*screen), std::nullopt);
     if (!begun) return;
-    lastHand_ = nullptr;
-    Apply(&BoardBox, [&](Document& document) { document = std::move(*begun); });
+    Apply(kNobody, [&](Document& document) { document = std::move(*begun); });
     ShowFinished();
     ShowDocument();
 }

@@ -104,7 +104,7 @@ void FrmAnimate::ChangeRing(const void* hand, const std::function<void(screen::R
 void FrmAnimate::RunKind_Click() {
     const int chosen = RunKind.ListIndex();
     if (chosen < 0 || chosen > kOfTheArea) return;
-    Change(&RunKind, [&](Document& document) {
+    Change(kNobody, [&](Document& document) {
         document.areaColors = chosen == kOfTheArea && Selected() != nullptr;
         if (document.areaColors) {
             TakeAreaColors(document);
@@ -131,23 +131,21 @@ void FrmAnimate::BtnKey_Click(int index) {
     if (place >= keys.size()) return;
     const auto chosen = platform::PickColor(handle(), NumberOf(keys[place]));
     if (!chosen) return;
-    ChangeRing(&BtnKey[index], [&](screen::Ring& ring) { ring.keys[place] = ColorOf(*chosen); });
-    lastHand_ = nullptr;
+    ChangeRing(kNobody, [&](screen::Ring& ring) { ring.keys[place] = ColorOf(*chosen); });
     ShowColors();
 }
 
 void FrmAnimate::ChangeKeys(int by) {
-    ChangeRing(&BtnMoreKeys, [&](screen::Ring& ring) {
+    ChangeRing(kNobody, [&](screen::Ring& ring) {
         ring.keys.resize(ring.keys.size() + static_cast<std::size_t>(by), kFreshKey);
     });
-    lastHand_ = nullptr;
     ShowDocument();
     // A button that is grey now would keep the keys for nobody.
     (by > 0 ? BtnKey[document_.picture.ring.keys.size() - 1] : BtnMoreKeys).Focus();
 }
 
 void FrmAnimate::ChkGround_Click() {
-    Change(&ChkGround, [this](Document& document) {
+    Change(kNobody, [this](Document& document) {
         document.picture.ground.reset();
         if (ChkGround.Value() != 0) document.picture.ground = kFreshGround;
     });
@@ -158,8 +156,7 @@ void FrmAnimate::BtnGround_Click() {
     const auto chosen =
         platform::PickColor(handle(), NumberOf(document_.picture.ground.value_or(kFreshGround)));
     if (!chosen) return;
-    Change(&BtnGround, [&](Document& document) { document.picture.ground = ColorOf(*chosen); });
-    lastHand_ = nullptr;
+    Change(kNobody, [&](Document& document) { document.picture.ground = ColorOf(*chosen); });
     ShowColors();
 }
 

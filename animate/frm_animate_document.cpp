@@ -14,8 +14,7 @@ void FrmAnimate::Change(const void* hand, const Edit& edit) {
 }
 
 void FrmAnimate::Apply(const void* hand, const Edit& edit) {
-    const bool goesOn = hand == lastHand_ && (restTimer_.Enabled() || drag_ != Drag::None);
-    if (!goesOn) history_.Remember(document_);
+    if (hand == kNobody || hand != lastHand_) history_.Remember(document_);
     lastHand_ = hand;
     edit(document_);
     Changed();
@@ -28,7 +27,7 @@ void FrmAnimate::GoBack(bool undo) {
         history_.Undo(document_);
     else
         history_.Redo(document_);
-    lastHand_ = nullptr;
+    lastHand_ = kNobody;
     picked_.reset();
     ShowDocument();
     ShowFinished();

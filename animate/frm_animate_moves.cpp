@@ -88,7 +88,7 @@ void FrmAnimate::ConnectMoves() {
     PatternKind.Click = [this] { PatternKind_Click(); };
     SizeBar.Change = [this] { SizeBar_Change(); };
     ChkReversed.Click = [this] {
-        ChangeLayer(&ChkReversed,
+        ChangeLayer(kNobody,
                     [this](screen::Layer& layer) { layer.reversed = ChkReversed.Value() != 0; });
     };
     ChooseBy.Click = [this] {
@@ -98,13 +98,13 @@ void FrmAnimate::ConnectMoves() {
     };
     ToleranceBar.Change = [this] { ToleranceBar_Change(); };
     BtnAll.Click = [this] {
-        ChangeArea(&BtnAll,
+        ChangeArea(kNobody,
                    screen::RectangleArea(0, 0, pictures::kLogoWidth, pictures::kLogoHeight));
     };
     BtnInvert.Click = [this] {
         screen::Area area = Selected()->area;
         screen::Invert(area);
-        ChangeArea(&BtnInvert, area);
+        ChangeArea(kNobody, area);
     };
 }
 
@@ -177,7 +177,7 @@ void FrmAnimate::PatternKind_Click() {
     const int chosen = PatternKind.ListIndex();
     if (chosen < 0 || !Selected()) return;
     const LayerKind kind = *SelectedKind();
-    Change(&PatternKind, [&](Document& document) {
+    Change(kNobody, [&](Document& document) {
         screen::Layer& layer = document.picture.layers[document.selected];
         if (kind != LayerKind::Bar) {
             layer.pattern = PatternsOf(kind)[static_cast<std::size_t>(chosen)].pattern;
@@ -220,7 +220,7 @@ void FrmAnimate::ChangeArea(const void* hand, const screen::Area& area) {
 }
 
 void FrmAnimate::AddLayer(LayerKind kind) {
-    Change(&BtnAddLayer, [&](Document& document) {
+    Change(kNobody, [&](Document& document) {
         screen::MovingPicture& picture = document.picture;
         const bool first = picture.layers.empty();
         picture.layers.push_back(NewLayer(kind, document));
@@ -230,7 +230,6 @@ void FrmAnimate::AddLayer(LayerKind kind) {
         document.areaColors = kind == LayerKind::Shimmer;
         if (document.areaColors) TakeAreaColors(document);
     });
-    lastHand_ = nullptr;
     ShowDocument();
     Layers.Focus();
 }
@@ -249,25 +248,23 @@ void FrmAnimate::AddLayerOfScreen() {
         platform::Tell(handle(), "Nothing moves on " + path + ".");
         return;
     }
-    Change(&BtnAddLayer, [&](Document& document) {
+    Change(kNobody, [&](Document& document) {
         document.picture.ring = screen::RingOfScreen(*other);
         document.areaColors = false;
         document.picture.layers.push_back(std::move(layer));
         document.selected = document.picture.layers.size() - 1;
     });
-    lastHand_ = nullptr;
     ShowDocument();
     Layers.Focus();
 }
 
 void FrmAnimate::DeleteLayer() {
     if (!Selected()) return;
-    Change(&BtnDeleteLayer, [](Document& document) {
+    Change(kNobody, [](Document& document) {
         auto& layers = document.picture.layers;
         layers.erase(layers.begin() + static_cast<std::ptrdiff_t>(document.selected));
         if (document.selected == layers.size() && document.selected > 0) --document.selected;
     });
-    lastHand_ = nullptr;
     ShowDocument();
     // The button may be grey now, and nobody would have the keys.
     Layers.Focus();

@@ -69,7 +69,7 @@ void FrmAnimate::Screen_MouseDown(int button, controls::Point at) {
     MovingBox.Focus();
     if (button != controls::kLeftButton || CurrentPage() != kMoves) return;
     EndDrag();
-    lastHand_ = nullptr;
+    lastHand_ = kNobody;
     pressedAt_ = ToScreen(at);
     if (HasArea())
         BeginArea(pressedAt_);
@@ -93,7 +93,7 @@ void FrmAnimate::Screen_MouseUp() {
     if (drag_ == Drag::None && picks && !picked_) {
         pressedArea_ = Selected()->area;
         joining_ = controls::IsShiftDown() ? Joining::Add : Joining::Replace;
-        lastHand_ = nullptr;
+        lastHand_ = kNobody;
         PickColor(cross_);
     }
     EndDrag();
