@@ -153,7 +153,12 @@ void FrmAdjust::ShowPossible() {
                              ? !lines_.empty()
                              : CurrentPage() == kFraming &&
                                    composition_.framing.kind == compose::FramingKind::Fill);
-    LblHint.SetText(Hint());
+    ShowHint();
+}
+
+// While something is dragged it is not to flicker.
+void FrmAdjust::ShowHint() {
+    if (const std::string hint = Hint(); hint != LblHint.Text()) LblHint.SetText(hint);
 }
 
 bool FrmAdjust::IsPossible(const controls::Control& control) const {
@@ -174,6 +179,20 @@ bool FrmAdjust::IsPossible(const controls::Control& control) const {
 }
 
 std::string FrmAdjust::Hint() const {
+    switch (live_.MovementOf(composition_)) {
+        case LiveScreen::Movement::Kept:
+            return lines_.empty() ? "The colours of this screen go on moving."
+                                  : "The colours go on moving, but not under the text.";
+        case LiveScreen::Movement::LostByFraming:
+            return "Turned or framed like this, the colours stand still.";
+        case LiveScreen::Movement::LacksColors:
+            return "Too many of its colours move: they will stand still.";
+        default:
+            return PageHint();
+    }
+}
+
+std::string FrmAdjust::PageHint() const {
     if (CurrentPage() == kLight) return "A double click sets a slider back.";
     if (CurrentPage() == kText)
         return lines_.empty() ? "Add a line, then drag it to its place on the screen."

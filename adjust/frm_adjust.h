@@ -107,6 +107,8 @@ class FrmAdjust : public controls::Window {
     void ShowPossible();
     bool IsPossible(const controls::Control& control) const;
     std::string Hint() const;
+    std::string PageHint() const;
+    void ShowHint();
     void BtnOK_Click();
     bool IsPictureAsItWas();
     void TellMissingFonts();

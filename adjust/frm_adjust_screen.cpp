@@ -28,6 +28,7 @@ void DrawGuides(pictures::RgbPicture& screen) {
 
 // The 256 colours take their time: they follow when nothing has changed for a moment.
 void FrmAdjust::Changed() {
+    ShowHint();
     ShowQuick();
     restTimer_.SetEnabled(true);
 }

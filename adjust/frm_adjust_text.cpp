@@ -192,7 +192,6 @@ void FrmAdjust::BtnTextColor_Click() {
 
 void FrmAdjust::LinesChanged() {
     composition_.text = MasksOf(lines_);
-    LblHint.SetText(Hint());
     Changed();
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "pictures/compose/movement.h"
+
 namespace vistrel::adjust {
 namespace {
 
@@ -28,6 +30,12 @@ pictures::PictureSize LiveScreen::TurnedSize(const compose::Composition& composi
     return compose::SizeWhenTurned(read_->file, composition.orientation);
 }
 
+LiveScreen::Movement LiveScreen::MovementOf(const compose::Composition& composition) const {
+    if (!read_->moving) return Movement::None;
+    if (!compose::LeavesColors(*read_->moving)) return Movement::LacksColors;
+    return compose::StaysInPlace(composition) ? Movement::Kept : Movement::LostByFraming;
+}
+
 bool LiveScreen::Holds(const compose::Composition& composition) const {
     return framed_ && orientation_ == composition.orientation && framing_ == composition.framing;
 }
@@ -48,7 +56,7 @@ pictures::RgbPicture LiveScreen::Finished(const compose::Composition& compositio
     if (!Holds(composition) || !fine_)
         Keep(compose::FrameFinely(*read_, composition), composition, true);
     pictures::RgbPicture screen = compose::Adjust(*framed_, composition);
-    const auto reduced = compose::Reduce(screen, composition.dither);
+    const auto reduced = compose::ReduceMoving(read_->moving, *framed_, screen, composition);
     return reduced ? InColors(*reduced) : std::move(screen);
 }
 

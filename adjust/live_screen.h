@@ -17,6 +17,9 @@ class LiveScreen {
 
     /// Of the file as it was read; see compose::ChecksumOfPicture.
     std::uint64_t Checksum() const { return read_->checksum; }
+    /// What becomes of the picture's moving colours, where it is a screen that has such.
+    enum class Movement { None, Kept, LostByFraming, LacksColors };
+    Movement MovementOf(const compose::Composition& composition) const;
     pictures::PictureSize TurnedSize(const compose::Composition& composition) const;
 
     /// At once, in all its colours.

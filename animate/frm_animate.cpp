@@ -15,8 +15,6 @@
 namespace vistrel::animate {
 namespace {
 
-/// About 15 steps a second, as the system moves the colours while it starts.
-constexpr unsigned kStep = 66;
 /// A hand that did not move for so many milliseconds rests.
 constexpr unsigned kRest = 300;
 
@@ -26,7 +24,7 @@ FrmAnimate::FrmAnimate(Document start, Keep keep)
     : Window("FrmAnimate", IDD_FrmAnimate),
       document_(std::move(start)),
       keep_(std::move(keep)),
-      stepTimer_(kStep),
+      stepTimer_(preview::kAnimationInterval),
       restTimer_(kRest),
       addMenu_(controls::NewPopUpMenu()) {
     AddFrame();

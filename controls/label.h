@@ -16,8 +16,12 @@ struct FontChange {
     const char* face = "";
 };
 
+/// That of the system's own texts.
+inline constexpr long kSystemColor = -1;
 /// Link blue.
 inline constexpr long kBlue = 0xFF0000;
+/// The colour of a warning.
+inline constexpr long kDarkRed = 0x000080;
 
 class Label : public Control {
  public:
@@ -44,7 +48,7 @@ class Label : public Control {
     bool SetPointer() override;
 
  private:
-    long color_ = -1;
+    long color_ = kSystemColor;
     OwnedBrush background_;
     bool seeThrough_ = false;
     OwnedFont font_;

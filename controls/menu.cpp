@@ -22,8 +22,19 @@ void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption) 
 
 void AddMenuSeparator(platform::MenuHandle menu) { AppendMenuA(menu, MF_SEPARATOR, 0, nullptr); }
 
-void RemoveLastMenuItem(platform::MenuHandle menu) {
-    DeleteMenu(menu, static_cast<UINT>(GetMenuItemCount(menu) - 1), MF_BYPOSITION);
+void AddMenuItemBefore(platform::MenuHandle menu, int before, int id, const std::string& caption) {
+    InsertMenuA(menu, static_cast<UINT>(before), MF_BYCOMMAND | MF_STRING,
+                static_cast<UINT_PTR>(id), caption.c_str());
+    InsertMenuA(menu, static_cast<UINT>(before), MF_BYCOMMAND | MF_SEPARATOR, 0, nullptr);
+}
+
+void RemoveItemBefore(platform::MenuHandle menu, int id) {
+    for (int place = 0; place < GetMenuItemCount(menu); ++place) {
+        if (GetMenuItemID(menu, place) != static_cast<UINT>(id)) continue;
+        DeleteMenu(menu, static_cast<UINT>(place), MF_BYPOSITION);
+        DeleteMenu(menu, static_cast<UINT>(place), MF_BYPOSITION);
+        return;
+    }
 }
 
 void EmptyMenu(platform::MenuHandle menu) {

@@ -14,7 +14,10 @@ platform::MenuHandle SubMenu(platform::MenuHandle menu, int place);
 OwnedMenu NewPopUpMenu();
 void AddMenuItem(platform::MenuHandle menu, int id, const std::string& caption);
 void AddMenuSeparator(platform::MenuHandle menu);
-void RemoveLastMenuItem(platform::MenuHandle menu);
+/// Puts an item, with a separator behind it, in front of the one with number `before`.
+void AddMenuItemBefore(platform::MenuHandle menu, int before, int id, const std::string& caption);
+/// Takes such an item away again with its separator.
+void RemoveItemBefore(platform::MenuHandle menu, int id);
 void EmptyMenu(platform::MenuHandle menu);
 
 // Each finds the item by its number, in drop-downs too.

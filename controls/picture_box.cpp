@@ -114,7 +114,16 @@ void PictureBox::Keep() {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
+void PictureBox::HidePointer() {
+    pointerHidden_ = true;
+    SetCursor(nullptr);
+}
+
 bool PictureBox::SetPointer() {
+    if (pointerHidden_) {
+        SetCursor(nullptr);
+        return true;
+    }
     if (!movable_ || !hasPicture_) return false;
     SetCursor(LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_SIZEALL)));
     return true;

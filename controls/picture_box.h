@@ -41,6 +41,8 @@ class PictureBox : public Control {
 
     /// Whether the pointer shows over the picture that it can be moved about.
     void SetMovable(bool movable) { movable_ = movable; }
+    /// Shows no pointer over the box from now on.
+    void HidePointer();
     bool SetPointer() override;
 
     /// A point of the drawing area as one of the screen.
@@ -68,6 +70,7 @@ class PictureBox : public Control {
 
     bool hasPicture_ = false;
     bool movable_ = false;
+    bool pointerHidden_ = false;
     bool leavesColors_ = false;
     const char* whyEmpty_ = kNoPicture;
     bool tabStop_ = false;    ///< its template lets Tab stop here

@@ -7,6 +7,8 @@ namespace vistrel::controls {
 
 int PixelsPerInch() { return GetDeviceCaps(platform::ScreenContext(), LOGPIXELSX); }
 
+Rect WholeDisplay() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
 Rect WorkArea() {
     RECT r{};
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &r, 0);

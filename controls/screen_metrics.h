@@ -7,6 +7,8 @@ namespace vistrel::controls {
 
 /// Dots of an inch across, 96 with small fonts.
 int PixelsPerInch();
+/// All of the screen.
+Rect WholeDisplay();
 /// The part of the screen that the taskbar leaves.
 Rect WorkArea();
 /// Where the mouse pointer is on the screen.
@@ -15,7 +17,9 @@ Point PointerPosition();
 bool IsShiftDown();
 bool IsControlDown();
 
-inline constexpr int kKeySpace = 32;
+inline constexpr int kKeyShift = 16;
+inline constexpr int kKeyControl = 17;
+inline constexpr int kKeyEscape = 27;
 inline constexpr int kKeyLeft = 37;
 inline constexpr int kKeyUp = 38;
 inline constexpr int kKeyRight = 39;
@@ -26,5 +30,6 @@ inline constexpr int kKeyZ = 'Z';
 inline constexpr int kKeyF1 = 112;
 inline constexpr int kKeyF2 = 113;
 inline constexpr int kKeyF5 = 116;
+inline constexpr int kKeyF11 = 122;
 
 }  // namespace vistrel::controls

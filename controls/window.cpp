@@ -154,6 +154,8 @@ bool Window::Unload() {
     return true;
 }
 
+void Window::CloseSoon() { PostMessageA(handle_, WM_CLOSE, 0, 0); }
+
 // The owner must be able to take the focus before this window gives it up.
 void Window::FreeOwner() {
     if (disabledOwner_) EnableWindow(disabledOwner_, TRUE);

@@ -101,6 +101,10 @@ class Window {
     /// The window was shown, or became the active one again after a window of ours in front of it
     /// was closed. The system's dialogs and other programs in between do not count.
     virtual void Form_Activate() {}
+    /// Another program has come to the front.
+    virtual void Form_ProgramLeft() {}
+    /// The display has another size or other colours than before.
+    virtual void Form_DisplayChange() {}
     /// Called when the window is about to close; false keeps it open.
     virtual bool Form_Unload() { return true; }
     virtual void Form_Resize(Size) {}
@@ -132,6 +136,10 @@ class Window {
 
     /// The topic of the help that F1 shows where no control has one of its own.
     void SetHelpTopic(unsigned long number) { helpTopic_ = number; }
+
+    /// Closes the window once what is being handled is done, where closing at once would come in
+    /// the way of the system.
+    void CloseSoon();
 
     /// Gives the focus to a control; a button becomes the one that Enter presses.
     void GiveFocus(const Control& control);
@@ -170,6 +178,7 @@ class Window {
     bool OnPaletteChanged(std::uintptr_t wParam);
     bool OnNewPalette(std::intptr_t& result);
     bool OnClose();
+    bool OnActivation(std::uintptr_t wParam);
     bool OnSessionQuestion(std::intptr_t& result);
     bool OnSessionEnd(std::uintptr_t wParam);
 

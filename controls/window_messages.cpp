@@ -149,6 +149,11 @@ bool Window::OnClose() {
     return true;
 }
 
+bool Window::OnActivation(std::uintptr_t wParam) {
+    if (!wParam) Form_ProgramLeft();
+    return false;
+}
+
 bool Window::OnSessionQuestion(std::intptr_t& result) {
     EndEdits();
     result = MayEndSession();
@@ -197,6 +202,11 @@ bool Window::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lP
             return OnPaletteChanged(wParam);
         case WM_QUERYNEWPALETTE:
             return OnNewPalette(result);
+        case WM_ACTIVATEAPP:
+            return OnActivation(wParam);
+        case WM_DISPLAYCHANGE:
+            Form_DisplayChange();
+            return false;
         case WM_CLOSE:
             return OnClose();
         case WM_QUERYENDSESSION:

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/generali.h"
 #include "pictures/formats.h"
 #include "platform/characters.h"
 
@@ -23,8 +22,6 @@ bool IsListedBefore(const std::string& name, const std::string& other) {
 bool IsOutOfSight(const platform::FolderEntry& entry) {
     return (entry.attributes & (platform::kHiddenFile | platform::kSystemFile)) != 0;
 }
-
-bool IsScreenName(const std::string& name) { return core::UpperEnding(name) == ".SYS"; }
 
 bool ReadPictureFolder(const std::string& folder, PictureFolder& found) {
     found = {};

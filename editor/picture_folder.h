@@ -8,9 +8,6 @@
 
 namespace vistrel::editor {
 
-/// True for a name that ends in ".SYS".
-bool IsScreenName(const std::string& name);
-
 /// True for a hidden or system entry, which no list shows.
 bool IsOutOfSight(const platform::FolderEntry& entry);
 

@@ -128,6 +128,8 @@ void SelPictureForm::AttachMenus() {
         AddItem(ItmSetLogo[i], ID_ItmSetLogo + i, [this, i] { AddButton_Click(i); });
     AddItem(ItmAdjust, ID_ItmAdjust, [this] { AdjustButton_Click(); });
     AddItem(ItmManySets, ID_ItmManySets, [this] { ItmManySets_Click(); });
+    AddItem(ItmShowAtStart, ID_BrowserShowAtStart, [this] { ItmShowAtStart_Click(); });
+    AddItem(ItmMend, ID_BrowserMend, [this] { ItmMend_Click(); });
     AddItem(ItmMoveColors, ID_ItmMoveSelected, [this] { ItmMoveColors_Click(); });
     // These join the main window's menu while it pops up over a slot.
     for (int i = 0; i < 3; ++i) commands_[ID_ItmAdjustSlot + i] = [this, i] { AdjustSlot(i); };
@@ -205,7 +207,7 @@ bool SelPictureForm::Form_Unload() {
 }
 
 void SelPictureForm::CheckBtnStatus() {
-    LblWritten.SetText("");
+    ShowWritten("");
     const CommandStatus status =
         StatusOfCommands({SetChanged, NameChanged, !LoadedSet.empty(), !NameLogoSet.Text().empty()},
                          {OkButton[0].Enabled(), OkButton[1].Enabled(), EliminaSetBtn.Enabled()});

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "adjust/adjustments.h"
+#include "boot_show/boot_screens.h"
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/drive_list.h"
@@ -62,7 +63,8 @@ class SelPictureForm : public controls::Window {
     controls::Button ActButton;
     controls::Button CloseButton;
     controls::ListBox List1;     ///< hidden: the temporary files of this session
-    controls::Label LblWritten;  ///< what the last command that saved has written
+    controls::Label LblWritten;  ///< what the last command that saved has written, or, in red,
+                                 ///< what is wrong with the screens that are shown
 
     // Menus mnuAction and MnuManage
     controls::MenuItem OkButton[2];  ///< create, update
@@ -74,6 +76,8 @@ class SelPictureForm : public controls::Window {
     controls::MenuItem ItmSetLogo[3];
     controls::MenuItem ItmAdjust;
     controls::MenuItem ItmManySets;
+    controls::MenuItem ItmShowAtStart;
+    controls::MenuItem ItmMend;
     controls::MenuItem ItmMoveColors;
 
     // What one session holds
@@ -108,6 +112,7 @@ class SelPictureForm : public controls::Window {
     bool MayEndSession() override;
     void SessionEnds() override;
     void Form_Resize(controls::Size client) override;
+    void Form_KeyUp(int key) override;
     controls::Size SmallestSize() const override;
     void MenuCommand(int id) override;
     void MenuOpens(platform::MenuHandle menu) override;
@@ -214,6 +219,20 @@ class SelPictureForm : public controls::Window {
     std::vector<std::string> SelectedPictures() const;
     void ItmManySets_Click();
 
+    // Screens as the system shows them
+    void ItmShowAtStart_Click();
+    void ItmMend_Click();
+    void ShowAtStart(const std::vector<boot_show::ScreenFile>& files);
+    void ShowBoxAtStart(const controls::PictureBox& box);
+    void ShowFocusedAtStart();
+    bool HasMendableSelected() const;
+    void Mend(const std::string& path);
+    bool RunScreenCommand(int id);
+    bool ShowsFaults() const;
+    void JudgeSelected();
+    void JudgeSlot(int index);
+    void ShowFaults();
+    void ShowWritten(const std::string& text);
     // Moving colours
     void ItmMoveColors_Click();
     void MoveSlot();
@@ -252,6 +271,8 @@ class SelPictureForm : public controls::Window {
     SetType type_ = SetType::Complete;
     controls::Size smallest_;  ///< of the whole window: what fits a screen of 640 x 480
     const controls::PictureBox* menuBox_ = nullptr;  ///< whose menu was opened last
+    std::string selectedFault_;        ///< what is wrong with the selected picture, in words
+    std::string slotFault_[3];         ///< the same of the screens in the slots
     controls::Point pressedAt_;        ///< where the left button went down over CurView
     std::string oldName_;              ///< of the item whose label is edited
     std::string setsOwnTag_[3];        ///< of slots 1 and 2 while they show the shared screens

@@ -56,23 +56,21 @@ void SelPictureForm::ShowAsSelected(const std::string& screen) {
     IsSysFile = true;
     ShowVerdict(kReadyColor, "320 x  400 x  256");
     EnableImage();
+    JudgeSelected();
 }
 
 // The menu is the main window's: what a slot adds to it is taken away again.
 void SelPictureForm::ShowPictureMenu(const controls::PictureBox& box, controls::Point at) {
     const platform::MenuHandle menu = host_.OpenWithMenu(box.Tag());
     const bool isSlot = &box != &CurView;
+    const int adjust = ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview);
     menuBox_ = &box;
     // Colours move on a startup screen only.
     controls::SetMenuEnabled(menu, ID_ItmMoveColors,
                              isSlot ? &box == &ImgPreview[0] : IsAdjustable());
-    if (isSlot) {
-        controls::AddMenuSeparator(menu);
-        controls::AddMenuItem(menu, ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview),
-                              "Ad&just...");
-    }
+    if (isSlot) controls::AddMenuItemBefore(menu, ID_ItmShowAtStart, adjust, "Ad&just...");
     PopUpMenu(menu, box.OnScreen(at), host_.DefaultOpenWithItem());
-    for (int added = isSlot ? 2 : 0; added > 0; --added) controls::RemoveLastMenuItem(menu);
+    if (isSlot) controls::RemoveItemBefore(menu, adjust);
 }
 
 std::vector<std::string> SelPictureForm::SelectedPictures() const {

@@ -2,6 +2,7 @@
 #include "controls/drag.h"
 #include "controls/screen_metrics.h"
 #include "core/generali.h"
+#include "core/screen_file.h"
 #include "editor/picture_folder.h"
 #include "editor/select_picture_form.h"
 #include "pictures/formats.h"
@@ -22,7 +23,9 @@ constexpr long kDarkGround = 0;
 constexpr long kLightGround = 0xFFFFFF;
 constexpr const char* kFixedFolder = "c:\\programmi\\vistrel95\\";
 
-const char* IconOfPicture(const std::string& name) { return IsScreenName(name) ? "sys" : "im"; }
+const char* IconOfPicture(const std::string& name) {
+    return core::IsScreenName(name) ? "sys" : "im";
+}
 
 std::string FolderAbove(std::string folder) {
     const std::string name = core::GetFileName(folder);
@@ -177,6 +180,7 @@ void SelPictureForm::ForgetPicture() {
     CurView.Clear();
     ShowVerdict(kNoPictureColor, kNoLogoSelected);
     DisableImage();
+    JudgeSelected();
 }
 
 void SelPictureForm::CheckImage(const std::string& path) {
@@ -186,9 +190,11 @@ void SelPictureForm::CheckImage(const std::string& path) {
         // Quirk: buttons that an earlier picture enabled stay enabled; the slots look at the
         // verdict (Browsing.AFileOfNoPictureKindLeavesTheSlotsEnabledButTheyTakeNothing).
         if (!SlotsEnabled) DisableImage();
+        selectedFault_.clear();
+        ShowFaults();
         return;
     }
-    IsSysFile = IsScreenName(path);
+    IsSysFile = core::IsScreenName(path);
 
     const platform::BusyPointer busy;
     std::int32_t width = 0;
@@ -204,6 +210,7 @@ void SelPictureForm::CheckImage(const std::string& path) {
         logoForm && IsSysFile ? kReadyColor : kConvertColor,
         core::Trim(Signed(width)) + " x " + Signed(height) + " x " + Signed(ColorsOfDepth(depth)));
     EnableImage();
+    JudgeSelected();
 }
 
 void SelPictureForm::CurView_MouseDown(controls::Point at) { pressedAt_ = at; }

@@ -39,6 +39,8 @@ void SelPictureForm::MenuOpens(platform::MenuHandle menu) {
     for (int i = 0; i < 3; ++i) ItmSetLogo[i].SetEnabled(SlotsEnabled && ImgPreview[i].Visible());
     ItmAdjust.SetEnabled(IsAdjustable());
     ItmManySets.SetEnabled(!SelectedPictures().empty());
+    ItmShowAtStart.SetEnabled(IsAdjustable());
+    ItmMend.SetEnabled(HasMendableSelected());
     ItmMoveColors.SetEnabled(IsAdjustable());
 }
 
@@ -61,7 +63,7 @@ bool SelPictureForm::RunOpenWith(int id) {
 }
 
 void SelPictureForm::MenuCommand(int id) {
-    if (RunOpenWith(id)) return;
+    if (RunScreenCommand(id) || RunOpenWith(id)) return;
     if (id == ID_BtnOK && LogoList.HasFocus()) LogoList_DblClick();  // Enter
     if (id == ID_BtnCancel) CloseButton_Click();                     // Esc
     if (const auto command = commands_.find(id); command != commands_.end()) command->second();

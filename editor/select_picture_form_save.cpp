@@ -28,7 +28,7 @@ std::string NamesOfScreens(const std::string& folder) {
 void SelPictureForm::NameLogoSet_Change() {
     if (NameLogoSet.Text().empty()) {
         controls::EnableControls(false, OkButton[0], OkButton[1], EliminaSetBtn);
-        LblWritten.SetText("");
+        ShowWritten("");
         return;
     }
     NameChanged = true;
@@ -147,7 +147,7 @@ void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::str
     if (!result.saved) {
         // Quirk: the message is about the folder, whichever step failed, and names what was read
         // last (Saving.AnEmptySlotDeletesItsScreenAndEndsTheUpdate).
-        LblWritten.SetText("");
+        ShowWritten("");
         platform::Tell(
             handle(),
             "A directory named " + result.lastRead + " already exist or bad directory name!",
@@ -159,7 +159,7 @@ void SelPictureForm::FinishSaving(const core::SaveResult& result, const std::str
     SetChanged = false;
     NameChanged = false;
     AggiornaDir();
-    LblWritten.SetText(what + ": " + NamesOfScreens(folder));
+    ShowWritten(what + ": " + NamesOfScreens(folder));
 }
 
 void SelPictureForm::EliminaSetBtn_Click() {

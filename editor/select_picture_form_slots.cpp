@@ -30,6 +30,7 @@ void SelPictureForm::ShowType(SetType type) {
     if (type == SetType::Complete) OptCompSet_Click();
     if (type == SetType::DefaultScreens) OptDefShut_Click();
     if (type == SetType::OnlyStartup) OptOnlyStart_Click();
+    ShowFaults();
 }
 
 // The shared screens take the places of the set's own wait and shutdown screens for a while.
@@ -92,6 +93,7 @@ void SelPictureForm::ShowInSlot(int index, const std::string& path) {
     ImgPreview[index].SetTag(path);
     // Grey where a file is named that shows nothing.
     DeleteButton[index].SetEnabled(path.empty() || ImgPreview[index].HasPicture());
+    JudgeSlot(index);
 }
 
 void SelPictureForm::AddButton_Click(int index) {
@@ -124,6 +126,7 @@ void SelPictureForm::FillSlot(int index, const std::string& path) {
     preview::DrawPreview(path, ImgPreview[index]);
     ImgPreview[index].SetTag(path);
     DeleteButton[index].SetEnabled(true);
+    JudgeSlot(index);
 }
 
 void SelPictureForm::DeleteButton_Click(int index) {

@@ -102,5 +102,6 @@ inline constexpr unsigned long MovingCancel = 161;
 inline constexpr unsigned long DefaultLogo = 84;
 inline constexpr unsigned long LogoType = 85;
 inline constexpr unsigned long NumLogo = 86;
+inline constexpr unsigned long LblFaults = 87;
 
 }  // namespace vistrel::help_number

@@ -9,19 +9,12 @@
 
 namespace vistrel::main_window {
 
-namespace {
-
-/// About 15 steps a second, as the system moves the colours while it starts.
-constexpr unsigned kAnimationInterval = 66;
-
-}  // namespace
-
 FrmView::FrmView(std::string path, bool animate)
     : Window("FrmView", IDD_FrmView),
       path_(std::move(path)),
       animate_(animate),
       opened_(controls::MomentOfMessage()),
-      AnimationTimer(kAnimationInterval) {
+      AnimationTimer(preview::kAnimationInterval) {
     const controls::Part parts[] = {{Preview, ID_Preview, 0, "Click or press a key to close"}};
     AddParts(parts);
     Add(AnimationTimer);

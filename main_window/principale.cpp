@@ -41,6 +41,7 @@ Principale::Principale(core::SystemLocations locations)
         {LblScreen[2], ID_LblScreen + 2},
         {DefaultLogo, ID_DefaultLogo, help_number::DefaultLogo, "Default logo set"},
         {LblDefaultLogo, ID_LblDefaultLogo},
+        {LblFaults, ID_LblFaults, help_number::LblFaults},
         {LogoType, ID_LogoType, help_number::LogoType},
         {NumLogo, ID_NumLogo, help_number::NumLogo},
     };
@@ -79,6 +80,7 @@ void Principale::Form_Load() {
     MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
     DefaultLogo.SetFont({.bold = true});
     DefaultLogo.SetForeColor(controls::kBlue);
+    LblFaults.SetForeColor(controls::kDarkRed);
 
     locations_.startupFolder = core::GetStartupFolder();
     for (int i = 0; i < 3; ++i)
@@ -177,6 +179,8 @@ void Principale::Form_Resize(controls::Size client) {
     const int bigTop = top + line + gap;
     Imag[0].MoveTo({left, bigTop, bigWidth, bigWidth * 3 / 4});
     LblScreen[0].MoveTo({left + bigWidth + gap, bigTop, labelWidth, twoLines});
+    LblFaults.MoveTo({left + bigWidth + gap, bigTop + twoLines + gap, labelWidth,
+                      bigWidth * 3 / 4 - twoLines - gap});
     const int smallWidth = (panel - gap) / 2;
     const int smallTop = bigTop + bigWidth * 3 / 4 + gap;
     for (int i = 1; i < 3; ++i) {

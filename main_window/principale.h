@@ -73,6 +73,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     controls::Label LblScreen[3];
     controls::Label DefaultLogo;
     controls::Label LblDefaultLogo;
+    controls::Label LblFaults;  ///< what is wrong with the screens that are shown
     controls::Label LogoType;
     controls::Label NumLogo;
     controls::Timer Timer1;
@@ -146,6 +147,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool ASetIsSelected() const;
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
+    void ShowFaults();
+    void ShowScreensAtStart();
+    void ItmMend_Click(platform::WindowHandle owner);
     void ShowInstalledSet();
     void ShowInstalledScreens();
     void ShowSetScreens();

@@ -132,9 +132,10 @@ void Principale::MyList_KeyUp(int key) {
 }
 
 void Principale::Form_KeyUp(int key) {
-    if (key != controls::kKeyF1) return;
+    if (key != controls::kKeyF1 && key != controls::kKeyF11) return;
     EndEdits();
-    ItmContents_Click();
+    if (key == controls::kKeyF1) ItmContents_Click();
+    if (key == controls::kKeyF11) ShowScreensAtStart();
 }
 
 void Principale::ItmRename_Click() { MyList.StartLabelEdit(); }

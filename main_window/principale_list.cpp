@@ -4,8 +4,10 @@
 #include "core/entry_name.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "core/screen_file.h"
 #include "main_window/principale.h"
 #include "pictures/preview/draw_preview.h"
+#include "pictures/screen/fault_words.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
@@ -69,6 +71,7 @@ void Principale::ShowScreens(const std::array<std::string, 3>& paths) {
         preview::DrawPreview(paths[i], Imag[i]);  // a missing screen clears the box
         Imag[i].SetTag(paths[i]);
     }
+    ShowFaults();
 }
 
 void Principale::ClearScreens() {
@@ -76,6 +79,28 @@ void Principale::ClearScreens() {
         box.SetTag("");
         box.Clear();
     }
+    ShowFaults();
+}
+
+// In the room beside the first screen, which is small: where there is something wrong with several,
+// the tips of their pictures tell what that leads to.
+void Principale::ShowFaults() {
+    std::string all;
+    std::string brief;
+    int wrong = 0;
+    for (int i = 0; i < 3; ++i) {
+        const auto faults = core::FaultsOfScreenFile(Imag[i].Tag());
+        const std::string name = core::kScreenFileNames[i];
+        const std::string sentence = screen::SentenceOn(name, faults);
+        Imag[i].SetTip(sentence);
+        LblScreen[i].SetForeColor(faults.empty() ? controls::kSystemColor : controls::kDarkRed);
+        if (faults.empty()) continue;
+        const char* newLine = wrong++ > 0 ? "\r\n" : "";
+        all += newLine + sentence;
+        brief += newLine + name + " " + screen::InWords(faults) + ".";
+    }
+    LblFaults.SetText(wrong > 1 ? brief : all);
+    LblFaults.SetTip(all);
 }
 
 void Principale::RedrawScreens() {

@@ -1,6 +1,9 @@
 // Clicks on the screens, and what is done with the picture that was clicked.
+#include "boot_show/frm_boot_show.h"
+#include "boot_show/mend_screen.h"
 #include "controls/menu.h"
 #include "core/generali.h"
+#include "core/screen_file.h"
 #include "main_window/frm_view.h"
 #include "main_window/principale.h"
 #include "options/frm_options.h"
@@ -28,7 +31,9 @@ void Principale::OpenPicture(const std::string& path, platform::WindowHandle own
 
 platform::MenuHandle Principale::OpenWithMenu(const std::string& path) {
     currentPicture_ = path;
-    return ClassicMenu(kMenuOpenWith);
+    const platform::MenuHandle menu = ClassicMenu(kMenuOpenWith);
+    controls::SetMenuEnabled(menu, ID_ItmMend, core::CanBeMended(core::FaultsOfScreenFile(path)));
+    return menu;
 }
 
 int Principale::DefaultOpenWithItem() const { return ID_ItmOpenAct + settings_.defaultAction; }
@@ -38,9 +43,24 @@ bool Principale::OpenWithCommand(int id, platform::WindowHandle owner) {
         SetAnimationShown(!AnimationShown());
     else if (id >= ID_ItmOpenAct && id <= ID_ItmOpenAct + 2)
         AzioneSuImmagine(id - ID_ItmOpenAct, owner);
+    else if (id == ID_ItmShowAtStart)
+        ShowScreensAtStart();
+    else if (id == ID_ItmMend)
+        ItmMend_Click(owner);
     else
         return false;
     return true;
+}
+
+void Principale::ShowScreensAtStart() {
+    boot_show::ShowAsAtStart(handle(),
+                             boot_show::ScreensOfSet(Imag[0].Tag(), Imag[1].Tag(), Imag[2].Tag()));
+}
+
+void Principale::ItmMend_Click(platform::WindowHandle owner) {
+    if (!boot_show::AskAndMend(owner, currentPicture_)) return;
+    RedrawScreens();
+    ShowFaults();
 }
 
 bool Principale::AnimationShown() const { return MenuMark(ID_ItmAnimate); }

@@ -12,6 +12,7 @@
 #define IDD_FrmAboutReg 105
 #define IDD_FrmAdjust 106
 #define IDD_FrmManySets 107
+#define IDD_FrmBootShow 108
 #define IDD_FrmAnimate 109
 #define IDM_Principale 110
 #define IDM_SelPictureForm 111
@@ -44,6 +45,7 @@
 #define ID_LogoType 1009
 #define ID_NumLogo 1010
 #define ID_LblDefaultLogo 1011
+#define ID_LblFaults 1012
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051
@@ -81,6 +83,8 @@
 #define ID_ItmExit 1115
 #define ID_ItmOpenAct 1116  // 1116 actual size, 1117 Paint, 1118 custom program
 #define ID_ItmAnimate 1119
+#define ID_ItmShowAtStart 1120
+#define ID_ItmMend 1121
 #define ID_ItmMoveColors 1122
 #define ID_ItmDriveList 1130  // 1130 stands for none; 1131 on, one for each fixed drive
 
@@ -88,6 +92,7 @@
 #define ID_LblSplashVersion 1180
 #define ID_SplashPicture 1181
 #define ID_Preview 1190
+#define ID_BootScreen 1191
 
 // Logo browser: 1200 to 1399
 #define ID_Drive1 1200
@@ -125,6 +130,8 @@
 #define ID_ItmAdjust 1266
 #define ID_ItmManySets 1267
 #define ID_ItmAdjustSlot 1268  // 1268 to 1270
+#define ID_BrowserShowAtStart 1271
+#define ID_BrowserMend 1272
 #define ID_ItmMoveSelected 1273
 
 // Preferences: 1400 to 1599

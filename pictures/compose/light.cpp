@@ -140,9 +140,13 @@ std::array<std::uint8_t, 256> ToneTable(const Light& light, const Levels& levels
 }
 
 void ApplyLight(const Light& light, const ScreenRectangle& within, pictures::RgbPicture& screen) {
+    ApplyLight(light, light.autoLevels ? LevelsOf(screen, within) : Levels{}, within, screen);
+}
+
+void ApplyLight(const Light& light, const Levels& levels, const ScreenRectangle& within,
+                pictures::RgbPicture& screen) {
     if (light == Light{}) return;
-    const std::array<std::uint8_t, 256> tone =
-        ToneTable(light, light.autoLevels ? LevelsOf(screen, within) : Levels{});
+    const std::array<std::uint8_t, 256> tone = ToneTable(light, levels);
     const std::array<std::int16_t, 511> differences = SaturationTable(light.saturation);
     for (int y = 0; y < within.height; ++y) {
         std::uint8_t* const row = RowWithin(within, y, screen);

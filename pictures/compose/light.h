@@ -39,4 +39,8 @@ std::array<std::uint8_t, 256> ToneTable(const Light& light, const Levels& levels
 /// Applies `light` within a rectangle of a screen.
 void ApplyLight(const Light& light, const ScreenRectangle& within, pictures::RgbPicture& screen);
 
+/// The same to colours that go with another picture, by the levels of that one.
+void ApplyLight(const Light& light, const Levels& levels, const ScreenRectangle& within,
+                pictures::RgbPicture& screen);
+
 }  // namespace vistrel::compose

@@ -5,17 +5,15 @@
 #include <cmath>
 #include <new>
 
-#include "pictures/bmp/writer.h"
 #include "pictures/compose/frame.h"
 #include "pictures/compose/light.h"
+#include "pictures/compose/movement.h"
 #include "pictures/compose/text.h"
 #include "pictures/file.h"
 #include "pictures/formats.h"
 
 namespace vistrel::compose {
 namespace {
-
-constexpr int kColors = 256;
 
 /// The size of the Intermediate of a picture: twice as fine as the screen where the picture fills
 /// it, or as fine as the bounds allow, and never finer than the picture.
@@ -75,7 +73,7 @@ std::optional<Intermediate> ReadComposed(const std::string& path) try {
                         reduced.width, reduced.height);
     if (!picture) return std::nullopt;
     picture->pixels.push_back(0);
-    return Intermediate{*size, ChecksumOf(*file), std::move(*picture)};
+    return Intermediate{*size, ChecksumOf(*file), ReadMovingScreen(path), std::move(*picture)};
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
@@ -103,13 +101,13 @@ pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition
 }
 
 std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
-                                            reduce::Dither dither) try {
+                                            reduce::Dither dither, int colors) try {
     screen::IndexedScreen reduced;
     reduced.width = screen.width;
     reduced.height = screen.height;
     reduced.indices.resize(std::size_t(screen.width) * screen.height);
     std::vector<std::uint8_t> entries(kColors * 4);
-    if (!reduce::QuantizeRgb(screen.pixels.data(), screen.width, screen.height, kColors,
+    if (!reduce::QuantizeRgb(screen.pixels.data(), screen.width, screen.height, colors,
                              reduced.indices.data(), entries.data(), dither)) {
         return std::nullopt;
     }
@@ -121,12 +119,7 @@ std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
 }
 
 bool Write(const std::string& path, const screen::IndexedScreen& screen) try {
-    std::vector<std::uint8_t> entries;
-    for (const auto& [red, green, blue] : screen.palette)
-        entries.insert(entries.end(), {blue, green, red, 0});
-    return pictures::WriteWholeFile(
-        path, bmp::ColormappedBmp(screen.indices.data(), screen.width, screen.height, kColors,
-                                  entries.data()));
+    return pictures::WriteWholeFile(path, screen::ScreenFile(screen));
 } catch (const std::bad_alloc&) {
     return false;
 }
@@ -135,8 +128,8 @@ pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::
                                       const Composition& composition) try {
     const std::optional<Framed> framed = ReadFramed(sourcePath, composition);
     if (!framed) return pictures::ConversionResult::NotRead;
-    const std::optional<screen::IndexedScreen> screen =
-        Reduce(Adjust(*framed, composition), composition.dither);
+    const std::optional<screen::IndexedScreen> screen = ReduceMoving(
+        ReadMovingScreen(sourcePath), *framed, Adjust(*framed, composition), composition);
     if (!screen) return pictures::ConversionResult::NotReduced;
     return Write(targetPath, *screen) ? pictures::ConversionResult::Written
                                       : pictures::ConversionResult::NotWritten;

@@ -31,8 +31,9 @@ namespace vistrel::compose {
 /// so that any framing of it can be made quickly. Zoomed to more than 2 it is less sharp than the
 /// file.
 struct Intermediate {
-    pictures::PictureSize file;  ///< the picture's size in the file
-    std::uint64_t checksum = 0;  ///< as ChecksumOfPicture tells it
+    pictures::PictureSize file;                   ///< the picture's size in the file
+    std::uint64_t checksum = 0;                   ///< as ChecksumOfPicture tells it
+    std::optional<screen::IndexedScreen> moving;  ///< see ReadMovingScreen in movement.h
     /// One byte longer than it would have to be, so that four can be read at every pixel.
     pictures::RgbPicture reduced;
 };
@@ -68,15 +69,19 @@ std::optional<Framed> ReadFramed(const std::string& path, const Composition& com
 /// Light and text.
 pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition);
 
-/// The 256 colours that will be on the disk. Empty when memory runs out.
+/// All colours that a screen can have.
+inline constexpr int kColors = 256;
+
+/// The 256 colours that will be on the disk, or fewer. Empty when memory runs out.
 std::optional<screen::IndexedScreen> Reduce(const pictures::RgbPicture& screen,
-                                            reduce::Dither dither);
+                                            reduce::Dither dither, int colors = kColors);
 
 /// Writes a screen file; false when that fails, and `path` is then as it was.
 bool Write(const std::string& path, const screen::IndexedScreen& screen);
 
 /// All of it: a screen file of any picture, by ReadFramed. Unless the result is Written, the target
-/// is as it was. An untouched Composition gives what TryConvertToLogo gives.
+/// is as it was. An untouched Composition gives what TryConvertToLogo gives; only that a screen
+/// whose colours move goes on moving as far as it can (see movement.h).
 pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
                                       const Composition& composition);
 

@@ -13,11 +13,16 @@ namespace vistrel::preview {
 struct ScreenAnimation::State {
     screen::IndexedScreen screen;
     std::vector<std::uint8_t> rows;  ///< as Windows draws them: padded to multiples of four
+    controls::Rect moving;           ///< holds all pixels of the screen whose colours move
     HPALETTE palette = nullptr;      ///< the screen's own colours, on a display with a palette
     controls::PictureBox* box = nullptr;
+    controls::Rect place;  ///< of the screen in the box
 
-    ~State() {
+    ~State() { SetPalette(nullptr); }
+
+    void SetPalette(HPALETTE other) {
         if (palette) DeleteObject(palette);
+        palette = other;
     }
 };
 
@@ -30,6 +35,42 @@ std::vector<std::uint8_t> PaddedRows(const screen::IndexedScreen& screen) {
         std::copy_n(screen.indices.begin() + static_cast<std::ptrdiff_t>(y) * screen.width,
                     screen.width, rows.begin() + static_cast<std::ptrdiff_t>(y * stride));
     return rows;
+}
+
+controls::Rect MovingPart(const screen::IndexedScreen& screen) {
+    if (!screen.IsAnimated()) return {};
+    int left = screen.width, top = screen.height, right = 0, bottom = 0;
+    const std::uint8_t* index = screen.indices.data();
+    for (int y = 0; y < screen.height; ++y)
+        for (int x = 0; x < screen.width; ++x) {
+            if (*index++ < screen.firstAnimated) continue;
+            left = std::min(left, x);
+            right = std::max(right, x + 1);
+            top = std::min(top, y);
+            bottom = y + 1;
+        }
+    return {left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
+}
+
+/// Where a part of a screen is seen that is stretched over `place`, rounded outwards.
+RECT SeenPart(const controls::Rect& part, const screen::IndexedScreen& screen,
+              const controls::Rect& place) {
+    const auto outwards = [](int value, int times, int by) {
+        return (value * times + by - 1) / by;
+    };
+    return {place.left + part.left * place.width / screen.width,
+            place.top + part.top * place.height / screen.height,
+            place.left + outwards(part.right(), place.width, screen.width),
+            place.top + outwards(part.bottom(), place.height, screen.height)};
+}
+
+void BlackenAround(HDC target, const controls::Rect& place, int width, int height) {
+    const auto black = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+    const RECT around[] = {{0, 0, width, place.top},
+                           {0, place.bottom(), width, height},
+                           {0, place.top, place.left, place.bottom()},
+                           {place.right(), place.top, width, place.bottom()}};
+    for (const RECT& part : around) FillRect(target, &part, black);
 }
 
 /// All 256 colours, from the first that moves to the last one before it: the system has room for
@@ -60,6 +101,7 @@ HPALETTE OwnPalette(const screen::IndexedScreen& screen) {
 ScreenAnimation::ScreenAnimation(screen::IndexedScreen screen) : state_(std::make_unique<State>()) {
     state_->screen = std::move(screen);
     state_->rows = PaddedRows(state_->screen);
+    state_->moving = MovingPart(state_->screen);
 }
 
 ScreenAnimation::~ScreenAnimation() {
@@ -74,10 +116,17 @@ std::unique_ptr<ScreenAnimation> ScreenAnimation::Load(const std::string& path) 
     return std::make_unique<ScreenAnimation>(std::move(*screen));
 }
 
+bool ScreenAnimation::IsAnimated() const { return state_->screen.IsAnimated(); }
+
 void ScreenAnimation::Attach(controls::PictureBox& box) {
+    Attach(box, {0, 0, state_->screen.width, state_->screen.height});
+}
+
+void ScreenAnimation::Attach(controls::PictureBox& box, const controls::Rect& place) {
     state_->box = &box;
+    state_->place = place;
     box.PaintInstead = [this](platform::DeviceContext target) { Paint(target); };
-    if (controls::DisplayHasPalette()) state_->palette = OwnPalette(state_->screen);
+    state_->SetPalette(controls::DisplayHasPalette() ? OwnPalette(state_->screen) : nullptr);
     box.Repaint();
 }
 
@@ -102,19 +151,23 @@ void ScreenAnimation::Paint(platform::DeviceContext target) {
             info.colors[i] = {color[2], color[1], color[0], 0};
         }
     }
-    SetDIBitsToDevice(target, 0, 0, static_cast<DWORD>(state_->screen.width),
-                      static_cast<DWORD>(state_->screen.height), 0, 0, 0,
-                      static_cast<UINT>(state_->screen.height), state_->rows.data(),
-                      reinterpret_cast<const BITMAPINFO*>(&info),
-                      state_->palette ? DIB_PAL_COLORS : DIB_RGB_COLORS);
+    const controls::Rect& place = state_->place;
+    SetStretchBltMode(target, COLORONCOLOR);
+    StretchDIBits(target, place.left, place.top, place.width, place.height, 0, 0,
+                  state_->screen.width, state_->screen.height, state_->rows.data(),
+                  reinterpret_cast<const BITMAPINFO*>(&info),
+                  state_->palette ? DIB_PAL_COLORS : DIB_RGB_COLORS, SRCCOPY);
+    BlackenAround(target, place, state_->box->ScaleWidth(), state_->box->ScaleHeight());
     if (former) SelectPalette(target, former, FALSE);
 }
 
 void ScreenAnimation::Step() {
-    if (!state_->screen.IsAnimated()) return;
+    if (!IsAnimated()) return;
     screen::RotateColors(state_->screen);
     if (!state_->palette) {
-        InvalidateRect(state_->box->handle(), nullptr, FALSE);
+        // The rest stays as it is, which spares an old machine most of the work.
+        const RECT moving = SeenPart(state_->moving, state_->screen, state_->place);
+        InvalidateRect(state_->box->handle(), &moving, FALSE);
         return;
     }
     // The display's own table changes; what is on the screen moves without being painted.

@@ -1,4 +1,5 @@
-// Shows a screen whose colours move, on displays with a palette and without.
+// Shows a screen as the system does, whose colours may move, on displays with a palette and
+// without.
 #pragma once
 
 #include <memory>
@@ -10,6 +11,10 @@
 
 namespace vistrel::preview {
 
+/// Milliseconds from one step to the next: about 15 a second, as the system moves the colours while
+/// it starts.
+inline constexpr unsigned kAnimationInterval = 66;
+
 class ScreenAnimation {
  public:
     /// Empty when the file is no screen with animated colours.
@@ -20,8 +25,13 @@ class ScreenAnimation {
     ScreenAnimation(const ScreenAnimation&) = delete;
     ScreenAnimation& operator=(const ScreenAnimation&) = delete;
 
+    bool IsAnimated() const;
+
     /// Shows the screen in `box`, which has its size, from now on.
     void Attach(controls::PictureBox& box);
+    /// Shows it stretched over a part of the box; all around is black. Again after the box, or the
+    /// display, has changed.
+    void Attach(controls::PictureBox& box, const controls::Rect& place);
     /// Moves the colours by one step. Only colours change: nothing is read or reduced again.
     void Step();
 

@@ -206,6 +206,16 @@ TEST_F(Layout, OfTheMainWindow) {
     Look(main, "main-installed");
 }
 
+TEST_F(Layout, OfTheMainWindowWithAScreenThatWouldFlash) {
+    std::string file = ScreenFile(255, 0, 0);
+    file[51] = 1;  // 256 where the first moving colour belongs
+    Put(logos + "Red\\LOGO.SYS", file);
+    Principale main(locations);
+    Open(main);
+    ASSERT_NE(main.LblFaults.Text(), "");
+    Look(main, "main-faults");
+}
+
 TEST_F(Layout, OfTheMainWindowAtItsSmallest) {
     Principale main(locations);
     Open(main);

@@ -6,6 +6,7 @@
 
 #include "about/frm_splash.h"
 #include "adjust/frm_adjust.h"
+#include "boot_show/frm_boot_show.h"
 #include "controls/display_palette.h"
 #include "main_window/frm_view.h"
 #include "pictures/bmp/writer.h"
@@ -282,6 +283,33 @@ TEST_F(PaletteDisplay, TakesItsColorsBackWhenTheUserReturns) {
     }
     ASSERT_TRUE(user::Activate(main.handle()));
     EXPECT_TRUE(WaitUntil([] { return Present(DisplayPalette()) == kDisplayColors; }));
+}
+
+/// How many of a screen's own colours the display can show now.
+int PresentOf(const screen::IndexedScreen& screen) {
+    const auto colors = DisplayColors();
+    return static_cast<int>(
+        std::count_if(screen.palette.begin(), screen.palette.end(), [&](const auto& c) {
+            return std::count(colors.begin(), colors.end(), RGB(c[0], c[1], c[2])) > 0;
+        }));
+}
+
+TEST_F(PaletteDisplay, ShowsAScreenAsAtStartInItsOwnColors) {
+    Principale main(locations);
+    Open(main);
+    for (const bool animated : {true, false}) {
+        ASSERT_TRUE(user::Activate(main.handle()));
+        ASSERT_TRUE(WaitUntil([] { return Present(DisplayPalette()) == kDisplayColors; }));
+        Put(screen, Landscape(animated));
+        auto screens = boot_show::ReadScreens({{screen, boot_show::Colors::Move}});
+        ASSERT_EQ(screens.size(), 1u);
+        const screen::IndexedScreen own = screens[0];
+        ASSERT_LT(PresentOf(own), 128);
+        boot_show::FrmBootShow show(std::move(screens));
+        Open(show);
+        EXPECT_TRUE(WaitUntil([&] { return PresentOf(own) >= 230; })) << PresentOf(own);
+        user::TakeShot("show-256-colours");
+    }
 }
 
 TEST_F(PaletteDisplay, DithersTheSplashPicture) {

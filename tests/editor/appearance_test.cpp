@@ -61,7 +61,8 @@ TEST_F(Appearance, TheMenusSayWhatTheyDo) {
         EXPECT_EQ(seen::TextsOf(user::WaitForPopUp()),
                   (Names{"&Rename\tF2", "&Delete\tDel", "&Refresh\tF5", "-", "Set as &LOGO.SYS",
                          "Set as LOGO&W.SYS", "Set as LOGO&S.SYS", "-", "Ad&just...",
-                         "&Make sets of these pictures...", "Moving &colours..."}));
+                         "&Make sets of these pictures...", "-", "Show as at &start\tF11", "&Mend",
+                         "Moving &colours..."}));
         DismissMenu();
     });
 }

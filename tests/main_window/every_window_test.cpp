@@ -9,6 +9,7 @@
 #include "adjust/frm_many_sets.h"
 #include "animate/frm_animate.h"
 #include "animate/read_screen.h"
+#include "boot_show/frm_boot_show.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
@@ -61,10 +62,11 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
         FrmAnimate animate(
             *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt),
             [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
+        boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
         FrmAboutReg about;
         frmSplash splash;
-        for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
-                                                             &animate, &view, &about, &splash}) {
+        for (Window* window : std::initializer_list<Window*>{
+                 &options, &editor, &adjust, &many, &animate, &view, &show, &about, &splash}) {
             ASSERT_TRUE(window->Create(nullptr));
             Check(*window);
         }
