@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/grow_picture.h"
 #include "controls/menu.h"
 #include "controls/screen_metrics.h"
 #include "help/context_numbers.h"
@@ -17,9 +18,6 @@ namespace {
 
 /// A hand that did not move for so many milliseconds rests.
 constexpr unsigned kRest = 300;
-
-/// A screen needs no more room than this to be seen in all its pixels.
-constexpr int kWidestPicture = 640;
 
 }  // namespace
 
@@ -86,7 +84,7 @@ void FrmAdjust::Form_Load() {
     for (const char* caption : {"Framing", "Light", "Text"}) AdjustPages.AddTab(caption);
     AdjustPages.Select(kFraming);
     FillLists();
-    GrowToScreen();
+    controls::GrowPicture(*this, ScreenBox, AdjustPages, LblHint);
     ScreenBox.SetTag(source_);
     ShowSettings();
     ShowPage();
@@ -113,36 +111,6 @@ void FrmAdjust::ShowSettings() {
     ShowZoom();
     ShowLight();
     ShowLine();
-}
-
-// The picture takes the room that the screen has beside the window, in the shape of a screen.
-void FrmAdjust::GrowToScreen() {
-    const controls::Rect area = controls::WorkArea();
-    const controls::Size whole = WholeSize();
-    const controls::Rect place = ScreenBox.Bounds();
-    const int edge = place.width - ScreenBox.ScaleWidth();
-    const int roomAcross = place.width - edge + std::max(area.width - whole.width, 0);
-    const int roomDown = place.height - edge + std::max(area.height - whole.height, 0);
-    const int width = std::min({kWidestPicture, roomAcross, roomDown * 4 / 3});
-    const int height = width * 3 / 4;
-    const int wider = std::max(width + edge - place.width, 0);
-    const int higher = std::max(height + edge - place.height, 0);
-    ScreenBox.MoveTo({place.left + (place.width + wider - width - edge) / 2,
-                      place.top + (place.height + higher - height - edge) / 2, width + edge,
-                      height + edge});
-    const controls::Rect pages = AdjustPages.Bounds();
-    for (const auto& [id, control] : controls()) {
-        if (control == &ScreenBox) continue;
-        controls::Rect at = control->Bounds();
-        if (at.left >= pages.left) at.left += wider;
-        if (at.top >= pages.bottom()) at.top += higher;
-        if (control == &AdjustPages) at.height += higher;
-        if (control == &LblHint) at.width += wider;
-        control->MoveTo(at);
-    }
-    const controls::Size client = ClientSize();
-    SetClientSize({client.width + wider, client.height + higher});
-    CentreIn(area);
 }
 
 void FrmAdjust::Form_Activate() {

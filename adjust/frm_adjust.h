@@ -101,7 +101,6 @@ class FrmAdjust : public controls::Window {
     void AddText();
     void FillLists();
     void ShowSettings();
-    void GrowToScreen();
     Page CurrentPage() const { return static_cast<Page>(AdjustPages.SelectedIndex()); }
     void ShowPage();
     /// Enables what can be done now, and says how.

@@ -153,7 +153,8 @@ void PictureBox::Paint(platform::DeviceContext target) {
     }
     const RECT all{0, 0, ScaleWidth(), ScaleHeight()};
     if (HasPalette(target)) {
-        PaintThroughPalette(target, bitmap_, ScaleWidth(), ScaleHeight(), InActiveWindow());
+        PaintThroughPalette(target, bitmap_, ScaleWidth(), ScaleHeight(),
+                            InActiveWindow() && !leavesColors_);
         return;
     }
     if (canvasSize_.width == all.right && canvasSize_.height == all.bottom)

@@ -33,6 +33,9 @@ class PictureBox : public Control {
     /// bring in their own colours; those of the program's other windows take what is there. Else
     /// two windows of different colours would repaint each other endlessly.
     bool InActiveWindow() const;
+    /// From now on the picture is shown in colours that are there already: beside another box of
+    /// the window that brings in its own.
+    void LeaveColors() { leavesColors_ = true; }
     /// Paints the drawing area in place of the picture while it is set.
     std::function<void(platform::DeviceContext target)> PaintInstead;
 
@@ -68,6 +71,7 @@ class PictureBox : public Control {
     bool hasPicture_ = false;
     bool movable_ = false;
     bool pointerHidden_ = false;
+    bool leavesColors_ = false;
     const char* whyEmpty_ = kNoPicture;
     bool tabStop_ = false;    ///< its template lets Tab stop here
     bool spaceDown_ = false;  ///< and not up again, with the focus here all the time

@@ -21,4 +21,8 @@ Point PointerPosition() {
     return {static_cast<int>(at.x), static_cast<int>(at.y)};
 }
 
+bool IsShiftDown() { return GetKeyState(VK_SHIFT) < 0; }
+
+bool IsControlDown() { return GetKeyState(VK_CONTROL) < 0; }
+
 }  // namespace vistrel::controls

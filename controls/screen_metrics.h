@@ -13,6 +13,9 @@ Rect WholeDisplay();
 Rect WorkArea();
 /// Where the mouse pointer is on the screen.
 Point PointerPosition();
+/// Whether the key was down at the message that is being handled.
+bool IsShiftDown();
+bool IsControlDown();
 
 inline constexpr int kKeyShift = 16;
 inline constexpr int kKeyControl = 17;
@@ -22,6 +25,8 @@ inline constexpr int kKeyUp = 38;
 inline constexpr int kKeyRight = 39;
 inline constexpr int kKeyDown = 40;
 inline constexpr int kKeyDelete = 46;
+inline constexpr int kKeyY = 'Y';
+inline constexpr int kKeyZ = 'Z';
 inline constexpr int kKeyF1 = 112;
 inline constexpr int kKeyF2 = 113;
 inline constexpr int kKeyF5 = 116;

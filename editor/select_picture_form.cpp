@@ -130,8 +130,10 @@ void SelPictureForm::AttachMenus() {
     AddItem(ItmManySets, ID_ItmManySets, [this] { ItmManySets_Click(); });
     AddItem(ItmShowAtStart, ID_BrowserShowAtStart, [this] { ItmShowAtStart_Click(); });
     AddItem(ItmMend, ID_BrowserMend, [this] { ItmMend_Click(); });
+    AddItem(ItmMoveColors, ID_ItmMoveSelected, [this] { ItmMoveColors_Click(); });
     // These join the main window's menu while it pops up over a slot.
     for (int i = 0; i < 3; ++i) commands_[ID_ItmAdjustSlot + i] = [this, i] { AdjustSlot(i); };
+    commands_[ID_ItmMoveColors] = [this] { MoveColorsOfBox(); };
 }
 
 void SelPictureForm::Form_Load() {

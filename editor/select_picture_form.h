@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@
 #include "controls/window.h"
 #include "core/save_set.h"
 #include "editor/host.h"
+#include "pictures/rgb_picture.h"
 
 namespace vistrel::editor {
 
@@ -76,6 +78,7 @@ class SelPictureForm : public controls::Window {
     controls::MenuItem ItmManySets;
     controls::MenuItem ItmShowAtStart;
     controls::MenuItem ItmMend;
+    controls::MenuItem ItmMoveColors;
 
     // What one session holds
     bool SetChanged = false;       ///< slots or type changed since the set was loaded or saved
@@ -230,6 +233,12 @@ class SelPictureForm : public controls::Window {
     void JudgeSlot(int index);
     void ShowFaults();
     void ShowWritten(const std::string& text);
+    // Moving colours
+    void ItmMoveColors_Click();
+    void MoveSlot();
+    void MoveColorsOfBox();
+    std::string Moved(const std::string& path);
+    std::optional<pictures::RgbPicture> OriginalOf(const std::string& screen) const;
 
     // Names, loading and saving
     void ListNames();

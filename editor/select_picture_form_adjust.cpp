@@ -65,6 +65,9 @@ void SelPictureForm::ShowPictureMenu(const controls::PictureBox& box, controls::
     const bool isSlot = &box != &CurView;
     const int adjust = ID_ItmAdjustSlot + static_cast<int>(&box - ImgPreview);
     menuBox_ = &box;
+    // Colours move on a startup screen only.
+    controls::SetMenuEnabled(menu, ID_ItmMoveColors,
+                             isSlot ? &box == &ImgPreview[0] : IsAdjustable());
     if (isSlot) controls::AddMenuItemBefore(menu, ID_ItmShowAtStart, adjust, "Ad&just...");
     PopUpMenu(menu, box.OnScreen(at), host_.DefaultOpenWithItem());
     if (isSlot) controls::RemoveItemBefore(menu, adjust);

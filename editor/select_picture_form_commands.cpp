@@ -41,6 +41,7 @@ void SelPictureForm::MenuOpens(platform::MenuHandle menu) {
     ItmManySets.SetEnabled(!SelectedPictures().empty());
     ItmShowAtStart.SetEnabled(IsAdjustable());
     ItmMend.SetEnabled(HasMendableSelected());
+    ItmMoveColors.SetEnabled(IsAdjustable());
 }
 
 // The keys of the list are those of its menu.

@@ -73,6 +73,30 @@ inline constexpr unsigned long ManyLeftOut = 133;
 inline constexpr unsigned long ManyMake = 134;
 inline constexpr unsigned long ManyClose = 135;
 
+// Moving colours. Buttons that belong together share a number.
+inline constexpr unsigned long MovingBox = 140;
+inline constexpr unsigned long BtnUndo = 141;
+inline constexpr unsigned long Layers = 142;
+inline constexpr unsigned long BtnsOfLayers = 143;
+inline constexpr unsigned long PatternKind = 144;
+inline constexpr unsigned long SizeBar = 145;
+inline constexpr unsigned long ChkReversed = 146;
+inline constexpr unsigned long ChooseBy = 147;
+inline constexpr unsigned long ToleranceBar = 148;
+inline constexpr unsigned long BtnsOfArea = 149;
+inline constexpr unsigned long RunKind = 150;
+inline constexpr unsigned long CountBar = 151;
+inline constexpr unsigned long RingBox = 152;
+inline constexpr unsigned long BtnKey = 153;
+inline constexpr unsigned long ChkGround = 154;
+inline constexpr unsigned long BoardBox = 155;
+inline constexpr unsigned long BtnFirst = 156;
+inline constexpr unsigned long BtnEntryColor = 157;
+inline constexpr unsigned long BtnExchange = 158;
+inline constexpr unsigned long BtnSort = 159;
+inline constexpr unsigned long MovingOk = 160;
+inline constexpr unsigned long MovingCancel = 161;
+
 // The main window. Its list, pictures and toolbar ask for none: a click with the right mouse button
 // has another meaning there.
 inline constexpr unsigned long DefaultLogo = 84;

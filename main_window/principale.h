@@ -137,6 +137,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ItmBugReport_Click();
     void ItmAbout_Click();
     void ItmExit_Click();
+    void ItmMoveColors_Click();
     void NoWork() {}
 
     void CloseAll();

@@ -46,6 +46,7 @@ void Principale::MenuCommand(int id) {
     if (OpenWithCommand(id, handle())) return;
     if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected()) InstallOrBrowse();
     if (id == ID_ItmViewDefOrActual) ItmViewDefOrActual_Click();
+    if (id == ID_ItmMoveColors) ItmMoveColors_Click();
     for (const MainTool& row : Tools())
         if (row.item == id) (this->*row.run)();
     if (id > ID_ItmDriveList && id <= ID_ItmDriveList + 26)

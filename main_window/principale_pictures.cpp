@@ -16,10 +16,12 @@ namespace vistrel::main_window {
 void Principale::Imag_MouseUp(int index, int button, controls::Point at) {
     if (!Imag[index].HasPicture()) return;
     const std::string& path = Imag[index].Tag();
-    if (button == controls::kLeftButton)
-        OpenPicture(path, handle());
-    else if (button == controls::kRightButton)
-        PopUpMenu(OpenWithMenu(path), Imag[index].OnScreen(at), DefaultOpenWithItem());
+    if (button == controls::kLeftButton) OpenPicture(path, handle());
+    if (button != controls::kRightButton) return;
+    const platform::MenuHandle menu = OpenWithMenu(path);
+    // Colours move on the startup screen only.
+    controls::SetMenuEnabled(menu, ID_ItmMoveColors, index == 0);
+    PopUpMenu(menu, Imag[index].OnScreen(at), DefaultOpenWithItem());
 }
 
 void Principale::OpenPicture(const std::string& path, platform::WindowHandle owner) {

@@ -14,6 +14,7 @@ struct RgbPicture {
     int width = 0;
     int height = 0;
     std::vector<std::uint8_t> pixels;  ///< width * height * 3 bytes
+    bool operator==(const RgbPicture&) const = default;
 };
 
 /// A picture scaled to the size that was asked for, with its own size in the file.

@@ -13,6 +13,7 @@
 #define IDD_FrmAdjust 106
 #define IDD_FrmManySets 107
 #define IDD_FrmBootShow 108
+#define IDD_FrmAnimate 109
 #define IDM_Principale 110
 #define IDM_SelPictureForm 111
 #define IDB_Toolbar 120
@@ -84,6 +85,7 @@
 #define ID_ItmAnimate 1119
 #define ID_ItmShowAtStart 1120
 #define ID_ItmMend 1121
+#define ID_ItmMoveColors 1122
 #define ID_ItmDriveList 1130  // 1130 stands for none; 1131 on, one for each fixed drive
 
 // Splash and actual-size preview: 1180 to 1199
@@ -130,6 +132,7 @@
 #define ID_ItmAdjustSlot 1268  // 1268 to 1270
 #define ID_BrowserShowAtStart 1271
 #define ID_BrowserMend 1272
+#define ID_ItmMoveSelected 1273
 
 // Preferences: 1400 to 1599
 #define ID_TabStrip1 1400
@@ -219,6 +222,54 @@
 #define ID_LblLeftOut 1809
 #define ID_LeftOut 1810
 #define ID_BtnMakeSets 1811
+
+// Moving colours: 1900 to 1999
+#define ID_MovingBox 1900
+#define ID_BtnUndo 1901
+#define ID_BtnRedo 1902
+#define ID_LblMovingHint 1903
+#define ID_MovingPages 1904
+
+#define ID_LblLayers 1910
+#define ID_Layers 1911
+#define ID_BtnAddLayer 1912
+#define ID_BtnDeleteLayer 1913
+#define ID_LblPattern 1914
+#define ID_PatternKind 1915
+#define ID_LblSize 1916
+#define ID_LblSizeValue 1917
+#define ID_SizeBar 1918
+#define ID_ChkReversed 1919
+#define ID_LblChooseBy 1920
+#define ID_ChooseBy 1921
+#define ID_LblTolerance 1922
+#define ID_ToleranceBar 1923
+#define ID_BtnAll 1924
+#define ID_BtnInvert 1925
+
+#define ID_LblRun 1930
+#define ID_RunKind 1931
+#define ID_LblCount 1932
+#define ID_LblCountValue 1933
+#define ID_CountBar 1934
+#define ID_RingBox 1935
+#define ID_BtnKey 1936     // 1936 to 1939, one a colour
+#define ID_KeySwatch 1940  // 1940 to 1943
+#define ID_BtnMoreKeys 1944
+#define ID_BtnFewerKeys 1945
+#define ID_ChkGround 1946
+#define ID_BtnGround 1947
+#define ID_GroundSwatch 1948
+
+#define ID_BoardBox 1950
+#define ID_LblEntry 1951
+#define ID_BtnFirst 1952
+#define ID_BtnStill 1953
+#define ID_BtnEntryColor 1954
+#define ID_BtnExchange 1955
+#define ID_LblSort 1956
+#define ID_BtnSort 1957   // 1957 brightness, 1958 hue
+#define ID_AddLayer 1959  // 1959 to 1962, in the order of the kinds
 
 // Buttons that Enter and Esc press
 #define ID_BtnOK 1

@@ -21,6 +21,7 @@ struct IndexedScreen {
     /// means a still picture. It stands in the header's field biClrImportant (offset 50).
     int firstAnimated = 0;
 
+    bool operator==(const IndexedScreen&) const = default;
     bool IsAnimated() const { return firstAnimated > 0; }
 };
 

@@ -130,8 +130,9 @@ TEST_F(Adjusting, ASlotsPictureIsMadeAnewOfThePhotographAndPutBack) {
         user::RightClick(editor.ImgPreview[2].handle());
         const HMENU menu = user::WaitForPopUp();
         EXPECT_EQ(seen::RowOf(menu, ID_ItmAdjustSlot + 2).text, "Ad&just...");
-        EXPECT_EQ(EndOf(seen::TextsOf(menu)),
-                  "Autoshow animation,-,Ad&just...,-,Show as at &start\tF11,&Mend");
+        EXPECT_EQ(
+            EndOf(seen::TextsOf(menu)),
+            "Autoshow animation,-,Ad&just...,-,Show as at &start\tF11,&Mend,Moving &colours...");
         EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmAdjustSlot + 2));
         const HWND window = WaitForIt();
         Press(window, ID_OptFraming + 1);
@@ -144,7 +145,7 @@ TEST_F(Adjusting, ASlotsPictureIsMadeAnewOfThePhotographAndPutBack) {
         // The browser's own picture has no such item, nor has an empty slot a menu.
         user::RightClick(editor.CurView.handle());
         EXPECT_EQ(EndOf(seen::TextsOf(user::WaitForPopUp())),
-                  "Autoshow animation,-,Show as at &start\tF11,&Mend");
+                  "Autoshow animation,-,Show as at &start\tF11,&Mend,Moving &colours...");
         DismissMenu();
     });
 }

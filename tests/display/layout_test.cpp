@@ -8,6 +8,8 @@
 #include "about/frm_splash.h"
 #include "adjust/frm_adjust.h"
 #include "adjust/frm_many_sets.h"
+#include "animate/frm_animate.h"
+#include "animate/read_screen.h"
 #include "controls/screen_metrics.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
@@ -18,6 +20,7 @@
 namespace vistrel::test {
 
 using namespace adjust;
+using namespace animate;
 using namespace preview;
 
 using namespace about;
@@ -260,6 +263,26 @@ TEST_F(Layout, OfAdjustingAPicture) {
     for (int page = 0; page < 3; ++page) {
         SendMessageA(adjust.AdjustPages.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
         Look(adjust, "adjust-" + std::to_string(page));
+    }
+}
+
+TEST_F(Layout, OfMovingColors) {
+    Put(root + "moving.sys", ScreenFile(0, 128, 0, 236));
+    FrmAnimate animate(
+        *BeginDocument(*ReadScreen(root + "moving.sys"), std::nullopt),
+        [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
+    Open(animate);
+    for (const int kind : {0, 1, 2}) {
+        SendMessageA(animate.handle(), WM_COMMAND, static_cast<WPARAM>(ID_AddLayer + kind), 0);
+        Look(animate, "moving-kind-" + std::to_string(kind));
+    }
+    // The longest hint.
+    animate.ChooseBy.SetListIndex(2);
+    SendMessageA(animate.handle(), WM_COMMAND, MAKEWPARAM(ID_ChooseBy, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(animate.ChooseBy.handle()));
+    for (int page = 0; page < 3; ++page) {
+        SendMessageA(animate.MovingPages.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
+        Look(animate, "moving-" + std::to_string(page));
     }
 }
 

@@ -58,11 +58,11 @@ TEST_F(Appearance, TheMenusSayWhatTheyDo) {
         EXPECT_EQ(seen::TextsOf(ActionMenu(editor)),
                   (Names{"Create n&ew set", "Up&date set", "D&elete set", "Delete &all images"}));
         user::RightClickAt(PointOfItem(editor, ".."));
-        EXPECT_EQ(
-            seen::TextsOf(user::WaitForPopUp()),
-            (Names{"&Rename\tF2", "&Delete\tDel", "&Refresh\tF5", "-", "Set as &LOGO.SYS",
-                   "Set as LOGO&W.SYS", "Set as LOGO&S.SYS", "-", "Ad&just...",
-                   "&Make sets of these pictures...", "-", "Show as at &start\tF11", "&Mend"}));
+        EXPECT_EQ(seen::TextsOf(user::WaitForPopUp()),
+                  (Names{"&Rename\tF2", "&Delete\tDel", "&Refresh\tF5", "-", "Set as &LOGO.SYS",
+                         "Set as LOGO&W.SYS", "Set as LOGO&S.SYS", "-", "Ad&just...",
+                         "&Make sets of these pictures...", "-", "Show as at &start\tF11", "&Mend",
+                         "Moving &colours..."}));
         DismissMenu();
     });
 }

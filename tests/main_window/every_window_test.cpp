@@ -7,6 +7,8 @@
 #include "about/frm_splash.h"
 #include "adjust/frm_adjust.h"
 #include "adjust/frm_many_sets.h"
+#include "animate/frm_animate.h"
+#include "animate/read_screen.h"
 #include "boot_show/frm_boot_show.h"
 #include "editor/select_picture_form.h"
 #include "main_window/frm_view.h"
@@ -16,6 +18,7 @@
 namespace vistrel::test {
 
 using namespace adjust;
+using namespace animate;
 
 using namespace about;
 using namespace controls;
@@ -56,11 +59,14 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
         FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {}}, [] { return std::string(); });
         ASSERT_TRUE(adjust.ReadPicture());
         FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
+        FrmAnimate animate(
+            *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt),
+            [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
         boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
         FrmAboutReg about;
         frmSplash splash;
-        for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
-                                                             &view, &show, &about, &splash}) {
+        for (Window* window : std::initializer_list<Window*>{
+                 &options, &editor, &adjust, &many, &animate, &view, &show, &about, &splash}) {
             ASSERT_TRUE(window->Create(nullptr));
             Check(*window);
         }

@@ -104,11 +104,13 @@ TEST_F(ClassicMenus, HaveTheirItemsInTheirOrderAndWords) {
               (Texts{"&Contents\tF1", "-", "&Bug report", "A&bout...", "E&xit"}));
     EXPECT_THAT(NumbersOf(Menu(2)),
                 ElementsAre(ID_ItmContents, ID_ItmBugReport, ID_ItmAbout, ID_ItmExit));
-    EXPECT_EQ(seen::TextsOf(Menu(3)),
-              (Texts{"&View actual size", "&Open Paint", "Open custom program", "-",
-                     "Autoshow animation", "-", "Show as at &start\tF11", "&Mend"}));
-    EXPECT_THAT(NumbersOf(Menu(3)), ElementsAre(ID_ItmOpenAct, ID_ItmOpenAct + 1, ID_ItmOpenAct + 2,
-                                                ID_ItmAnimate, ID_ItmShowAtStart, ID_ItmMend));
+    EXPECT_EQ(
+        seen::TextsOf(Menu(3)),
+        (Texts{"&View actual size", "&Open Paint", "Open custom program", "-", "Autoshow animation",
+               "-", "Show as at &start\tF11", "&Mend", "Moving &colours..."}));
+    EXPECT_THAT(NumbersOf(Menu(3)),
+                ElementsAre(ID_ItmOpenAct, ID_ItmOpenAct + 1, ID_ItmOpenAct + 2, ID_ItmAnimate,
+                            ID_ItmShowAtStart, ID_ItmMend, ID_ItmMoveColors));
 }
 
 }  // namespace

@@ -261,9 +261,11 @@ void TakeUpKeyboard() {
     if (window != nullptr) Activate(window);
 }
 
-/// Presses a key to hold it. The screen, which knows of no such key, lets go of it once when a
-/// window comes to the front, which may be just now.
-void Hold(WORD key) {
+}  // namespace
+
+// The screen, which knows of no such key, lets go of it once when a window comes to the front,
+// which may be just now.
+void HoldKey(WORD key) {
     WaitUntil(
         [&] {
             Send({KeyInput(key, 0)});
@@ -272,14 +274,14 @@ void Hold(WORD key) {
         1000);
 }
 
-}  // namespace
+void LetGoKey(WORD key) { Send({KeyInput(key, KEYEVENTF_KEYUP)}); }
 
 void Press(WORD key, const std::vector<WORD>& held) {
     TakeUpKeyboard();
-    for (const WORD holding : held) Hold(holding);
+    for (const WORD holding : held) HoldKey(holding);
     Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
     for (auto holding = held.rbegin(); holding != held.rend(); ++holding) {
-        Send({KeyInput(*holding, KEYEVENTF_KEYUP)});
+        LetGoKey(*holding);
     }
 }
 

@@ -77,6 +77,9 @@ bool RightClick(HWND window);
 
 /// Presses and lets go a key, with these keys (VK_CONTROL, VK_MENU, VK_SHIFT) held down.
 void Press(WORD key, const std::vector<WORD>& held = {});
+/// Holds a key down while something else is done, and lets go of it.
+void HoldKey(WORD key);
+void LetGoKey(WORD key);
 /// Types ANSI text.
 void Type(const std::string& text);
 
