@@ -39,17 +39,22 @@ void Spread(const Change& change, int weight, std::uint16_t* field) {
 
 bool Choose(const ChoiceRow& row) {
     const int none = NoField(row.ownWeight);
+    // In variables: the compiler must take it that writing indices may change what `row` holds.
+    std::uint8_t* const indices = row.indices;
+    const Alternatives* const alternatives = row.alternatives;
+    FieldSum* const sums = row.sums;
+    const int width = row.width;
     bool changed = false;
     std::uint16_t* field = row.field;
-    for (int i = 0; i < row.width; ++i, field += kPoint) {
-        int taken = row.indices[i];
-        const Alternatives& others = row.alternatives[taken];
+    for (int i = 0; i < width; ++i, field += kPoint) {
+        int taken = indices[i];
+        const Alternatives& others = alternatives[taken];
         int x = field[0] - none, y = field[1] - none, z = field[2] - none;
         const int best = Best(others, x, y, z);
         if (best >= 0) {
             changed = true;
             taken = others.color[best];
-            row.indices[i] = static_cast<std::uint8_t>(taken);
+            indices[i] = static_cast<std::uint8_t>(taken);
             const Change d = {others.xy[2 * best], others.xy[2 * best + 1], others.z[2 * best]};
             std::uint16_t* const error = row.errors + i * kPoint;
             error[0] = static_cast<std::uint16_t>(error[0] + d.x);
@@ -64,7 +69,7 @@ bool Choose(const ChoiceRow& row) {
             y = grown(y, d.y);
             z = grown(z, d.z);
         }
-        FieldSum& sum = row.sums[taken];
+        FieldSum& sum = sums[taken];
         sum.x += x;
         sum.y += y;
         sum.z += z;

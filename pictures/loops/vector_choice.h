@@ -18,19 +18,28 @@ class ChoiceByVectors {
     }
 
     bool Run() {
+        // In variables: the compiler must take it that writing indices may change members.
+        std::uint8_t* const indices = row_.indices;
+        const Alternatives* const alternatives = row_.alternatives;
+        FieldSum* const sums = row_.sums;
+        const Vector none = none_;
+        const int width = row_.width;
         bool changed = false;
         std::uint16_t* field = row_.field;
-        for (int i = 0; i < row_.width; ++i, field += kPoint) {
-            Vector here = Vector::LoadPoint(field) - none_;
-            const Alternatives& others = row_.alternatives[row_.indices[i]];
+        for (int i = 0; i < width; ++i, field += kPoint) {
+            int color = indices[i];
+            Vector here = Vector::LoadPoint(field) - none;
+            const Alternatives& others = alternatives[color];
             const std::uint32_t squared = here.TimesSummed(here).PointSum() - 1;
-            int best = -1;
-            if (squared > others.harmless) best = Best(others, here, squared);
-            if (best >= 0) {
-                changed = true;
-                here = here + Change(i, others.color[best], field);
+            if (squared > others.harmless) {
+                const int best = Best(others, here, squared);
+                if (best >= 0) {
+                    changed = true;
+                    color = others.color[best];
+                    here = here + Change(i, color, field);
+                }
             }
-            Count(here, row_.sums[row_.indices[i]]);
+            Count(here, sums[color]);
         }
         Vector::End();
         return changed;
@@ -46,20 +55,29 @@ class ChoiceByVectors {
             .AddWide(Vector::Load(&others.z[2 * k]).TimesSummed(z));
     }
 
-    static int Best(const Alternatives& others, Vector here, std::uint32_t squared) {
+    /// The same for half of the alternatives; returns what is below 0 where one of them is.
+    [[gnu::always_inline]] static Vector WeighHalf(const Alternatives& others, int first, Vector xy,
+                                                   Vector z, std::int32_t* change) {
+        Vector any = Weighed(others, first, xy, z);
+        any.Store(change + first);
+        if constexpr (kAtOnce < Alternatives::kMost / 2) {
+            const Vector more = Weighed(others, first + kAtOnce, xy, z);
+            more.Store(change + first + kAtOnce);
+            any = any | more;
+        }
+        return any;
+    }
+
+    [[gnu::always_inline]] static int Best(const Alternatives& others, Vector here,
+                                           std::uint32_t squared) {
         constexpr int kHalf = Alternatives::kMost / 2;
         const Vector xy = here.FirstPair();
         const Vector z = here.SecondPair();
         // The farther half can only matter where the field is strong.
         const int count = squared > others.enough[kHalf] ? 2 * kHalf : kHalf;
         std::int32_t change[Alternatives::kMost];
-        Vector any = Weighed(others, 0, xy, z);
-        any.Store(change);
-        for (int k = kAtOnce; k < count; k += kAtOnce) {
-            const Vector some = Weighed(others, k, xy, z);
-            some.Store(change + k);
-            any = any | some;
-        }
+        Vector any = WeighHalf(others, 0, xy, z, change);
+        if (count > kHalf) any = any | WeighHalf(others, kHalf, xy, z, change);
         if (!any.AnyWideNegative()) return -1;
         int best = -1;
         std::int32_t least = 0;

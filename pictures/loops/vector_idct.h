@@ -154,6 +154,15 @@ void StoreRow(const Vector* parts, std::int16_t* numbers) {
     }
 }
 
+/// Clears the rows from one to another.
+template <int kFrom, int kTo, int kAcross, class Vector>
+void Clear(Block<Vector>& block) {
+    for (int y = kFrom; y < kTo; ++y) {
+        for (int part = 0; part * Vector::kCount < kAcross; ++part)
+            block.rows[y][part] = Vector::All(0);
+    }
+}
+
 /// Transforms a block to samples from the middle of their range with kFraction bits behind the
 /// point; what does not fit becomes the nearest that does. False when not done.
 template <int kAcross, int kDown, int kFraction, class Vector>
@@ -161,11 +170,9 @@ bool TransformBlock(const std::int16_t* steps, int most, const std::int16_t* blo
                     Block<Vector>& samples) {
     constexpr int kRowBits = jpg::kSumBits - kFraction;
     constexpr int kMost16 = 32767;
-    const Vector zero = Vector::All(0);
     Block<Vector> terms;
-    for (auto& row : terms.rows) {
-        for (Vector& part : row) part = zero;
-    }
+    // Terms that there are none of weigh nothing, but are added up.
+    Clear<kDown, kDown <= 4 ? 4 : 8, kAcross>(terms);
     for (int y = 0; y < kDown; ++y)
         LoadRow<kAcross>(block + y * kAcross, y == kDown - 1, terms.rows[y]);
     if (!IsWithin<kAcross, kDown>(terms, most)) return false;
@@ -184,9 +191,7 @@ bool TransformBlock(const std::int16_t* steps, int most, const std::int16_t* blo
             terms.rows[y][part] = terms.rows[y][part].Times(step[part]);
     }
     Block<Vector> between;
-    for (auto& row : between.rows) {
-        for (Vector& part : row) part = zero;
-    }
+    Clear<kDown, (kDown + Vector::kCount - 1) / Vector::kCount * Vector::kCount, kAcross>(between);
     Columns<kDown, kAcross, jpg::kTermBits - jpg::kColumnBits>(terms, between);
     // Those at the very limit may have been beyond it.
     if (!IsWithin<kAcross, kDown>(between, kMost16 - 1)) return false;

@@ -57,12 +57,14 @@ void WeighAlongByVectors(const AlongJob& job) {
     static_assert(kRowsAtOnce == 4 && kTapGroup % Vector::kCount == 0);
     const Vector half = Vector::AllWide(1 << (job.shift - 1));
     const std::size_t apart = job.apart;
+    const std::size_t resultsApart = job.resultsApart;
     std::int16_t* to = job.results;
-    for (int i = 0; i < job.count; ++i) {
-        const std::int16_t* weights = job.weights + job.taps[i].offset;
-        const std::int16_t* from = job.rows + job.taps[i].first;
+    const Taps* const end = job.taps + job.count;
+    for (const Taps* taps = job.taps; taps < end; ++taps) {
+        const std::int16_t* weights = job.weights + taps->offset;
+        const std::int16_t* from = job.rows + taps->first;
         Vector a = Vector::AllWide(0), b = a, c = a, d = a;
-        for (int left = job.taps[i].count; left > 0; left -= Vector::kCount) {
+        for (int left = taps->count; left > 0; left -= Vector::kCount) {
             const Vector weight = Vector::Load(weights);
             a = a.AddWide(Vector::Load(from).TimesSummed(weight));
             b = b.AddWide(Vector::Load(from + apart).TimesSummed(weight));
@@ -74,9 +76,9 @@ void WeighAlongByVectors(const AlongJob& job) {
         std::int16_t totals[kRowsAtOnce];
         Vector::Totals(a, b, c, d, half, job.shift).StorePoint(totals);
         to[0] = totals[0];
-        to[job.resultsApart] = totals[1];
-        to[2 * job.resultsApart] = totals[2];
-        to[3 * job.resultsApart] = totals[3];
+        to[resultsApart] = totals[1];
+        to[2 * resultsApart] = totals[2];
+        to[3 * resultsApart] = totals[3];
         to += job.stride;
     }
     Vector::End();

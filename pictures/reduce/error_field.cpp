@@ -1,6 +1,7 @@
 // The field of errors.
 #include "pictures/reduce/error_field.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -32,10 +33,17 @@ ErrorField::ErrorField(int width, int height, int lambda)
       height_(height),
       stride_((width + 2 * kReach + 1) * loops::kPoint),
       ownWeight_((kWholeBlur * lambda + 256) / 512),
-      errors_(std::size_t(height) * stride_, std::uint16_t{loops::kNoError}),
+      errors_(std::size_t(height) * stride_),
       along_(std::size_t(kSide) * stride_),
       none_(stride_, std::uint16_t{loops::kNoneAlong}),
-      field_(stride_) {}
+      field_(stride_) {
+    for (int y = 0; y < height; ++y) {
+        std::uint16_t* const row = Errors(y);
+        std::fill_n(row - kMargin, kMargin, std::uint16_t{loops::kNoError});
+        std::fill_n(row + width * loops::kPoint, stride_ - kMargin - width * loops::kPoint,
+                    std::uint16_t{loops::kNoError});
+    }
+}
 
 void ErrorField::BlurAlong(int y) { loops::Chosen().blurAlong(Errors(y), width_, Along(y)); }
 
