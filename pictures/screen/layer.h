@@ -56,7 +56,7 @@ inline constexpr RingPlace kStands = -1;  ///< it is not of the area
 inline constexpr RingPlace kGap = -2;     ///< it is, and between what moves
 
 /// The place of each of the 320 x 400 pixels on a ring of `count` colours. `screen` is the picture,
-/// 320 x 400.
+/// 320 x 400; Brightness alone looks at it.
 std::vector<RingPlace> PlacesOf(const Layer& layer, const pictures::RgbPicture& screen, int count);
 
 }  // namespace vistrel::screen

@@ -21,7 +21,10 @@ int CountOf(const Ring& ring) { return static_cast<int>(RingColors(ring).size())
 
 /// Where each pixel stands on the ring, kStands, or kGap where the ground is seen.
 std::vector<RingPlace> PlacesOnScreen(const MovingPicture& document) {
-    const pictures::RgbPicture picture = StillPicture(document);
+    const bool isNeeded =
+        std::any_of(document.layers.begin(), document.layers.end(),
+                    [](const Layer& layer) { return layer.pattern == Pattern::Brightness; });
+    const pictures::RgbPicture picture = isNeeded ? StillPicture(document) : pictures::RgbPicture{};
     const int count = CountOf(document.ring);
     std::vector<RingPlace> all(kScreenPixels, kStands);
     for (const Layer& layer : document.layers) {
@@ -157,7 +160,7 @@ pictures::RgbPicture StillPicture(const MovingPicture& document) {
     picture.pixels.resize(kScreenPixels * 3);
     std::uint8_t* out = picture.pixels.data();
     for (const std::uint8_t index : document.base.indices)
-        out = std::copy_n(document.base.palette[index].data(), 3, out);
+        for (const std::uint8_t part : document.base.palette[index]) *out++ = part;
     return picture;
 }
 

@@ -47,6 +47,8 @@ TEST(Areas, LassosHoldWhatIsInsideOfThem) {
     EXPECT_TRUE(area.Has(1, 1));
     EXPECT_TRUE(area.Has(49, 49));
     EXPECT_FALSE(area.Has(52, 52));
+    const ScreenPoint slope[] = {{0, 0}, {10, 3}, {0, 3}};  // 3 1/3 and 6 2/3 columns are inside
+    EXPECT_EQ(SizeOf(LassoArea(slope)), 4 + 7);
 }
 
 TEST(Areas, LassosThatCrossThemselvesLeaveOutWhatTheyGoRoundTwice) {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 #include <set>
 
 #include "tests/support/picture_files/test_picture.h"
@@ -158,6 +160,27 @@ TEST(Layers, OfStarsLeaveFromTheCentre) {
     };
     EXPECT_GT(count(60, 100), 2 * count(260, 300));
     EXPECT_GT(count(260, 300), 0);
+}
+
+TEST(Layers, OfStarsFlyFasterAsTheyComeNearer) {
+    const auto places = Places(Pattern::Stars, Everything(), 1, false, ScreenPoint{160, 200});
+    std::map<int, std::vector<int>> ways;  // from the centre, of each place
+    for (int y = 0; y < 400; ++y)
+        for (int x = 0; x < 320; ++x)
+            if (places[Area::At(x, y)] >= 0)
+                ways[places[Area::At(x, y)]].push_back(25 * (x - 160) * (x - 160) +
+                                                       9 * (y - 200) * (y - 200));
+    const auto nearest =
+        std::min_element(ways.begin(), ways.end(),
+                         [](const auto& a, const auto& b) { return a.second[0] < b.second[0]; });
+    std::vector<double> steps;
+    for (int step = 0, place = nearest->first; ways.contains(place) && step < kCount;
+         ++step, place = (place + kCount - 1) % kCount)
+        steps.push_back(std::sqrt(ways[place][0]));
+    ASSERT_GE(steps.size(), 10u);
+    // Dots near the centre cover each other.
+    for (std::size_t i = 3; i < steps.size(); ++i) EXPECT_GT(steps[i], steps[i - 3]) << i;
+    EXPECT_GT(steps.back() - steps[steps.size() - 2], 2 * (steps[2] - steps[0]));
 }
 
 TEST(Layers, OfAScreenHoldItsMovingPixels) {
