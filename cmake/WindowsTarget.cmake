@@ -19,6 +19,8 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     if(VISTREL_RUNTIME_DIR)
         add_link_options(-B${VISTREL_RUNTIME_DIR}/ -L${VISTREL_RUNTIME_DIR})
     endif()
+    # PROGRAM.map tells packaging/check_exe which functions stand where.
+    string(APPEND CMAKE_CXX_LINK_EXECUTABLE " -Wl,-Map,<TARGET>.map")
     add_link_options(
         -s
         -Wl,--major-os-version=4,--minor-os-version=0

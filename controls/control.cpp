@@ -122,11 +122,12 @@ void Control::Pressed(int button, Point at) {
 }
 
 // A button that went down elsewhere, on the title bar or over another control, was not meant for
-// this one; nor was one that was drawn away before it was let go.
+// this one; nor was one that was drawn away before it was let go. Who double-clicks what one click
+// opens wants it once.
 void Control::Released(int button, Point at) {
     RECT area{};
     GetClientRect(handle_, &area);
-    const bool clicked = pressed_ == button && PtInRect(&area, {at.x, at.y});
+    const bool clicked = pressed_ == button && !secondPress_ && PtInRect(&area, {at.x, at.y});
     pressed_ = 0;
     // Before the handler, which may open a window or a menu that wants the mouse.
     if (HoldsMouse() && GetCapture() == handle_) ReleaseCapture();
@@ -139,10 +140,12 @@ bool Control::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t l
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
+            secondPress_ = message == WM_LBUTTONDBLCLK;
             Pressed(kLeftButton, at);
             break;
         case WM_RBUTTONDOWN:
         case WM_RBUTTONDBLCLK:
+            secondPress_ = false;
             Pressed(kRightButton, at);
             break;
         case WM_LBUTTONUP:

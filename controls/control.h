@@ -119,6 +119,7 @@ class Control {
     int id_ = 0;
     int helpNumber_ = 0;
     int pressed_ = 0;  ///< the button that went down last over the control and is not up yet
+    bool secondPress_ = false;  ///< of a double click
     std::string tip_;
     void* formerProcedure_ = nullptr;
 };

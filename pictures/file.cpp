@@ -2,8 +2,8 @@
 // of platform/ are, and can be made to fail like them.
 #include "pictures/file.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <utility>
 
 #include "platform/fault.h"
@@ -27,6 +27,37 @@ long SizeOf(std::FILE* file) {
     const long size = std::ftell(file);
     return std::fseek(file, 0, SEEK_SET) == 0 ? size : -1;
 }
+
+// A file that is larger than any picture counts as one without a size.
+std::optional<std::size_t> PlausibleSizeOf(std::FILE* file) {
+    const long size = SizeOf(file);
+    if (size < 0 || size > kLargestFile) return std::nullopt;
+    return static_cast<std::size_t>(size);
+}
+
+class OpenedFile : public FileOnDisk {
+ public:
+    // Its pieces are large: the C library need not read ahead.
+    OpenedFile(File file, std::size_t size) : file_(std::move(file)), size_(size) {
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+    }
+
+    std::size_t size() const override { return size_; }
+
+    void Read(std::size_t at, std::span<std::uint8_t> to) override {
+        failed_ = failed_ || fault::ShouldFail() ||
+                  std::fseek(file_.get(), static_cast<long>(at), SEEK_SET) != 0 ||
+                  std::fread(to.data(), 1, to.size(), file_.get()) != to.size();
+        if (failed_) std::fill(to.begin(), to.end(), std::uint8_t{0});
+    }
+
+    bool HasFailed() const override { return failed_; }
+
+ private:
+    File file_;
+    const std::size_t size_;
+    bool failed_ = false;
+};
 
 std::optional<std::vector<std::uint8_t>> ReadNext(std::FILE* file, std::size_t count) {
     std::vector<std::uint8_t> bytes(count);
@@ -95,9 +126,16 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path) 
     if (fault::ShouldFail()) return std::nullopt;
     const File file = Open(path, "rb");
     if (!file) return std::nullopt;
-    const long size = SizeOf(file.get());
-    if (size < 0 || size > kLargestFile) return std::nullopt;
-    return ReadNext(file.get(), static_cast<std::size_t>(size));
+    const std::optional<std::size_t> size = PlausibleSizeOf(file.get());
+    return size ? ReadNext(file.get(), *size) : std::nullopt;
+}
+
+std::unique_ptr<FileOnDisk> FileOnDisk::Open(const std::string& path) {
+    if (fault::ShouldFail()) return nullptr;
+    File file = pictures::Open(path, "rb");
+    if (!file) return nullptr;
+    const std::optional<std::size_t> size = PlausibleSizeOf(file.get());
+    return size ? std::make_unique<OpenedFile>(std::move(file), *size) : nullptr;
 }
 
 std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path,

@@ -1,10 +1,14 @@
-// Files in one piece: into memory, and out of it so that a target is never left half written.
+// Files: read whole or in pieces, and written so that a target is never left half written.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "pictures/picture_file.h"
 
 namespace vistrel::pictures {
 
@@ -15,6 +19,28 @@ inline constexpr long kLargestFile = 264L * 1024 * 1024;
 /// All bytes of the file at `path` (ANSI text). Empty when it cannot be opened or read to its end,
 /// or is larger than kLargestFile.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::string& path);
+
+/// A file that is open to be read in pieces.
+class FileOnDisk : public ByteSource {
+ public:
+    /// Null when the file cannot be opened or is larger than kLargestFile.
+    static std::unique_ptr<FileOnDisk> Open(const std::string& path);
+
+    /// True when a piece could not be read: what came in its place is zeros.
+    virtual bool HasFailed() const = 0;
+};
+
+/// What `read` makes of the file at `path`, of which no more is in memory at a time than `read`
+/// keeps; its "empty" when the file cannot be opened or a piece of it cannot be read.
+template <class Read>
+auto ReadInPieces(const std::string& path, Read read) {
+    using Result = decltype(read(std::declval<PictureFile>()));
+    const std::unique_ptr<FileOnDisk> file = FileOnDisk::Open(path);
+    if (!file) return Result{};
+    Result result = read(PictureFile(*file));
+    if (file->HasFailed()) return Result{};
+    return result;
+}
 
 /// The first `count` bytes of a file. Empty when it cannot be opened or has fewer.
 std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path,

@@ -11,32 +11,32 @@ namespace vistrel::pictures {
 namespace {
 
 /// A format whose pictures are read row by row needs no more than what opens its files.
-template <std::unique_ptr<PictureRows> (*open)(FileBytes file)>
+template <std::unique_ptr<PictureRows> (*open)(const PictureFile& file)>
 constexpr PictureFormat ReadByRows(std::array<const char*, 2> endings, int depth) {
-    return {
-        .endings = endings,
-        .depth = depth,
-        .read = [](FileBytes file) -> std::optional<RgbPicture> {
-            const auto rows = open(file);
-            if (!rows) return std::nullopt;
-            return ReadAll(*rows);
-        },
-        .readScaled = [](FileBytes file, int width, int height) -> std::optional<ScaledPicture> {
-            const auto rows = open(file);
-            if (!rows) return std::nullopt;
-            return ReadScaled(*rows, width, height);
-        },
-        .readPart = [](FileBytes file, const PictureArea& area, int width,
-                       int height) -> std::optional<RgbPicture> {
-            const auto rows = open(file);
-            if (!rows) return std::nullopt;
-            return ReadScaled(*rows, area, width, height);
-        },
-        .size = [](FileBytes file) -> std::optional<PictureSize> {
-            const auto rows = open(file);
-            if (!rows) return std::nullopt;
-            return PictureSize{rows->width(), rows->height()};
-        }};
+    return {.endings = endings,
+            .depth = depth,
+            .read = [](const PictureFile& file) -> std::optional<RgbPicture> {
+                const auto rows = open(file);
+                if (!rows) return std::nullopt;
+                return ReadAll(*rows);
+            },
+            .readScaled = [](const PictureFile& file, int width,
+                             int height) -> std::optional<ScaledPicture> {
+                const auto rows = open(file);
+                if (!rows) return std::nullopt;
+                return ReadScaled(*rows, width, height);
+            },
+            .readPart = [](const PictureFile& file, const PictureArea& area, int width,
+                           int height) -> std::optional<RgbPicture> {
+                const auto rows = open(file);
+                if (!rows) return std::nullopt;
+                return ReadScaled(*rows, area, width, height);
+            },
+            .size = [](const PictureFile& file) -> std::optional<PictureSize> {
+                const auto rows = open(file);
+                if (!rows) return std::nullopt;
+                return PictureSize{rows->width(), rows->height()};
+            }};
 }
 
 constexpr PictureFormat Bitmaps() {

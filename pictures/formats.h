@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_file.h"
 
 namespace vistrel::pictures {
 
@@ -18,20 +18,21 @@ struct PictureFormat {
     /// Bits per pixel as they are told to the user; 0 where the file says so itself.
     int depth;
 
-    std::optional<RgbPicture> (*read)(FileBytes file);
+    std::optional<RgbPicture> (*read)(const PictureFile& file);
     /// The picture scaled, with no more read of the file than that needs.
-    std::optional<ScaledPicture> (*readScaled)(FileBytes file, int width, int height);
+    std::optional<ScaledPicture> (*readScaled)(const PictureFile& file, int width, int height);
     /// The same for a part of the picture, which must lie within it.
-    std::optional<RgbPicture> (*readPart)(FileBytes file, const PictureArea& area, int width,
-                                          int height);
+    std::optional<RgbPicture> (*readPart)(const PictureFile& file, const PictureArea& area,
+                                          int width, int height);
     /// The size of the picture, upright; its content is not looked at.
-    std::optional<PictureSize> (*size)(FileBytes file);
+    std::optional<PictureSize> (*size)(const PictureFile& file);
 
     /// A quicker and coarser way to a small picture of some files, where there is one.
-    std::optional<ScaledPicture> (*readQuickly)(FileBytes file, int width, int height) = nullptr;
+    std::optional<ScaledPicture> (*readQuickly)(const PictureFile& file, int width,
+                                                int height) = nullptr;
     /// True of a picture that lies in its file on its side, upside down or mirrored, and says so;
     /// null for a format that cannot say it.
-    bool (*isToBeTurned)(FileBytes file) = nullptr;
+    bool (*isToBeTurned)(const PictureFile& file) = nullptr;
 };
 
 /// All of them, bitmaps first.

@@ -42,17 +42,12 @@ platform::GlobalHandle BlockOf(const RgbPicture& picture, int fileWidth, int fil
     return block;
 }
 
-using Reader = std::optional<RgbPicture> (*)(FileBytes file);
-
-std::optional<RgbPicture> ReadFrom(const char* path, Reader read) {
-    const std::optional<std::vector<std::uint8_t>> file = ReadWholeFile(path);
-    return file ? read(*file) : std::nullopt;
-}
+using Reader = std::optional<RgbPicture> (*)(const PictureFile& file);
 
 // No exception crosses the boundary: where memory runs out, the operation fails.
 platform::GlobalHandle ReadIntoBlock(const char* path, Reader read, std::int16_t* width,
                                      std::int16_t* height) try {
-    const std::optional<RgbPicture> picture = ReadFrom(path, read);
+    const std::optional<RgbPicture> picture = ReadInPieces(path, read);
     return picture ? BlockOf(*picture, picture->width, picture->height, width, height) : nullptr;
 } catch (const std::bad_alloc&) {
     return nullptr;

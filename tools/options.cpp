@@ -5,6 +5,8 @@
 #include <charconv>
 #include <optional>
 
+#include "pictures/loops/loops.h"
+
 namespace vistrel::tools {
 
 using compose::Composition;
@@ -111,6 +113,20 @@ bool SetDither(const std::string& text, Composition& composition) {
     return false;
 }
 
+/// For tests and benchmarks, and not in the help: the innermost loops for some kind of processor.
+bool ForceLoops(const std::string& text) {
+    constexpr std::array<std::pair<const char*, loops::Kind>, 3> kKinds = {
+        {{"singles", loops::Kind::Singles},
+         {"mmx", loops::Kind::Mmx},
+         {"sse2", loops::Kind::Sse2}}};
+    for (const auto& [name, kind] : kKinds) {
+        if (text != name || !loops::CanRun(kind)) continue;
+        loops::Force(kind);
+        return true;
+    }
+    return false;
+}
+
 /// An option; those without a value have nothing that is wanted, and are given an empty one.
 struct Option {
     const char* name;
@@ -165,6 +181,8 @@ constexpr Option kOptions[] = {
      [](const std::string&, ConvertOptions& o) { return o.composition.light.autoLevels = true; }},
     {"--dither", "none, light, medium or strong",
      [](const std::string& value, ConvertOptions& o) { return SetDither(value, o.composition); }},
+    {"--loops", "singles, or mmx or sse2 where this machine has them",
+     [](const std::string& value, ConvertOptions&) { return ForceLoops(value); }},
 };
 
 const Option* FindOption(const std::string& name) {

@@ -14,6 +14,7 @@ constexpr std::uint32_t kCoreHeader = 12;  // OS/2 1.x: 16-bit sizes, palette en
 constexpr std::uint32_t kInfoHeader = 40;
 constexpr std::uint32_t kSmallestOs2Header = 16;  // OS/2 2.x headers may end after any field
 constexpr std::uint32_t kLargestHeader = 124;
+constexpr std::size_t kMostMasks = 16;  // bytes between header and palette
 
 // The values of biCompression.
 constexpr std::uint32_t kRgb = 0;
@@ -94,7 +95,7 @@ std::array<std::uint32_t, 3> Masks(pictures::FileBytes file, const Fields& field
 std::size_t PaletteOffset(const Fields& fields) {
     std::size_t offset = kFileHeader + fields.headerSize;
     if (fields.headerSize == kInfoHeader && fields.HasMasks()) {
-        offset += fields.compression == kAlphaBitFields ? 16 : 12;
+        offset += fields.compression == kAlphaBitFields ? kMostMasks : 12;
     }
     return offset;
 }
@@ -106,14 +107,13 @@ std::size_t PaletteEntries(const Fields& fields) {
 
 // The pixels' place as the file gives it, or behind the palette where that cannot be right: when
 // the header counts palette colours, at least one of them comes before the pixels.
-std::size_t PixelOffset(pictures::FileBytes file, const Fields& fields) {
+std::size_t PixelOffset(std::size_t fileSize, std::size_t given, const Fields& fields) {
     const std::size_t palette = PaletteOffset(fields);
     const std::size_t entry = fields.PaletteEntryBytes();
-    const std::size_t given = pictures::DoubleWord(file, 10);
     const bool hasPalette = fields.bitsPerPixel <= 8 && fields.colorsUsed > 0;
     const std::size_t least = hasPalette ? palette + entry : palette;
-    if (given >= least && given < file.size()) return given;
-    const std::size_t room = file.size() - std::min(file.size(), palette);
+    if (given >= least && given < fileSize) return given;
+    const std::size_t room = fileSize - std::min(fileSize, palette);
     return palette + std::min(PaletteEntries(fields), room / entry) * entry;
 }
 
@@ -135,7 +135,12 @@ std::array<RgbColor, 256> Palette(pictures::FileBytes file, const Fields& fields
 
 }  // namespace
 
-std::optional<BmpHeader> ReadBmpHeader(pictures::FileBytes file) {
+std::optional<BmpHeader> ReadBmpHeader(const pictures::PictureFile& whole) {
+    // As far as a palette can reach.
+    std::array<std::uint8_t, kFileHeader + kLargestHeader + kMostMasks + 256 * 4> start;
+    whole.Copy(0, start);
+    const pictures::FileBytes file =
+        pictures::FileBytes(start).first(std::min(start.size(), whole.size()));
     if (file.size() < kFileHeader + kCoreHeader || file[0] != 'B' || file[1] != 'M') {
         return std::nullopt;
     }
@@ -153,7 +158,7 @@ std::optional<BmpHeader> ReadBmpHeader(pictures::FileBytes file) {
     if (fields->compression == kRle8) header.compression = BmpCompression::Rle8;
     if (fields->compression == kRle4) header.compression = BmpCompression::Rle4;
     header.masks = Masks(file, *fields);
-    header.pixelOffset = PixelOffset(file, *fields);
+    header.pixelOffset = PixelOffset(whole.size(), pictures::DoubleWord(file, 10), *fields);
     header.palette = Palette(file, *fields, header.pixelOffset);
     return header;
 }

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_file.h"
 
 namespace vistrel::bmp {
 
@@ -30,6 +30,6 @@ struct BmpHeader {
 /// Reads the headers and the palette: OS/2 1.x (12 bytes), OS/2 2.x (16 to 64 bytes) and Windows
 /// (40 to 124 bytes). Empty when the file is no bitmap, its pixels are of a kind that is not read
 /// or its size is out of range.
-std::optional<BmpHeader> ReadBmpHeader(pictures::FileBytes file);
+std::optional<BmpHeader> ReadBmpHeader(const pictures::PictureFile& file);
 
 }  // namespace vistrel::bmp

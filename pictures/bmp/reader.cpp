@@ -6,14 +6,14 @@
 
 namespace vistrel::bmp {
 
-std::unique_ptr<pictures::PictureRows> OpenBmp(pictures::FileBytes file) {
+std::unique_ptr<pictures::PictureRows> OpenBmp(const pictures::PictureFile& file) {
     const std::optional<BmpHeader> header = ReadBmpHeader(file);
     if (!header) return nullptr;
     return header->compression == BmpCompression::None ? OpenBmpRows(file, *header)
                                                        : OpenBmpRle(file, *header);
 }
 
-std::optional<pictures::PictureSize> SizeOfBmp(pictures::FileBytes file) {
+std::optional<pictures::PictureSize> SizeOfBmp(const pictures::PictureFile& file) {
     const std::optional<BmpHeader> header = ReadBmpHeader(file);
     if (!header) return std::nullopt;
     pictures::PictureSize size{header->width, header->height};
@@ -23,7 +23,7 @@ std::optional<pictures::PictureSize> SizeOfBmp(pictures::FileBytes file) {
     return size;
 }
 
-std::optional<pictures::RgbPicture> ReadBmp(pictures::FileBytes file) {
+std::optional<pictures::RgbPicture> ReadBmp(const pictures::PictureFile& file) {
     const std::unique_ptr<pictures::PictureRows> rows = OpenBmp(file);
     if (!rows) return std::nullopt;
     return pictures::ReadAll(*rows);

@@ -25,21 +25,21 @@ struct RowStart {
 // The commands of a file one after the other.
 class RleCommands {
  public:
-    RleCommands(pictures::FileBytes data, bool fourBits, int width)
-        : data_(data), fourBits_(fourBits), width_(width) {}
+    RleCommands(const pictures::PictureFile& file, bool fourBits, int width)
+        : file_(file), fourBits_(fourBits), width_(width) {}
 
     // Goes through the commands from `start` on that belong to one row. `put(column, count,
     // pixelAt)` is called for each of its runs: pixelAt(i) is the palette entry of the i-th pixel.
     // Returns by how many rows the file then goes down, 0 at the end of the picture; `start` is
     // where it goes on.
     template <class Put>
-    int WalkRow(RowStart& start, Put put) const {
+    int WalkRow(RowStart& start, Put put) {
         std::size_t at = start.offset;
         int column = start.column;
         int down = 0;
-        while (down == 0 && at + 2 <= data_.size()) {
-            const int count = data_[at];
-            const int value = data_[at + 1];
+        while (down == 0 && at + 2 <= file_.size()) {
+            const int count = file_[at];
+            const int value = file_[at + 1];
             at += 2;
             if (count > 0) {
                 const auto runPixel = [&](int i) { return fourBits_ ? Half(value, i) : value; };
@@ -48,9 +48,9 @@ class RleCommands {
                 column = 0;
                 down = 1;
             } else if (value == kJump) {
-                if (at + 2 > data_.size()) break;
-                column = std::min(width_, column + data_[at]);
-                down = data_[at + 1];
+                if (at + 2 > file_.size()) break;
+                column = std::min(width_, column + file_[at]);
+                down = file_[at + 1];
                 at += 2;
             } else if (value == kEndOfPicture) {
                 break;
@@ -76,31 +76,31 @@ class RleCommands {
     // A stretch of single pixels, which takes a whole number of 16-bit words; the file may end in
     // it.
     template <class Put>
-    int Single(std::size_t& at, int column, int count, Put put) const {
+    int Single(std::size_t& at, int column, int count, Put put) {
         const std::size_t bytes = fourBits_ ? (count + 1) / 2 : count;
-        const std::uint8_t* const pixels = data_.data() + at;
-        const std::size_t there = std::min(bytes, data_.size() - at);
+        const pictures::FileBytes pixels = file_.From(at, bytes);
+        const std::size_t there = std::min(bytes, pixels.size());
         const int pixelsThere = std::min(count, static_cast<int>(fourBits_ ? there * 2 : there));
-        at += std::min((bytes + 1) / 2 * 2, data_.size() - at);
+        at += std::min((bytes + 1) / 2 * 2, file_.size() - at);
         const auto pixelAt = [&](int i) {
             return fourBits_ ? Half(pixels[i / 2], i) : int{pixels[i]};
         };
         return Fill(column, pixelsThere, pixelAt, put);
     }
 
-    pictures::FileBytes data_;
+    pictures::FileWindow file_;
     bool fourBits_;
     int width_;
 };
 
 class RleRows : public pictures::PictureRows {
  public:
-    RleRows(pictures::FileBytes data, const BmpHeader& header)
+    RleRows(const pictures::PictureFile& file, const BmpHeader& header)
         : pictures::PictureRows(header.width, header.height),
           header_(header),
-          commands_(data, header.compression == BmpCompression::Rle4, header.width),
+          commands_(file, header.compression == BmpCompression::Rle4, header.width),
           starts_(header.height) {
-        RowStart next{0, 0};
+        RowStart next{static_cast<std::uint32_t>(std::min(header.pixelOffset, file.size())), 0};
         for (int row = 0; row < height();) {
             starts_[row] = next;
             const int down = commands_.WalkRow(next, [](int, int, const auto&) {});
@@ -126,7 +126,7 @@ class RleRows : public pictures::PictureRows {
     }
 
     const BmpHeader header_;
-    const RleCommands commands_;
+    RleCommands commands_;
     std::vector<RowStart> starts_;  // in the order of the file
     int y_ = 0;                     // of the next row
 };
@@ -136,12 +136,12 @@ constexpr std::int64_t kMostPixelsInAByte = 128;
 
 }  // namespace
 
-std::unique_ptr<pictures::PictureRows> OpenBmpRle(pictures::FileBytes file,
+std::unique_ptr<pictures::PictureRows> OpenBmpRle(const pictures::PictureFile& file,
                                                   const BmpHeader& header) {
-    const pictures::FileBytes data = file.subspan(std::min(header.pixelOffset, file.size()));
+    const std::size_t bytes = file.size() - std::min(header.pixelOffset, file.size());
     const std::int64_t pixels = std::int64_t{header.width} * header.height;
-    if (!pictures::EnoughBytes(data.size(), pixels, kMostPixelsInAByte)) return nullptr;
-    return std::make_unique<RleRows>(data, header);
+    if (!pictures::EnoughBytes(bytes, pixels, kMostPixelsInAByte)) return nullptr;
+    return std::make_unique<RleRows>(file, header);
 }
 
 }  // namespace vistrel::bmp

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <bit>
 
+#include "pictures/bmp/stored_rows.h"
+
 namespace vistrel::bmp {
 namespace {
 
@@ -35,38 +37,23 @@ Channel MakeChannel(std::uint32_t mask) {
 
 class BmpRows : public pictures::PictureRows {
  public:
-    BmpRows(pictures::FileBytes pixels, const BmpHeader& header)
-        : pictures::PictureRows(header.width, header.height), header_(header), pixels_(pixels) {
+    BmpRows(const pictures::PictureFile& file, const BmpHeader& header)
+        : pictures::PictureRows(header.width, header.height), header_(header), rows_(file, header) {
         for (int i = 0; i < 3; ++i) channels_[i] = MakeChannel(header.masks[i]);
     }
 
-    void ReadNext(std::uint8_t* rgb) override { Unpack(Row(y_++), rgb); }
+    void ReadNext(std::uint8_t* rgb) override { Unpack(rows_.Row(y_++), rgb); }
 
  private:
-    const std::uint8_t* Row(int y);
     void Unpack(const std::uint8_t* row, std::uint8_t* rgb) const;
     void UnpackIndices(const std::uint8_t* row, std::uint8_t* rgb) const;
     void UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const;
 
     const BmpHeader header_;
-    pictures::FileBytes pixels_;
+    StoredRows rows_;
     std::array<Channel, 3> channels_;
-    std::vector<std::uint8_t> cutRow_;  // the row in which the file ends, made up with zeros
-    int y_ = 0;                         // of the next row
+    int y_ = 0;  // of the next row
 };
-
-const std::uint8_t* BmpRows::Row(int y) {
-    const std::size_t bytes = header_.RowBytes();
-    const std::size_t stored = header_.topDown ? y : header_.height - 1 - y;
-    const std::size_t offset = stored * bytes;
-    if (offset + bytes <= pixels_.size()) return pixels_.data() + offset;
-    cutRow_.assign(bytes, 0);
-    if (offset < pixels_.size()) {
-        std::copy(pixels_.begin() + static_cast<std::ptrdiff_t>(offset), pixels_.end(),
-                  cutRow_.begin());
-    }
-    return cutRow_.data();
-}
 
 void BmpRows::Unpack(const std::uint8_t* row, std::uint8_t* rgb) const {
     if (header_.bitsPerPixel <= 8) return UnpackIndices(row, rgb);
@@ -107,11 +94,11 @@ void BmpRows::UnpackChannels(const std::uint8_t* row, std::uint8_t* rgb) const {
 
 }  // namespace
 
-std::unique_ptr<pictures::PictureRows> OpenBmpRows(pictures::FileBytes file,
+std::unique_ptr<pictures::PictureRows> OpenBmpRows(const pictures::PictureFile& file,
                                                    const BmpHeader& header) {
-    const pictures::FileBytes pixels = file.subspan(std::min(header.pixelOffset, file.size()));
-    if (pixels.size() < header.RowBytes() * header.height / 10) return nullptr;
-    return std::make_unique<BmpRows>(pixels, header);
+    const std::size_t bytes = file.size() - std::min(header.pixelOffset, file.size());
+    if (bytes < header.RowBytes() * header.height / 10) return nullptr;
+    return std::make_unique<BmpRows>(file, header);
 }
 
 }  // namespace vistrel::bmp

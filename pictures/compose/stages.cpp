@@ -34,11 +34,16 @@ pictures::PictureSize ReducedSize(const pictures::PictureSize& file) {
 }
 
 /// The sum of the bytes and the sum of those sums, so that their order counts too.
-std::uint64_t ChecksumOf(const std::vector<std::uint8_t>& bytes) {
+std::uint64_t ChecksumOf(const pictures::PictureFile& file) {
     std::uint32_t sum = 1, sums = 0;
-    for (const std::uint8_t byte : bytes) {
-        sum += byte;
-        sums += sum;
+    pictures::FileWindow window(file);
+    for (std::size_t at = 0; at < file.size();) {
+        const pictures::FileBytes bytes = window.From(at);
+        for (const std::uint8_t byte : bytes) {
+            sum += byte;
+            sums += sum;
+        }
+        at += bytes.size();
     }
     return std::uint64_t{sums} << 32 | sum;
 }
@@ -47,54 +52,57 @@ std::uint64_t ChecksumOf(const std::vector<std::uint8_t>& bytes) {
 
 // Nothing is thrown at callers: where memory runs out, a picture cannot be read.
 std::optional<pictures::PictureSize> SizeOfPicture(const std::string& path) try {
-    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    return file ? pictures::FormatOfName(path).size(*file) : std::nullopt;
+    return pictures::ReadInPieces(path, pictures::FormatOfName(path).size);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
 std::optional<std::uint64_t> ChecksumOfPicture(const std::string& path) try {
-    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    if (!file || !pictures::FormatOfName(path).size(*file)) return std::nullopt;
-    return ChecksumOf(*file);
+    const auto checksum = [&](const pictures::PictureFile& file) -> std::optional<std::uint64_t> {
+        if (!pictures::FormatOfName(path).size(file)) return std::nullopt;
+        return ChecksumOf(file);
+    };
+    return pictures::ReadInPieces(path, checksum);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
 std::optional<Intermediate> ReadComposed(const std::string& path) try {
     const pictures::PictureFormat& format = pictures::FormatOfName(path);
-    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = format.size(*file);
-    if (!size) return std::nullopt;
-    const pictures::PictureSize reduced = ReducedSize(*size);
-    std::optional<pictures::RgbPicture> picture =
-        format.readPart(*file, pictures::PictureArea::WholeOf(size->width, size->height),
-                        reduced.width, reduced.height);
-    if (!picture) return std::nullopt;
-    picture->pixels.push_back(0);
-    return Intermediate{*size, ChecksumOf(*file), ReadMovingScreen(path), std::move(*picture)};
+    const auto read = [&](const pictures::PictureFile& file) -> std::optional<Intermediate> {
+        const std::optional<pictures::PictureSize> size = format.size(file);
+        if (!size) return std::nullopt;
+        const pictures::PictureSize reduced = ReducedSize(*size);
+        std::optional<pictures::RgbPicture> picture =
+            format.readPart(file, pictures::PictureArea::WholeOf(size->width, size->height),
+                            reduced.width, reduced.height);
+        if (!picture) return std::nullopt;
+        picture->pixels.push_back(0);
+        return Intermediate{*size, ChecksumOf(file), ReadMovingScreen(path), std::move(*picture)};
+    };
+    return pictures::ReadInPieces(path, read);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition) try {
     const pictures::PictureFormat& format = pictures::FormatOfName(path);
-    const std::optional<std::vector<std::uint8_t>> file = pictures::ReadWholeFile(path);
-    if (!file) return std::nullopt;
-    const std::optional<pictures::PictureSize> size = format.size(*file);
-    if (!size) return std::nullopt;
-    const Placement placement = PlacementOf(*size, composition);
-    const std::optional<pictures::RgbPicture> part =
-        format.readPart(*file, placement.stored, placement.target.width, placement.target.height);
-    if (!part) return std::nullopt;
-    return PutOnScreen(*part, placement, composition.framing);
+    const auto read = [&](const pictures::PictureFile& file) -> std::optional<Framed> {
+        const std::optional<pictures::PictureSize> size = format.size(file);
+        if (!size) return std::nullopt;
+        const Placement placement = PlacementOf(*size, composition);
+        const std::optional<pictures::RgbPicture> part = format.readPart(
+            file, placement.stored, placement.target.width, placement.target.height);
+        if (!part) return std::nullopt;
+        return PutOnScreen(*part, placement, composition.framing);
+    };
+    return pictures::ReadInPieces(path, read);
 } catch (const std::bad_alloc&) {
     return std::nullopt;
 }
 
-pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition) {
-    pictures::RgbPicture screen = framed.screen;
+pictures::RgbPicture Adjust(Framed framed, const Composition& composition) {
+    pictures::RgbPicture screen = std::move(framed.screen);
     ApplyLight(composition.light, framed.picture, screen);
     PaintText(composition.text, screen);
     return screen;
@@ -126,10 +134,11 @@ bool Write(const std::string& path, const screen::IndexedScreen& screen) try {
 
 pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::string& targetPath,
                                       const Composition& composition) try {
-    const std::optional<Framed> framed = ReadFramed(sourcePath, composition);
+    std::optional<Framed> framed = ReadFramed(sourcePath, composition);
     if (!framed) return pictures::ConversionResult::NotRead;
+    const Levels levels = LevelsFor(composition.light, *framed);
     const std::optional<screen::IndexedScreen> screen = ReduceMoving(
-        ReadMovingScreen(sourcePath), *framed, Adjust(*framed, composition), composition);
+        ReadMovingScreen(sourcePath), levels, Adjust(std::move(*framed), composition), composition);
     if (!screen) return pictures::ConversionResult::NotReduced;
     return Write(targetPath, *screen) ? pictures::ConversionResult::Written
                                       : pictures::ConversionResult::NotWritten;

@@ -67,7 +67,7 @@ Framed FrameFinely(const Intermediate& intermediate, const Composition& composit
 std::optional<Framed> ReadFramed(const std::string& path, const Composition& composition);
 
 /// Light and text.
-pictures::RgbPicture Adjust(const Framed& framed, const Composition& composition);
+pictures::RgbPicture Adjust(Framed framed, const Composition& composition);
 
 /// All colours that a screen can have.
 inline constexpr int kColors = 256;

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_file.h"
 
 namespace vistrel::gif {
 
@@ -12,7 +12,7 @@ namespace vistrel::gif {
 class GifData {
  public:
     /// `start` is where the first sub-block begins in `file`.
-    GifData(pictures::FileBytes file, std::size_t start)
+    GifData(const pictures::PictureFile& file, std::size_t start)
         : file_(file), next_(start), blockEnd_(start) {}
 
     /// The next byte; -1 at the end.
@@ -24,7 +24,7 @@ class GifData {
  private:
     bool BeginBlock();
 
-    pictures::FileBytes file_;
+    pictures::FileWindow file_;
     std::size_t next_;
     std::size_t blockEnd_;
 };

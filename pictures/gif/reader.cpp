@@ -54,7 +54,7 @@ class GifRows : public pictures::PictureRows {
 
 class GifFile {
  public:
-    explicit GifFile(pictures::FileBytes file) : file_(file) {}
+    explicit GifFile(const pictures::PictureFile& file) : whole_(file), file_(file) {}
 
     std::unique_ptr<pictures::PictureRows> FirstPicture() {
         if (!IsGif()) return nullptr;
@@ -67,10 +67,10 @@ class GifFile {
     }
 
  private:
-    bool IsGif() const {
+    bool IsGif() {
         constexpr std::uint8_t kSignature[] = {'G', 'I', 'F', '8'};
         return file_.size() >= kScreenHeader &&
-               std::equal(kSignature, kSignature + 4, file_.begin()) &&
+               std::equal(kSignature, kSignature + 4, file_.From(0, kScreenHeader).begin()) &&
                (file_[4] == '7' || file_[4] == '9') && file_[5] == 'a';
     }
 
@@ -165,7 +165,7 @@ class GifFile {
         }
         const int literalBits = static_cast<int>(pictures::Byte(file_, offset_++));
         if (literalBits < 1 || literalBits > GifLzw::kMostLiteralBits) return nullptr;
-        GifLzw decoder(GifData(file_, offset_), literalBits);
+        GifLzw decoder(GifData(whole_, offset_), literalBits);
         if (decoder.IsAtEnd()) return nullptr;
         const Color ground = frame_.transparent >= 0 ? kWhite : background_;
         return std::make_unique<GifRows>(width_, height_, frame_, ground, decoder);
@@ -180,7 +180,8 @@ class GifFile {
         }
     }
 
-    pictures::FileBytes file_;
+    const pictures::PictureFile whole_;
+    pictures::FileWindow file_;
     std::size_t offset_ = 0;
     int width_ = 0;  // of the logical screen
     int height_ = 0;
@@ -191,11 +192,11 @@ class GifFile {
 
 }  // namespace
 
-std::unique_ptr<pictures::PictureRows> OpenGif(pictures::FileBytes file) {
+std::unique_ptr<pictures::PictureRows> OpenGif(const pictures::PictureFile& file) {
     return GifFile(file).FirstPicture();
 }
 
-std::optional<pictures::RgbPicture> ReadGif(pictures::FileBytes file) {
+std::optional<pictures::RgbPicture> ReadGif(const pictures::PictureFile& file) {
     const std::unique_ptr<pictures::PictureRows> rows = OpenGif(file);
     if (!rows) return std::nullopt;
     return pictures::ReadAll(*rows);

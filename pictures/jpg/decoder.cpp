@@ -1,6 +1,8 @@
 // Reads scan after scan, within bounds that a sound file never meets.
 #include "pictures/jpg/decoder.h"
 
+#include <algorithm>
+
 #include "pictures/jpg/scan/choice.h"
 #include "pictures/jpg/scan/progressive.h"
 #include "pictures/jpg/scan/sequential.h"
@@ -15,6 +17,9 @@ constexpr std::int64_t kLeastPart = 10;
 // ten scans, of which a component takes part in about six.
 constexpr std::int64_t kMostVisits = 32;
 
+// Each takes some memory while it is read beside the others.
+constexpr std::size_t kMostScans = 256;
+
 bool IsEnough(const ScanOutcome& outcome) { return outcome.mcusRead * kLeastPart >= outcome.mcus; }
 
 bool HasFirstComponent(const JpgScan& scan) {
@@ -25,7 +30,7 @@ bool HasFirstComponent(const JpgScan& scan) {
 }
 
 // Every block takes a bit of the file at least, so that a short file cannot have a large picture.
-bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
+bool CanHoldEnough(const pictures::PictureFile& file, const JpgFrame& frame) {
     std::int64_t blocks = 0;
     for (const JpgComponent& component : frame.components) {
         blocks += static_cast<std::int64_t>(component.blocksAcross) * component.blocksDown;
@@ -33,7 +38,7 @@ bool CanHoldEnough(pictures::FileBytes file, const JpgFrame& frame) {
     return static_cast<std::int64_t>(file.size()) * 8 * kLeastPart >= blocks;
 }
 
-bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadSequential(const pictures::PictureFile& file, JpgMarkers& markers,
                     std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     const JpgFrame& frame = markers.frame();
     std::vector<bool> taken(frame.components.size());
@@ -68,17 +73,21 @@ bool ReadSequential(pictures::FileBytes file, JpgMarkers& markers,
     return isEnough;
 }
 
-bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
-                     std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
+struct OpenedScan {
+    std::unique_ptr<ProgressiveScan> reading;
+    bool tellsWhatIsThere;  // as the constant terms of the first component do
+};
+
+// Opens the scans that are needed of the picture, from the one on at which `markers` stands.
+std::vector<OpenedScan> OpenScans(const pictures::PictureFile& file, JpgMarkers& markers,
+                                  std::span<const KeptFrequencies> kept,
+                                  std::span<ProgressiveComponent> components) {
     const JpgFrame& frame = markers.frame();
-    std::vector<ProgressiveComponent> components;
     std::int64_t visitsLeft = static_cast<std::int64_t>(file.size()) * kMostVisits;
-    for (std::size_t i = 0; i < frame.components.size(); ++i) {
-        components.emplace_back(frame.components[i], kept[i]);
-        visitsLeft += BlocksOf(frame.components[i]) * kMostVisits;
-    }
+    for (const JpgComponent& component : frame.components)
+        visitsLeft += BlocksOf(component) * kMostVisits;
     const std::vector<bool> chosen = ChooseScans(file, kept);
-    bool isEnough = false;
+    std::vector<OpenedScan> scans;
     std::size_t number = 0;
     do {
         const JpgScan& scan = markers.scan();
@@ -88,20 +97,33 @@ bool ReadProgressive(pictures::FileBytes file, JpgMarkers& markers,
             visitsLeft -= BlocksOf(frame.components[static_cast<std::size_t>(part.component)]);
         }
         if (visitsLeft < 0) break;
-        const ScanOutcome outcome =
-            ReadProgressiveScan(file, frame, scan, markers.tables(), components);
-        if (scan.IsDc() && HasFirstComponent(scan)) isEnough = isEnough || IsEnough(outcome);
-        markers.ContinueAt(outcome.end);
-    } while (number < chosen.size() && markers.NextScan());
-    for (std::size_t i = 0; i < components.size() && isEnough; ++i) {
-        for (int row = 0; row < frame.components[i].blocksDown; ++row) {
-            sink.AddBlockRow(static_cast<int>(i), row, components[i].Block(0, row));
+        scans.push_back({OpenProgressiveScan(file, frame, scan, markers.tables(), components),
+                         scan.IsDc() && HasFirstComponent(scan)});
+        markers.PassOverScan();
+    } while (number < chosen.size() && scans.size() < kMostScans && markers.NextScan());
+    return scans;
+}
+
+bool ReadProgressive(const pictures::PictureFile& file, JpgMarkers& markers,
+                     std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
+    const JpgFrame& frame = markers.frame();
+    std::vector<ProgressiveComponent> components;
+    for (std::size_t i = 0; i < frame.components.size(); ++i)
+        components.emplace_back(frame.components[i], kept[i]);
+    const std::vector<OpenedScan> scans = OpenScans(file, markers, kept, components);
+    for (int mcuRow = 0; mcuRow < frame.mcusDown; ++mcuRow) {
+        for (ProgressiveComponent& component : components) component.Clear();
+        for (const OpenedScan& scan : scans) scan.reading->ReadNext();
+        for (std::size_t i = 0; i < components.size(); ++i) {
+            const JpgComponent& component = frame.components[i];
+            const int end = std::min((mcuRow + 1) * component.down, component.blocksDown);
+            for (int row = mcuRow * component.down; row < end; ++row)
+                sink.AddBlockRow(static_cast<int>(i), row, components[i].Block(0, row));
         }
-        // The sink may need the memory for what it makes of the next component.
-        components[i].blocks.numbers = {};
-        components[i].nonZero = {};
     }
-    return isEnough;
+    return std::any_of(scans.begin(), scans.end(), [](const OpenedScan& scan) {
+        return scan.tellsWhatIsThere && IsEnough(scan.reading->Outcome());
+    });
 }
 
 /// The upper tenth of a frame's rows, or a little more.
@@ -119,7 +141,7 @@ JpgFrame UpperTenth(JpgFrame frame) {
 
 /// True when what makes a picture enough is there in the upper tenth already, as in all sound files
 /// whose first scan is the first component's.
-bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies> means,
+bool BeginsWithEnough(const pictures::PictureFile& file, std::span<const KeptFrequencies> means,
                       BlockRowSink& sink) {
     JpgMarkers markers(file);
     if (!markers.NextScan() || !HasFirstComponent(markers.scan()) || !markers.scan().IsDc() ||
@@ -134,7 +156,9 @@ bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies>
         for (std::size_t i = 0; i < means.size(); ++i) {
             components.emplace_back(upper.components[i], means[i]);
         }
-        outcome = ReadProgressiveScan(file, upper, scan, markers.tables(), components);
+        const auto reading = OpenProgressiveScan(file, upper, scan, markers.tables(), components);
+        while (!reading->IsAtEnd()) reading->ReadNext();
+        outcome = reading->Outcome();
     } else {
         outcome = ReadSequentialScan(file, upper, scan, markers.tables(), means, sink);
     }
@@ -143,15 +167,7 @@ bool BeginsWithEnough(pictures::FileBytes file, std::span<const KeptFrequencies>
 
 }  // namespace
 
-std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept) {
-    std::int64_t bytes = 0;
-    for (std::size_t i = 0; frame.progressive && i < kept.size(); ++i) {
-        bytes += ProgressiveComponent::BytesFor(frame.components[i], kept[i]);
-    }
-    return bytes;
-}
-
-bool HasEnough(pictures::FileBytes file) {
+bool HasEnough(const pictures::PictureFile& file) {
     struct PassOver : BlockRowSink {
         void AddBlockRow(int, int, const std::int16_t*) override {}
     } passOver;
@@ -163,7 +179,7 @@ bool HasEnough(pictures::FileBytes file) {
            ReadCoefficients(file, markers, means, passOver);
 }
 
-bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadCoefficients(const pictures::PictureFile& file, JpgMarkers& markers,
                       std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     if (!CanHoldEnough(file, markers.frame())) return false;
     return markers.frame().progressive ? ReadProgressive(file, markers, kept, sink)

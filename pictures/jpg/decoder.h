@@ -9,19 +9,15 @@
 
 namespace vistrel::jpg {
 
-/// The memory that ReadCoefficients takes for what it has to keep: nothing to speak of unless the
-/// file is progressive.
-std::int64_t CoefficientBytes(const JpgFrame& frame, std::span<const KeptFrequencies> kept);
-
 /// Reads the scans of the file from the one on at which `markers` stands, and hands over every row
 /// of blocks of every component. `kept` has an entry per component. What the file lacks is zeros,
 /// which stand for grey. False when the file has not even a tenth of the picture; `sink` has then
 /// had some rows or none.
-bool ReadCoefficients(pictures::FileBytes file, JpgMarkers& markers,
+bool ReadCoefficients(const pictures::PictureFile& file, JpgMarkers& markers,
                       std::span<const KeptFrequencies> kept, BlockRowSink& sink);
 
 /// Whether ReadCoefficients would find a tenth of the picture in a file: told without the memory
 /// for all of it.
-bool HasEnough(pictures::FileBytes file);
+bool HasEnough(const pictures::PictureFile& file);
 
 }  // namespace vistrel::jpg

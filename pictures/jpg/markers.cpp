@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+
+#include "pictures/jpg/scan/walk.h"
 
 namespace vistrel::jpg {
 namespace {
@@ -16,7 +19,10 @@ constexpr int kQuantTables = 0xDB, kLines = 0xDC, kRestartInterval = 0xDD;
 constexpr int kJfif = 0xE0, kExif = 0xE1, kAdobe = 0xEE, kComment = 0xFE;
 constexpr int kTemporary = 0x01;
 
-int Word(pictures::FileBytes bytes, std::size_t at) { return bytes[at] << 8 | bytes[at + 1]; }
+template <class Bytes>
+int Word(Bytes&& bytes, std::size_t at) {
+    return bytes[at] << 8 | bytes[at + 1];
+}
 
 int DivideUp(int value, int by) { return (value + by - 1) / by; }
 
@@ -34,29 +40,36 @@ bool IsNeedless(int marker) {
     return (marker >= kJfif && marker < kJfif + 16) || marker == kComment;
 }
 
+// Of these, what is looked into.
+bool TellsSomething(int marker) { return marker == kJfif || marker == kExif || marker == kAdobe; }
+
 }  // namespace
 
-JpgMarkers::JpgMarkers(pictures::FileBytes file)
-    : file_(file), tables_(std::make_unique<JpgTables>()) {
-    const bool isJpg = file.size() > 3 && file[0] == 0xFF && file[1] == kStart;
-    position_ = isJpg ? 2 : file.size();
+JpgMarkers::JpgMarkers(const pictures::PictureFile& file)
+    : whole_(file), file_(file), tables_(std::make_unique<JpgTables>()) {
+    const bool isJpg = file_.size() > 3 && file_[0] == 0xFF && file_[1] == kStart;
+    position_ = isJpg ? 2 : file_.size();
 }
 
 bool JpgMarkers::NextScan() {
     for (;;) {
         const std::size_t at = FindMarker(file_, position_);
-        if (at + 4 > file_.size()) return false;
-        const int marker = file_[at + 1];
+        const pictures::FileBytes start = file_.From(at, 4);
+        if (start.size() < 4) return false;
+        const int marker = start[1];
         position_ = at + 2;
         if (StandsAlone(marker)) continue;
         if (marker == kStart || marker == kEnd) return false;
         // A length counts its own two bytes. Segments that are not needed are skipped even where
         // it says less, as other programs do.
-        const std::size_t given = static_cast<std::size_t>(Word(file_, position_));
+        const std::size_t given = static_cast<std::size_t>(Word(start, 2));
         if (given < 2 && !IsNeedless(marker)) return false;
         const std::size_t length = std::max<std::size_t>(given, 2);
         if (position_ + length > file_.size()) return false;
-        const pictures::FileBytes content = file_.subspan(position_ + 2, length - 2);
+        std::vector<std::uint8_t> room;
+        pictures::FileBytes content;
+        if (!IsNeedless(marker) || TellsSomething(marker))
+            content = whole_.Piece(position_ + 2, length - 2, room);
         position_ += length;
         if (!ReadSegment(marker, content)) return false;
         if (marker == kScan) return true;
@@ -167,6 +180,14 @@ bool JpgMarkers::BuildTables() {
     return ForEachTable([](HuffmanTable& table) { return table.Build(); });
 }
 
+// Up to the first restart marker, NextScan finds the way by itself.
+void JpgMarkers::PassOverScan() {
+    if (tables_->restartInterval == 0) return;
+    const ScanMcus mcus(frame_, scan_);
+    const std::int64_t last = std::int64_t{mcus.across} * mcus.down - 1;
+    position_ = FindEndOfScan(file_, scan_.dataStart, last / tables_->restartInterval);
+}
+
 // True when `use` is true of every Huffman table that the scan reads by.
 template <class UseTable>
 bool JpgMarkers::ForEachTable(UseTable use) {
@@ -180,7 +201,7 @@ bool JpgMarkers::ForEachTable(UseTable use) {
 }
 
 // A frame without a height has it in a segment right behind its first scan.
-int JpgMarkers::HeightBehindScan() const {
+int JpgMarkers::HeightBehindScan() {
     std::size_t at = FindMarker(file_, position_);
     while (at + 6 <= file_.size() && StandsAlone(file_[at + 1])) at = FindMarker(file_, at + 2);
     const bool isThere = at + 6 <= file_.size() && file_[at + 1] == kLines;
@@ -208,8 +229,8 @@ bool JpgMarkers::ReadHuffmanTables(pictures::FileBytes content) {
         const bool isAc = content[0] >> 4 != 0;
         const std::size_t index = content[0] & 15;
         const pictures::FileBytes counts = content.subspan(1, kLengths);
-        std::size_t symbols = 0;
-        for (const std::uint8_t count : counts) symbols += count;
+        const auto symbols =
+            std::accumulate(counts.data(), counts.data() + kLengths, std::size_t{0});
         if (index > 3 || content.size() < 1 + kLengths + symbols) return false;
         HuffmanTable& table = isAc ? tables_->ac[index] : tables_->dc[index];
         table.Define({counts, content.subspan(1 + kLengths, symbols)}, !isAc);

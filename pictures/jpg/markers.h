@@ -12,7 +12,7 @@ namespace vistrel::jpg {
 /// the coded data and says by ContinueAt where they ended.
 class JpgMarkers {
  public:
-    explicit JpgMarkers(pictures::FileBytes file);
+    explicit JpgMarkers(const pictures::PictureFile& file);
 
     /// Goes on to the next scan. False at the end of the picture and when nothing further can be
     /// understood. The frame is there when this has been true once.
@@ -21,6 +21,9 @@ class JpgMarkers {
     /// Makes the Huffman tables that the scan is read by. False when one of them is of no code that
     /// there can be.
     bool BuildTables();
+
+    /// Goes on behind the scan's coded data without reading them.
+    void PassOverScan();
 
     /// Goes on reading markers at `position`.
     void ContinueAt(std::size_t position) { position_ = position; }
@@ -47,9 +50,10 @@ class JpgMarkers {
     void SupplyUsualTables();
     template <class UseTable>
     bool ForEachTable(UseTable use);
-    int HeightBehindScan() const;
+    int HeightBehindScan();
 
-    pictures::FileBytes file_;
+    const pictures::PictureFile whole_;
+    pictures::FileWindow file_;
     std::size_t position_ = 0;
     JpgFrame frame_;
     JpgScan scan_;

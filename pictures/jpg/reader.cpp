@@ -78,24 +78,21 @@ constexpr std::int64_t kAskedForAnyway = 12 * 1024 * 1024;
 }  // namespace
 
 std::int64_t BytesToReadWhole(const JpgFrame& frame) {
-    const std::vector<KeptFrequencies> all = AllFrequencies(frame);
     std::int64_t planes = 0;
     for (const JpgComponent& component : frame.components) {
         planes += BlocksOf(component) * kBlockSize;
     }
-    const std::int64_t picture = std::int64_t{frame.width} * frame.height * 3;
-    const std::int64_t firstPlane = BlocksOf(frame.components[0]) * kBlockSize;
-    return std::max(CoefficientBytes(frame, all) + firstPlane, planes + picture);
+    return planes + std::int64_t{frame.width} * frame.height * 3;
 }
 
-bool IsJpgToBeTurned(pictures::FileBytes file) {
+bool IsJpgToBeTurned(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return false;
     const Turning turning = TurningOf(markers.orientation());
     return turning.swapSides || turning.mirrorAcross || turning.mirrorDown;
 }
 
-std::optional<pictures::RgbPicture> ReadJpg(pictures::FileBytes file) {
+std::optional<pictures::RgbPicture> ReadJpg(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     const JpgFrame& frame = markers.frame();

@@ -161,10 +161,8 @@ class ComponentScalers : public BlockRowSink {
     std::vector<Channel> channels_;
 };
 
-// The most memory that a file may take beside the scaled picture; a file that would take more is
-// read less finely.
+// The most memory that reading a file whole may take.
 constexpr std::int64_t kMostBytes = 20 * 1024 * 1024;
-constexpr std::int64_t kMostCoefficientBytes = 16 * 1024 * 1024;
 
 // True when nothing is gained by scaling components one by one: a picture that does not become
 // smaller needs all frequencies, and inks make colours by multiplying, which should come before
@@ -182,36 +180,10 @@ Size SizeOfColors(const JpgFrame& frame, Size seen, Size target) {
     return {std::min(seen.width, target.width * 2), std::min(seen.height, target.height * 2)};
 }
 
-KeptFrequencies WithFewer(const KeptFrequencies& kept) {
-    const auto fewer = [](int count) { return count == 8 ? kMostReduced : count - 1; };
-    if (kept.across == 1 && kept.down == 1) return kept;
-    KeptFrequencies less = kept.across >= kept.down
-                               ? KeptFrequencies::Of(fewer(kept.across), kept.down)
-                               : KeptFrequencies::Of(kept.across, fewer(kept.down));
-    less.firstRow = kept.firstRow;
-    less.endRow = kept.endRow;
-    return less;
-}
-
-// A row more on either side does no harm.
-void KeepSeenRows(const JpgFrame& frame, const JpgComponent& component,
-                  const pictures::PictureArea& area, KeptFrequencies& kept) {
-    const SeenAxis down =
-        AxisOf(area.top, area.height, component.down, frame.maxDown, kept.down, 1);
-    kept.firstRow = std::max(down.first / kept.down - 1, 0);
-    kept.endRow = (down.first + down.axis.samples - 1) / kept.down + 2;
-}
-
-std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, const pictures::PictureArea& area,
-                                           Size seen, Size target) {
+std::vector<KeptFrequencies> FrequenciesOf(const JpgFrame& frame, Size seen, Size target) {
     std::vector<KeptFrequencies> kept;
-    for (const JpgComponent& component : frame.components) {
+    for (const JpgComponent& component : frame.components)
         kept.push_back(FrequenciesOf(frame, component, seen, target));
-        KeepSeenRows(frame, component, area, kept.back());
-    }
-    for (int i = 0; i < 2 * 8 && CoefficientBytes(frame, kept) > kMostCoefficientBytes; ++i) {
-        for (KeptFrequencies& each : kept) each = WithFewer(each);
-    }
     return kept;
 }
 
@@ -240,7 +212,7 @@ pictures::PictureSize UprightSize(const JpgMarkers& markers) {
 }
 
 // A part of the picture, by markers at the file's first scan.
-std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarkers& markers,
+std::optional<pictures::RgbPicture> ReadPart(const pictures::PictureFile& file, JpgMarkers& markers,
                                              const pictures::PictureArea& area, int width,
                                              int height) {
     const JpgFrame& frame = markers.frame();
@@ -256,7 +228,7 @@ std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarker
         return scale::Resize(*whole, area, width, height);
     }
     const Size colors = SizeOfColors(frame, seen, target);
-    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, stored, seen, colors);
+    const std::vector<KeptFrequencies> kept = FrequenciesOf(frame, seen, colors);
     ComponentScalers scalers(frame, kept, stored, colors);
     if (!ReadCoefficients(file, markers, kept, scalers)) return std::nullopt;
     pictures::RgbPicture picture = MakePicture(markers, scalers, colors);
@@ -266,13 +238,13 @@ std::optional<pictures::RgbPicture> ReadPart(pictures::FileBytes file, JpgMarker
 
 }  // namespace
 
-std::optional<pictures::PictureSize> SizeOfJpg(pictures::FileBytes file) {
+std::optional<pictures::PictureSize> SizeOfJpg(const pictures::PictureFile& file) {
     JpgMarkers markers(file);
     if (!markers.NextScan()) return std::nullopt;
     return UprightSize(markers);
 }
 
-std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, int width,
+std::optional<pictures::ScaledPicture> ReadJpgScaled(const pictures::PictureFile& file, int width,
                                                      int height) {
     JpgMarkers markers(file);
     if (!pictures::IsPlausibleSize(width, height) || !markers.NextScan()) return std::nullopt;
@@ -283,7 +255,7 @@ std::optional<pictures::ScaledPicture> ReadJpgScaled(pictures::FileBytes file, i
     return pictures::ScaledPicture{std::move(*picture), size.width, size.height};
 }
 
-std::optional<pictures::RgbPicture> ReadJpgScaled(pictures::FileBytes file,
+std::optional<pictures::RgbPicture> ReadJpgScaled(const pictures::PictureFile& file,
                                                   const pictures::PictureArea& area, int width,
                                                   int height) {
     JpgMarkers markers(file);

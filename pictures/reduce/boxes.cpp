@@ -11,20 +11,24 @@ namespace {
 
 using Number = std::int64_t;
 using Vector = std::array<Number, 3>;
+/// A point or a direction in 32 bits: an old processor has no others, and makes 64 of them by one
+/// multiplication.
+using Axis = std::array<std::int32_t, 3>;
 
 /// A run of cell numbers in the common order, and what is known of them.
 struct Box {
     std::size_t begin = 0;
     std::size_t end = 0;
     Number pixels = 0;
-    Vector mean{};
+    Axis mean{};
     std::array<Number, 6> spread{};  ///< sums of the products xx yy zz xy xz yz about the mean
 
     Number error() const { return spread[0] + spread[1] + spread[2]; }
 };
 
-/// How far a cell lies along an axis from the middle of a box.
-Number OffsetOf(const Cell& cell, const Box& box, const Vector& axis) {
+/// How far a cell lies along an axis from the middle of a box. Differences of 14 bits times an axis
+/// of 12 fit into 32.
+std::int32_t OffsetOf(const Cell& cell, const Box& box, const Axis& axis) {
     return ((cell.mean.x - box.mean[0]) * axis[0] + (cell.mean.y - box.mean[1]) * axis[1] +
             (cell.mean.z - box.mean[2]) * axis[2]) >>
            8;
@@ -38,9 +42,9 @@ class Slices {
     /// `pixels` is the number of pixels that will be added.
     explicit Slices(Number pixels) : pixels_(pixels) {}
 
-    void Add(int slice, Number pixels, Number offset) {
+    void Add(int slice, std::int32_t pixels, std::int32_t offset) {
         slices_[slice].pixels += pixels;
-        slices_[slice].offsets += pixels * offset;
+        slices_[slice].offsets += Number{pixels} * offset;
     }
 
     /// The last slice of the lower side. Parting into n and m pixels whose offsets sum to s and t
@@ -130,10 +134,10 @@ class Cutter {
 
  private:
     Box Measured(std::size_t begin, std::size_t end) const;
-    static Vector PrincipalAxis(const Box& box);
-    std::size_t PartAlong(const Box& box, const Vector& axis);
+    static Axis PrincipalAxis(const Box& box);
+    std::size_t PartAlong(const Box& box, const Axis& axis);
     /// The least and the largest offset of the box's cells along the axis.
-    std::pair<Number, Number> ReachOf(const Box& box, const Vector& axis) const;
+    std::pair<std::int32_t, std::int32_t> ReachOf(const Box& box, const Axis& axis) const;
     std::size_t MoveLowerToFront(const Box& box, int cut);
 
     std::vector<Cell>& cells_;
@@ -147,32 +151,33 @@ Box Cutter::Measured(std::size_t begin, std::size_t end) const {
     Vector sum{};
     for (std::size_t i = begin; i < end; ++i) {
         const Cell& cell = cells_[order_[i]];
-        const Number count = cell.count;
+        const auto count = static_cast<std::int32_t>(cell.count);
         box.pixels += count;
-        sum[0] += count * cell.mean.x;
-        sum[1] += count * cell.mean.y;
-        sum[2] += count * cell.mean.z;
+        sum[0] += Number{count} * cell.mean.x;
+        sum[1] += Number{count} * cell.mean.y;
+        sum[2] += Number{count} * cell.mean.z;
     }
-    for (int k = 0; k < 3; ++k) box.mean[k] = (sum[k] + box.pixels / 2) / box.pixels;
+    for (int k = 0; k < 3; ++k)
+        box.mean[k] = static_cast<std::int32_t>((sum[k] + box.pixels / 2) / box.pixels);
     if (end - begin == 1) return box;
     for (std::size_t i = begin; i < end; ++i) {
         const Cell& cell = cells_[order_[i]];
-        const Number count = cell.count;
-        const Number x = cell.mean.x - box.mean[0];
-        const Number y = cell.mean.y - box.mean[1];
-        const Number z = cell.mean.z - box.mean[2];
-        box.spread[0] += count * (x * x);
-        box.spread[1] += count * (y * y);
-        box.spread[2] += count * (z * z);
-        box.spread[3] += count * (x * y);
-        box.spread[4] += count * (x * z);
-        box.spread[5] += count * (y * z);
+        const auto count = static_cast<std::int32_t>(cell.count);
+        const std::int32_t x = cell.mean.x - box.mean[0];
+        const std::int32_t y = cell.mean.y - box.mean[1];
+        const std::int32_t z = cell.mean.z - box.mean[2];
+        box.spread[0] += Number{count} * (x * x);
+        box.spread[1] += Number{count} * (y * y);
+        box.spread[2] += Number{count} * (z * z);
+        box.spread[3] += Number{count} * (x * y);
+        box.spread[4] += Number{count} * (x * z);
+        box.spread[5] += Number{count} * (y * z);
     }
     return box;
 }
 
 /// The direction of the largest spread, largest component 1 << 12, by power iteration.
-Vector Cutter::PrincipalAxis(const Box& box) {
+Axis Cutter::PrincipalAxis(const Box& box) {
     constexpr int kBits = 12;
     constexpr int kIterations = 8;
     std::array<Number, 6> s = box.spread;
@@ -187,7 +192,10 @@ Vector Cutter::PrincipalAxis(const Box& box) {
         Number top = 1;
         for (const Number value : axis) top = std::max(top, value < 0 ? -value : value);
         for (Number& value : axis) value = (value << kBits) / top;
-        if (round == kIterations) return axis;
+        if (round == kIterations) {
+            return {static_cast<std::int32_t>(axis[0]), static_cast<std::int32_t>(axis[1]),
+                    static_cast<std::int32_t>(axis[2])};
+        }
         Vector next{};
         for (int row = 0; row < 3; ++row) {
             for (int k = 0; k < 3; ++k) next[row] += matrix[row][k] * axis[k];
@@ -198,25 +206,25 @@ Vector Cutter::PrincipalAxis(const Box& box) {
 
 /// Slices the box across the axis, finds the best plane between two slices and moves the cells of
 /// the lower side to the front. Returns where the upper side begins.
-std::size_t Cutter::PartAlong(const Box& box, const Vector& axis) {
+std::size_t Cutter::PartAlong(const Box& box, const Axis& axis) {
     const auto [low, high] = ReachOf(box, axis);
     Slices slices(box.pixels);
-    const Number factor = (Number{Slices::kCount} << 32) / (high - low + 1);
+    const Number factor = (Number{Slices::kCount} << 32) / (Number{high} - low + 1);
     for (std::size_t i = box.begin; i < box.end; ++i) {
         const Cell& cell = cells_[order_[i]];
-        const Number at = OffsetOf(cell, box, axis);
-        const int slice = static_cast<int>(((at - low) * factor) >> 32);
+        const std::int32_t at = OffsetOf(cell, box, axis);
+        const int slice = static_cast<int>((Number{at - low} * factor) >> 32);
         sides_[i] = static_cast<std::uint8_t>(slice);
-        slices.Add(slice, cell.count, at);
+        slices.Add(slice, static_cast<std::int32_t>(cell.count), at);
     }
     return MoveLowerToFront(box, slices.BestCut());
 }
 
-std::pair<Number, Number> Cutter::ReachOf(const Box& box, const Vector& axis) const {
-    Number low = INT64_MAX;
-    Number high = INT64_MIN;
+std::pair<std::int32_t, std::int32_t> Cutter::ReachOf(const Box& box, const Axis& axis) const {
+    std::int32_t low = INT32_MAX;
+    std::int32_t high = INT32_MIN;
     for (std::size_t i = box.begin; i < box.end; ++i) {
-        const Number at = OffsetOf(cells_[order_[i]], box, axis);
+        const std::int32_t at = OffsetOf(cells_[order_[i]], box, axis);
         low = std::min(low, at);
         high = std::max(high, at);
     }

@@ -47,22 +47,22 @@ int LambdaFor(std::int64_t squaredError) {
     };
     // Levels of error: 2, 3, 4, 5, 6 and 7.
     constexpr std::array<Step, 6> kSteps = {
-        {{4, 118}, {9, 110}, {16, 96}, {25, 84}, {36, 73}, {49, 62}}};
+        {{4, 111}, {9, 103}, {16, 90}, {25, 79}, {36, 69}, {49, 58}}};
     for (const Step& step : kSteps) {
         if (squaredError < step.squaredError) return step.lambda;
     }
-    return 50;
+    return 47;
 }
 
 /// The same for a chosen strength.
 int LambdaFor(Dither dither, std::int64_t squaredError) {
     switch (dither) {
         case Dither::Light:
-            return 256;
+            return 196;
         case Dither::Medium:
-            return 100;
+            return 94;
         case Dither::Strong:
-            return 40;
+            return 38;
         default:
             return LambdaFor(squaredError);
     }

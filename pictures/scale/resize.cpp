@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "pictures/scale/passes.h"
+#include "pictures/loops/loops.h"
 #include "pictures/scale/weights.h"
 
 namespace vistrel::scale {
@@ -15,12 +15,30 @@ namespace {
 /// more for overshooting, still fits into 16 bits.
 constexpr int kFractionBits = 6;
 
+using loops::kRowsAtOnce;
+
 /// The axis of the pixels that a part of a picture touches.
 ScaleAxis AxisOf(std::int64_t from, std::int64_t length, int target) {
     const PixelSpan span = PixelsTouched(from, length);
     ScaleAxis axis{span.count, length, target};
     axis.start65536 = from % pictures::PictureArea::kPixel;
     return axis;
+}
+
+/// kRowsAtOnce rows, `apart` samples from each other.
+template <class Sample>
+struct RowGroup {
+    Sample* first;
+    std::size_t apart;
+};
+
+/// The horizontal pass: sample i * stride of each result is target sample i, in the unit of the
+/// source. Rows must be readable (any values) for kTapGroup samples after their end.
+void WeighAlong(const FilterAxis& filter, RowGroup<const std::int16_t> rows,
+                RowGroup<std::int16_t> results, int stride) {
+    loops::Chosen().weighAlong({filter.taps.data(), static_cast<int>(filter.taps.size()),
+                                filter.weights.data(), filter.shift, rows.first, rows.apart,
+                                results.first, results.apart, stride});
 }
 
 /// Takes apart a row of red, green, blue triples into three rows, `apart` samples from each other.
@@ -65,8 +83,8 @@ class RgbPasses {
         const FilterTaps& taps = NextTaps();
         // The inner loop may look at one row more, with a weight of 0.
         rows[taps.count] = rows[0];
-        VerticalPass(rows.data(), down.WeightsOf(taps), taps.count, sourceWidth_ * 3,
-                     down.shift - kFractionBits, mixed_.data());
+        loops::Chosen().mixBytes(rows.data(), down.WeightsOf(taps), taps.count, sourceWidth_ * 3,
+                                 down.shift - kFractionBits, mixed_.data());
         const int inGroup = made_ % kRowsAtOnce;
         SplitChannels(mixed_.data(), sourceWidth_, apart_, &channels_[inGroup * 3 * apart_]);
         ++made_;
@@ -82,8 +100,7 @@ class RgbPasses {
     void FinishGroup(int count) {
         const std::size_t scaledRow = std::size_t(result_.width) * 3;
         for (int c = 0; c < 3; ++c) {
-            HorizontalPass(across_, {&channels_[c * apart_], 3 * apart_}, {&scaled_[c], scaledRow},
-                           3);
+            WeighAlong(across_, {&channels_[c * apart_], 3 * apart_}, {&scaled_[c], scaledRow}, 3);
         }
         RoundToBytes(scaled_.data(), scaledRow * count,
                      &result_.pixels[scaledRow * (made_ - count)]);
@@ -206,14 +223,14 @@ struct PlaneScaler::State {
         const FilterTaps& taps = down.taps[nextTarget];
         for (int k = 0; k < taps.count; ++k) rows[k] = KeptRow(taps.first + k);
         const std::size_t inGroup = nextTarget % kRowsAtOnce;
-        VerticalPass(rows.data(), down.WeightsOf(taps), taps.count, samples, down.shift,
-                     &mixed[inGroup * mixedRow]);
+        loops::Chosen().mixSamples(rows.data(), down.WeightsOf(taps), taps.count, samples,
+                                   down.shift, &mixed[inGroup * mixedRow]);
         ++nextTarget;
         const bool isLast = nextTarget == down.taps.size();
         if (inGroup < kRowsAtOnce - 1 && !isLast) return;
         const std::size_t width = across.taps.size();
-        HorizontalPass(across, {mixed.data(), mixedRow},
-                       {&plane[(nextTarget - 1 - inGroup) * width], width}, 1);
+        WeighAlong(across, {mixed.data(), mixedRow},
+                   {&plane[(nextTarget - 1 - inGroup) * width], width}, 1);
         if (isLast) plane.resize(nextTarget * width);
     }
 

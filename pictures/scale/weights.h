@@ -4,16 +4,14 @@
 #include <cstdint>
 #include <vector>
 
+#include "pictures/loops/loops.h"
 #include "pictures/scale/resize.h"
 
 namespace vistrel::scale {
 
-/// The taps of one target sample: weights[i] belongs to source sample first + i.
-struct FilterTaps {
-    int first = 0;
-    int count = 0;
-    std::size_t offset = 0;  ///< of the first weight in FilterAxis::weights
-};
+/// The taps of one target sample: weights[offset + i] belongs to source sample first + i.
+using FilterTaps = loops::Taps;
+using loops::kTapGroup;
 
 /// A Lanczos3 filter in fixed point. The weights of each target sample add up to exactly 1 <<
 /// shift.
@@ -25,9 +23,6 @@ struct FilterAxis {
 
     const std::int16_t* WeightsOf(const FilterTaps& of) const { return &weights[of.offset]; }
 };
-
-/// Loops over weights may run on to the next multiple of this many: zeros stand there.
-inline constexpr int kTapGroup = 8;
 
 /// The filter of an axis. When shrinking, the kernel is widened by the reduction; at the edges it
 /// is cut and what is left is brought to a sum of 1.

@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "pictures/bmp/header.h"
+#include "pictures/bmp/stored_rows.h"
 
 namespace vistrel::screen {
 namespace {
@@ -60,9 +60,8 @@ PackedPalette PackedColors(const std::array<bmp::RgbColor, 256>& palette) {
 /// Averages the pixels of an uncompressed 8-bit bitmap: first along each row, then down.
 class Shrinker {
  public:
-    Shrinker(pictures::FileBytes file, const bmp::BmpHeader& header, int width, int height)
-        : file_(file),
-          header_(header),
+    Shrinker(const pictures::PictureFile& file, const bmp::BmpHeader& header, int width, int height)
+        : rows_(file, header),
           colors_(PackedColors(header.palette)),
           across_(SpansOf(header.width, width)),
           down_(SpansOf(header.height, height)),
@@ -86,18 +85,12 @@ class Shrinker {
     }
 
  private:
-    const std::uint8_t* PixelsOfRow(int y) const {
-        const int row = header_.topDown ? y : header_.height - 1 - y;
-        return file_.data() + header_.pixelOffset +
-               header_.RowBytes() * static_cast<std::size_t>(row);
-    }
-
     /// Averages a row of the file, unless it is the one that is held: a row at a border belongs to
     /// two target rows.
     void HoldRow(int y) {
         if (y == rowHeld_) return;
         rowHeld_ = y;
-        const std::uint8_t* const pixels = PixelsOfRow(y);
+        const std::uint8_t* const pixels = rows_.Row(y);
         const std::uint32_t* weight = across_.weights.data();
         for (std::size_t x = 0; x < redBlue_.size(); ++x) {
             std::uint32_t sumRedBlue = 0;
@@ -123,8 +116,7 @@ class Shrinker {
         }
     }
 
-    pictures::FileBytes file_;
-    const bmp::BmpHeader& header_;
+    bmp::StoredRows rows_;
     PackedPalette colors_;
     Spans across_;
     Spans down_;
@@ -135,7 +127,7 @@ class Shrinker {
 };
 
 /// True when the file is an uncompressed 8-bit bitmap and has all of its pixels.
-bool IsWholeScreen(pictures::FileBytes file, const bmp::BmpHeader& header) {
+bool IsWholeScreen(const pictures::PictureFile& file, const bmp::BmpHeader& header) {
     return header.bitsPerPixel == 8 && header.compression == bmp::BmpCompression::None &&
            header.pixelOffset <= file.size() &&
            file.size() - header.pixelOffset >=
@@ -144,7 +136,7 @@ bool IsWholeScreen(pictures::FileBytes file, const bmp::BmpHeader& header) {
 
 }  // namespace
 
-std::optional<pictures::ScaledPicture> PreviewOfScreen(pictures::FileBytes file, int width,
+std::optional<pictures::ScaledPicture> PreviewOfScreen(const pictures::PictureFile& file, int width,
                                                        int height) {
     const auto header = bmp::ReadBmpHeader(file);
     if (!header || !IsWholeScreen(file, *header)) return std::nullopt;

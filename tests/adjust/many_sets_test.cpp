@@ -148,10 +148,7 @@ TEST_F(ManySets, CloseHasTheKeysAndTheFrameWhenAllAreMade) {
         Await([&] { return DoneText(window).starts_with("Done"); }, "done");
         SendMessageA(window, WM_NULL, 0, 0);
         user::TakeShot("many-done", window);
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-        EXPECT_EQ(info.hwndFocus, Item(window, IDCANCEL));
+        EXPECT_EQ(seen::FocusIn(window), Item(window, IDCANCEL));
         const auto isDefault = [&](int id) {
             return (SendMessageA(Item(window, id), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
         };

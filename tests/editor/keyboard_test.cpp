@@ -13,13 +13,6 @@ namespace {
 using Keyboard = LogoBrowser;
 using Names = std::vector<std::string>;
 
-HWND FocusIn(const SelPictureForm& editor) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(editor.handle(), nullptr), &info);
-    return info.hwndFocus;
-}
-
 void FocusTo(SelPictureForm& editor, const Control& control) {
     SendMessageA(editor.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.handle()), TRUE);
 }
@@ -33,7 +26,7 @@ bool ViewOpensAndCloses(WORD key) {
 
 TEST_F(Keyboard, BeginsInTheList) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
-        EXPECT_EQ(FocusIn(editor), editor.LogoList.handle());
+        EXPECT_EQ(seen::FocusIn(editor.handle()), editor.LogoList.handle());
     });
 }
 
@@ -42,8 +35,11 @@ TEST_F(Keyboard, TypingReplacesTheNameThatTheBoxShowsAtFirst) {
         EXPECT_EQ(SendMessageA(editor.NameLogoSet.handle(), CB_GETEDITSEL, 0, 0),
                   MAKELPARAM(0, 4));  // "Blue"
         user::Press('N', {VK_MENU});
-        Await([&] { return IsChild(editor.NameLogoSet.handle(), FocusIn(editor)) != 0; },
-              "in the name's field");
+        Await(
+            [&] {
+                return IsChild(editor.NameLogoSet.handle(), seen::FocusIn(editor.handle())) != 0;
+            },
+            "in the name's field");
         user::Type("Fresh");
         Await([&] { return user::TextOf(editor.NameLogoSet.handle()) == "Fresh"; }, "replaced");
     });
@@ -147,20 +143,23 @@ TEST_F(Keyboard, TabReachesThePicturesThatThereAre) {
     Put(pictures + "new.sys", ScreenFile(0, 255, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         user::Press(VK_TAB);
-        Await([&] { return FocusIn(editor) == editor.OptCompSet.handle(); },
+        Await([&] { return seen::FocusIn(editor.handle()) == editor.OptCompSet.handle(); },
               "an empty preview passed over");
         Fill(editor, "new.sys", 1);
         FocusTo(editor, editor.LogoList);
         user::Press(VK_TAB);
-        Await([&] { return FocusIn(editor) == editor.CurView.handle(); }, "preview reached");
-        for (int i = 0; i < 3 && FocusIn(editor) != editor.ImgPreview[1].handle(); ++i) {
-            const HWND before = FocusIn(editor);
+        Await([&] { return seen::FocusIn(editor.handle()) == editor.CurView.handle(); },
+              "preview reached");
+        for (int i = 0; i < 3 && seen::FocusIn(editor.handle()) != editor.ImgPreview[1].handle();
+             ++i) {
+            const HWND before = seen::FocusIn(editor.handle());
             user::Press(VK_TAB);
-            Await([&] { return FocusIn(editor) != before; }, "next control");
+            Await([&] { return seen::FocusIn(editor.handle()) != before; }, "next control");
         }
         FocusTo(editor, editor.DeleteButton[0]);
         user::Press(VK_TAB);
-        Await([&] { return FocusIn(editor) == editor.ImgPreview[1].handle(); }, "slot reached");
+        Await([&] { return seen::FocusIn(editor.handle()) == editor.ImgPreview[1].handle(); },
+              "slot reached");
     });
 }
 
@@ -188,7 +187,7 @@ TEST_F(Keyboard, SpaceAndTheMenuKeyAreThePicturesButtons) {
             EXPECT_TRUE(ViewOpensAndCloses(VK_SPACE));
             Settle(editor);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);  // the key that closed it opens none
-            Await([&] { return FocusIn(editor) == box->handle(); }, "focus back");
+            Await([&] { return seen::FocusIn(editor.handle()) == box->handle(); }, "focus back");
             const HMENU menu = user::PopUpByKey();
             EXPECT_EQ(menu, main.OpenWithMenu(box->Tag()));
             RECT shown{};

@@ -11,13 +11,6 @@ namespace {
 
 using Keyboard = MainWindow98;
 
-HWND FocusIn(const Principale& main) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(main.handle(), nullptr), &info);
-    return info.hwndFocus;
-}
-
 TEST_F(Keyboard, EnterInTheListIsADoubleClick) {
     WithMainWindow([&](Principale& main) {
         main.Preferences().actionOnDoubleClick = 0;
@@ -39,7 +32,7 @@ TEST_F(Keyboard, TabReachesTheScreensWhereSpaceAndTheMenuKeyAreTheButtons) {
         ClickSet(main, "Red");
         for (PictureBox& box : main.Imag) {
             user::Press(VK_TAB);
-            EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == box.handle(); }));
+            EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(main.handle()) == box.handle(); }));
             user::Press(VK_SPACE);
             const HWND view = user::WaitForTop("FrmView");
             EXPECT_NE(view, nullptr);
@@ -47,7 +40,7 @@ TEST_F(Keyboard, TabReachesTheScreensWhereSpaceAndTheMenuKeyAreTheButtons) {
             EXPECT_TRUE(user::WaitUntilGone(view));
             Settle(main);
             EXPECT_EQ(user::FindTop("FrmView"), nullptr);
-            EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == box.handle(); }));
+            EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(main.handle()) == box.handle(); }));
             EXPECT_EQ(user::PopUpByKey(), main.OpenWithMenu(box.Tag()));
             user::Press(VK_ESCAPE);
             EXPECT_TRUE(WaitUntil([] { return user::FindTop("#32768") == nullptr; }));
@@ -87,11 +80,12 @@ TEST_F(Keyboard, TheActualSizeShowsAScreenWithoutAFrame) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
         user::Press(VK_TAB);
-        EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == main.Imag[0].handle(); }));
+        EXPECT_TRUE(
+            WaitUntil([&] { return seen::FocusIn(main.handle()) == main.Imag[0].handle(); }));
         user::Press(VK_SPACE);
         const HWND view = user::WaitForTop("FrmView");
         const HWND picture = user::Control(view, ID_Preview);
-        EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == picture; }));
+        EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(main.handle()) == picture; }));
         EXPECT_FALSE(HasMarkAt(picture, 2));
         EXPECT_EQ(seen::PixelAt(user::CentreOf(picture)), kRed);
         user::Press(VK_SPACE);
@@ -104,7 +98,8 @@ TEST_F(Keyboard, TabPassesOverAScreenThatIsNotThere) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
         user::Press(VK_TAB);
-        EXPECT_TRUE(WaitUntil([&] { return FocusIn(main) == main.Imag[1].handle(); }));
+        EXPECT_TRUE(
+            WaitUntil([&] { return seen::FocusIn(main.handle()) == main.Imag[1].handle(); }));
     });
 }
 

@@ -1,4 +1,8 @@
 // The Logo browser opens a moment after its command: what may come between, and what is seen.
+#include <windows.h>
+// commctrl.h needs windows.h first.
+#include <commctrl.h>
+
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"
 
@@ -113,6 +117,28 @@ TEST_F(OpeningTheBrowser, KeepsTheSetSelectedThatIsRenamedThere) {
         EXPECT_TRUE(WaitUntil([&] { return Selected(main) == "Crimson"; }));
         Settle(main);
         EXPECT_EQ(main.Imag[0].Tag(), logos + "Crimson\\LOGO.SYS");
+    });
+}
+
+TEST_F(OpeningTheBrowser, KeepsTheSetSelectedWhoseFolderIsRenamedInTheBrowsersList) {
+    Store("SearchLogoPath", TextValue(logos));
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        StartCommand(main, ID_ToolBrowser);
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        ASSERT_NE(browser, nullptr);
+        user::Activate(browser);
+        const HWND list = GetDlgItem(browser, ID_LogoList);
+        EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(browser) == list; }));
+        user::Type("red");
+        user::Press(VK_F2);
+        EXPECT_TRUE(WaitUntil([&] { return SendMessageA(list, LVM_GETEDITCONTROL, 0, 0) != 0; }));
+        user::Type("Crimson");
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(WaitUntil([&] { return Exists(logos + "Crimson"); }));
+        Close(browser);
+        EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(main.handle()) != 0; }));
+        EXPECT_TRUE(WaitUntil([&] { return Selected(main) == "Crimson"; }));
     });
 }
 

@@ -1,6 +1,7 @@
 #include "tests/options/options_fixture.h"
 
 #include "controls/message_loop.h"
+#include "tests/support/user/seen.h"
 
 namespace vistrel::test {
 
@@ -36,12 +37,7 @@ void Preferences::ClickTab(FrmOptions& options, int number) {
     WaitUntil([&] { return options.MyFrame[number - 1].Visible(); });
 }
 
-HWND Preferences::FocusOf(FrmOptions& options) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(options.handle(), nullptr), &info);
-    return info.hwndFocus;
-}
+HWND Preferences::FocusOf(FrmOptions& options) { return seen::FocusIn(options.handle()); }
 
 bool Preferences::HasFocus(FrmOptions& options, const controls::Control& control) {
     return WaitUntil([&] { return FocusOf(options) == control.handle(); });

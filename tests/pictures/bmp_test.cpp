@@ -284,7 +284,7 @@ TEST(BmpTest, WhatIsNoBitmapIsRefused) {
     Bytes bad = good;
     bad[1] = 'm';
     EXPECT_FALSE(ReadBmp(bad).has_value());
-    EXPECT_FALSE(ReadBmp({}).has_value());
+    EXPECT_FALSE(ReadBmp(FileBytes()).has_value());
 
     for (const std::uint32_t headerSize : {0u, 11u, 13u, 15u, 125u, 1000u, 0xFFFFFFFFu}) {
         bad = good;

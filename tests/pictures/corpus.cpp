@@ -1,6 +1,7 @@
 // Reads the two lists of the picture corpus.
 #include "tests/pictures/corpus.h"
 
+#include <array>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -79,30 +80,35 @@ std::vector<CorpusFile> ReadCorpus(const std::string& folder, const std::string&
 
 namespace {
 
-bool IsJpg(FileBytes file) { return file.size() >= 2 && file[0] == 0xFF && file[1] == 0xD8; }
+bool BeginsWith(const PictureFile& file, const std::array<std::uint8_t, 2>& wanted) {
+    std::array<std::uint8_t, 2> start;
+    file.Copy(0, start);
+    return start == wanted;
+}
 
-std::unique_ptr<PictureRows> OpenByContent(FileBytes file) {
-    const bool isGif = file.size() >= 2 && file[0] == 'G' && file[1] == 'I';
-    return isGif ? OpenGif(file) : OpenBmp(file);
+bool IsJpg(const PictureFile& file) { return BeginsWith(file, {0xFF, 0xD8}); }
+
+std::unique_ptr<PictureRows> OpenByContent(const PictureFile& file) {
+    return BeginsWith(file, {'G', 'I'}) ? OpenGif(file) : OpenBmp(file);
 }
 
 }  // namespace
 
-std::optional<RgbPicture> ReadByContent(FileBytes file) {
+std::optional<RgbPicture> ReadByContent(const PictureFile& file) {
     if (IsJpg(file)) return ReadJpg(file);
     const std::unique_ptr<PictureRows> rows = OpenByContent(file);
     if (!rows) return std::nullopt;
     return ReadAll(*rows);
 }
 
-std::optional<ScaledPicture> ReadScaledByContent(FileBytes file, int width, int height) {
+std::optional<ScaledPicture> ReadScaledByContent(const PictureFile& file, int width, int height) {
     if (IsJpg(file)) return ReadJpgScaled(file, width, height);
     const std::unique_ptr<PictureRows> rows = OpenByContent(file);
     if (!rows) return std::nullopt;
     return ReadScaled(*rows, width, height);
 }
 
-std::optional<RgbPicture> ReadPartByContent(FileBytes file, int part) {
+std::optional<RgbPicture> ReadPartByContent(const PictureFile& file, int part) {
     const auto middle = [part](int width, int height) {
         const PictureArea whole = PictureArea::WholeOf(width, height);
         return PictureArea{(whole.width - whole.width / part) / 2,

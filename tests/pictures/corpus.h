@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_file.h"
 
 namespace vistrel::test {
 
@@ -32,13 +32,13 @@ struct CorpusFile {
 std::vector<CorpusFile> ReadCorpus(const std::string& folder, const std::string& ending);
 
 /// Reads a file in the format that its first bytes stand for: names may mislead.
-std::optional<pictures::RgbPicture> ReadByContent(pictures::FileBytes file);
+std::optional<pictures::RgbPicture> ReadByContent(const pictures::PictureFile& file);
 
 /// The same, scaled to a size.
-std::optional<pictures::ScaledPicture> ReadScaledByContent(pictures::FileBytes file, int width,
-                                                           int height);
+std::optional<pictures::ScaledPicture> ReadScaledByContent(const pictures::PictureFile& file,
+                                                           int width, int height);
 
 /// The same at a screen's size, of the middle, a `part`th of each side.
-std::optional<pictures::RgbPicture> ReadPartByContent(pictures::FileBytes file, int part);
+std::optional<pictures::RgbPicture> ReadPartByContent(const pictures::PictureFile& file, int part);
 
 }  // namespace vistrel::test

@@ -81,6 +81,57 @@ TEST_F(WholeFileTest, ReadingCanBeMadeToFail) {
     EXPECT_TRUE(ReadWholeFile(path_).has_value());
 }
 
+TEST_F(WholeFileTest, AFileIsReadInPieces) {
+    Write("abcdef");
+    const auto file = FileOnDisk::Open(path_);
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->size(), 6u);
+    Bytes piece(2);
+    for (const std::size_t at : {4, 0, 2}) {
+        file->Read(at, piece);
+        EXPECT_EQ(piece, (Bytes{static_cast<std::uint8_t>('a' + at),
+                                static_cast<std::uint8_t>('b' + at)}));
+    }
+    EXPECT_FALSE(file->HasFailed());
+}
+
+TEST_F(WholeFileTest, WhatIsNoFileIsNotReadInPieces) {
+    EXPECT_EQ(FileOnDisk::Open(path_), nullptr);
+    EXPECT_EQ(FileOnDisk::Open(std::filesystem::temp_directory_path().string()), nullptr);
+    Write("x");
+    std::filesystem::resize_file(path_, static_cast<std::uintmax_t>(kLargestFile) + 1);
+    EXPECT_EQ(FileOnDisk::Open(path_), nullptr);
+}
+
+/// The first byte, and that of the middle.
+std::optional<Bytes> TwoBytes(const PictureFile& file) {
+    Bytes bytes(2);
+    file.Copy(0, std::span(bytes).first(1));
+    file.Copy(file.size() / 2, std::span(bytes).last(1));
+    return bytes;
+}
+
+TEST_F(WholeFileTest, WhereAPieceCannotBeReadNothingIs) {
+    Write("abc");
+    fault::Reset();
+    EXPECT_EQ(ReadInPieces(path_, TwoBytes), (Bytes{'a', 'b'}));
+    EXPECT_EQ(fault::Counted(), 3);
+    for (int step = 1; step <= 3; ++step) {
+        fault::FailOperation(step);
+        EXPECT_FALSE(ReadInPieces(path_, TwoBytes).has_value()) << step;
+    }
+    fault::Reset();
+}
+
+TEST_F(WholeFileTest, AFileThatBecomesShorterMeanwhileIsNotRead) {
+    Write("abc");
+    const auto shortening = [&](const PictureFile& file) {
+        std::filesystem::resize_file(path_, 1);
+        return TwoBytes(file);
+    };
+    EXPECT_FALSE(ReadInPieces(path_, shortening).has_value());
+}
+
 class WriterTest : public testing::Test {
  protected:
     WriterTest() {

@@ -353,7 +353,7 @@ TEST(GifTest, WhatIsNoGifIsRefused) {
         bad[i] ^= 1;
         EXPECT_FALSE(ReadGif(bad).has_value()) << i;
     }
-    EXPECT_FALSE(ReadGif({}).has_value());
+    EXPECT_FALSE(ReadGif(FileBytes()).has_value());
 }
 
 TEST(GifTest, FileWithoutAPictureIsRefused) {

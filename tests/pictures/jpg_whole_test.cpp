@@ -241,7 +241,7 @@ TEST(JpgWholeTest, UpsideDownAndOnItsSide) {
 TEST(JpgWholeTest, TellsWhetherAPictureIsToBeTurned) {
     const Bytes file = MakeJpg(MakePicture(40, 30), {});
     EXPECT_FALSE(IsJpgToBeTurned(file));
-    EXPECT_FALSE(IsJpgToBeTurned({}));
+    EXPECT_FALSE(IsJpgToBeTurned(FileBytes()));
     for (int orientation = 0; orientation <= 9; ++orientation) {
         EXPECT_EQ(IsJpgToBeTurned(WithOrientation(file, orientation, true)),
                   orientation >= 2 && orientation <= 8)

@@ -13,6 +13,7 @@
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
 #include "tests/support/picture_files/jpg_maker.h"
+#include "tests/support/picture_files/pieces.h"
 
 namespace {
 
@@ -127,6 +128,66 @@ TEST(MemoryTest, LargeInterlacedGif) {
     ExpectModestMemoryScaled(file.Encode());
 }
 
+/// What reading a file in pieces, straight to a screen's size, takes of the memory.
+std::size_t MemoryForAScreen(const Bytes& file) {
+    Pieces pieces(file);
+    const std::size_t before = used;
+    mostUsed = used;
+    EXPECT_TRUE(ReadScaledByContent(pieces.File(), 320, 400).has_value());
+    return mostUsed - before;
+}
+
+/// Rows of 3 to 4 thousand pixels, of which the filter reaches over some 50, the picture itself and
+/// what the readers need.
+constexpr std::size_t kLargePicture = 1536 * 1024;
+
+TEST(MemoryTest, LargeBitmapsAreNeverThereAsAWhole) {
+    for (const int bits : {1, 8, 24, 32}) {
+        for (const int height : {3000, -3000}) {
+            SCOPED_TRACE(testing::Message() << bits << ", " << height);
+            BmpFile file;
+            file.width = 4000;
+            file.height = height;
+            file.bitsPerPixel = bits;
+            file.pixels.assign(std::size_t{500} * bits * 3000, 0x5A);
+            EXPECT_LE(MemoryForAScreen(file.Encode()), kLargePicture);
+        }
+    }
+}
+
+TEST(MemoryTest, LargeRunLengthEncodedBitmapsAreNeverThereAsAWhole) {
+    BmpFile file;
+    file.width = 4000;
+    file.height = 3000;
+    file.compression = kBmpRle8;
+    file.bitsPerPixel = 8;
+    for (int pair = 0; pair < 3000 * 2000; ++pair) {
+        file.pixels.push_back(2);
+        file.pixels.push_back(static_cast<std::uint8_t>(pair));
+        if (pair % 2000 == 1999) file.pixels.insert(file.pixels.end(), {0, 0});
+    }
+    EXPECT_LE(MemoryForAScreen(file.Encode()), kLargePicture);
+}
+
+TEST(MemoryTest, LargeGifsAreNeverThereAsAWhole) {
+    for (const bool interlaced : {false, true}) {
+        SCOPED_TRACE(interlaced);
+        GifFile file = MakeGif(4000, 3000, 256);
+        file.images[0].interlaced = interlaced;
+        EXPECT_LE(MemoryForAScreen(file.Encode()), kLargePicture);
+    }
+}
+
+TEST(MemoryTest, LargeJpgsAreNeverThereAsAWhole) {
+    JpgOptions options;
+    options.sampling = {{2, 2}};
+    for (const bool progressive : {false, true}) {
+        SCOPED_TRACE(progressive);
+        options.progressive = progressive;
+        EXPECT_LE(MemoryForAScreen(MakeJpg(MakePicture(4000, 3000), options)), kLargePicture);
+    }
+}
+
 TEST(MemoryTest, SmallRunLengthFilesOfLargePictures) {
     for (const std::uint32_t compression : {kBmpRle8, kBmpRle4}) {
         BmpFile file;
@@ -218,7 +279,9 @@ TEST(MemoryTest, AMillionScanHeaders) {
     const Bytes scan = {0xFF, 0xDA, 0, 8, 1, 1, 0, 1, 63, 0x10};
     Bytes scans;
     for (int i = 0; i < 1'000'000; ++i) scans.insert(scans.end(), scan.begin(), scan.end());
-    ExpectModestMemory(WithInserted(file, end, scans));
+    const Bytes bomb = WithInserted(file, end, scans);
+    ExpectModestMemory(bomb);
+    EXPECT_LE(MemoryForAScreen(bomb), kAnyFile);
 }
 
 #ifdef PICTURE_CORPUS

@@ -27,13 +27,8 @@ TEST_F(Starting, IsInFrontAndActiveWithoutTheSplashScreenToo) {
         EXPECT_TRUE(WaitUntil([&] { return IsActiveTitleAt({r.left + 200, r.top + 10}); }))
             << splash;
         // Keys reach the list without a click.
-        const auto focused = [&] {
-            GUITHREADINFO info{};
-            info.cbSize = sizeof info;
-            GetGUIThreadInfo(GetWindowThreadProcessId(main, nullptr), &info);
-            return info.hwndFocus;
-        };
-        EXPECT_TRUE(WaitUntil([&] { return focused() == user::Control(main, ID_MyList); }));
+        const HWND list = user::Control(main, ID_MyList);
+        EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(main) == list; }));
         user::TakeShot(std::string("started_with_splash_") + splash);
         PostMessageA(main, WM_CLOSE, 0, 0);
         EXPECT_EQ(program.WaitForEnd(), 0u);

@@ -15,22 +15,47 @@ bool IsRestart(std::uint8_t marker) {
     return marker >= kFirstRestart && marker < kFirstRestart + 8;
 }
 
-}  // namespace
+struct RestartPlace {
+    std::size_t at;  // behind the marker; where there is none, at what comes in its place
+    bool isThere;
+};
 
-std::size_t FindMarker(pictures::FileBytes file, std::size_t from) {
-    while (from < file.size()) {
-        const void* found = std::memchr(file.data() + from, kEscape, file.size() - from);
-        if (!found) break;
-        const std::size_t at =
-            static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - file.data());
-        if (at + 1 >= file.size()) break;
-        if (file[at + 1] != 0 && file[at + 1] != kEscape) return at;
-        from = at + 1;
+// Finds restart marker number `expected` (0 to 7) at or after `at`.
+RestartPlace FindRestart(pictures::FileWindow& file, std::size_t at, int expected) {
+    for (;;) {
+        at = FindMarker(file, at);
+        if (at == file.size()) return {at, false};
+        const std::uint8_t marker = file[at + 1];
+        const int ahead = IsRestart(marker) ? (marker - kFirstRestart - expected) & 7 : -1;
+        // A later one: this interval's data are lost.
+        if (ahead == 1 || ahead == 2) return {at, false};
+        if (ahead == -1 && marker >= kFirstFrame) return {at, false};
+        at += 2;
+        // One or two too low is left over from before; anything else is taken as the right one.
+        if (ahead >= 0 && ahead < 6) return {at, true};
     }
-    return file.size();
 }
 
-ScanBytes::ScanBytes(pictures::FileBytes file, std::size_t start)
+}  // namespace
+
+std::size_t FindMarker(pictures::FileWindow& file, std::size_t from) {
+    for (;;) {
+        const pictures::FileBytes seen = file.From(from, 2);
+        if (seen.size() < 2) return file.size();
+        // Of the last byte it is not known yet what follows.
+        const void* const found = std::memchr(seen.data(), kEscape, seen.size() - 1);
+        if (!found) {
+            from += seen.size() - 1;
+            continue;
+        }
+        const auto at =
+            static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - seen.data());
+        if (seen[at + 1] != 0 && seen[at + 1] != kEscape) return from + at;
+        from += at + 1;
+    }
+}
+
+ScanBytes::ScanBytes(const pictures::PictureFile& file, std::size_t start)
     : file_(file), filePosition_(std::min(start, file.size())) {
     Fill();
 }
@@ -51,9 +76,9 @@ BitReader ScanBytes::More(BitReader bits) {
 void ScanBytes::Fill() {
     std::ptrdiff_t at = std::max<std::ptrdiff_t>(dataEnd_, 0);
     while (!atMarker_ && at < kWindow) {
-        const std::size_t most =
-            std::min(static_cast<std::size_t>(kWindow - at), file_.size() - filePosition_);
-        const std::uint8_t* from = file_.data() + filePosition_;
+        const pictures::FileBytes seen = file_.From(filePosition_);
+        const std::size_t most = std::min(static_cast<std::size_t>(kWindow - at), seen.size());
+        const std::uint8_t* from = seen.data();
         const void* escape = most ? std::memchr(from, kEscape, most) : nullptr;
         const std::size_t run =
             escape ? static_cast<std::size_t>(static_cast<const std::uint8_t*>(escape) - from)
@@ -97,24 +122,18 @@ std::size_t ScanBytes::FindEnd() {
 }
 
 void ScanBytes::Restart(int expected) {
-    std::size_t at = FindEnd();
-    bool found = false;
-    while (at < file_.size()) {
-        at = FindMarker(file_, at);
-        if (at + 1 >= file_.size()) break;
-        const std::uint8_t marker = file_[at + 1];
-        const int ahead = IsRestart(marker) ? (marker - kFirstRestart - expected) & 7 : -1;
-        if (ahead == 1 || ahead == 2) break;  // a later one: this interval's data are lost
-        if (ahead == -1 && marker >= kFirstFrame) break;
-        at += 2;
-        // One or two too low is left over from before; anything else is taken as the right one.
-        found = ahead >= 0 && ahead < 6;
-        if (found) break;
-    }
-    filePosition_ = std::min(at, file_.size());
-    atMarker_ = !found;
-    dataEnd_ = found ? 0 : -1;
+    const RestartPlace place = FindRestart(file_, FindEnd(), expected);
+    filePosition_ = place.at;
+    atMarker_ = !place.isThere;
+    dataEnd_ = place.isThere ? 0 : -1;
     Fill();
+}
+
+std::size_t FindEndOfScan(pictures::FileWindow& file, std::size_t start, std::int64_t restarts) {
+    std::size_t at = start;
+    for (std::int64_t i = 0; i < restarts; ++i)
+        at = FindRestart(file, at, static_cast<int>(i & 7)).at;
+    return FindMarker(file, at);
 }
 
 }  // namespace vistrel::jpg

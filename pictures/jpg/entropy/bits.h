@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "pictures/rgb_picture.h"
+#include "pictures/picture_file.h"
 
 namespace vistrel::jpg {
 
@@ -74,7 +74,7 @@ struct BitReader {
 class ScanBytes {
  public:
     /// `start` is where the scan's coded data begin in `file`.
-    ScanBytes(pictures::FileBytes file, std::size_t start);
+    ScanBytes(const pictures::PictureFile& file, std::size_t start);
     ScanBytes(const ScanBytes&) = delete;
     ScanBytes& operator=(const ScanBytes&) = delete;
 
@@ -106,7 +106,7 @@ class ScanBytes {
 
     static constexpr int kWindow = 8192;
 
-    pictures::FileBytes file_;
+    pictures::FileWindow file_;
     std::size_t filePosition_;    // the first byte of the file that is not in the buffer yet
     bool atMarker_ = false;       // the buffer holds the last bytes before a marker
     std::ptrdiff_t dataEnd_ = 0;  // where the buffer's true bytes end; below 0 when long read
@@ -114,8 +114,12 @@ class ScanBytes {
     std::array<std::uint8_t, kWindow + kBlockBytes> buffer_;
 };
 
+/// Where the file goes on behind a scan whose data begin at `start`: behind as many of its restart
+/// markers as are there of `restarts`.
+std::size_t FindEndOfScan(pictures::FileWindow& file, std::size_t start, std::int64_t restarts);
+
 /// The position of the next marker's 0xFF at or after `from` that is neither an escaped data byte
 /// nor a filler; file.size() when there is none.
-std::size_t FindMarker(pictures::FileBytes file, std::size_t from);
+std::size_t FindMarker(pictures::FileWindow& file, std::size_t from);
 
 }  // namespace vistrel::jpg

@@ -12,7 +12,9 @@ constexpr int kRunOfSixteen = 0xF0;
 }  // namespace
 
 void HuffmanTable::Define(const HuffmanCode& code, bool IsDc) {
-    code_ = code;
+    std::copy_n(code.counts.data(), counts_.size(), counts_.data());
+    symbolsGiven_ = std::min(code.symbols.size(), symbols_.size());
+    std::copy_n(code.symbols.data(), symbolsGiven_, symbols_.data());
     isDc_ = IsDc;
     isDefined_ = true;
     isBuilt_ = false;
@@ -28,18 +30,17 @@ bool HuffmanTable::Build() {
 
 // False when there is no such code.
 bool HuffmanTable::FillShort() {
-    const int total = std::accumulate(code_.counts.begin(), code_.counts.end(), 0);
-    if (total > 256 || static_cast<std::size_t>(total) > code_.symbols.size()) return false;
-    const auto symbols = code_.symbols.first(static_cast<std::size_t>(total));
+    const int total = std::accumulate(counts_.begin(), counts_.end(), 0);
+    if (static_cast<std::size_t>(total) > symbolsGiven_) return false;
+    const auto symbols = std::span(symbols_).first(static_cast<std::size_t>(total));
     if (isDc_ && std::any_of(symbols.begin(), symbols.end(), [](int s) { return s > 15; })) {
         return false;
     }
-    std::copy(symbols.begin(), symbols.end(), symbols_.begin());
     short_.fill(0);
     std::uint32_t next = 0;  // the next code of the length
     int index = 0;
     for (int length = 1; length <= kLongestCode; ++length) {
-        const int count = code_.counts[static_cast<std::size_t>(length - 1)];
+        const int count = counts_[static_cast<std::size_t>(length - 1)];
         offset_[static_cast<std::size_t>(length)] = index - static_cast<int>(next);
         for (int i = 0; i < count && length <= kQuickBits; ++i) {
             const int symbol = symbols_[static_cast<std::size_t>(index + i)];

@@ -36,8 +36,8 @@ class HuffmanTable {
     /// Bits that one entry for skipping may pass: a 32-bit reader is sure of no more.
     static constexpr int kMostSkipped = 24;
 
-    /// Notes which code is to be read; what `code` points to must outlive the table. Nothing is
-    /// built yet: a file may define codes without end that no scan reads by.
+    /// Notes which code is to be read. Nothing is built yet: a file may define codes without end
+    /// that no scan reads by.
     void Define(const HuffmanCode& code, bool IsDc);
 
     bool isDefined() const { return isDefined_; }
@@ -70,7 +70,8 @@ class HuffmanTable {
     bool FillShort();
     void FillQuick();
 
-    HuffmanCode code_;
+    std::array<std::uint8_t, 16> counts_ = {};  // as HuffmanCode has them
+    std::size_t symbolsGiven_ = 0;
     bool isDc_ = false;
     bool isDefined_ = false;
     bool isBuilt_ = false;

@@ -12,7 +12,8 @@ std::size_t MostScans(std::size_t components) { return components * kBlockSize *
 
 }  // namespace
 
-std::vector<bool> ChooseScans(pictures::FileBytes file, std::span<const KeptFrequencies> kept) {
+std::vector<bool> ChooseScans(const pictures::PictureFile& file,
+                              std::span<const KeptFrequencies> kept) {
     std::vector<JpgScan> scans;
     JpgMarkers markers(file);
     while (scans.size() < MostScans(kept.size()) && markers.NextScan()) {

@@ -13,6 +13,7 @@ namespace vistrel::jpg {
 /// has to be read for the frequencies in `kept`, which has an entry per component. A scan that
 /// refines coefficients is coded by which of them the scans before it had, and so needs those too.
 /// What is not told of, behind more scans than coefficients have bits, is not worth reading.
-std::vector<bool> ChooseScans(pictures::FileBytes file, std::span<const KeptFrequencies> kept);
+std::vector<bool> ChooseScans(const pictures::PictureFile& file,
+                              std::span<const KeptFrequencies> kept);
 
 }  // namespace vistrel::jpg

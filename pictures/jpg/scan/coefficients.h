@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 #include "pictures/jpg/frame.h"
@@ -28,9 +27,6 @@ struct KeptFrequencies {
     int last = kBlockSize - 1;  ///< position in the file's order of the last one needed
     int stride = kBlockSize;    ///< numbers per block
     std::array<std::uint8_t, kPositions> slot = {};  ///< where each position goes in its block
-    /// The rows of blocks that are needed, by default all. What others hold does not matter.
-    int firstRow = 0;
-    int endRow = std::numeric_limits<int>::max();
 
     /// True when the coefficient at a position of the file's order is one of those needed.
     bool IsKept(int position) const {

@@ -12,15 +12,17 @@ class DcFirstReader {
  public:
     DcFirstReader(const JpgScan& scan, const JpgTables& tables,
                   std::span<ProgressiveComponent> components)
-        : scan_(scan), tables_(tables), components_(components) {}
+        : scan_(scan), components_(components) {
+        for (const JpgScanPart& part : scan.parts)
+            codes_.push_back(tables.dc[static_cast<std::size_t>(part.dcTable)]);
+    }
 
     void Restart() { predictions_ = {}; }
 
     BitReader ReadBlock(BitReader bits, std::size_t index, int column, int row) {
         const JpgScanPart& part = scan_.parts[index];
         bits.Refill();
-        const HuffmanTable& table = tables_.dc[static_cast<std::size_t>(part.dcTable)];
-        const int size = table.Symbol(bits);
+        const int size = codes_[index].Symbol(bits);
         if (size > 0) {
             bits.Refill();
             predictions_[index] =
@@ -31,11 +33,9 @@ class DcFirstReader {
         return bits;
     }
 
-    void EndMcuRow() {}
-
  private:
-    const JpgScan& scan_;
-    const JpgTables& tables_;
+    const JpgScan scan_;
+    std::vector<HuffmanTable> codes_;  // of each part
     std::span<ProgressiveComponent> components_;
     std::array<std::int16_t, 4> predictions_ = {};
 };
@@ -56,10 +56,8 @@ class DcRefinementReader {
         return bits;
     }
 
-    void EndMcuRow() {}
-
  private:
-    const JpgScan& scan_;
+    const JpgScan scan_;
     std::span<ProgressiveComponent> components_;
 };
 
@@ -75,15 +73,8 @@ class AcReader {
           component_(component) {}
 
     void Restart() { endedBlocks_ = 0; }
-    void EndMcuRow() {}
 
  protected:
-    std::uint64_t& NonZero(int column, int row) {
-        return component_.nonZero[static_cast<std::size_t>(row) *
-                                      static_cast<std::size_t>(component_.blocks.across) +
-                                  static_cast<std::size_t>(column)];
-    }
-
     // The number of blocks, this one included, that a symbol with run `run` (0 to 14) ends.
     static int ReadEndedBlocks(BitReader& bits, int run) {
         if (run == 0) return 1;
@@ -94,7 +85,7 @@ class AcReader {
     const int first_;
     const int last_;
     const int unit_;  // what the scan's lowest bit is worth
-    const HuffmanTable& table_;
+    const HuffmanTable table_;
     ProgressiveComponent& component_;
     int endedBlocks_ = 0;
 };
@@ -138,7 +129,7 @@ class AcFirstReader : public AcReader {
                 static_cast<std::int16_t>(value * unit_);
             found |= std::uint64_t{1} << (k - 1);
         }
-        NonZero(column, row) |= found;
+        component_.NonZero(column, row) |= found;
         return bits;
     }
 };
@@ -153,7 +144,7 @@ class AcRefinementReader : public AcReader {
 
     BitReader ReadBlock(BitReader bits, std::size_t, int column, int row) {
         std::int16_t* block = component_.Block(column, row);
-        std::uint64_t& nonZero = NonZero(column, row);
+        std::uint64_t& nonZero = component_.NonZero(column, row);
         const std::uint64_t old = nonZero;
         int k = first_;
         while (endedBlocks_ == 0 && k <= last_) {
@@ -221,50 +212,55 @@ class AcRefinementReader : public AcReader {
     const std::uint64_t kept_;
 };
 
-// No scan but those of the constant terms is read where nothing else is kept.
-bool NeedsNonZero(const KeptFrequencies& kept) { return kept.last > 0; }
+template <class Reader>
+class ScanByReader : public ProgressiveScan {
+ public:
+    ScanByReader(const pictures::PictureFile& file, const JpgFrame& frame, const JpgScan& scan,
+                 int restartInterval, int rowsAtOnce, const Reader& reader)
+        : walk_(file, frame, scan, restartInterval), rowsAtOnce_(rowsAtOnce), reader_(reader) {}
 
-int RowsKept(const JpgComponent& component, const KeptFrequencies& kept) {
-    return std::min(kept.endRow, component.paddedDown) - kept.firstRow;
-}
+    void ReadNext() override {
+        for (int i = 0; i < rowsAtOnce_ && !walk_.IsAtEnd(); ++i) walk_.ReadRow(reader_);
+    }
+    bool IsAtEnd() const override { return walk_.IsAtEnd(); }
+    ScanOutcome Outcome() override { return walk_.Outcome(); }
 
-// Where not all rows are kept, the others share one.
-int RowsOfMemory(const JpgComponent& component, const KeptFrequencies& kept) {
-    const int rows = RowsKept(component, kept);
-    return rows < component.paddedDown ? rows + 1 : rows;
-}
+ private:
+    ScanWalk walk_;
+    const int rowsAtOnce_;  // of the scan's own MCUs
+    Reader reader_;
+};
 
 }  // namespace
 
 ProgressiveComponent::ProgressiveComponent(const JpgComponent& component,
                                            const KeptFrequencies& keptFrequencies)
     : kept(keptFrequencies),
-      rows(RowsKept(component, keptFrequencies)),
-      blocks(component.paddedAcross, RowsOfMemory(component, keptFrequencies),
-             keptFrequencies.stride),
-      nonZero(NeedsNonZero(keptFrequencies) ? static_cast<std::size_t>(BlocksOf(component)) : 0) {}
+      rows(component.down),
+      blocks(component.paddedAcross, rows, keptFrequencies.stride),
+      nonZero(static_cast<std::size_t>(component.paddedAcross) * static_cast<std::size_t>(rows)) {}
 
-std::int64_t ProgressiveComponent::BytesFor(const JpgComponent& component,
-                                            const KeptFrequencies& kept) {
-    constexpr std::int64_t kNumber = sizeof(std::int16_t), kBits = sizeof(std::uint64_t);
-    const std::int64_t blocks =
-        std::int64_t{component.paddedAcross} * RowsOfMemory(component, kept);
-    return blocks * kept.stride * kNumber + (NeedsNonZero(kept) ? BlocksOf(component) * kBits : 0);
+void ProgressiveComponent::Clear() {
+    std::fill(blocks.numbers.begin(), blocks.numbers.end(), std::int16_t{0});
+    std::fill(nonZero.begin(), nonZero.end(), std::uint64_t{0});
 }
 
-ScanOutcome ReadProgressiveScan(pictures::FileBytes file, const JpgFrame& frame,
-                                const JpgScan& scan, const JpgTables& tables,
-                                std::span<ProgressiveComponent> components) {
-    const auto walk = [&](auto reader) {
-        return WalkScan(file, frame, scan, tables.restartInterval, reader);
+std::unique_ptr<ProgressiveScan> OpenProgressiveScan(const pictures::PictureFile& file,
+                                                     const JpgFrame& frame, const JpgScan& scan,
+                                                     const JpgTables& tables,
+                                                     std::span<ProgressiveComponent> components) {
+    const auto first = static_cast<std::size_t>(scan.parts[0].component);
+    const int rowsAtOnce = scan.parts.size() > 1 ? 1 : frame.components[first].down;
+    const auto open = [&]<class Reader>(const Reader& reader) -> std::unique_ptr<ProgressiveScan> {
+        return std::make_unique<ScanByReader<Reader>>(file, frame, scan, tables.restartInterval,
+                                                      rowsAtOnce, reader);
     };
     if (scan.IsDc()) {
-        if (scan.IsRefinement()) return walk(DcRefinementReader(scan, components));
-        return walk(DcFirstReader(scan, tables, components));
+        if (scan.IsRefinement()) return open(DcRefinementReader(scan, components));
+        return open(DcFirstReader(scan, tables, components));
     }
-    ProgressiveComponent& component = components[static_cast<std::size_t>(scan.parts[0].component)];
-    if (scan.IsRefinement()) return walk(AcRefinementReader(scan, tables, component));
-    return walk(AcFirstReader(scan, tables, component));
+    if (scan.IsRefinement()) return open(AcRefinementReader(scan, tables, components[first]));
+    return open(AcFirstReader(scan, tables, components[first]));
 }
 
 }  // namespace vistrel::jpg

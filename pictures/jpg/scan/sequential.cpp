@@ -133,11 +133,16 @@ class SequentialReader {
 
 }  // namespace
 
-ScanOutcome ReadSequentialScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
-                               JpgTables& tables, std::span<const KeptFrequencies> kept,
-                               BlockRowSink& sink) {
+ScanOutcome ReadSequentialScan(const pictures::PictureFile& file, const JpgFrame& frame,
+                               const JpgScan& scan, JpgTables& tables,
+                               std::span<const KeptFrequencies> kept, BlockRowSink& sink) {
     SequentialReader reader(frame, scan, tables, kept, sink);
-    return WalkScan(file, frame, scan, tables.restartInterval, reader);
+    ScanWalk walk(file, frame, scan, tables.restartInterval);
+    while (!walk.IsAtEnd()) {
+        walk.ReadRow(reader);
+        reader.EndMcuRow();
+    }
+    return walk.Outcome();
 }
 
 }  // namespace vistrel::jpg

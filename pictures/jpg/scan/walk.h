@@ -30,46 +30,71 @@ struct ScanMcus {
     }
 };
 
-/// Calls `Reader::Restart()` at each beginning and restart, `bits = Reader::ReadBlock(bits, part,
-/// column, row)` for each block of a scan in the file's order and `Reader::EndMcuRow()` at the
-/// end of each row of MCUs. MCUs that the file lacks are skipped in silence.
-template <class Reader>
-ScanOutcome WalkScan(pictures::FileBytes file, const JpgFrame& frame, const JpgScan& scan,
-                     int restartInterval, Reader& reader) {
-    const ScanMcus mcus(frame, scan);
-    ScanBytes bytes(file, scan.dataStart);
-    BitReader bits = bytes.Reader();
-    ScanOutcome outcome;
-    outcome.mcus = static_cast<std::int64_t>(mcus.across) * mcus.down;
-    reader.Restart();
-    int untilRestart = restartInterval, restarts = 0;
-    for (int row = 0; row < mcus.down; ++row) {
-        for (int column = 0; column < mcus.across; ++column) {
-            if (restartInterval > 0 && untilRestart-- == 0) {
-                bytes.Restart(restarts++ & 7);
-                bits = bytes.Reader();
+/// Goes through the blocks of a scan, one row of MCUs after the other. MCUs that the file lacks are
+/// skipped in silence.
+class ScanWalk {
+ public:
+    /// `frame` must outlive this.
+    ScanWalk(const pictures::PictureFile& file, const JpgFrame& frame, const JpgScan& scan,
+             int restartInterval)
+        : frame_(frame),
+          scan_(scan),
+          mcus_(frame, scan),
+          restartInterval_(restartInterval),
+          untilRestart_(restartInterval),
+          bytes_(file, scan.dataStart),
+          bits_(bytes_.Reader()) {}
+
+    bool IsAtEnd() const { return row_ == mcus_.down; }
+
+    /// Calls `bits = Reader::ReadBlock(bits, part, column, row)` for each block of the next row of
+    /// MCUs in the file's order, and `Reader::Restart()` before the first one and at restarts.
+    template <class Reader>
+    void ReadRow(Reader& reader) {
+        BitReader bits = bits_;
+        if (row_ == 0) reader.Restart();
+        for (int column = 0; column < mcus_.across; ++column) {
+            if (restartInterval_ > 0 && untilRestart_-- == 0) {
+                bytes_.Restart(restarts_++ & 7);
+                bits = bytes_.Reader();
                 reader.Restart();
-                untilRestart = restartInterval - 1;
+                untilRestart_ = restartInterval_ - 1;
             }
-            if (bytes.IsOverrun(bits)) continue;
-            ++outcome.mcusRead;
-            for (std::size_t part = 0; part < scan.parts.size(); ++part) {
+            if (bytes_.IsOverrun(bits)) continue;
+            ++mcusRead_;
+            for (std::size_t part = 0; part < scan_.parts.size(); ++part) {
                 const JpgComponent& component =
-                    frame.components[static_cast<std::size_t>(scan.parts[part].component)];
-                const int wide = mcus.interleaved ? component.across : 1;
-                const int high = mcus.interleaved ? component.down : 1;
+                    frame_.components[static_cast<std::size_t>(scan_.parts[part].component)];
+                const int wide = mcus_.interleaved ? component.across : 1;
+                const int high = mcus_.interleaved ? component.down : 1;
                 for (int y = 0; y < high; ++y) {
                     for (int x = 0; x < wide; ++x) {
-                        if (bytes.NeedsMore(bits)) bits = bytes.More(bits);
-                        bits = reader.ReadBlock(bits, part, column * wide + x, row * high + y);
+                        if (bytes_.NeedsMore(bits)) bits = bytes_.More(bits);
+                        bits = reader.ReadBlock(bits, part, column * wide + x, row_ * high + y);
                     }
                 }
             }
         }
-        reader.EndMcuRow();
+        ++row_;
+        bits_ = bits;
     }
-    outcome.end = bytes.FindEnd();
-    return outcome;
-}
+
+    /// How much there was, once all rows have been read.
+    ScanOutcome Outcome() {
+        return {mcusRead_, std::int64_t{mcus_.across} * mcus_.down, bytes_.FindEnd()};
+    }
+
+ private:
+    const JpgFrame& frame_;
+    const JpgScan scan_;
+    const ScanMcus mcus_;
+    const int restartInterval_;
+    int untilRestart_;
+    int restarts_ = 0;
+    int row_ = 0;
+    std::int64_t mcusRead_ = 0;
+    ScanBytes bytes_;
+    BitReader bits_;
+};
 
 }  // namespace vistrel::jpg

@@ -3,7 +3,7 @@
 #include "tests/pictures/fuzz/harmless.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto picture = vistrel::gif::ReadGif({data, size});
+    const auto picture = vistrel::gif::ReadGif(vistrel::pictures::FileBytes(data, size));
     if (picture) vistrel::fuzz::Demand(*picture);
     return 0;
 }

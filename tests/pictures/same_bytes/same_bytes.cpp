@@ -1,6 +1,7 @@
-// Every build makes the same bytes of a picture: this program runs in each of them and compares the
-// digests of what it converts with those of digests.txt. Where they differ, it leaves what it found
-// in digests_found.txt: after a change of the conversion that is to be the new digests.txt.
+// Every build makes the same bytes of a picture, by whatever loops: this program runs in each of
+// them and compares the digests of what it converts with those of digests.txt. Where they differ,
+// it leaves what it found in digests_found.txt: after a change of the conversion that is to be the
+// new digests.txt.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -10,6 +11,7 @@
 #include "pictures/compose/stages.h"
 #include "pictures/convert.h"
 #include "pictures/file.h"
+#include "pictures/loops/loops.h"
 #include "pictures/reduce/quantize.h"
 #include "pictures/scale/resize.h"
 #include "tests/support/picture_files/bmp_file.h"
@@ -112,7 +114,12 @@ std::string AllDigests() {
                 DigestOfFramed("progressive.jpg", compose::FramingKind::Fit));
 }
 
-TEST(Conversion, GivesTheRecordedBytesInThisBuild) {
+/// Each kind of innermost loops that this machine can run, the others being skipped.
+class Conversion : public testing::TestWithParam<loops::Kind> {};
+
+TEST_P(Conversion, GivesTheRecordedBytesInThisBuild) {
+    if (!loops::CanRun(GetParam())) GTEST_SKIP() << "this machine cannot run these loops";
+    loops::Force(GetParam());
     const std::string found = AllDigests();
     const auto file = ReadWholeFile(PathOfRecorded("digests.txt"));
     ASSERT_TRUE(file.has_value());
@@ -120,6 +127,20 @@ TEST(Conversion, GivesTheRecordedBytesInThisBuild) {
     EXPECT_EQ(found, recorded);
     if (found != recorded) WriteWholeFile("digests_found.txt", Bytes(found.begin(), found.end()));
 }
+
+INSTANTIATE_TEST_SUITE_P(ByLoops, Conversion,
+                         testing::Values(loops::Kind::Singles, loops::Kind::Mmx, loops::Kind::Sse2),
+                         [](const auto& info) {
+                             switch (info.param) {
+                                 case loops::Kind::Singles:
+                                     return "OfSingles";
+                                 case loops::Kind::Mmx:
+                                     return "OfMmx";
+                                 case loops::Kind::Sse2:
+                                     return "OfSse2";
+                             }
+                             return "";
+                         });
 
 }  // namespace
 }  // namespace vistrel::test

@@ -112,6 +112,13 @@ std::vector<HWND> HelpersOf(HWND window) {
     return found;
 }
 
+HWND FocusIn(HWND window) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    return info.hwndFocus;
+}
+
 COLORREF PixelAt(POINT point) {
     const HDC screen = GetDC(nullptr);
     const COLORREF color = GetPixel(screen, point.x, point.y);

@@ -52,6 +52,9 @@ std::string TipOver(HWND window);
 /// not: tips, and the lists that boxes drop.
 std::vector<HWND> HelpersOf(HWND window);
 
+/// The control that has the keyboard among the windows of this window's thread, or null.
+HWND FocusIn(HWND window);
+
 /// The colour of a pixel of the screen.
 COLORREF PixelAt(POINT point);
 /// Whether any pixel of a window, as the screen shows it, has this colour. Text has its own colour

@@ -1,0 +1,48 @@
+// What counts as a click on a control.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "controls/picture_box.h"
+#include "controls/window.h"
+#include "resources/ids.h"
+#include "tests/support/user/poll.h"
+#include "tests/support/user/user.h"
+
+namespace vistrel::test {
+
+using namespace controls;
+
+namespace {
+
+class Clicked : public Window {
+ public:
+    Clicked() : Window("Principale", IDD_Principale) {
+        const Part parts[] = {{box, ID_Imag}};
+        AddParts(parts);
+        box.MouseDown = [this](int, Point) { ++presses; };
+        box.MouseUp = [this](int, Point) { ++clicks; };
+    }
+
+    PictureBox box;
+    int presses = 0;
+    int clicks = 0;
+};
+
+TEST(Clicks, ADoubleClickOnAPictureIsOneClickAndTheNextOneCountsAgain) {
+    RegisterPictureBoxClass();
+    Clicked window;
+    ASSERT_TRUE(window.Create(nullptr));
+    window.Show();
+    ASSERT_TRUE(user::Activate(window.handle()));
+    const POINT middle = user::CentreOf(window.box.handle());
+    user::DoubleClickAt(middle);
+    EXPECT_TRUE(WaitUntil([&] { return window.presses == 2; }));
+    EXPECT_TRUE(WaitUntil([&] { return GetKeyState(VK_LBUTTON) >= 0; }));
+    // A third press at once is the first of a next click.
+    user::ClickAt(middle);
+    EXPECT_TRUE(WaitUntil([&] { return window.presses == 3 && window.clicks > 1; }));
+    EXPECT_EQ(window.clicks, 2);
+}
+
+}  // namespace
+}  // namespace vistrel::test
