@@ -56,7 +56,8 @@ pictures::RgbPicture LiveScreen::Finished(const compose::Composition& compositio
     if (!Holds(composition) || !fine_)
         Keep(compose::FrameFinely(*read_, composition), composition, true);
     pictures::RgbPicture screen = compose::Adjust(*framed_, composition);
-    const auto reduced = compose::ReduceMoving(read_->moving, *framed_, screen, composition);
+    const auto reduced = compose::ReduceMoving(
+        read_->moving, compose::LevelsFor(composition.light, *framed_), screen, composition);
     return reduced ? InColors(*reduced) : std::move(screen);
 }
 

@@ -16,14 +16,15 @@ namespace {
 std::optional<screen::IndexedScreen> ReadAsItIs(const std::string& path) {
     const auto file = pictures::ReadWholeFile(path);
     if (!file) return std::nullopt;
-    const auto header = bmp::ReadBmpHeader(*file);
+    const pictures::FileBytes bytes = *file;
+    const auto header = bmp::ReadBmpHeader(bytes);
     if (!header || header->bitsPerPixel > 8 || header->width != pictures::kLogoWidth ||
         header->height != pictures::kLogoHeight)
         return std::nullopt;
-    auto indices = screen::ReadAnyIndices(*file, *header);
+    auto indices = screen::ReadAnyIndices(bytes, *header);
     if (!indices) return std::nullopt;
     // The system reads no more than the lowest byte: where a count stands there, colours flash.
-    const int first = static_cast<int>(screen::FirstAnimated(*file) & 0xFF);
+    const int first = static_cast<int>(screen::FirstAnimated(bytes) & 0xFF);
     return screen::IndexedScreen{header->width, header->height, std::move(*indices),
                                  header->palette, first};
 }

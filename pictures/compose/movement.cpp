@@ -4,7 +4,6 @@
 #include <new>
 #include <utility>
 
-#include "pictures/compose/light.h"
 #include "pictures/compose/text.h"
 #include "pictures/file.h"
 #include "pictures/little_endian.h"
@@ -42,12 +41,11 @@ void LeaveOutText(const std::vector<TextMask>& text, screen::Area& area) {
 }
 
 /// The moving colours in the light that the picture has.
-void LightUp(std::vector<screen::ScreenColor>& ring, const Light& light, const Framed& framed) {
+void LightUp(std::vector<screen::ScreenColor>& ring, const Light& light, const Levels& levels) {
     const int count = static_cast<int>(ring.size());
     pictures::RgbPicture colors{count, 1, {}};
     for (const auto& color : ring)
         colors.pixels.insert(colors.pixels.end(), color.begin(), color.end());
-    const Levels levels = light.autoLevels ? LevelsOf(framed.screen, framed.picture) : Levels{};
     ApplyLight(light, levels, {0, 0, count, 1}, colors);
     for (int i = 0; i < count; ++i)
         std::copy_n(colors.pixels.begin() + i * 3, 3, ring[static_cast<std::size_t>(i)].begin());
@@ -85,8 +83,12 @@ bool LeavesColors(const screen::IndexedScreen& moving) {
     return moving.firstAnimated >= kFewestStanding;
 }
 
+Levels LevelsFor(const Light& light, const Framed& framed) {
+    return light.autoLevels ? LevelsOf(framed.screen, framed.picture) : Levels{};
+}
+
 std::optional<screen::IndexedScreen> ReduceMoving(
-    const std::optional<screen::IndexedScreen>& moving, const Framed& framed,
+    const std::optional<screen::IndexedScreen>& moving, const Levels& levels,
     const pictures::RgbPicture& adjusted, const Composition& composition) try {
     if (!moving || !StaysInPlace(composition) || !LeavesColors(*moving))
         return Reduce(adjusted, composition.dither);
@@ -94,7 +96,7 @@ std::optional<screen::IndexedScreen> ReduceMoving(
     if (!document || document->layers.empty()) return Reduce(adjusted, composition.dither);
     screen::Area& area = document->layers.front().area;
     LeaveOutText(composition.text, area);
-    LightUp(document->ring.exact, composition.light, framed);
+    LightUp(document->ring.exact, composition.light, levels);
 
     pictures::RgbPicture stands = adjusted;
     screen::FillIn(stands, area);

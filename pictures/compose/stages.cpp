@@ -136,10 +136,9 @@ pictures::ConversionResult MakeScreen(const std::string& sourcePath, const std::
                                       const Composition& composition) try {
     std::optional<Framed> framed = ReadFramed(sourcePath, composition);
     if (!framed) return pictures::ConversionResult::NotRead;
-    const std::optional<screen::IndexedScreen> moving = ReadMovingScreen(sourcePath);
-    const std::optional<screen::IndexedScreen> screen =
-        moving ? ReduceMoving(moving, *framed, Adjust(*framed, composition), composition)
-               : Reduce(Adjust(std::move(*framed), composition), composition.dither);
+    const Levels levels = LevelsFor(composition.light, *framed);
+    const std::optional<screen::IndexedScreen> screen = ReduceMoving(
+        ReadMovingScreen(sourcePath), levels, Adjust(std::move(*framed), composition), composition);
     if (!screen) return pictures::ConversionResult::NotReduced;
     return Write(targetPath, *screen) ? pictures::ConversionResult::Written
                                       : pictures::ConversionResult::NotWritten;

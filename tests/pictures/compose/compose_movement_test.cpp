@@ -152,7 +152,8 @@ TEST_F(MovingAdjusted, IsShownInTheWindowAsItWillBe) {
     ASSERT_TRUE(read && read->moving);
     const Composition composition = WithText();
     const Framed framed = FrameFinely(*read, composition);
-    const auto shown = ReduceMoving(read->moving, framed, Adjust(framed, composition), composition);
+    const auto shown = ReduceMoving(read->moving, LevelsFor(composition.light, framed),
+                                    Adjust(framed, composition), composition);
     ASSERT_TRUE(shown);
     const IndexedScreen made = Made(composition);
     EXPECT_EQ(shown->indices, made.indices);
