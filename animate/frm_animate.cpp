@@ -87,7 +87,7 @@ void FrmAnimate::Form_Load() {
 }
 
 void FrmAnimate::FillLists() {
-    for (const char* way : {"Rectangle", "Freehand", "Colour", "Colour, one piece"})
+    for (const char* way : {"Rectangle", "Freehand", "Colour", "Colour, joined"})
         ChooseBy.AddItem(way);
     ChooseBy.SetListIndex(0);
     ToleranceBar.SetRange(0, 100, 1, 10, 20);

@@ -10,8 +10,6 @@ namespace {
 
 constexpr int kScreenWidth = 320;
 constexpr int kScreenHeight = 400;
-constexpr int kColorsImportant = 50;  // offset of biClrImportant in a bitmap file
-constexpr int kBandWidth = 4;         // columns of one colour in a moving bar
 
 struct Indexed {
     std::vector<std::uint8_t> indices;
@@ -46,28 +44,11 @@ std::vector<std::uint8_t> StillScreen(const art::Painting& painting) {
     return IndexedBitmap(AtScreenSize(painting));
 }
 
-std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, const MovingBar& bar) {
-    const int moving = static_cast<int>(bar.colors.size());
-    const int first = 256 - moving;
-    Indexed screen = Reduced(AtScreenSize(painting), first);
-    // The system gives each entry the colour of the next one. Numbers that fall from left to right
-    // therefore make the colours travel to the right.
-    for (int row = bar.top; row < bar.top + bar.height; ++row) {
-        for (int column = 0; column < kScreenWidth; ++column) {
-            screen.indices[row * kScreenWidth + column] =
-                static_cast<std::uint8_t>(255 - column / kBandWidth % moving);
-        }
-    }
-    for (int i = 0; i < moving; ++i) {
-        std::uint8_t* entry = &screen.palette[(255 - i) * 4];
-        entry[0] = static_cast<std::uint8_t>(bar.colors[i].b + .5);
-        entry[1] = static_cast<std::uint8_t>(bar.colors[i].g + .5);
-        entry[2] = static_cast<std::uint8_t>(bar.colors[i].r + .5);
-    }
-    std::vector<std::uint8_t> file = bmp::ColormappedBmp(screen.indices.data(), kScreenWidth,
-                                                         kScreenHeight, 256, screen.palette.data());
-    Put32(file, kColorsImportant, first);
-    return file;
+std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, Movement move) {
+    auto picture = screen::BeginMoving(*screen::ReadIndexedScreen(StillScreen(painting)),
+                                       AtScreenSize(painting));
+    move(*picture);
+    return screen::ScreenFile(*screen::MakeMovingScreen(*picture));
 }
 
 std::vector<std::uint8_t> TrueColorBitmap(const pictures::RgbPicture& picture) {

@@ -5,22 +5,18 @@
 #include <vector>
 
 #include "art/brush/painting.h"
+#include "pictures/screen/moving_screen.h"
 
 namespace vistrel::art {
 
-/// A bar across the screen whose colours the operating system moves while it starts.
-struct MovingBar {
-    int top;                        ///< first row of the bar, of the screen's 400
-    int height;                     ///< in rows
-    std::vector<art::Tint> colors;  ///< one wave of the bar, from left to right; it moves right
-};
+/// Gives a picture what moves on it.
+using Movement = void (*)(screen::MovingPicture& picture);
 
 /// A still screen of 320 x 400 pixels in 256 colours.
 std::vector<std::uint8_t> StillScreen(const art::Painting& painting);
 
-/// The same with a moving bar: the bar's colours are the palette's last entries, which nothing else
-/// uses, and the header's biClrImportant is the number of the first of them.
-std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, const MovingBar& bar);
+/// The same with colours that the operating system moves while it starts.
+std::vector<std::uint8_t> MovingScreen(const art::Painting& painting, Movement move);
 
 /// An 8-bit bitmap of any size.
 std::vector<std::uint8_t> IndexedBitmap(const pictures::RgbPicture& picture);

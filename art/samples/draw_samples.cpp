@@ -6,6 +6,7 @@
 #include "art/files/gif_writer.h"
 #include "art/files/jpg_writer.h"
 #include "art/files/screen_file.h"
+#include "art/samples/movements.h"
 #include "art/samples/scene.h"
 #include "pictures/file.h"
 
@@ -17,24 +18,14 @@ namespace {
 struct Set {
     const char* name;
     Scene scene;
-    const MovingBar* bar;  // of the startup screen, or a null pointer
+    Movement move;  // of the startup screen, or a null pointer
 };
 
-std::vector<Tint> Wave(const Tint& rest, const Tint& crest) {
-    std::vector<Tint> colors;
-    for (int i = 0; i < 20; ++i)
-        colors.push_back(Mix(rest, crest, i < 14 ? i * i / 169. : (19 - i) / 6.));
-    return colors;
-}
-
-const MovingBar kStarlight{384, 7, Wave(Hex(0x0A1222), Hex(0xC8DCFF))};
-const MovingBar kTraffic{304, 4, Wave(Hex(0x100C18), Hex(0xFFB050))};
-
 const Set kMultiLogo[] = {
-    {"Night Sky", NightSky, &kStarlight},   {"Green Hills", GreenHills, nullptr},
-    {"Typewriter", Typewriter, nullptr},    {"Weave", Weave, nullptr},
-    {"Sunny Day", SunnyDay, nullptr},       {"Deep Sea", DeepSea, nullptr},
-    {"City Lights", CityLights, &kTraffic},
+    {"Night Sky", NightSky, Twinkle},          {"Green Hills", GreenHills, nullptr},
+    {"Typewriter", Typewriter, nullptr},       {"Weave", Weave, nullptr},
+    {"Sunny Day", SunnyDay, TurnRays},         {"Deep Sea", DeepSea, MoveWater},
+    {"City Lights", CityLights, LightWindows},
 };
 const Set kSingleLogo[] = {
     {"Sunrise.SLS", Sunrise, nullptr},
@@ -51,14 +42,14 @@ void Write(const std::filesystem::path& path, const std::vector<std::uint8_t>& b
 
 // Painted twice as fine as the screen's pixels, for the scaling to work on.
 void WriteScreen(const std::filesystem::path& path, Scene scene, Screen screen,
-                 const MovingBar* bar = nullptr) {
+                 Movement move = nullptr) {
     Painting painting(kWidth, kHeight, 640, 800);
     scene(painting, screen);
-    Write(path, bar ? MovingScreen(painting, *bar) : StillScreen(painting));
+    Write(path, move ? MovingScreen(painting, move) : StillScreen(painting));
 }
 
 void WriteTrio(const std::filesystem::path& folder, const Set& set) {
-    WriteScreen(folder / "LOGO.SYS", set.scene, Screen::Startup, set.bar);
+    WriteScreen(folder / "LOGO.SYS", set.scene, Screen::Startup, set.move);
     WriteScreen(folder / "LOGOW.SYS", set.scene, Screen::Wait);
     WriteScreen(folder / "LOGOS.SYS", set.scene, Screen::Shutdown);
 }
