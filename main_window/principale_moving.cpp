@@ -36,7 +36,9 @@ void Principale::ItmMoveColors_Click() {
     };
     animate::FrmAnimate window(std::move(*start), keep);
     window.ShowModal(handle());
-    if (saved) RedrawScreens();
+    if (!saved) return;
+    RedrawScreens();
+    ShowFaults();
 }
 
 }  // namespace vistrel::main_window
