@@ -88,7 +88,7 @@ TEST(ScreenPreview, LeavesOtherFilesToOtherReaders) {
     EXPECT_FALSE(PreviewOfScreen(file, 100, 100));
     file[28] = 24;
     EXPECT_FALSE(PreviewOfScreen(file, 100, 100));
-    EXPECT_FALSE(PreviewOfScreen({}, 100, 100));
+    EXPECT_FALSE(PreviewOfScreen(pictures::FileBytes(), 100, 100));
 }
 
 }  // namespace
