@@ -45,7 +45,15 @@ void Close(HWND browser) {
     EXPECT_TRUE(user::WaitUntilGone(browser));
 }
 
-using OpeningTheBrowser = MainWindow98;
+class OpeningTheBrowser : public MainWindow98 {
+ protected:
+    /// Opens the Logo browser and makes it the active window; null if it did not come.
+    HWND OpenBrowser(Principale& main) {
+        StartCommand(main, ID_ToolBrowser);
+        const HWND browser = user::WaitForTop("SelPictureForm");
+        return browser && user::Activate(browser) ? browser : nullptr;
+    }
+};
 
 TEST_F(OpeningTheBrowser, WaitsUntilTheWindowInFrontIsClosed) {
     WithMainWindow([&](Principale& main) {
@@ -81,10 +89,8 @@ TEST_F(OpeningTheBrowser, EndsTheWaitingForItOnceItIsOpen) {
     const Hook hook(WH_GETMESSAGE, CountTicks);
     ticks = 0;
     WithMainWindow([&](Principale& main) {
-        StartCommand(main, ID_ToolBrowser);
-        const HWND browser = user::WaitForTop("SelPictureForm");
+        const HWND browser = OpenBrowser(main);
         ASSERT_NE(browser, nullptr);
-        EXPECT_TRUE(user::Activate(browser));
         const int before = ticks;
         EXPECT_GT(before, 0);
         EXPECT_FALSE(WaitUntil([&] { return ticks > before + 1; }, 400));
@@ -95,10 +101,8 @@ TEST_F(OpeningTheBrowser, EndsTheWaitingForItOnceItIsOpen) {
 TEST_F(OpeningTheBrowser, KeepsTheSetSelectedThatIsRenamedThere) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
-        StartCommand(main, ID_ToolBrowser);
-        const HWND browser = user::WaitForTop("SelPictureForm");
+        const HWND browser = OpenBrowser(main);
         ASSERT_NE(browser, nullptr);
-        user::Activate(browser);
         // Chosen in the name's list, typed over, updated.
         const HWND name = GetDlgItem(browser, ID_NameLogoSet);
         SendMessageA(name, CB_SETCURSEL, 2, 0);
@@ -124,10 +128,8 @@ TEST_F(OpeningTheBrowser, KeepsTheSetSelectedWhoseFolderIsRenamedInTheBrowsersLi
     Store("SearchLogoPath", TextValue(logos));
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
-        StartCommand(main, ID_ToolBrowser);
-        const HWND browser = user::WaitForTop("SelPictureForm");
+        const HWND browser = OpenBrowser(main);
         ASSERT_NE(browser, nullptr);
-        user::Activate(browser);
         const HWND list = GetDlgItem(browser, ID_LogoList);
         EXPECT_TRUE(WaitUntil([&] { return seen::FocusIn(browser) == list; }));
         user::Type("red");
