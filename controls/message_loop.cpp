@@ -39,6 +39,8 @@ void AddToLoop(Window& window) { openWindows().push_back(&window); }
 void RemoveFromLoop(Window& window) {
     auto& windows = openWindows();
     windows.erase(std::remove(windows.begin(), windows.end(), &window), windows.end());
+    // What another program sends closes a window without a message that the loop would see.
+    PostThreadMessageA(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 Window* OpenWindowOf(platform::WindowHandle handle) {
