@@ -177,6 +177,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
         std::string selectedSet;
     };
 
+    controls::Timer dropTimer_;
     core::SystemLocations locations_;
     core::Settings settings_;
     bool installedSetListed_ = false;  ///< the setting names a set of the list

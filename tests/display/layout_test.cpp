@@ -2,7 +2,6 @@
 #include <windows.h>
 // The others need windows.h first.
 #include <commctrl.h>
-#include <ole2.h>
 
 #include "about/frm_about_reg.h"
 #include "about/frm_splash.h"
@@ -154,11 +153,7 @@ void Check(HWND window) {
 
 class Layout : public MainWindow98 {
  protected:
-    Layout() {
-        OleInitialize(nullptr);
-        Store("DefaultLogoSet", TextValue("Red"));
-    }
-    ~Layout() override { OleUninitialize(); }
+    Layout() { Store("DefaultLogoSet", TextValue("Red")); }
 
     static void Open(Window& window) {
         ASSERT_TRUE(window.Create(nullptr));
