@@ -40,6 +40,13 @@ void Moving::CloseBy(SelPictureForm& editor, HWND window, int button) {
     Settle(editor);
 }
 
+void Moving::Follow(HWND window) {
+    // A window paints once no key or click waits for it any more.
+    InvalidateRect(window, nullptr, FALSE);
+    Await([&] { return !IsWindow(window) || !GetUpdateRect(window, nullptr, FALSE); }, "followed");
+    SendMessageA(window, WM_NULL, 0, 0);
+}
+
 void Moving::GiveKeys(HWND window, int id) {
     SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(window, id)), TRUE);
 }
@@ -101,6 +108,10 @@ POINT Moving::OnScreen(HWND window, int x, int y) {
 void Moving::DragOver(HWND window, POINT from, POINT to) {
     user::Drag(OnScreen(window, from.x, from.y), OnScreen(window, to.x, to.y));
     Follow(window);
+}
+
+void Moving::DragHolding(HWND window, WORD key, POINT from, POINT to) {
+    user::WhileHolding(key, [&] { DragOver(window, from, to); });
 }
 
 screen::IndexedScreen Moving::ScreenOf(const std::string& path) {

@@ -24,10 +24,12 @@ class Moving : public LogoBrowser {
     static HWND OpenOnSlot(editor::SelPictureForm& editor);
     /// Presses OK or Cancel and waits until the window is gone and the browser has followed.
     static void CloseBy(editor::SelPictureForm& editor, HWND window, int button);
-    /// Waits until the window has done what it was asked to do.
-    static void Follow(HWND window) { SendMessageA(window, WM_NULL, 0, 0); }
+    /// Waits until the window has handled what the user did.
+    static void Follow(HWND window);
 
     static HWND Item(HWND window, int id) { return GetDlgItem(window, id); }
+    /// Drags over the picture with Shift or Ctrl held.
+    static void DragHolding(HWND window, WORD key, POINT from, POINT to);
     static void Press(HWND window, int id) { SendMessageA(Item(window, id), BM_CLICK, 0, 0); }
     static bool Enabled(HWND window, int id) { return IsWindowEnabled(Item(window, id)) != 0; }
     static void GiveKeys(HWND window, int id);

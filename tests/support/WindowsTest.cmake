@@ -2,8 +2,7 @@
 
 # Tests are compiled more often than run: without optimizing that takes half the time. What they link
 # of the program is optimized as ever.
-# Nor does what is never called matter: the linker's time grows with the square of the sections.
-add_compile_options(-O0 -fno-function-sections -fno-data-sections)
+add_compile_options(-O0)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     add_compile_options(-fno-lto)
 endif()
@@ -21,10 +20,6 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/user/openings.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/snapshot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/started_program.cpp)
-# Inlined functions are no sections of their own.
-set_source_files_properties(${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
-    TARGET_DIRECTORY windows_test
-    PROPERTIES COMPILE_OPTIONS -O1)
 add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/user/record_opening.cpp)
 # The compiler has no threads of its own kind, so that GoogleTest goes without.
 target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)

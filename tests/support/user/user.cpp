@@ -261,7 +261,7 @@ void TakeUpKeyboard() {
     if (window != nullptr) Activate(window);
 }
 
-}  // namespace
+bool IsHeld(WORD key) { return (GetAsyncKeyState(key) & 0x8000) != 0; }
 
 // The screen, which knows of no such key, lets go of it once when a window comes to the front,
 // which may be just now.
@@ -269,12 +269,21 @@ void HoldKey(WORD key) {
     WaitUntil(
         [&] {
             Send({KeyInput(key, 0)});
-            return (GetAsyncKeyState(key) & 0x8000) != 0;
+            return IsHeld(key);
         },
         1000);
 }
 
 void LetGoKey(WORD key) { Send({KeyInput(key, KEYEVENTF_KEYUP)}); }
+
+}  // namespace
+
+void WhileHolding(WORD key, const std::function<void()>& act) {
+    TakeUpKeyboard();
+    HoldKey(key);
+    act();
+    LetGoKey(key);
+}
 
 void Press(WORD key, const std::vector<WORD>& held) {
     TakeUpKeyboard();

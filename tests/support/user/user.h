@@ -77,9 +77,10 @@ bool RightClick(HWND window);
 
 /// Presses and lets go a key, with these keys (VK_CONTROL, VK_MENU, VK_SHIFT) held down.
 void Press(WORD key, const std::vector<WORD>& held = {});
-/// Holds a key down while something else is done, and lets go of it.
-void HoldKey(WORD key);
-void LetGoKey(WORD key);
+/// Holds a key down while something else is done. The key may be lost meanwhile: a screen tells
+/// late, when the mouse was let go, which keys it has seen pressed. Who finds nothing done does it
+/// again.
+void WhileHolding(WORD key, const std::function<void()>& act);
 /// Types ANSI text.
 void Type(const std::string& text);
 
