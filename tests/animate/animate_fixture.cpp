@@ -15,6 +15,14 @@ Moving::Moving() {
     vistrel::pictures::ConvertToLogo(root + "many.bmp", still);
 }
 
+void Moving::Follow(HWND window) {
+    SendMessageA(window, WM_NULL, 0, 0);
+    const HWND hint = Item(window, ID_LblMovingHint);
+    // It is painted when nothing of the mouse and the keys is left to be looked at.
+    InvalidateRect(hint, nullptr, FALSE);
+    Await([&] { return !GetUpdateRect(hint, nullptr, FALSE); }, "followed");
+}
+
 HWND Moving::WaitForIt() {
     const HWND window = user::WaitForTop("FrmAnimate");
     EXPECT_NE(window, nullptr);

@@ -24,8 +24,8 @@ class Moving : public LogoBrowser {
     static HWND OpenOnSlot(editor::SelPictureForm& editor);
     /// Presses OK or Cancel and waits until the window is gone and the browser has followed.
     static void CloseBy(editor::SelPictureForm& editor, HWND window, int button);
-    /// Waits until the window has done what it was asked to do.
-    static void Follow(HWND window) { SendMessageA(window, WM_NULL, 0, 0); }
+    /// Waits until the window has done what it was asked to do, by the mouse and the keys too.
+    static void Follow(HWND window);
 
     static HWND Item(HWND window, int id) { return GetDlgItem(window, id); }
     static void Press(HWND window, int id) { SendMessageA(Item(window, id), BM_CLICK, 0, 0); }

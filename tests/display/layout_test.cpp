@@ -269,7 +269,7 @@ TEST_F(Layout, OfAdjustingAPicture) {
 TEST_F(Layout, OfMovingColors) {
     Put(root + "moving.sys", ScreenFile(0, 128, 0, 236));
     FrmAnimate animate(
-        *BeginDocument(*ReadScreen(root + "moving.sys"), std::nullopt),
+        *BeginDocument(*ReadScreen(root + "moving.sys"), std::nullopt), logos,
         [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
     Open(animate);
     for (const int kind : {0, 1, 2}) {
