@@ -190,6 +190,7 @@ void Principale::Form_Resize(controls::Size client) {
     LblScreen[0].MoveTo({left + bigWidth + gap, bigTop, labelWidth, twoLines});
     LblFaults.MoveTo({left + bigWidth + gap, bigTop + twoLines + gap, labelWidth,
                       bigWidth * 3 / 4 - twoLines - gap});
+    FitFaults();
     const int smallWidth = (panel - gap) / 2;
     const int smallTop = bigTop + bigWidth * 3 / 4 + gap;
     for (int i = 1; i < 3; ++i) {

@@ -192,7 +192,7 @@ TEST_F(Moving, WhatMovesOnAnotherScreenIsLaidOverThisOne) {
         const bool moves = x >= 100 && x < 180 && y >= 40 && y < 60;
         other.indices[i] = moves ? std::uint8_t(240 + x % 16) : 0;
     }
-    Put(root + "other.sys", FileOf(other));
+    Put(logos + "other.sys", FileOf(other));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Fill(editor, "still.sys", 0);
         const HWND window = OpenOnSlot(editor);
@@ -201,7 +201,8 @@ TEST_F(Moving, WhatMovesOnAnotherScreenIsLaidOverThisOne) {
         const HWND dialog = user::WaitForTop("#32770", "Moving colours of another screen");
         EXPECT_NE(dialog, nullptr);
         user::Activate(dialog);
-        user::Type(root + "other.sys");
+        // It looks in the logo folder first.
+        user::Type("other.sys");
         user::Press(VK_RETURN);
         EXPECT_TRUE(user::WaitUntilGone(dialog));
         Await([&] { return LayerCount(window) == 1; }, "added");

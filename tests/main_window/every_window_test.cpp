@@ -57,7 +57,7 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
     ASSERT_TRUE(adjust.ReadPicture());
     FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
     FrmAnimate animate(
-        *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt),
+        *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt), logos,
         [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
     boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
     FrmAboutReg about;

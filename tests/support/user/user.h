@@ -64,7 +64,9 @@ void DoubleClickAt(POINT point);
 void RightClickAt(POINT point);
 /// Presses the left button at one point, moves in small steps to the other and lets go.
 void Drag(POINT from, POINT to);
-/// The same with the right button.
+/// The same along a line; at each of its corners `atCorner` waits until it has been looked at.
+void DragThrough(const std::vector<POINT>& points, const std::function<void()>& atCorner);
+/// As Drag, with the right button.
 void RightDrag(POINT from, POINT to);
 
 /// Clicks the middle of a window. Returns false, without a click, when it cannot be seen there
