@@ -1,13 +1,26 @@
 #!/usr/bin/python3
-"""Sums up the last run of ctest in some build folders: "N passed, N failed".
+"""Sums up the last run of ctest in some build folders: what failed, then "N passed, N failed".
 
 usage: count_tests.py BUILD_FOLDER...
-Counts the single tests of programs that hold many, and one for each other test. A test that says
-"Skipped: REASON" counts as neither; what it says is passed on. Returns 1 when a test failed.
+Counts the single tests of programs that hold many, and one for each other test. Of a program that
+failed, only what its failed tests said is shown. A test that says "Skipped: REASON" counts as
+neither; what it says is passed on. Returns 1 when a test failed.
 """
 import os
 import re
 import sys
+
+
+MANY_LINES = 60
+
+
+def what_failed(block):
+    """The part of a failed test's output that tells why."""
+    tests = re.findall(r'^\[ RUN      \] (\S+)\n(.*?)(?=^\[ RUN      \]|^\[----------\]|\Z)', block,
+                       re.M | re.S)
+    failed = [name + '\n' + said for name, said in tests if '[       OK ] ' + name not in said]
+    lines = ''.join(failed).splitlines() if failed else block.splitlines()
+    return '\n'.join(lines[-MANY_LINES:])
 
 
 def count(log):
@@ -26,6 +39,7 @@ def count(log):
         else:
             # A program that ended too early failed although none of its tests says so.
             block_failed = block_failed or 1
+            print('Failed: %s\n%s\n' % (re.match(r'.*', block)[0], what_failed(block)))
         passed += block_passed
         failed += block_failed
     return passed, failed

@@ -90,15 +90,22 @@ MenuRow RowOf(HMENU menu, unsigned id) {
 }
 
 std::string TipAt(POINT point) {
-    // A tip of before would be taken for this one.
-    user::MoveTo({0, 0});
-    WaitUntil([] { return ShownTip() == nullptr; });
-    user::MoveTo({point.x - 2, point.y});
-    user::MoveTo(point);
-    if (!WaitUntil([] { return ShownTip() != nullptr; }, 8000)) return {};
-    char text[256] = "";
-    SendMessageA(ShownTip(), WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-    return text;
+    // Late news of where the X server saw the pointer can end the wait for a tip. A user then
+    // leaves and comes again.
+    constexpr int kTries = 4;
+    for (int i = 0; i < kTries; ++i) {
+        // A tip of before would be taken for this one.
+        user::MoveTo({0, 0});
+        WaitUntil([] { return ShownTip() == nullptr; });
+        user::MoveTo({point.x - 2, point.y});
+        user::MoveTo(point);
+        HWND tip = nullptr;
+        if (!WaitUntil([&] { return (tip = ShownTip()) != nullptr; }, 3000)) continue;
+        char text[256] = "";
+        SendMessageA(tip, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+    return {};
 }
 
 std::string TipOver(HWND window) { return TipAt(user::CentreOf(window)); }
