@@ -15,15 +15,58 @@ using Vector = std::array<Number, 3>;
 /// multiplication.
 using Axis = std::array<std::int32_t, 3>;
 
+/// What is known of the pixels of some cells.
+struct Moments {
+    Number pixels = 0;
+    Vector sums{};
+    std::array<Number, 6> products{};  ///< sums of xx yy zz xy xz yz
+
+    void Add(const Cell& cell) {
+        const auto count = static_cast<std::int32_t>(cell.count);
+        const std::int32_t x = cell.mean.x, y = cell.mean.y, z = cell.mean.z;
+        pixels += count;
+        sums[0] += Number{count} * x;
+        sums[1] += Number{count} * y;
+        sums[2] += Number{count} * z;
+        products[0] += Number{count} * (x * x);
+        products[1] += Number{count} * (y * y);
+        products[2] += Number{count} * (z * z);
+        products[3] += Number{count} * (x * y);
+        products[4] += Number{count} * (x * z);
+        products[5] += Number{count} * (y * z);
+    }
+
+    Moments operator-(const Moments& part) const {
+        Moments rest{.pixels = pixels - part.pixels};
+        for (int k = 0; k < 3; ++k) rest.sums[k] = sums[k] - part.sums[k];
+        for (int k = 0; k < 6; ++k) rest.products[k] = products[k] - part.products[k];
+        return rest;
+    }
+};
+
 /// A run of cell numbers in the common order, and what is known of them.
 struct Box {
     std::size_t begin = 0;
     std::size_t end = 0;
-    Number pixels = 0;
+    Moments moments;
     Axis mean{};
-    std::array<Number, 6> spread{};  ///< sums of the products xx yy zz xy xz yz about the mean
+    std::array<Number, 6> spread{};  ///< as the moments' products, about the mean
+    Number error = 0;
 
-    Number error() const { return spread[0] + spread[1] + spread[2]; }
+    Box(std::size_t first, std::size_t behind, const Moments& ofThese)
+        : begin(first), end(behind), moments(ofThese) {
+        const Number pixels = moments.pixels;
+        for (int k = 0; k < 3; ++k)
+            mean[k] = static_cast<std::int32_t>((moments.sums[k] + pixels / 2) / pixels);
+        if (end - begin == 1) return;
+        constexpr int kFirst[6] = {0, 1, 2, 0, 0, 1}, kSecond[6] = {0, 1, 2, 1, 2, 2};
+        for (int k = 0; k < 6; ++k) {
+            const int a = kFirst[k], b = kSecond[k];
+            spread[k] = moments.products[k] - mean[a] * moments.sums[b] -
+                        mean[b] * moments.sums[a] + pixels * (mean[a] * mean[b]);
+        }
+        error = spread[0] + spread[1] + spread[2];
+    }
 };
 
 /// How far a cell lies along an axis from the middle of a box. Differences of 14 bits times an axis
@@ -100,8 +143,8 @@ class Cutter {
  public:
     explicit Cutter(Histogram& histogram) : cells_(histogram.cells), order_(cells_.size()) {
         for (std::size_t i = 0; i < order_.size(); ++i) order_[i] = static_cast<std::uint16_t>(i);
-        sides_.resize(order_.size());
-        boxes_.push_back(Measured(0, order_.size()));
+        offsets_.resize(order_.size());
+        boxes_.emplace_back(0, order_.size(), MomentsOf(0, order_.size()));
     }
 
     /// Cuts the worst box in two, or finds that its cells are too alike for that. False when no box
@@ -109,16 +152,21 @@ class Cutter {
     bool CutWorst() {
         const auto worst =
             std::max_element(boxes_.begin(), boxes_.end(),
-                             [](const Box& a, const Box& b) { return a.error() < b.error(); });
-        if (worst->error() == 0) return false;
+                             [](const Box& a, const Box& b) { return a.error < b.error; });
+        if (worst->error == 0) return false;
         const Box whole = *worst;
         const std::size_t middle = PartAlong(whole, PrincipalAxis(whole));
         if (middle == whole.end) {
-            worst->spread = {};
+            worst->error = 0;
             return true;
         }
-        *worst = Measured(whole.begin, middle);
-        boxes_.push_back(Measured(middle, whole.end));
+        // The smaller side is added up, the other one is what is left.
+        const bool isLowerSmaller = middle - whole.begin < whole.end - middle;
+        const Moments smaller =
+            isLowerSmaller ? MomentsOf(whole.begin, middle) : MomentsOf(middle, whole.end);
+        const Moments larger = whole.moments - smaller;
+        *worst = Box(whole.begin, middle, isLowerSmaller ? smaller : larger);
+        boxes_.emplace_back(middle, whole.end, isLowerSmaller ? larger : smaller);
         return true;
     }
 
@@ -133,47 +181,24 @@ class Cutter {
     int size() const { return static_cast<int>(boxes_.size()); }
 
  private:
-    Box Measured(std::size_t begin, std::size_t end) const;
+    Moments MomentsOf(std::size_t begin, std::size_t end) const;
     static Axis PrincipalAxis(const Box& box);
     std::size_t PartAlong(const Box& box, const Axis& axis);
-    /// The least and the largest offset of the box's cells along the axis.
-    std::pair<std::int32_t, std::int32_t> ReachOf(const Box& box, const Axis& axis) const;
-    std::size_t MoveLowerToFront(const Box& box, int cut);
+    /// Takes the offsets of the box's cells along the axis. Returns the least and the largest.
+    std::pair<std::int32_t, std::int32_t> TakeOffsets(const Box& box, const Axis& axis);
+    /// Moves the cells with offsets under `limit` to the front. Returns where the others begin.
+    std::size_t MoveLowerToFront(const Box& box, Number limit);
 
     std::vector<Cell>& cells_;
-    std::vector<std::uint16_t> order_;  ///< cell numbers; each box is a run of them
-    std::vector<std::uint8_t> sides_;   ///< for each place in the order: the slice of its cell
+    std::vector<std::uint16_t> order_;   ///< cell numbers; each box is a run of them
+    std::vector<std::int32_t> offsets_;  ///< for each place in the order: along the axis
     std::vector<Box> boxes_;
 };
 
-Box Cutter::Measured(std::size_t begin, std::size_t end) const {
-    Box box{.begin = begin, .end = end};
-    Vector sum{};
-    for (std::size_t i = begin; i < end; ++i) {
-        const Cell& cell = cells_[order_[i]];
-        const auto count = static_cast<std::int32_t>(cell.count);
-        box.pixels += count;
-        sum[0] += Number{count} * cell.mean.x;
-        sum[1] += Number{count} * cell.mean.y;
-        sum[2] += Number{count} * cell.mean.z;
-    }
-    for (int k = 0; k < 3; ++k)
-        box.mean[k] = static_cast<std::int32_t>((sum[k] + box.pixels / 2) / box.pixels);
-    if (end - begin == 1) return box;
-    for (std::size_t i = begin; i < end; ++i) {
-        const Cell& cell = cells_[order_[i]];
-        const auto count = static_cast<std::int32_t>(cell.count);
-        const std::int32_t x = cell.mean.x - box.mean[0];
-        const std::int32_t y = cell.mean.y - box.mean[1];
-        const std::int32_t z = cell.mean.z - box.mean[2];
-        box.spread[0] += Number{count} * (x * x);
-        box.spread[1] += Number{count} * (y * y);
-        box.spread[2] += Number{count} * (z * z);
-        box.spread[3] += Number{count} * (x * y);
-        box.spread[4] += Number{count} * (x * z);
-        box.spread[5] += Number{count} * (y * z);
-    }
-    return box;
+Moments Cutter::MomentsOf(std::size_t begin, std::size_t end) const {
+    Moments moments;
+    for (std::size_t i = begin; i < end; ++i) moments.Add(cells_[order_[i]]);
+    return moments;
 }
 
 /// The direction of the largest spread, largest component 1 << 12, by power iteration.
@@ -207,36 +232,38 @@ Axis Cutter::PrincipalAxis(const Box& box) {
 /// Slices the box across the axis, finds the best plane between two slices and moves the cells of
 /// the lower side to the front. Returns where the upper side begins.
 std::size_t Cutter::PartAlong(const Box& box, const Axis& axis) {
-    const auto [low, high] = ReachOf(box, axis);
-    Slices slices(box.pixels);
+    const auto [low, high] = TakeOffsets(box, axis);
+    Slices slices(box.moments.pixels);
     const Number factor = (Number{Slices::kCount} << 32) / (Number{high} - low + 1);
     for (std::size_t i = box.begin; i < box.end; ++i) {
-        const Cell& cell = cells_[order_[i]];
-        const std::int32_t at = OffsetOf(cell, box, axis);
+        const std::int32_t at = offsets_[i];
         const int slice = static_cast<int>((Number{at - low} * factor) >> 32);
-        sides_[i] = static_cast<std::uint8_t>(slice);
-        slices.Add(slice, static_cast<std::int32_t>(cell.count), at);
+        slices.Add(slice, static_cast<std::int32_t>(cells_[order_[i]].count), at);
     }
-    return MoveLowerToFront(box, slices.BestCut());
+    // The least distance from the lowest cell that belongs to the slice above the cut.
+    const Number above = (((Number{slices.BestCut()} + 1) << 32) + factor - 1) / factor;
+    return MoveLowerToFront(box, low + above);
 }
 
-std::pair<std::int32_t, std::int32_t> Cutter::ReachOf(const Box& box, const Axis& axis) const {
+std::pair<std::int32_t, std::int32_t> Cutter::TakeOffsets(const Box& box, const Axis& axis) {
     std::int32_t low = INT32_MAX;
     std::int32_t high = INT32_MIN;
     for (std::size_t i = box.begin; i < box.end; ++i) {
         const std::int32_t at = OffsetOf(cells_[order_[i]], box, axis);
+        offsets_[i] = at;
         low = std::min(low, at);
         high = std::max(high, at);
     }
     return {low, high};
 }
 
-std::size_t Cutter::MoveLowerToFront(const Box& box, int cut) {
+std::size_t Cutter::MoveLowerToFront(const Box& box, Number limit) {
+    const auto above = static_cast<std::int32_t>(std::min(limit, Number{INT32_MAX}));
     std::size_t middle = box.begin;
     for (std::size_t i = box.begin; i < box.end; ++i) {
-        if (sides_[i] > cut) continue;
+        if (offsets_[i] >= above) continue;
         std::swap(order_[i], order_[middle]);
-        std::swap(sides_[i], sides_[middle]);
+        std::swap(offsets_[i], offsets_[middle]);
         ++middle;
     }
     return middle;

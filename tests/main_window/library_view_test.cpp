@@ -134,9 +134,12 @@ TEST_F(LibraryView, FillsABoxThatGrewUntilItsScreenIsDrawnAnew) {
         GetClientRect(box, &r);
         SetWindowPos(box, HWND_TOP, 0, 0, r.right + 40, r.bottom + 40, SWP_NOMOVE);
         Settle(main);
-        RedrawWindow(box, nullptr, nullptr, RDW_UPDATENOW);
         const HDC dc = GetDC(box);
-        EXPECT_TRUE(WaitUntil([&] { return GetPixel(dc, r.right + 20, r.bottom + 20) == kRed; }));
+        EXPECT_TRUE(WaitUntil([&] {
+            // What it covers now may have been painted over it.
+            RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+            return GetPixel(dc, r.right + 20, r.bottom + 20) == kRed;
+        }));
         ReleaseDC(box, dc);
     });
 }

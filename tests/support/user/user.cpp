@@ -235,6 +235,14 @@ void RightDrag(POINT from, POINT to) {
     DragWith(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, {from, to}, [] {});
 }
 
+void TurnWheel(int notches) {
+    INPUT turn{};
+    turn.type = INPUT_MOUSE;
+    turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    turn.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    Send({turn});
+}
+
 bool Click(HWND window) {
     if (!WaitUntilSeen(window)) return false;
     ClickAt(CentreOf(window));

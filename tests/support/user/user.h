@@ -69,6 +69,9 @@ void DragThrough(const std::vector<POINT>& points, const std::function<void()>& 
 /// As Drag, with the right button.
 void RightDrag(POINT from, POINT to);
 
+/// Turns the wheel by notches, forwards or (below 0) backwards, with the pointer where it is.
+void TurnWheel(int notches);
+
 /// Clicks the middle of a window. Returns false, without a click, when it cannot be seen there
 /// within a second because it is hidden or another window lies above it.
 bool Click(HWND window);
