@@ -87,9 +87,9 @@ struct Eight {
 
     Eight AddSaturated(Eight other) const { return {_mm_adds_epi16(v, other.v)}; }
     Eight SubtractSaturated(Eight other) const { return {_mm_subs_epi16(v, other.v)}; }
+    /// Of numbers without a sign, 0 where the other one is larger.
+    Eight SubtractUnsigned(Eight other) const { return {_mm_subs_epu16(v, other.v)}; }
     Eight SubtractWide(Eight other) const { return {_mm_sub_epi32(v, other.v)}; }
-    /// All bits of a number where it is above the other one, else none.
-    Eight Above(Eight other) const { return {_mm_cmpgt_epi16(v, other.v)}; }
     bool IsZero() const {
         return _mm_movemask_epi8(_mm_cmpeq_epi16(v, _mm_setzero_si128())) == 0xFFFF;
     }

@@ -87,9 +87,9 @@ struct Four {
 
     Four AddSaturated(Four other) const { return {_mm_adds_pi16(v, other.v)}; }
     Four SubtractSaturated(Four other) const { return {_mm_subs_pi16(v, other.v)}; }
+    /// Of numbers without a sign, 0 where the other one is larger.
+    Four SubtractUnsigned(Four other) const { return {_mm_subs_pu16(v, other.v)}; }
     Four SubtractWide(Four other) const { return {_mm_sub_pi32(v, other.v)}; }
-    /// All bits of a number where it is above the other one, else none.
-    Four Above(Four other) const { return {_mm_cmpgt_pi16(v, other.v)}; }
     bool IsZero() const { return _mm_cvtsi64_si32(_mm_or_si64(v, _mm_srli_si64(v, 32))) == 0; }
     /// All numbers one place down, the first one lost; and with 0 for the fourth.
     Four WithoutFirst() const { return {_mm_srli_si64(v, 16)}; }

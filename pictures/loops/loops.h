@@ -30,8 +30,8 @@ struct Alternatives {
     std::array<std::int16_t, 2 * kMost> z{};   ///< z of each d, and 0, in turn
     std::array<std::int32_t, kMost> half{};    ///< what |d|^2 / 2 adds to the sum, see Choose
     /// A field of at most this squared length makes neither the k-th change nor a later one worth
-    /// while.
-    std::array<std::uint32_t, kMost> enough{};
+    /// while. Behind the last one, that of a change that never is.
+    std::array<std::uint32_t, kMost + 1> enough{};
     std::array<std::uint8_t, kMost> color{};
     std::int32_t count = 0;
     /// A field of at most this squared length makes no change worth the trouble.
@@ -43,6 +43,14 @@ struct FieldSum {
     std::int32_t x = 0, z = 0, y = 0, pixels = 0;
 };
 
+/// Pixels of a row that have taken another colour.
+struct ChangedPixels {
+    int count = 0;
+    int* places;  ///< in order; room for a whole row
+
+    void Add(int place) { places[count++] = place; }
+};
+
 /// A row of the picture for which Choose finds colours.
 struct ChoiceRow {
     int width;
@@ -52,7 +60,8 @@ struct ChoiceRow {
     std::uint8_t* indices;
     std::uint16_t* errors;
     std::uint16_t* field;  ///< with two points more behind it
-    FieldSum* sums;        ///< one for each colour
+    FieldSum* sums;        ///< one for each colour; none where nobody asks for them
+    ChangedPixels* changed;
 };
 
 /// The source samples that make one target sample, and where their weights stand.
@@ -122,8 +131,8 @@ struct Loops {
     /// Gives each pixel of a row the colour that suits its surroundings best: with d the change of
     /// its colour, the one that makes half + d * field least, if below 0. Errors, and the field of
     /// the pixels that follow, grow accordingly; the field at each pixel is added to its colour's
-    /// sum. Returns whether any pixel changed.
-    bool (*choose)(const ChoiceRow& row);
+    /// sum. Pixels that changed are added to `changed`.
+    void (*choose)(const ChoiceRow& row);
 
     /// Adds up `count` rows of `length` samples, each times its weight, and writes the sums shifted
     /// right by `shift`, rounded. Behind an odd number of rows and weights stand a further row,

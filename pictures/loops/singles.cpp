@@ -12,13 +12,13 @@ struct Change {
 };
 
 /// The best alternative to a pixel's colour where the field is as given; -1 when none is better.
-int Best(const Alternatives& others, int x, int y, int z) {
+[[gnu::always_inline]] inline int Best(const Alternatives& others, int x, int y, int z) {
     const auto square = [](int value) { return static_cast<std::uint32_t>(value * value); };
     const std::uint32_t squared = square(x) + square(y) + square(z);
     if (squared <= others.harmless) return -1;
     int best = -1;
     std::int32_t least = 0;
-    for (int k = 0; k < others.count && squared > others.enough[k]; ++k) {
+    for (int k = 0; squared > others.enough[k]; ++k) {
         const std::int32_t change =
             others.half[k] + others.xy[2 * k] * x + others.xy[2 * k + 1] * y + others.z[2 * k] * z;
         if (change < least) {
@@ -37,14 +37,14 @@ void Spread(const Change& change, int weight, std::uint16_t* field) {
     field[2] = static_cast<std::uint16_t>(field[2] + part(change.z));
 }
 
-bool Choose(const ChoiceRow& row) {
+template <bool kSums>
+void ChooseAnd(const ChoiceRow& row) {
     const int none = NoField(row.ownWeight);
     // In variables: the compiler must take it that writing indices may change what `row` holds.
     std::uint8_t* const indices = row.indices;
     const Alternatives* const alternatives = row.alternatives;
     FieldSum* const sums = row.sums;
     const int width = row.width;
-    bool changed = false;
     std::uint16_t* field = row.field;
     for (int i = 0; i < width; ++i, field += kPoint) {
         int taken = indices[i];
@@ -52,7 +52,7 @@ bool Choose(const ChoiceRow& row) {
         int x = field[0] - none, y = field[1] - none, z = field[2] - none;
         const int best = Best(others, x, y, z);
         if (best >= 0) {
-            changed = true;
+            row.changed->Add(i);
             taken = others.color[best];
             indices[i] = static_cast<std::uint8_t>(taken);
             const Change d = {others.xy[2 * best], others.xy[2 * best + 1], others.z[2 * best]};
@@ -69,14 +69,17 @@ bool Choose(const ChoiceRow& row) {
             y = grown(y, d.y);
             z = grown(z, d.z);
         }
-        FieldSum& sum = sums[taken];
-        sum.x += x;
-        sum.y += y;
-        sum.z += z;
-        ++sum.pixels;
+        if constexpr (kSums) {
+            FieldSum& sum = sums[taken];
+            sum.x += x;
+            sum.y += y;
+            sum.z += z;
+            ++sum.pixels;
+        }
     }
-    return changed;
 }
+
+void Choose(const ChoiceRow& row) { row.sums ? ChooseAnd<true>(row) : ChooseAnd<false>(row); }
 
 std::int32_t WeightedSum(const std::int16_t* samples, const std::int16_t* weights, int count) {
     static_assert(kTapGroup % 4 == 0);

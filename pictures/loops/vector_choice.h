@@ -17,14 +17,14 @@ class ChoiceByVectors {
         none_ = Vector::Load(noField);
     }
 
-    bool Run() {
+    template <bool kSums>
+    void Run() {
         // In variables: the compiler must take it that writing indices may change members.
         std::uint8_t* const indices = row_.indices;
         const Alternatives* const alternatives = row_.alternatives;
         FieldSum* const sums = row_.sums;
         const Vector none = none_;
         const int width = row_.width;
-        bool changed = false;
         std::uint16_t* field = row_.field;
         for (int i = 0; i < width; ++i, field += kPoint) {
             int color = indices[i];
@@ -34,15 +34,14 @@ class ChoiceByVectors {
             if (squared > others.harmless) {
                 const int best = Best(others, here, squared);
                 if (best >= 0) {
-                    changed = true;
+                    row_.changed->Add(i);
                     color = others.color[best];
                     here = here + Change(i, color, field);
                 }
             }
-            Count(here, sums[color]);
+            if constexpr (kSums) Count(here, sums[color]);
         }
         Vector::End();
-        return changed;
     }
 
  private:
@@ -125,8 +124,9 @@ class ChoiceByVectors {
 };
 
 template <class Vector>
-bool ChooseByVectors(const ChoiceRow& row) {
-    return ChoiceByVectors<Vector>(row).Run();
+void ChooseByVectors(const ChoiceRow& row) {
+    ChoiceByVectors<Vector> choice(row);
+    row.sums ? choice.template Run<true>() : choice.template Run<false>();
 }
 
 }  // namespace vistrel::loops

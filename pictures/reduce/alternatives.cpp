@@ -38,6 +38,7 @@ std::vector<loops::Alternatives> AlternativesOf(const Palette& palette, const Er
             Put(others, k, &colors[i * loops::kPoint], &colors[list.color[k] * loops::kPoint],
                 field);
         }
+        others.enough[list.count] = UINT32_MAX;
         for (int k = list.count - 2; k >= 0; --k)
             others.enough[k] = std::min(others.enough[k], others.enough[k + 1]);
         // Where a field just makes the nearest change worth while, it would have to point right at

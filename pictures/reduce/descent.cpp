@@ -7,6 +7,7 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <vector>
 
 #include "pictures/reduce/alternatives.h"
 #include "pictures/reduce/error_field.h"
@@ -24,10 +25,14 @@ class Descent {
           indices_(indices),
           palette_(palette),
           colors_(InErrorUnits(palette)),
-          field_(width, height, lambda) {}
+          field_(width, height, lambda),
+          changed_(width) {}
+
+    enum class Sums { Wanted, NotWanted };
 
     void FillErrors(const std::uint8_t* rgb);
-    void ChooseIndices();
+    /// `sums` is for MoveColors.
+    void ChooseIndices(Sums sums);
     void MoveColors();
     void RoundColors();
 
@@ -48,6 +53,7 @@ class Descent {
     Palette& palette_;
     ErrorPalette colors_;  ///< the palette that errors are of
     ErrorField field_;
+    std::vector<int> changed_;  ///< places of a row
     std::array<loops::FieldSum, kMostColors> rowSums_{};
     std::array<Sum, kMostColors> sums_{};
 };
@@ -74,7 +80,7 @@ void Descent::BringRow(int y, const ErrorPalette& now) {
     field_.BlurAlong(y);
 }
 
-void Descent::ChooseIndices() {
+void Descent::ChooseIndices(Sums sums) {
     constexpr int kReach = 2;
     constexpr int kMostPixelsToSum = 65536;
     const ErrorPalette now = InErrorUnits(palette_);
@@ -84,10 +90,11 @@ void Descent::ChooseIndices() {
     for (int y = -kReach; y < height_; ++y) {
         if (y + kReach < height_) BringRow(y + kReach, now);
         if (y < 0) continue;
-        const bool changed = loops::Chosen().choose(
-            {width_, now.data(), alternatives.data(), field_.ownWeight(), Indices(y),
-             field_.Errors(y), field_.Field(y), rowSums_.data()});
-        if (changed) field_.BlurAlong(y);
+        loops::ChangedPixels changed{.places = changed_.data()};
+        loops::Chosen().choose({width_, now.data(), alternatives.data(), field_.ownWeight(),
+                                Indices(y), field_.Errors(y), field_.Field(y),
+                                sums == Sums::Wanted ? rowSums_.data() : nullptr, &changed});
+        field_.BlurAgain(y, {changed.places, static_cast<std::size_t>(changed.count)});
         if (y % rowsToSum == rowsToSum - 1) AddSums();
     }
     AddSums();
@@ -136,11 +143,11 @@ void Descend(const std::uint8_t* rgb, int width, int height, const WorkingSpace&
     Descent descent(width, height, space, settings.lambda, indices, palette);
     descent.FillErrors(rgb);
     for (int round = 1; round < settings.rounds; ++round) {
-        descent.ChooseIndices();
+        descent.ChooseIndices(Descent::Sums::Wanted);
         descent.MoveColors();
         if (round + 1 == settings.rounds) descent.RoundColors();
     }
-    descent.ChooseIndices();
+    descent.ChooseIndices(Descent::Sums::NotWanted);
 }
 
 }  // namespace vistrel::reduce

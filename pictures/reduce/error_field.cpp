@@ -47,6 +47,19 @@ ErrorField::ErrorField(int width, int height, int lambda)
 
 void ErrorField::BlurAlong(int y) { loops::Chosen().blurAlong(Errors(y), width_, Along(y)); }
 
+void ErrorField::BlurAgain(int y, std::span<const int> changed) {
+    // Many small stretches take longer than the row.
+    constexpr int kFew = 6;
+    if (static_cast<int>(changed.size()) > width_ / kFew) return BlurAlong(y);
+    for (std::size_t i = 0; i < changed.size();) {
+        const int first = std::max(changed[i] - kReach, 0);
+        int end = changed[i] + kReach + 1;
+        while (++i < changed.size() && changed[i] - kReach <= end) end = changed[i] + kReach + 1;
+        loops::Chosen().blurAlong(Errors(y) + first * loops::kPoint, std::min(end, width_) - first,
+                                  Along(y) + first * loops::kPoint);
+    }
+}
+
 std::uint16_t* ErrorField::Field(int y) {
     std::array<const std::uint16_t*, kSide> rows;
     for (int i = 0; i < kSide; ++i) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "pictures/loops/loops.h"
@@ -34,6 +35,9 @@ class ErrorField {
 
     /// To be called for rows from 0 on: blurs a row's errors along itself.
     void BlurAlong(int y);
+
+    /// The same for a row that was blurred, whose errors have changed at some places, in order.
+    void BlurAgain(int y, std::span<const int> changed);
 
     /// The field of row `y`, with a place for two pixels more. Of the rows up to two below it
     /// BlurAlong must have been called; rows outside the picture count as blurred.
