@@ -149,7 +149,7 @@ class Inflater {
         const int distanceCode = distances_.Read(in_);
         if (distanceCode < 0 || distanceCode >= kDistanceCodes) return false;
         const std::size_t distance = Take(kDistances[distanceCode]);
-        if (distance > kReach || (!hasWrapped_ && distance > at_)) return false;
+        if (!hasWrapped_ && distance > at_) return false;
         for (std::size_t i = 0; i < length; ++i)
             if (!Put(recent_[(at_ + kReach - distance) % kReach])) return false;
         return true;

@@ -137,6 +137,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ItmBugReport_Click();
     void ItmAbout_Click();
     void ItmExit_Click();
+    void ItmExport_Click();
+    void ItmImport_Click();
     void ItmMoveColors_Click();
     void NoWork() {}
 
@@ -160,6 +162,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void SelectAfterDelete(int index);
     bool ConfirmFormatChange(bool toSingle);
     bool ConfirmOverwriting(const std::string& name);
+    std::optional<std::string> ImportArchive(const std::string& path);
+    void TellOfArchive(const std::string& text);
     void ShowActualSize(platform::WindowHandle owner);
     void OpenPaint(platform::WindowHandle owner);
     void OpenCustomProgram(platform::WindowHandle owner);
