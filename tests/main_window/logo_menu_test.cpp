@@ -23,6 +23,9 @@ constexpr ToolWords kTools[] = {
     {"", 0, "", "", ""},
     {"ToolExport", ID_ToolExport, "E&xport...", "Export selected logo set", "Logo"},
     {"ToolImport", ID_ToolImport, "&Import...", "Import logo sets", "Logo"},
+    {"", 0, "", "", ""},
+    {"ToolUndoInstall", ID_ToolUndoInstall, "&Undo install\tCtrl+Z",
+     "Bring back the previous screens", "Logo"},
 };
 
 using LogoMenu = Commanding;
