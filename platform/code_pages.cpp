@@ -4,24 +4,28 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <vector>
 
 namespace vistrel::platform {
 
 namespace {
 
+/// In no string: some linkers take a library's object twice that holds code of wide strings.
+using WideText = std::vector<wchar_t>;
+
 constexpr char32_t kFirstBeyond16Bits = 0x10000;
 constexpr char32_t kNoCharacter = 0xFFFD;
 
-std::wstring Wide(const std::string& text, UINT codePage) {
+WideText Wide(const std::string& text, UINT codePage) {
     const int length = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0');
+    WideText wide(text.size());
     if (length > 0)
         wide.resize(MultiByteToWideChar(codePage, 0, text.data(), length, wide.data(), length));
     return wide;
 }
 
 /// The character at `at`, which moves behind it.
-char32_t NextOfUtf16(const std::wstring& text, std::size_t& at) {
+char32_t NextOfUtf16(const WideText& text, std::size_t& at) {
     const char32_t first = text[at++];
     if ((first & 0xFC00) != 0xD800 || at == text.size() || (text[at] & 0xFC00) != 0xDC00)
         return first;
@@ -40,7 +44,7 @@ void AppendUtf8(std::string& text, char32_t character) {
         text += static_cast<char>(0x80 | ((character >> (6 * i)) & 0x3F));
 }
 
-std::string Utf8(const std::wstring& wide) {
+std::string Utf8(const WideText& wide) {
     std::string text;
     for (std::size_t at = 0; at < wide.size();) AppendUtf8(text, NextOfUtf16(wide, at));
     return text;
@@ -60,17 +64,17 @@ char32_t NextOfUtf8(const std::string& text, std::size_t& at) {
     return character;
 }
 
-std::wstring WideOfUtf8(const std::string& text) {
-    std::wstring wide;
+WideText WideOfUtf8(const std::string& text) {
+    WideText wide;
     for (std::size_t at = 0; at < text.size();) {
         const char32_t character = NextOfUtf8(text, at);
         if (character < kFirstBeyond16Bits) {
-            wide += static_cast<wchar_t>(character);
+            wide.push_back(static_cast<wchar_t>(character));
             continue;
         }
         const char32_t rest = character - kFirstBeyond16Bits;
-        wide += static_cast<wchar_t>(0xD800 | (rest >> 10 & 0x3FF));
-        wide += static_cast<wchar_t>(0xDC00 | (rest & 0x3FF));
+        wide.push_back(static_cast<wchar_t>(0xD800 | (rest >> 10 & 0x3FF)));
+        wide.push_back(static_cast<wchar_t>(0xDC00 | (rest & 0x3FF)));
     }
     return wide;
 }
@@ -82,7 +86,7 @@ std::string AnsiToUtf8(const std::string& text) { return Utf8(Wide(text, CP_ACP)
 std::string DosToUtf8(const std::string& text) { return Utf8(Wide(text, CP_OEMCP)); }
 
 std::string Utf8ToAnsi(const std::string& text) {
-    const std::wstring wide = WideOfUtf8(text);
+    const WideText wide = WideOfUtf8(text);
     const int length = static_cast<int>(wide.size());
     std::string ansi(2 * wide.size(), '\0');
     if (length > 0)
