@@ -20,9 +20,10 @@ constexpr unsigned kRest = 300;
 
 }  // namespace
 
-FrmAnimate::FrmAnimate(Document start, Keep keep)
+FrmAnimate::FrmAnimate(Document start, std::string screens, Keep keep)
     : Window("FrmAnimate", IDD_FrmAnimate),
       document_(std::move(start)),
+      screens_(std::move(screens)),
       keep_(std::move(keep)),
       stepTimer_(preview::kAnimationInterval),
       restTimer_(kRest),
@@ -62,6 +63,8 @@ void FrmAnimate::AddFrame() {
     MovingBox.MouseUp = [this](int button, controls::Point) {
         if (button == controls::kLeftButton) Screen_MouseUp();
     };
+    // The cross is there for the keys.
+    MovingBox.GotFocus = [this] { ShowMarked(); };
     BtnUndo.Click = [this] { GoBack(true); };
     BtnRedo.Click = [this] { GoBack(false); };
     MovingPages.Click = [this] { ShowPage(); };
@@ -103,9 +106,10 @@ void FrmAnimate::ShowPage() {
             control->SetVisible(page == CurrentPage());
         }
     }
+    EndDrag();
     ShowPossible();
     if (CurrentPage() == kByHand) ShowBoard();
-    if (IsOpen() && !shown_.indices.empty()) view_.Show(shown_, MarksNow(), MovingBox);
+    ShowMarked();
     if (focusGoes) MovingPages.Focus();
 }
 
@@ -157,6 +161,10 @@ std::string FrmAnimate::Hint() const {
     if (*kind == LayerKind::Screen) return "This moves as it does on the screen that it is from.";
     if (ChoosesByColor())
         return "Click a colour of the picture. Shift adds to the area, Ctrl takes away.";
+    if (drag_ == Drag::LineByKeys)
+        return "The arrow keys draw, with Shift finely. Space ends the line, Esc gives it up.";
+    if (ChoosesFreehand())
+        return "Draw round it; by keys from Space to Space. Shift adds, Ctrl takes away.";
     return "Drag over the picture. Shift adds to the area, Ctrl takes away.";
 }
 
@@ -166,6 +174,7 @@ bool FrmAnimate::Form_KeyDown(int key) {
         GoBack(key == controls::kKeyZ);
         return true;
     }
+    if (key == controls::kKeyEscape && GiveUpLine()) return true;
     if (key == controls::kKeyLeft) return ArrowKey(-1, 0);
     if (key == controls::kKeyRight) return ArrowKey(1, 0);
     if (key == controls::kKeyUp) return ArrowKey(0, -1);

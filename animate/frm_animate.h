@@ -32,7 +32,8 @@ class FrmAnimate : public controls::Window {
     using Keep =
         std::function<bool(platform::WindowHandle owner, const std::vector<std::uint8_t>& file)>;
 
-    FrmAnimate(Document start, Keep keep);
+    /// `screens` is the folder in which other screens are looked for first.
+    FrmAnimate(Document start, std::string screens, Keep keep);
     ~FrmAnimate() override;
 
     controls::PictureBox MovingBox;
@@ -122,6 +123,7 @@ class FrmAnimate : public controls::Window {
     void Changed();
     void ShowQuick();
     void ShowFinished();
+    void ShowMarked();
     void ShowScreen(std::optional<screen::IndexedScreen> made);
     screen::Layer* Selected();
     const screen::Layer* Selected() const;
@@ -145,8 +147,11 @@ class FrmAnimate : public controls::Window {
     void Screen_MouseDown(int button, controls::Point at);
     void Screen_MouseMove(int button, controls::Point at);
     void Screen_MouseUp();
+    void Screen_Space();
     screen::ScreenPoint ToScreen(controls::Point at) const;
     bool ChoosesByColor() const;
+    bool ChoosesFreehand() const;
+    bool HasCross() const;
     bool HasArea() const;
     void BeginArea(screen::ScreenPoint at);
     void DragArea(screen::ScreenPoint at);
@@ -156,7 +161,9 @@ class FrmAnimate : public controls::Window {
     bool GrabBar(screen::ScreenPoint at);
     void DragBar(screen::ScreenPoint at);
     void EndDrag();
+    bool GiveUpLine();
     bool ArrowKey(int across, int down);
+    void MoveCross(int across, int down);
     void MoveArea(int across, int down);
     void ResizeArea(int across, int down);
 
@@ -180,6 +187,7 @@ class FrmAnimate : public controls::Window {
     void BtnEntryColor_Click();
 
     Document document_;
+    std::string screens_;
     Keep keep_;
     History history_;
     LiveMovement live_;
@@ -193,9 +201,10 @@ class FrmAnimate : public controls::Window {
     bool filling_ = false;            ///< lists are filled, and nobody has chosen in them
 
     // While something is dragged
-    enum class Drag { None, Bar, Area };
+    enum class Drag { None, Bar, Area, LineByKeys };
     enum class Joining { Replace, Add, Remove };
     Drag drag_ = Drag::None;
+    bool pressed_ = false;  ///< a button of the mouse is down
     Joining joining_ = Joining::Replace;
     screen::ScreenPoint pressedAt_;
     screen::Area pressedArea_;            ///< what the area was then

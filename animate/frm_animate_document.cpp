@@ -14,6 +14,8 @@ void FrmAnimate::Change(const void* hand, const Edit& edit) {
 }
 
 void FrmAnimate::Apply(const void* hand, const Edit& edit) {
+    // What another hand changes is no part of the line that is being drawn.
+    if (hand != &MovingBox) EndDrag();
     if (hand == kNobody || hand != lastHand_) history_.Remember(document_);
     lastHand_ = hand;
     edit(document_);
@@ -50,8 +52,12 @@ void FrmAnimate::ShowFinished() {
 void FrmAnimate::ShowScreen(std::optional<screen::IndexedScreen> made) {
     if (!made) return;
     shown_ = std::move(*made);
-    view_.Show(shown_, MarksNow(), MovingBox);
+    ShowMarked();
     if (CurrentPage() == kByHand) ShowBoard();
+}
+
+void FrmAnimate::ShowMarked() {
+    if (!shown_.indices.empty()) view_.Show(shown_, MarksNow(), MovingBox);
 }
 
 screen::Layer* FrmAnimate::Selected() {
@@ -74,7 +80,7 @@ Marks FrmAnimate::MarksNow() const {
     if (CurrentPage() != kMoves || !layer) return marks;
     marks.area = &layer->area;
     marks.line = line_;
-    if (HasArea() && ChoosesByColor() && MovingBox.HasFocus()) marks.cross = cross_;
+    if (HasCross() && MovingBox.HasFocus()) marks.cross = cross_;
     return marks;
 }
 

@@ -74,11 +74,12 @@ void FrmAnimate::AddMoves() {
 void FrmAnimate::ConnectMoves() {
     Layers.SelectionChanged = [this] {
         if (filling_ || Layers.SelectedItem() < 0) return;
+        EndDrag();
         document_.selected = static_cast<std::size_t>(Layers.SelectedItem());
         picked_.reset();
         ShowLayer();
         ShowPossible();
-        view_.Show(shown_, MarksNow(), MovingBox);
+        ShowMarked();
     };
     Layers.KeyUp = [this](int key) {
         if (key == controls::kKeyDelete && Selected()) DeleteLayer();
@@ -92,9 +93,10 @@ void FrmAnimate::ConnectMoves() {
                     [this](screen::Layer& layer) { layer.reversed = ChkReversed.Value() != 0; });
     };
     ChooseBy.Click = [this] {
+        EndDrag();
         picked_.reset();
         ShowPossible();
-        view_.Show(shown_, MarksNow(), MovingBox);
+        ShowMarked();
     };
     ToleranceBar.Change = [this] { ToleranceBar_Change(); };
     BtnAll.Click = [this] {
@@ -236,7 +238,7 @@ void FrmAnimate::AddLayer(LayerKind kind) {
 
 void FrmAnimate::AddLayerOfScreen() {
     const std::string path = core::CutAtNul(core::ShowOpenDialog(
-        handle(), "Startup screens|*.sys;*.bmp", "Moving colours of another screen", ""));
+        handle(), "Startup screens|*.sys;*.bmp", "Moving colours of another screen", screens_));
     if (path.empty()) return;
     const auto other = ReadScreen(path);
     if (!other) {

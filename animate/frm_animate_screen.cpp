@@ -1,6 +1,7 @@
 // The mouse and the arrow keys on the screen: bars are dragged, areas chosen.
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "animate/frm_animate.h"
 #include "controls/screen_metrics.h"
@@ -65,9 +66,16 @@ bool FrmAnimate::HasArea() const {
 
 bool FrmAnimate::ChoosesByColor() const { return ChooseBy.ListIndex() >= kColor; }
 
+bool FrmAnimate::ChoosesFreehand() const { return ChooseBy.ListIndex() == kFreehand; }
+
+// By keys a colour is picked, and a line drawn, where the cross is.
+bool FrmAnimate::HasCross() const { return HasArea() && (ChoosesFreehand() || ChoosesByColor()); }
+
 void FrmAnimate::Screen_MouseDown(int button, controls::Point at) {
     MovingBox.Focus();
-    if (button != controls::kLeftButton || CurrentPage() != kMoves) return;
+    if (button != controls::kLeftButton) return;
+    pressed_ = true;
+    if (CurrentPage() != kMoves) return;
     EndDrag();
     lastHand_ = kNobody;
     pressedAt_ = ToScreen(at);
@@ -78,7 +86,9 @@ void FrmAnimate::Screen_MouseDown(int button, controls::Point at) {
 }
 
 void FrmAnimate::Screen_MouseMove(int button, controls::Point at) {
+    if (drag_ == Drag::LineByKeys) return;
     if (button != controls::kLeftButton) {
+        pressed_ = false;
         EndDrag();
         return;
     }
@@ -89,21 +99,34 @@ void FrmAnimate::Screen_MouseMove(int button, controls::Point at) {
 
 void FrmAnimate::Screen_MouseUp() {
     // Without a press it is the space bar's.
-    const bool picks = CurrentPage() == kMoves && HasArea() && ChoosesByColor();
-    if (drag_ == Drag::None && picks && !picked_) {
-        pressedArea_ = Selected()->area;
-        joining_ = controls::IsShiftDown() ? Joining::Add : Joining::Replace;
-        lastHand_ = kNobody;
-        PickColor(cross_);
-    }
-    EndDrag();
+    const bool byMouse = std::exchange(pressed_, false);
+    if (byMouse || drag_ == Drag::LineByKeys)
+        EndDrag();
+    else if (CurrentPage() == kMoves && HasCross())
+        Screen_Space();
+}
+
+void FrmAnimate::Screen_Space() {
+    lastHand_ = kNobody;
+    BeginArea(cross_);
+    drag_ = ChoosesFreehand() ? Drag::LineByKeys : Drag::None;
+    LblMovingHint.SetText(Hint());
 }
 
 void FrmAnimate::EndDrag() {
     if (drag_ == Drag::None) return;
     drag_ = Drag::None;
     line_.clear();
-    view_.Show(shown_, MarksNow(), MovingBox);
+    LblMovingHint.SetText(Hint());
+    ShowMarked();
+}
+
+bool FrmAnimate::GiveUpLine() {
+    if (drag_ != Drag::LineByKeys) return false;
+    const bool changed = !(Selected()->area == pressedArea_);
+    EndDrag();
+    if (changed) GoBack(true);
+    return true;
 }
 
 bool FrmAnimate::GrabBar(ScreenPoint at) {
@@ -140,17 +163,18 @@ void FrmAnimate::BeginArea(ScreenPoint at) {
                : controls::IsControlDown() ? Joining::Remove
                                            : Joining::Replace;
     line_.clear();
-    if (ChooseBy.ListIndex() == kFreehand) line_.push_back(at);
+    if (ChoosesFreehand()) line_.push_back(at);
     if (ChoosesByColor()) PickColor(at);
 }
 
 void FrmAnimate::DragArea(ScreenPoint at) {
     if (ChoosesByColor()) return;
-    if (ChooseBy.ListIndex() != kFreehand) {
+    if (!ChoosesFreehand()) {
         ChangeArea(&MovingBox, Combined(Between(pressedAt_, at)));
         return;
     }
     if (line_.back() == at) return;
+    cross_ = at;
     line_.push_back(at);
     ChangeArea(&MovingBox, Combined(screen::LassoArea(line_)));
 }
@@ -187,18 +211,23 @@ bool FrmAnimate::ArrowKey(int across, int down) {
     }
     if (!MovingBox.HasFocus()) return false;
     if (CurrentPage() != kMoves || !Selected()) return true;
-    if (HasArea() && ChoosesByColor()) {
-        const int step = controls::IsShiftDown() ? 1 : kCrossStep;
-        cross_ = {std::clamp(cross_.x + step * across, 0, kLogoWidth - 1),
-                  std::clamp(cross_.y + step * down, 0, kLogoHeight - 1)};
-        picked_.reset();
-        view_.Show(shown_, MarksNow(), MovingBox);
+    if (HasCross()) {
+        MoveCross(across, down);
     } else if (controls::IsShiftDown()) {
         ResizeArea(across, down);
     } else {
         MoveArea(across, down);
     }
     return true;
+}
+
+void FrmAnimate::MoveCross(int across, int down) {
+    const int step = controls::IsShiftDown() ? 1 : kCrossStep;
+    cross_ = {std::clamp(cross_.x + step * across, 0, kLogoWidth - 1),
+              std::clamp(cross_.y + step * down, 0, kLogoHeight - 1)};
+    picked_.reset();
+    if (drag_ == Drag::LineByKeys) DragArea(cross_);
+    ShowMarked();
 }
 
 void FrmAnimate::MoveArea(int across, int down) {

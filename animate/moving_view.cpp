@@ -1,5 +1,6 @@
 #include "animate/moving_view.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 

@@ -84,13 +84,16 @@ class FileDropTarget::Receiver final : public IDropTarget {
 
 FileDropTarget::FileDropTarget(platform::WindowHandle window,
                                std::function<void(const std::vector<std::string>&)> dropped)
-    : window_(window), receiver_(new Receiver(std::move(dropped))) {
+    : window_(window),
+      hasOle_(SUCCEEDED(OleInitialize(nullptr))),
+      receiver_(new Receiver(std::move(dropped))) {
     RegisterDragDrop(window_, receiver_);
 }
 
 FileDropTarget::~FileDropTarget() {
     RevokeDragDrop(window_);
     receiver_->Release();
+    if (hasOle_) OleUninitialize();
 }
 
 }  // namespace vistrel::controls

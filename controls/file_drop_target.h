@@ -12,7 +12,7 @@ namespace vistrel::controls {
 class FileDropTarget {
  public:
     /// `dropped` gets the full paths of each drop that offers the file-list format; others are
-    /// refused. The thread must have called OleInitialize.
+    /// refused. The thread has OLE from then until the target's end.
     FileDropTarget(platform::WindowHandle window,
                    std::function<void(const std::vector<std::string>& paths)> dropped);
     ~FileDropTarget();
@@ -23,6 +23,7 @@ class FileDropTarget {
     class Receiver;
 
     platform::WindowHandle window_;
+    bool hasOle_;
     Receiver* receiver_;
 };
 

@@ -34,6 +34,9 @@ class Label : public Control {
     void SetSeeThrough() { seeThrough_ = true; }
     /// Gives the label a font of its own.
     void SetFont(const FontChange& change);
+    /// Whether all of a text would be seen, with its lines broken where they are as long as the
+    /// label is wide.
+    bool HasRoomFor(const std::string& text) const;
     /// Makes the label just as wide as its text of one line.
     void FitToText();
     /// Shows the hand over the text, from the program's cursor resource of this name.

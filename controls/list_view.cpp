@@ -23,8 +23,7 @@ ListView::ListView() = default;
 
 ListView::~ListView() = default;
 
-void ListView::OnAttach() {
-    if (!OLEDragDrop) return;
+void ListView::AcceptDrops() {
     const auto dropped = [this](const std::vector<std::string>& paths) {
         parent()->EndEdits();
         OLEDragDrop(paths);

@@ -90,16 +90,18 @@ class ListView : public Control {
     /// What stands in an item's label while it is being edited, at each change; when editing ends
     /// without a new text, once more what stood there before.
     std::function<void(const std::string& text)> LabelChange;
-    /// Files and folders were dropped on the list: their full paths. Setting this before the window
-    /// is created makes the list a drop target.
+    /// Files and folders were dropped on the list: their full paths.
     std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
+
+    /// From now on files and folders can be dropped on the list. That loads OLE: a while on a slow
+    /// machine.
+    void AcceptDrops();
 
     std::intptr_t OnNotify(void* header) override;
     /// Below the selected item's text, where that is in sight.
     Point MenuPoint() const override;
 
  protected:
-    void OnAttach() override;
     bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                    std::intptr_t& result) override;
 

@@ -68,7 +68,7 @@ std::string SelPictureForm::Moved(const std::string& path) {
                        "The screen cannot be written. The disk of temporary files may be full.");
         return false;
     };
-    animate::FrmAnimate window(std::move(*start), keep);
+    animate::FrmAnimate window(std::move(*start), host_.Preferences().logoPath, keep);
     // When it closes nothing is to be filled again.
     ActivateOnce = true;
     window.ShowModal(handle());

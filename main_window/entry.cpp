@@ -1,7 +1,5 @@
 // Where the program starts: what it needs to know, the splash screen, the main window.
 #include <windows.h>
-// ole2.h needs windows.h first.
-#include <ole2.h>
 
 #include "about/frm_splash.h"
 #include "controls/message_loop.h"
@@ -55,8 +53,6 @@ void Run() {
 }  // namespace vistrel::main_window
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    OleInitialize(nullptr);  // for folders dropped on the list
     vistrel::main_window::Run();
-    OleUninitialize();
     return 0;
 }

@@ -21,6 +21,8 @@ constexpr long kToolbarTransparent = 0xFF00FF;
 constexpr int kTwipsPerInch = 1440;
 /// The editor opens this many milliseconds after its command, once the click has fully returned.
 constexpr unsigned kBrowserDelay = 50;
+/// A timer's tick comes when all else is done: the window is there, and drawn.
+constexpr unsigned kNoDelay = 1;
 
 }  // namespace
 
@@ -28,6 +30,7 @@ Principale::Principale(core::SystemLocations locations)
     : Window(core::kMainWindowClass, IDD_Principale),
       ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
+      dropTimer_(kNoDelay),
       locations_(std::move(locations)) {
     // The list and the pictures have menus of their own at the right button, and F1 means the
     // help's contents here: only what cannot have the focus answers what it is.
@@ -47,6 +50,7 @@ Principale::Principale(core::SystemLocations locations)
     };
     AddParts(parts);
     Add(Timer1);
+    Add(dropTimer_);
 
     ActiveBar1.Click = [this](const controls::Tool& tool) { ActiveBar1_Click(tool); };
     ActiveBar1.PreCustomizeMenu = [](bool& cancel) { cancel = true; };
@@ -69,6 +73,10 @@ Principale::Principale(core::SystemLocations locations)
             Imag_MouseUp(i, button, at);
         };
     Timer1.Tick = [this] { Timer1_Timer(); };
+    dropTimer_.Tick = [this] {
+        dropTimer_.SetEnabled(false);
+        MyList.AcceptDrops();
+    };
 }
 
 Principale::~Principale() = default;
@@ -99,6 +107,7 @@ void Principale::Form_Load() {
     // The boxes have their real sizes before anything is drawn into them.
     Form_Resize(ClientSize());
     LeggiDatiDisco();
+    dropTimer_.SetEnabled(true);
 }
 
 void Principale::PutBackWindow() {
@@ -181,6 +190,7 @@ void Principale::Form_Resize(controls::Size client) {
     LblScreen[0].MoveTo({left + bigWidth + gap, bigTop, labelWidth, twoLines});
     LblFaults.MoveTo({left + bigWidth + gap, bigTop + twoLines + gap, labelWidth,
                       bigWidth * 3 / 4 - twoLines - gap});
+    FitFaults();
     const int smallWidth = (panel - gap) / 2;
     const int smallTop = bigTop + bigWidth * 3 / 4 + gap;
     for (int i = 1; i < 3; ++i) {

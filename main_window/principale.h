@@ -153,6 +153,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
     void ShowFaults();
+    void FitFaults();
     void ShowScreensAtStart();
     void ItmMend_Click(platform::WindowHandle owner);
     void ShowInstalledSet();
@@ -187,6 +188,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
         std::string selectedSet;
     };
 
+    controls::Timer dropTimer_;
     core::SystemLocations locations_;
     core::Settings settings_;
     bool installedSetListed_ = false;  ///< the setting names a set of the list
@@ -195,6 +197,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool bootLogoOptionChanged_ = false;
     bool companionWanted_ = false;
     bool hasBeenShown_ = false;
+    /// What is wrong with the screens that are shown: whole sentences, and more and more briefly.
+    std::array<std::string, 4> faultTexts_;
     std::string currentPicture_;
     std::string oldName_;
     controls::Point lastMouseDown_;

@@ -1,5 +1,7 @@
 // The main window's list: reading the logo folder, showing a set, selecting, renaming, deleting and
 // importing sets.
+#include <algorithm>
+
 #include "controls/window_place.h"
 #include "core/entry_name.h"
 #include "core/generali.h"
@@ -83,12 +85,8 @@ void Principale::ClearScreens() {
     ShowFaults();
 }
 
-// In the room beside the first screen, which is small: where there is something wrong with several,
-// the tips of their pictures tell what that leads to.
 void Principale::ShowFaults() {
-    std::string all;
-    std::string brief;
-    int wrong = 0;
+    faultTexts_ = {};
     for (int i = 0; i < 3; ++i) {
         const auto faults = core::FaultsOfScreenFile(Imag[i].Tag());
         const std::string name = core::kScreenFileNames[i];
@@ -96,14 +94,23 @@ void Principale::ShowFaults() {
         Imag[i].SetTip(sentence);
         LblScreen[i].SetForeColor(faults.empty() ? controls::kSystemColor : controls::kDarkRed);
         if (faults.empty()) continue;
-        const char* newLine = wrong++ > 0 ? "\r\n" : "";
-        all += newLine + sentence;
-        brief += newLine + name + " " + screen::InWords(faults) + ".";
+        const std::string newLine = faultTexts_[0].empty() ? "" : "\r\n";
+        faultTexts_[0] += newLine + sentence;
+        faultTexts_[1] += newLine + name + " " + screen::InWords(faults) + ".";
+        faultTexts_[2] += newLine + name + ": " + screen::InShort(faults);
+        faultTexts_[3] += (faultTexts_[3].empty() ? "Faults: " : ", ") + name;
     }
-    LblFaults.SetText(wrong > 1 ? brief : all);
-    LblFaults.SetTip(all);
+    LblFaults.SetTip(faultTexts_[0]);
+    FitFaults();
     // The right button on the bare window opens a menu, and on a text another one.
-    LblFaults.SetVisible(wrong > 0);
+    LblFaults.SetVisible(!faultTexts_[0].empty());
+}
+
+// The room beside the first screen is small; the tips tell all.
+void Principale::FitFaults() {
+    const auto fits = [this](const std::string& text) { return LblFaults.HasRoomFor(text); };
+    const auto last = faultTexts_.end() - 1;
+    LblFaults.SetText(*std::find_if(faultTexts_.begin(), last, fits));
 }
 
 void Principale::RedrawScreens() {

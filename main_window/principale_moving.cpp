@@ -34,7 +34,7 @@ void Principale::ItmMoveColors_Click() {
                                       "protected.");
         return saved;
     };
-    animate::FrmAnimate window(std::move(*start), keep);
+    animate::FrmAnimate window(std::move(*start), settings_.logoPath, keep);
     window.ShowModal(handle());
     if (!saved) return;
     RedrawScreens();

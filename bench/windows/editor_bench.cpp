@@ -1,9 +1,8 @@
 // Times the listing of a folder of pictures in the Logo browser against a bare enumeration that
 // fills the same kind of list, side by side.
 #include <windows.h>
-// commctrl.h and ole2.h need windows.h first.
+// commctrl.h needs windows.h first.
 #include <commctrl.h>
-#include <ole2.h>
 
 #include <cstdio>
 #include <string>
@@ -49,7 +48,6 @@ void FillBareList(HWND list) {
 }  // namespace
 
 int main() {
-    OleInitialize(nullptr);
     MakePictures();
     {
         vistrel::main_window::Principale window(vistrel::core::FindSystemLocations());
@@ -71,7 +69,6 @@ int main() {
         editor.Unload();
         window.Unload();
     }
-    OleUninitialize();
     std::printf("Test program ended with status 0\n");
     return 0;
 }

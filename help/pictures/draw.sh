@@ -92,3 +92,41 @@ draw framing.bmp 370x118 "
         fill #ffff80 ellipse 48,39 14,14 0,360
         fill #00a000 rectangle 10,20 16,57 rectangle 79,20 85,57
         $(label 42 'Fit') pop graphic-context"
+
+# A bar of eight pieces, whose colours begin with the one of this number.
+bar() { # FIRST
+    local colours=('#000040' '#000080' '#0000c0' '#0040ff' '#0080ff' '#80c0ff' white '#80c0ff') i
+    for ((i = 0; i < 8; i++)); do
+        echo "fill ${colours[($1 + i) % 8]} rectangle $((11 + 9 * i)),56 $((19 + 9 * i)),63"
+    done
+}
+
+scenery() {
+    echo "stroke none fill #ffff80 circle 30,28 30,21
+        fill #00a000 polygon 10,54 34,36 52,47 66,40 86,54"
+}
+
+draw moving.bmp 370x110 "
+    push graphic-context $(monitor 4 black) $(scenery) $(bar 0)
+        $(label 20 'One step') pop graphic-context
+    $(arrow 107)
+    push graphic-context $(monitor 134 black) $(scenery) $(bar 2)
+        $(label 26 'another') pop graphic-context
+    $(arrow 237)
+    push graphic-context $(monitor 264 black) $(scenery) $(bar 4)
+        $(label 20 'and so on') pop graphic-context"
+
+draw kinds.bmp 370x110 "
+    push graphic-context $(monitor 4 '#00a0e0') $(scenery) $(bar 0)
+        $(label 36 'Bar') pop graphic-context
+    push graphic-context $(monitor 134 '#00a0e0')
+        stroke none fill #ffff80 circle 30,26 30,19 fill #0000c0 rectangle 10,42 85,65
+        stroke none fill #80c0ff
+        rectangle 16,46 24,47 rectangle 44,46 58,47 rectangle 68,50 80,51 rectangle 30,52 36,53
+        rectangle 14,57 28,58 rectangle 48,56 62,57 rectangle 70,60 76,61 rectangle 36,61 46,62
+        $(label 24 'Shimmer') pop graphic-context
+    push graphic-context $(monitor 264 '#000040')
+        stroke none fill none stroke #0040ff ellipse 48,39 8,6 0,360 ellipse 48,39 20,15 0,360
+        stroke #0080ff ellipse 48,39 14,10 0,360 ellipse 48,39 28,20 0,360
+        stroke none fill #00a000 polygon 10,65 10,60 34,46 52,57 66,50 85,62 85,65
+        $(label 14 'Background') pop graphic-context"

@@ -2,6 +2,8 @@
 // side, the second one over the rows, which stand upright then.
 #pragma once
 
+#include <algorithm>
+
 #include "pictures/jpg/idct/idct_1d.h"
 #include "pictures/loops/loops.h"
 
@@ -190,13 +192,17 @@ bool TransformBlock(const std::int16_t* steps, int most, const std::int16_t* blo
         for (int part = 0; part * Vector::kCount < kAcross; ++part)
             terms.rows[y][part] = terms.rows[y][part].Times(step[part]);
     }
+    // Vectors of columns take whole vectors of rows.
+    constexpr int kDownTaken = (kDown + Vector::kCount - 1) / Vector::kCount * Vector::kCount;
+    constexpr int kAcrossTaken = (kAcross + Vector::kCount - 1) / Vector::kCount * Vector::kCount;
     Block<Vector> between;
-    Clear<kDown, (kDown + Vector::kCount - 1) / Vector::kCount * Vector::kCount, kAcross>(between);
+    Clear<kDown, kDownTaken, kAcross>(between);
     Columns<kDown, kAcross, jpg::kTermBits - jpg::kColumnBits>(terms, between);
     // Those at the very limit may have been beyond it.
     if (!IsWithin<kAcross, kDown>(between, kMost16 - 1)) return false;
     Vector::template Transpose<kAcross, kDown>(between, terms);
     Columns<kAcross, kDown, kRowBits>(terms, between);
+    Clear<std::max(kAcross, kDownTaken), kAcrossTaken, kDown>(between);
     Vector::template Transpose<kDown, kAcross>(between, samples);
     return true;
 }

@@ -71,29 +71,6 @@ void Adjusting::TurnTo(HWND window, int page) {
     SendMessageA(window, WM_NULL, 0, 0);
 }
 
-void Adjusting::Slide(HWND window, int id, int value) {
-    const HWND bar = Item(window, id);
-    SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(bar), TRUE);
-    for (int tries = 0; tries < 200; ++tries) {
-        const int now = static_cast<int>(SendMessageA(bar, TBM_GETPOS, 0, 0));
-        if (now == value) return;
-        const int page = static_cast<int>(SendMessageA(bar, TBM_GETPAGESIZE, 0, 0));
-        const bool many = std::abs(value - now) >= page;
-        // What a key does to a horizontal slider.
-        const WORD key = value > now ? (many ? VK_NEXT : VK_RIGHT) : (many ? VK_PRIOR : VK_LEFT);
-        SendMessageA(bar, WM_KEYDOWN, key, 0);
-        SendMessageA(bar, WM_KEYUP, key, 0);
-    }
-    ADD_FAILURE() << "the slider does not come to " << value;
-}
-
-void Adjusting::Choose(HWND window, int id, int entry) {
-    const HWND combo = Item(window, id);
-    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
-    SendMessageA(window, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(combo));
-}
-
 void Adjusting::AddLine(HWND window, const std::string& text) {
     const HWND lines = Item(window, ID_TextLines);
     const auto count = SendMessageA(lines, LVM_GETITEMCOUNT, 0, 0);

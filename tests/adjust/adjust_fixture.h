@@ -8,11 +8,11 @@
 #include <string>
 
 #include "pictures/compose/composition.h"
-#include "tests/editor/editor_fixture.h"
+#include "tests/editor/dialog_fixture.h"
 
 namespace vistrel::test {
 
-class Adjusting : public LogoBrowser {
+class Adjusting : public BrowserDialog {
  protected:
     Adjusting();
 
@@ -27,15 +27,8 @@ class Adjusting : public LogoBrowser {
     /// Presses OK, which asks or tells something: answers with OK and returns what was said.
     static user::Box PressOkAndAnswer(HWND window);
 
-    static HWND Item(HWND window, int id) { return GetDlgItem(window, id); }
-    static void Press(HWND window, int id) { SendMessageA(Item(window, id), BM_CLICK, 0, 0); }
-    static bool Enabled(HWND window, int id) { return IsWindowEnabled(Item(window, id)) != 0; }
     /// Clicks the tab of a page, from 0.
     static void TurnTo(HWND window, int page);
-    /// Moves the slider of a track bar to a value by its keys.
-    static void Slide(HWND window, int id, int value);
-    /// Chooses an entry of a drop-down list by its arrow keys.
-    static void Choose(HWND window, int id, int entry);
     /// Adds a line of text by the button and types it.
     static void AddLine(HWND window, const std::string& text);
 

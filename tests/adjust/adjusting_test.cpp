@@ -1,4 +1,6 @@
 // Adjusting a picture from the Logo browser, to the bytes of the screen that comes of it.
+#include <algorithm>
+
 #include "adjust/text_line.h"
 #include "pictures/compose/geometry.h"
 #include "pictures/convert.h"

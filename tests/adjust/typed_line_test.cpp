@@ -1,4 +1,6 @@
 // A line of text that is edited in the list, and what the screen shows meanwhile.
+#include <algorithm>
+
 #include "adjust/text_line.h"
 #include "tests/adjust/adjust_fixture.h"
 #include "tests/support/user/seen.h"

@@ -40,8 +40,11 @@ void Moving::CloseBy(SelPictureForm& editor, HWND window, int button) {
     Settle(editor);
 }
 
-void Moving::GiveKeys(HWND window, int id) {
-    SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(window, id)), TRUE);
+void Moving::Follow(HWND window) {
+    // A window paints once no key or click waits for it any more.
+    InvalidateRect(window, nullptr, FALSE);
+    Await([&] { return !IsWindow(window) || !GetUpdateRect(window, nullptr, FALSE); }, "followed");
+    SendMessageA(window, WM_NULL, 0, 0);
 }
 
 void Moving::TurnTo(HWND window, int page) {
@@ -53,29 +56,6 @@ void Moving::TurnTo(HWND window, int page) {
     user::ClickAt(at);
     Await([&] { return SendMessageA(tabs, TCM_GETCURSEL, 0, 0) == page; }, "page turned");
     Follow(window);
-}
-
-void Moving::Slide(HWND window, int id, int value) {
-    const HWND bar = Item(window, id);
-    GiveKeys(window, id);
-    for (int tries = 0; tries < 200; ++tries) {
-        const int now = static_cast<int>(SendMessageA(bar, TBM_GETPOS, 0, 0));
-        if (now == value) return;
-        const int page = static_cast<int>(SendMessageA(bar, TBM_GETPAGESIZE, 0, 0));
-        const bool many = std::abs(value - now) >= page;
-        // What a key does to a horizontal slider.
-        const WORD key = value > now ? (many ? VK_NEXT : VK_RIGHT) : (many ? VK_PRIOR : VK_LEFT);
-        SendMessageA(bar, WM_KEYDOWN, key, 0);
-        SendMessageA(bar, WM_KEYUP, key, 0);
-    }
-    ADD_FAILURE() << "the slider does not come to " << value;
-}
-
-void Moving::Choose(HWND window, int id, int entry) {
-    const HWND combo = Item(window, id);
-    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
-    SendMessageA(window, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(combo));
 }
 
 int Moving::LayerCount(HWND window) {
@@ -101,6 +81,10 @@ POINT Moving::OnScreen(HWND window, int x, int y) {
 void Moving::DragOver(HWND window, POINT from, POINT to) {
     user::Drag(OnScreen(window, from.x, from.y), OnScreen(window, to.x, to.y));
     Follow(window);
+}
+
+void Moving::DragHolding(HWND window, WORD key, POINT from, POINT to) {
+    user::WhileHolding(key, [&] { DragOver(window, from, to); });
 }
 
 screen::IndexedScreen Moving::ScreenOf(const std::string& path) {

@@ -8,11 +8,11 @@
 #include <string>
 
 #include "pictures/screen/moving_screen.h"
-#include "tests/editor/editor_fixture.h"
+#include "tests/editor/dialog_fixture.h"
 
 namespace vistrel::test {
 
-class Moving : public LogoBrowser {
+class Moving : public BrowserDialog {
  protected:
     Moving();
 
@@ -24,19 +24,13 @@ class Moving : public LogoBrowser {
     static HWND OpenOnSlot(editor::SelPictureForm& editor);
     /// Presses OK or Cancel and waits until the window is gone and the browser has followed.
     static void CloseBy(editor::SelPictureForm& editor, HWND window, int button);
-    /// Waits until the window has done what it was asked to do.
-    static void Follow(HWND window) { SendMessageA(window, WM_NULL, 0, 0); }
+    /// Waits until the window has handled what the user did.
+    static void Follow(HWND window);
 
-    static HWND Item(HWND window, int id) { return GetDlgItem(window, id); }
-    static void Press(HWND window, int id) { SendMessageA(Item(window, id), BM_CLICK, 0, 0); }
-    static bool Enabled(HWND window, int id) { return IsWindowEnabled(Item(window, id)) != 0; }
-    static void GiveKeys(HWND window, int id);
+    /// Drags over the picture with Shift or Ctrl held.
+    static void DragHolding(HWND window, WORD key, POINT from, POINT to);
     /// Clicks the tab of a page, from 0.
     static void TurnTo(HWND window, int page);
-    /// Moves the slider of a track bar to a value by its keys.
-    static void Slide(HWND window, int id, int value);
-    /// Chooses an entry of a drop-down list.
-    static void Choose(HWND window, int id, int entry);
     /// Adds something that moves by the button and its menu: 0 a bar, 1 a shimmer, 2 a background.
     static void AddLayer(HWND window, int kind);
     static int LayerCount(HWND window);

@@ -23,7 +23,7 @@ using MovingWindow = Moving;
 TEST_F(MovingWindow, HasATipAndAHelpForEachControl) {
     user::HelpRequests requests;
     Window::SetHelpFile("C:\\test\\vistrl.hlp");
-    FrmAnimate animate(*BeginDocument(ScreenOf(still), std::nullopt),
+    FrmAnimate animate(*BeginDocument(ScreenOf(still), std::nullopt), logos,
                        [](platform::WindowHandle, const auto&) { return true; });
     ASSERT_TRUE(animate.Create(nullptr));
     for (const auto& [id, control] : animate.controls()) {
@@ -122,7 +122,7 @@ TEST_F(MovingWindow, AScreenThatCannotBeReadIsTold) {
 
 TEST_F(MovingWindow, WhatCannotBeKeptIsNotLost) {
     int tries = 0;
-    FrmAnimate animate(*BeginDocument(ScreenOf(still), std::nullopt),
+    FrmAnimate animate(*BeginDocument(ScreenOf(still), std::nullopt), logos,
                        [&](platform::WindowHandle, const auto&) { return ++tries == 2; });
     bool stayed = false;
     user::Meanwhile acting([&] {
@@ -137,6 +137,33 @@ TEST_F(MovingWindow, WhatCannotBeKeptIsNotLost) {
     acting.Finish();
     EXPECT_TRUE(stayed);
     EXPECT_EQ(tries, 2);
+}
+
+TEST_F(MovingWindow, LetsTheSessionEndAndLeavesTheScreenAsItWas) {
+    const std::string path = logos + "Blue\\LOGO.SYS";
+    const std::string before = *Contents(path);
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        ClickSet(main, "Blue");
+        user::RightClick(main.Imag[0].handle());
+        EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmMoveColors));
+        const HWND window = WaitForIt();
+        AddLayer(window, 0);
+        for (const HWND one : {window, main.handle()})
+            EXPECT_NE(SendMessageA(one, WM_QUERYENDSESSION, 0, 0), 0);
+        // Put off by another program: all goes on.
+        for (const HWND one : {window, main.handle()}) SendMessageA(one, WM_ENDSESSION, FALSE, 0);
+        EXPECT_EQ(LayerCount(window), 1);
+        for (const HWND one : {window, main.handle()})
+            EXPECT_NE(SendMessageA(one, WM_QUERYENDSESSION, 0, 0), 0);
+        for (const HWND one : {window, main.handle()}) SendMessageA(one, WM_ENDSESSION, TRUE, 0);
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Red"));
+        EXPECT_TRUE(Contents(path) == before);
+        PostMessageA(window, WM_CLOSE, 0, 0);
+        EXPECT_TRUE(user::WaitUntilGone(window));
+    });
 }
 
 TEST_F(MovingWindow, OfTheMainWindowSavesIntoTheSetAfterAQuestion) {

@@ -36,8 +36,16 @@ bool BootShow::Shows(COLORREF color) {
 }
 
 bool BootShow::Moves() {
-    const COLORREF first = Middle();
-    return WaitUntil([&] { return Middle() != first; }, 500);
+    // A screen that stands still is first what lay there, then black, then drawn.
+    constexpr int kMore = 3;
+    COLORREF last = Middle();
+    int changes = 0;
+    const auto changesOn = [&] {
+        changes += Middle() != last;
+        last = Middle();
+        return changes >= kMore;
+    };
+    return WaitUntil(changesOn, 2000);
 }
 
 void BootShow::EndBy(HWND show, WORD key) {

@@ -88,6 +88,19 @@ TEST_F(Faults, OfSeveralScreensAreToldBrieflyAndWhollyInTheTips) {
         for (const controls::Label& label : main.LblScreen)
             EXPECT_TRUE(seen::ShowsColor(label.handle(), kDarkRed));
         user::TakeShot("faults-main-all");
+        // As many words as there is room for.
+        const auto saysIn = [&](int width, int height) {
+            SetWindowPos(main.handle(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+            return user::TextOf(main.LblFaults.handle());
+        };
+        EXPECT_TRUE(saysIn(1000, 700).starts_with("Windows would not show LOGO.SYS"));
+        Put(screens + "LOGO.SYS", flashing);
+        Put(screens + "LOGOS.SYS", flashing);
+        Command(main, ID_ItmRefresh);
+        EXPECT_EQ(saysIn(10, 10),
+                  "LOGO.SYS: flashing colours\r\n"
+                  "LOGOW.SYS: flashing colours\r\n"
+                  "LOGOS.SYS: flashing colours");
         ClickSet(main, "Red");
         for (const controls::Label& label : main.LblScreen)
             EXPECT_FALSE(seen::ShowsColor(label.handle(), kDarkRed));

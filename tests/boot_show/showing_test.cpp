@@ -206,10 +206,21 @@ TEST_F(ShowingASet, EndsWhenAnotherProgramComesToTheFront) {
 
 TEST_F(ShowingASet, LetsTheSessionEnd) {
     WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        ClickSet(main, "Blue");
         const HWND show = ShowByF11(main.handle());
         EXPECT_NE(SendMessageA(show, WM_QUERYENDSESSION, 0, 0), 0);
         EXPECT_NE(SendMessageA(main.handle(), WM_QUERYENDSESSION, 0, 0), 0);
+        // Put off by another program: the show goes on.
         SendMessageA(show, WM_ENDSESSION, FALSE, 0);
+        SendMessageA(main.handle(), WM_ENDSESSION, FALSE, 0);
+        user::Press(VK_SPACE);
+        EXPECT_TRUE(Shows(kGreenScreen));
+        SendMessageA(show, WM_ENDSESSION, TRUE, 0);
+        SendMessageA(main.handle(), WM_ENDSESSION, TRUE, 0);
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Red"));
         EndBy(show, VK_ESCAPE);
     });
 }

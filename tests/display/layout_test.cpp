@@ -2,7 +2,6 @@
 #include <windows.h>
 // The others need windows.h first.
 #include <commctrl.h>
-#include <ole2.h>
 
 #include "about/frm_about_reg.h"
 #include "about/frm_splash.h"
@@ -15,6 +14,7 @@
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
 #include "pictures/preview/draw_letters.h"
+#include "tests/pictures/screen/broken_screens.h"
 #include "tests/support/main_window/main_window_fixture.h"
 
 namespace vistrel::test {
@@ -154,11 +154,7 @@ void Check(HWND window) {
 
 class Layout : public MainWindow98 {
  protected:
-    Layout() {
-        OleInitialize(nullptr);
-        Store("DefaultLogoSet", TextValue("Red"));
-    }
-    ~Layout() override { OleUninitialize(); }
+    Layout() { Store("DefaultLogoSet", TextValue("Red")); }
 
     static void Open(Window& window) {
         ASSERT_TRUE(window.Create(nullptr));
@@ -216,6 +212,22 @@ TEST_F(Layout, OfTheMainWindowWithAScreenThatWouldFlash) {
     Look(main, "main-faults");
 }
 
+TEST_F(Layout, OfTheMainWindowWithThreeScreensThatWindowsWouldNotShow) {
+    Principale main(locations);
+    Open(main);
+    for (const BrokenScreen& broken : BrokenScreens()) {
+        for (const char* name : {"LOGO.SYS", "LOGOW.SYS", "LOGOS.SYS"})
+            Put(logos + "Red\\" + name, std::string(broken.file.begin(), broken.file.end()));
+        const std::string fault = screen::InWords(broken.fault);
+        Command(main, ID_ItmRefresh);
+        for (const char* name : {"LOGO.SYS", "LOGOW.SYS", "LOGOS.SYS"})
+            EXPECT_NE(main.LblFaults.Text().find(name), std::string::npos) << fault;
+        Look(main, "main-faults-" + std::to_string(static_cast<int>(broken.fault)));
+    }
+    SetWindowPos(main.handle(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+    Look(main, "main-faults-smallest");
+}
+
 TEST_F(Layout, OfTheMainWindowAtItsSmallest) {
     Principale main(locations);
     Open(main);
@@ -269,7 +281,7 @@ TEST_F(Layout, OfAdjustingAPicture) {
 TEST_F(Layout, OfMovingColors) {
     Put(root + "moving.sys", ScreenFile(0, 128, 0, 236));
     FrmAnimate animate(
-        *BeginDocument(*ReadScreen(root + "moving.sys"), std::nullopt),
+        *BeginDocument(*ReadScreen(root + "moving.sys"), std::nullopt), logos,
         [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
     Open(animate);
     for (const int kind : {0, 1, 2}) {

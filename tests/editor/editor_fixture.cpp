@@ -1,7 +1,6 @@
 #include "tests/editor/editor_fixture.h"
 
 #include <commctrl.h>
-#include <ole2.h>
 
 #include "art/files/gif_writer.h"
 #include "art/files/jpg_writer.h"
@@ -93,31 +92,27 @@ LogoBrowser::LogoBrowser() {
 
 void LogoBrowser::WithEditor(const Acting& user,
                              const std::function<void(Principale& main)>& before) {
-    OleInitialize(nullptr);
-    {
-        Principale main(locations);
-        ASSERT_TRUE(main.Create(nullptr));
-        main.Preferences().bootRoot = boot;
-        main.Show();
-        before(main);
-        SelPictureForm editor(main);
-        user::Meanwhile acting([&] {
-            WaitUntil([&] { return editor.IsOpen() && IsWindowVisible(editor.handle()); });
-            const HWND window = editor.handle();
-            user::Activate(window);
-            Settle(editor);
-            user(main, editor);
-            if (ClosesByItself(window)) return;
-            ADD_FAILURE() << "the editor did not close";
-            user::CloseWhatIsOver(window);
-            if (ClosesByItself(window)) return;
-            PostThreadMessageA(GetWindowThreadProcessId(window, nullptr), WM_QUIT, 1, 0);
-        });
-        editor.ShowModal(main.handle());
-        acting.Finish();
-        main.Unload();
-    }
-    OleUninitialize();
+    Principale main(locations);
+    ASSERT_TRUE(main.Create(nullptr));
+    main.Preferences().bootRoot = boot;
+    main.Show();
+    before(main);
+    SelPictureForm editor(main);
+    user::Meanwhile acting([&] {
+        WaitUntil([&] { return editor.IsOpen() && IsWindowVisible(editor.handle()); });
+        const HWND window = editor.handle();
+        user::Activate(window);
+        Settle(editor);
+        user(main, editor);
+        if (ClosesByItself(window)) return;
+        ADD_FAILURE() << "the editor did not close";
+        user::CloseWhatIsOver(window);
+        if (ClosesByItself(window)) return;
+        PostThreadMessageA(GetWindowThreadProcessId(window, nullptr), WM_QUIT, 1, 0);
+    });
+    editor.ShowModal(main.handle());
+    acting.Finish();
+    main.Unload();
 }
 
 void LogoBrowser::Settle(SelPictureForm& editor) { SendMessageA(editor.handle(), WM_NULL, 0, 0); }

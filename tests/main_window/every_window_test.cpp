@@ -1,5 +1,4 @@
 // Looks through every window there is for controls that nobody holds.
-#include <ole2.h>
 
 #include <algorithm>
 
@@ -49,29 +48,25 @@ class EveryWindow : public MainWindow98 {
 TEST_F(EveryWindow, HoldsEachOfItsControls) {
     WithMainWindow([&](Principale& main) { Check(main, {ID_ActiveBar1}); });
 
-    OleInitialize(nullptr);
-    {
-        Principale main(locations);
-        ASSERT_TRUE(main.Create(nullptr));
-        FrmOptions options(main);
-        SelPictureForm editor(main);
-        FrmView view(logos + "Blue\\LOGO.SYS", false);
-        FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {}}, [] { return std::string(); });
-        ASSERT_TRUE(adjust.ReadPicture());
-        FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
-        FrmAnimate animate(
-            *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt),
-            [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
-        boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
-        FrmAboutReg about;
-        frmSplash splash;
-        for (Window* window : std::initializer_list<Window*>{
-                 &options, &editor, &adjust, &many, &animate, &view, &show, &about, &splash}) {
-            ASSERT_TRUE(window->Create(nullptr));
-            Check(*window);
-        }
+    Principale main(locations);
+    ASSERT_TRUE(main.Create(nullptr));
+    FrmOptions options(main);
+    SelPictureForm editor(main);
+    FrmView view(logos + "Blue\\LOGO.SYS", false);
+    FrmAdjust adjust({logos + "Blue\\LOGO.SYS", {}, {}}, [] { return std::string(); });
+    ASSERT_TRUE(adjust.ReadPicture());
+    FrmManySets many(logos, {logos + "Blue\\LOGO.SYS"});
+    FrmAnimate animate(
+        *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt), logos,
+        [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
+    boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
+    FrmAboutReg about;
+    frmSplash splash;
+    for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
+                                                         &animate, &view, &show, &about, &splash}) {
+        ASSERT_TRUE(window->Create(nullptr));
+        Check(*window);
     }
-    OleUninitialize();
 }
 
 }  // namespace

@@ -156,6 +156,19 @@ TEST_F(Importing, PassesOverFilesAndSelectsNothingAfterALastOne) {
     EXPECT_FALSE(Exists(logos + "outside.txt"));
 }
 
+// What drops need takes a while to load: the window does not wait for it.
+TEST_F(Importing, BeginsOnceTheWindowIsThere) {
+    Principale main(locations);
+    ASSERT_TRUE(main.Create(nullptr));
+    main.Show();
+    const auto takesDrops = [&] {
+        return GetPropA(main.MyList.handle(), "OleDropTargetInterface") != nullptr;
+    };
+    EXPECT_FALSE(takesDrops());
+    EXPECT_TRUE(WaitUntil(takesDrops));
+    main.Unload();
+}
+
 TEST_F(Importing, EndsTheViewOfTheInstalledScreens) {
     OleInitialize(nullptr);
     {

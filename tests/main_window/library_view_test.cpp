@@ -136,7 +136,7 @@ TEST_F(LibraryView, FillsABoxThatGrewUntilItsScreenIsDrawnAnew) {
         Settle(main);
         RedrawWindow(box, nullptr, nullptr, RDW_UPDATENOW);
         const HDC dc = GetDC(box);
-        EXPECT_EQ(GetPixel(dc, r.right + 20, r.bottom + 20), kRed);
+        EXPECT_TRUE(WaitUntil([&] { return GetPixel(dc, r.right + 20, r.bottom + 20) == kRed; }));
         ReleaseDC(box, dc);
     });
 }

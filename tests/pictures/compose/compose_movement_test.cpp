@@ -70,7 +70,9 @@ TEST_F(MovingAdjusted, StaysAsItIsWhereNothingIsSet) {
     for (std::size_t i = 0; i < made.indices.size(); ++i) {
         ASSERT_EQ(ColorAt(made, i), ColorAt(before, i)) << i;
         ASSERT_EQ(made.indices[i] >= 236, before.indices[i] >= 236) << i;
-        if (before.indices[i] >= 236) ASSERT_EQ(made.indices[i], before.indices[i]) << i;
+        if (before.indices[i] >= 236) {
+            ASSERT_EQ(made.indices[i], before.indices[i]) << i;
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 // new digests.txt.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 

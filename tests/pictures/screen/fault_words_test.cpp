@@ -27,6 +27,12 @@ TEST(FaultWords, TellAScreenThatFlashesFromOneThatIsNotShown) {
               "Windows would show LOGO.SYS, but it moves colours that no pixel has.");
 }
 
+TEST(FaultWords, AreFewWhereThereIsLittleRoom) {
+    EXPECT_EQ(InShort({}), "");
+    EXPECT_EQ(InShort({ScreenFault::CountOfColors}), "flashing colours");
+    EXPECT_EQ(InShort({ScreenFault::TopDown, ScreenFault::ShortPalette}), "rows from the top...");
+}
+
 TEST(FaultWords, AreHalfASentenceForAQuestion) {
     EXPECT_EQ(InWords(std::vector{ScreenFault::TopDown, ScreenFault::ShortPalette}),
               "has its rows from the top and has fewer than 256 colours");

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "pictures/bmp/reader.h"
 #include "pictures/convert.h"
 #include "pictures/screen/indexed_screen.h"

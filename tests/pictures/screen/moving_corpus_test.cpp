@@ -1,6 +1,8 @@
 // Every kind of movement on a hundred pictures from everywhere.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "pictures/file.h"
 #include "tests/pictures/corpus.h"
 #include "tests/pictures/screen/moving_kinds.h"

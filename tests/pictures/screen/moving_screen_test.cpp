@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/pictures/screen/moving_kinds.h"
 
 namespace vistrel::test {

@@ -1,7 +1,6 @@
 #include "tests/support/main_window/main_window_fixture.h"
 
 #include <commctrl.h>
-#include <ole2.h>
 
 #include <atomic>
 
@@ -137,23 +136,19 @@ void CloseWhatIsInFrontOf(HWND main) {
 }  // namespace
 
 void MainWindow98::WithMainWindow(const std::function<void(Principale&)>& user) {
-    OleInitialize(nullptr);
-    {
-        Principale main(locations);
-        ASSERT_TRUE(main.Create(nullptr));
-        main.Preferences().bootRoot = boot;
-        main.Show();
-        user::Meanwhile acting([&] {
-            user::Activate(main.handle());
-            const HWND window = main.handle();
-            user(main);
-            CloseWhatIsInFrontOf(window);
-            PostMessageA(window, WM_CLOSE, 0, 0);
-        });
-        RunLoopWhileOpen(main);
-        acting.Finish();
-    }
-    OleUninitialize();
+    Principale main(locations);
+    ASSERT_TRUE(main.Create(nullptr));
+    main.Preferences().bootRoot = boot;
+    main.Show();
+    user::Meanwhile acting([&] {
+        user::Activate(main.handle());
+        const HWND window = main.handle();
+        user(main);
+        CloseWhatIsInFrontOf(window);
+        PostMessageA(window, WM_CLOSE, 0, 0);
+    });
+    RunLoopWhileOpen(main);
+    acting.Finish();
 }
 
 POINT MainWindow98::PointOfSet(Principale& main, const std::string& name) {

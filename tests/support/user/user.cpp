@@ -203,25 +203,36 @@ void RightClickAt(POINT point) {
 
 namespace {
 
-void DragWith(DWORD down, DWORD up, POINT from, POINT to) {
-    MoveTo(from);
-    Send({MouseInput(down, from)});
+void DragWith(DWORD down, DWORD up, const std::vector<POINT>& points,
+              const std::function<void()>& atCorner) {
+    MoveTo(points.front());
+    Send({MouseInput(down, points.front())});
     constexpr int kSteps = 10;
-    for (int step = 1; step <= kSteps; ++step) {
-        MoveTo(
-            {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
-        // Whoever drags looks at each position once; moves in the queue would become one.
-        WaitUntil([start = GetTickCount()] { return GetTickCount() - start >= 20; });
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const POINT from = points[i - 1], to = points[i];
+        for (int step = 1; step <= kSteps; ++step) {
+            MoveTo({from.x + (to.x - from.x) * step / kSteps,
+                    from.y + (to.y - from.y) * step / kSteps});
+            // Whoever drags looks at each position once; moves in the queue would become one.
+            WaitUntil([start = GetTickCount()] { return GetTickCount() - start >= 20; });
+        }
+        atCorner();
     }
-    Send({MouseInput(up, to)});
+    Send({MouseInput(up, points.back())});
 }
 
 }  // namespace
 
-void Drag(POINT from, POINT to) { DragWith(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, from, to); }
+void Drag(POINT from, POINT to) {
+    DragThrough({from, to}, [] {});
+}
+
+void DragThrough(const std::vector<POINT>& points, const std::function<void()>& atCorner) {
+    DragWith(MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, points, atCorner);
+}
 
 void RightDrag(POINT from, POINT to) {
-    DragWith(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, from, to);
+    DragWith(MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, {from, to}, [] {});
 }
 
 bool Click(HWND window) {
@@ -261,7 +272,7 @@ void TakeUpKeyboard() {
     if (window != nullptr) Activate(window);
 }
 
-}  // namespace
+bool IsHeld(WORD key) { return (GetAsyncKeyState(key) & 0x8000) != 0; }
 
 // The screen, which knows of no such key, lets go of it once when a window comes to the front,
 // which may be just now.
@@ -269,12 +280,21 @@ void HoldKey(WORD key) {
     WaitUntil(
         [&] {
             Send({KeyInput(key, 0)});
-            return (GetAsyncKeyState(key) & 0x8000) != 0;
+            return IsHeld(key);
         },
         1000);
 }
 
 void LetGoKey(WORD key) { Send({KeyInput(key, KEYEVENTF_KEYUP)}); }
+
+}  // namespace
+
+void WhileHolding(WORD key, const std::function<void()>& act) {
+    TakeUpKeyboard();
+    HoldKey(key);
+    act();
+    LetGoKey(key);
+}
 
 void Press(WORD key, const std::vector<WORD>& held) {
     TakeUpKeyboard();

@@ -64,7 +64,9 @@ void DoubleClickAt(POINT point);
 void RightClickAt(POINT point);
 /// Presses the left button at one point, moves in small steps to the other and lets go.
 void Drag(POINT from, POINT to);
-/// The same with the right button.
+/// The same along a line; at each of its corners `atCorner` waits until it has been looked at.
+void DragThrough(const std::vector<POINT>& points, const std::function<void()>& atCorner);
+/// As Drag, with the right button.
 void RightDrag(POINT from, POINT to);
 
 /// Clicks the middle of a window. Returns false, without a click, when it cannot be seen there
@@ -77,9 +79,10 @@ bool RightClick(HWND window);
 
 /// Presses and lets go a key, with these keys (VK_CONTROL, VK_MENU, VK_SHIFT) held down.
 void Press(WORD key, const std::vector<WORD>& held = {});
-/// Holds a key down while something else is done, and lets go of it.
-void HoldKey(WORD key);
-void LetGoKey(WORD key);
+/// Holds a key down while something else is done. The key may be lost meanwhile: a screen tells
+/// late, when the mouse was let go, which keys it has seen pressed. Who finds nothing done does it
+/// again.
+void WhileHolding(WORD key, const std::function<void()>& act);
 /// Types ANSI text.
 void Type(const std::string& text);
 
