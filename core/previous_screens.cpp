@@ -49,6 +49,13 @@ void RemoveKept(const std::string& folder) {
     platform::RemoveFolder(folder);
 }
 
+/// Hidden folders are no sets: the program's folder may be the logo folder, too.
+bool MakeHiddenFolder(const std::string& path) {
+    if (!platform::MakeFolder(path)) return false;
+    platform::SetAttributes(path, platform::kHiddenFile);
+    return true;
+}
+
 /// Puts a file in the place of another, which stays until the new one is on the disk.
 bool PutInPlace(const std::string& from, const std::string& to) {
     const std::string coming = to.substr(0, to.size() - 3) + "~vs";
@@ -100,7 +107,7 @@ bool PreviousScreens::Keep(const std::string& setName, const std::string& newNam
     }
     if (setName == newName && !changes) return true;
     if (record.areKept) return KeepScreens(record);
-    platform::MakeFolder(folder_);
+    if (!platform::FileAttributes(folder_) && !MakeHiddenFolder(folder_)) return false;
     return WriteRecord(folder_, record);
 }
 
@@ -108,7 +115,7 @@ bool PreviousScreens::Keep(const std::string& setName, const std::string& newNam
 bool PreviousScreens::KeepScreens(const InstallRecord& record) {
     const std::string coming = folder_ + kNew;
     RemoveKept(coming);
-    if (!platform::MakeFolder(coming)) return false;
+    if (!MakeHiddenFolder(coming)) return false;
     const auto installed = Installed();
     const auto kept = ScreensIn(coming + "\\");
     for (std::size_t i = 0; i < installed.size(); ++i) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "core/library.h"
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
 
@@ -102,6 +103,20 @@ TEST_F(PreviousScreensOf, AfterAnInstallWhileSynchronizingTheOthersGetTheirAttri
     EXPECT_EQ(Undo(), UndoResult::Done);
     EXPECT_EQ(Installed(), own_);
     EXPECT_EQ(AttributesOf(windows + "LOGOS.SYS"), DWORD{FILE_ATTRIBUTE_SYSTEM});
+}
+
+TEST_F(PreviousScreensOf, AreNoSetWhereTheProgramsFolderIsTheLogoFolder) {
+    PutScreens(program + "Blue\\", "Blue");
+    PutScreens(program + "Red\\", "Red");
+    PreviousScreens previous(program, {program, boot, windows});
+    EXPECT_TRUE(previous.Keep("", "Blue", false, false));
+    EXPECT_EQ(LogoSetNames(program), (Screens{"Blue", "Red"}));
+    InstallLogoSet({program, boot, windows}, "Blue", false);
+
+    RemoveTree(program + "Previous screens");
+    EXPECT_TRUE(previous.Keep("Blue", "Red", false, false));
+    EXPECT_TRUE(Exists(program + "Previous screens"));
+    EXPECT_EQ(LogoSetNames(program), (Screens{"Blue", "Red"}));
 }
 
 TEST_F(PreviousScreensOf, InstallingASetOverItselfLeavesTheFormerInstallToBeTakenBack) {
