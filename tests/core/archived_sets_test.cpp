@@ -181,6 +181,24 @@ TEST_F(ArchivedSets, OfTheSameNameAreNumbered) {
     EXPECT_EQ(taken_, (Names{"Blue", "blue 2", "Sea.SLS", "Sea 2.SLS"}));
 }
 
+TEST_F(ArchivedSets, OfTwoScreensOfTheSameNameTheFirstIsTaken) {
+    EXPECT_EQ(ImportAll(Archive({{"Blue/LOGO.SYS", "first"}, {"Blue/logo.sys", "second"}})), "");
+    EXPECT_EQ(Contents(logos + "Blue\\LOGO.SYS"), "first");
+}
+
+TEST_F(ArchivedSets, OfMoreBytesThanAnyCollectionAreRefused) {
+    std::vector<Packed> files;
+    for (int i = 0; i < 257; ++i) files.push_back({"Set" + std::to_string(i) + "/LOGO.SYS", "x"});
+    std::string bytes = ZipOf(files);
+    // Each says that it unpacks to a megabyte.
+    for (std::size_t at = bytes.find("PK\1\2"); at != std::string::npos;
+         at = bytes.find("PK\1\2", at + 4))
+        bytes.replace(at + 24, 4, std::string("\0\0\x10\0", 4));
+    Put(zip, bytes);
+    EXPECT_EQ(ImportAll(zip), "holds more than any collection of screens");
+    EXPECT_EQ(NamesIn(logos), Names{});
+}
+
 TEST_F(ArchivedSets, AnExistingSetGetsTheNewScreensAndKeepsTheOthers) {
     PutScreens(logos + "Blue\\", "old");
     GiveAttributes(logos + "Blue\\LOGO.SYS", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
