@@ -119,6 +119,64 @@ TEST_F(Giving, SaysWhatKeepsAnExportFromItsFile) {
     });
 }
 
+/// A file that nobody else can open as long as this lives.
+class OpenFile {
+ public:
+    explicit OpenFile(const std::string& path)
+        : file_(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {}
+    ~OpenFile() { CloseHandle(file_); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+ private:
+    HANDLE file_;
+};
+
+TEST_F(Giving, SaysWhereAScreenCannotBeRead) {
+    const OpenFile open(logos + "Red\\LOGOW.SYS");
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        StartCommand(main, ID_ToolExport);
+        EXPECT_TRUE(AnswerDialog("Export logo set", zip));
+        EXPECT_EQ(user::AnswerBox(IDOK).text, "A screen of Red cannot be read.");
+        EXPECT_FALSE(Exists(zip));
+    });
+}
+
+TEST_F(Giving, SaysWhereTheFileCannotBeWrittenAndLeavesIt) {
+    Put(zip, "in use");
+    WithMainWindow([&](Principale& main) {
+        const OpenFile open(zip);
+        ClickSet(main, "Red");
+        StartCommand(main, ID_ToolExport);
+        const HWND dialog = user::WaitForTop("#32770", "Export logo set");
+        user::Activate(dialog);
+        user::Type(zip);
+        user::Press(VK_RETURN);
+        // Whether to replace it is the dialog's own question.
+        WaitUntil([&] { return user::FindTop("#32770") != dialog; });
+        user::AnswerBox(IDYES);
+        EXPECT_EQ(user::AnswerBox(IDOK).text,
+                  zip + " cannot be written. The disk may be full, or the file protected.");
+    });
+    EXPECT_EQ(Contents(zip), "in use");
+}
+
+TEST_F(Giving, SaysWhichSetOfAFileCannotBeTakenAndTakesTheOthers) {
+    Put(logos + "New", "a file of that name");
+    user::Box box;
+    Drop(
+        {Archive({{"New/LOGO.SYS", "x"}, {"Other/LOGO.SYS", ScreenFile(0, 0, 255)}})},
+        [&](Principale&) { box = user::AnswerBox(IDOK); },
+        [&](Principale& main) {
+            EXPECT_EQ(main.SetNames(), (Names{"Blue", "Green.SLS", "Red", "Other"}));
+        });
+    EXPECT_EQ(box.text,
+              "New cannot be taken into the logo folder. A file of that name may be there, or one "
+              "that is in use.");
+    EXPECT_EQ(Contents(logos + "New"), "a file of that name");
+}
+
 TEST_F(Giving, TakesADroppedFileOfSetsAndShowsTheLastOfThem) {
     Drop({Archive({{"City/LOGO.SYS", ScreenFile(255, 0, 0)},
                    {"City/LOGOW.SYS", ScreenFile(0, 255, 0)},

@@ -119,6 +119,78 @@ TEST_F(UndoInstall, SaysWhereThePreviousScreensAreGone) {
     EXPECT_TRUE(Contents(windows + "LOGOS.SYS") == ScreenFile(255, 0, 0));
 }
 
+TEST_F(UndoInstall, SaysWhichSetHadThePreviousScreensWhereItIsGone) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        ClickSet(main, "Blue");
+        Command(main, ID_ToolSetDefault);
+        RemoveTree(logos + "Red");
+        StartCommand(main, ID_ToolUndoInstall);
+        EXPECT_EQ(user::AnswerBox(IDOK).text,
+                  "The previous screens cannot be brought back: they are those of Red, which is "
+                  "gone or has been changed.");
+        Settle(main);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+        EXPECT_TRUE(IsOffered(main));
+    });
+}
+
+TEST_F(UndoInstall, SaysWhereAScreenCannotBeWrittenAndCanBeTriedAgain) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        // Who has it open keeps it.
+        const HANDLE open = CreateFileA((windows + "LOGOW.SYS").c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+        StartCommand(main, ID_ToolUndoInstall);
+        EXPECT_EQ(user::AnswerBox(IDOK).text,
+                  "The previous screens cannot be brought back, or not all of them. The disk may "
+                  "be full, or a file in use.");
+        CloseHandle(open);
+        Settle(main);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Red");
+        StartCommand(main, ID_ToolUndoInstall);
+        // One of them is back, and so they are not what the install has left.
+        user::AnswerBox(IDYES);
+        Settle(main);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
+    });
+    EXPECT_TRUE(OwnAreBack());
+}
+
+TEST_F(UndoInstall, GoesBackToNoKnownSet) {
+    Store("DefaultLogoSet", TextValue("gone"));
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        Command(main, ID_ToolUndoInstall);
+        EXPECT_EQ(main.DefaultLogo.Text(), "<Don't know>");
+    });
+    EXPECT_TRUE(OwnAreBack());
+    EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(""));
+}
+
+TEST_F(UndoInstall, TakesTheCompanionsWorkBackToo) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        main.Preferences().synchronizeLogos = 1;
+        Command(main, ID_ToolSetDefault);
+        Command(main, ID_ToolUndoInstall);
+    });
+    EXPECT_FALSE(Exists(program + "Mirrorkin.ini"));
+
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        ClickSet(main, "Blue");
+        main.Preferences().synchronizeLogos = 0;
+        Command(main, ID_ToolSetDefault);
+        Command(main, ID_ToolUndoInstall);
+    });
+    EXPECT_TRUE(Exists(program + "Mirrorkin.ini"));
+}
+
 TEST_F(UndoInstall, DoesNothingWhileTheInstalledScreensAreShown) {
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Red");
