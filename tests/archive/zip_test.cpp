@@ -158,6 +158,14 @@ TEST(Zip, RefusesACopyFromBeforeTheBeginning) {
               ArchiveFault::Damaged);
 }
 
+TEST(Zip, RefusesSymbolsThatStandForNothing) {
+    // The letter "a", then the length and the distance that fixed codes have beside the others.
+    EXPECT_EQ(UnpackFirst(Deflated(Binary({0x4B, 0x1C, 0x03, 0x00, 0x00}), "a")).fault,
+              ArchiveFault::Damaged);
+    EXPECT_EQ(UnpackFirst(Deflated(Binary({0x4B, 0x04, 0x3E, 0x00, 0x00}), "aaaa")).fault,
+              ArchiveFault::Damaged);
+}
+
 TEST(BrokenZip, ThatIsNoArchiveIsCalledSo) {
     EXPECT_EQ(DirectoryOf({}).fault, ArchiveFault::NotAnArchive);
     EXPECT_EQ(DirectoryOf(BytesOf(std::string(100000, 'x'))).fault, ArchiveFault::NotAnArchive);
