@@ -34,4 +34,17 @@ std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filt
     return chosen ? Trim(request.file) : std::string();
 }
 
+std::string ShowSaveDialog(platform::WindowHandle owner, const std::string& filter,
+                           const std::string& title, const std::string& name,
+                           const std::string& ending) {
+    platform::OpenDialogRequest request;
+    request.owner = owner;
+    request.filter = DialogFilter(filter);
+    request.title = title;
+    request.file = name;
+    request.file.resize(kBufferLength);
+    request.fileTitle.resize(kBufferLength);
+    return platform::RunSaveDialog(request, ending) ? CutAtNul(request.file) : std::string();
+}
+
 }  // namespace vistrel::core

@@ -1,4 +1,4 @@
-// The open-file dialog (the module `CMDialog`).
+// The dialogs for choosing a file (the module `CMDialog`).
 #pragma once
 
 #include <string>
@@ -16,6 +16,12 @@ extern std::string FileTitle;
 // (OpenDialog.GivesTheWholePathWithItsNulAndKeepsTheName).
 std::string ShowOpenDialog(platform::WindowHandle owner, const std::string& filter,
                            const std::string& title, const std::string& initialFolder);
+
+/// Lets the user choose where a file is to be written; `name` is what the dialog proposes, and a
+/// name without an ending gets `ending`. The full path; empty when the user cancels.
+std::string ShowSaveDialog(platform::WindowHandle owner, const std::string& filter,
+                           const std::string& title, const std::string& name,
+                           const std::string& ending);
 
 /// The filter as the dialog expects it: each part ended by a NUL.
 std::string DialogFilter(std::string filter);

@@ -33,6 +33,14 @@ std::array<std::string, 3> LogoSet::Screens() const {
     return screens;
 }
 
+std::string FreeName(const std::string& base, const std::string& ending,
+                     const std::function<bool(const std::string& name)>& isTaken) {
+    std::string name = base + ending;
+    for (int number = 2; isTaken(name); ++number)
+        name = base + " " + std::to_string(number) + ending;
+    return name;
+}
+
 bool RenameSet(const LogoSet& set, const std::string& newName) {
     if (newName == set.name) return true;
     // Without a name the folder would be the logo folder itself.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "core/locations.h"
@@ -34,6 +35,11 @@ struct LogoSet {
 
 /// The full paths of the three screens that a folder, which ends in a backslash, can hold.
 std::array<std::string, 3> ScreensIn(const std::string& folder);
+
+/// `base` followed by `ending`, with the first number from 2 on between them where `isTaken` says
+/// so of a name.
+std::string FreeName(const std::string& base, const std::string& ending,
+                     const std::function<bool(const std::string& name)>& isTaken);
 
 /// Renames the set's folder; another ending changes its kind. Nothing is done, and it succeeds,
 /// when the name is the same. False for a name that no set can have, for a set without a name, and

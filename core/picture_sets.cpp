@@ -60,17 +60,15 @@ void PictureSets::Stop() {
 }
 
 // The first picture's name, with a number where there is a set of that name.
-std::string PictureSets::FreeName() const {
+std::string PictureSets::NameOfNext() const {
     const std::string ending = kind_ == SetKind::StartupOnly ? kSingleEnding : "";
-    const std::string base = BaseName(screens_.front().picture);
-    std::string name = base + ending;
-    for (int number = 2; platform::FileAttributes(library_ + name); ++number)
-        name = base + " " + std::to_string(number) + ending;
-    return name;
+    return FreeName(BaseName(screens_.front().picture), ending, [&](const std::string& name) {
+        return platform::FileAttributes(library_ + name).has_value();
+    });
 }
 
 void PictureSets::WriteSet() {
-    const std::string name = FreeName();
+    const std::string name = NameOfNext();
     const std::string folder = library_ + name + "\\";
     if (SetFolderName(name, library_) == name && platform::MakeFolder(library_ + name)) {
         if (WriteScreens(folder)) {

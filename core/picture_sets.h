@@ -44,7 +44,7 @@ class PictureSets {
     };
 
     std::size_t ScreensOfASet() const;
-    std::string FreeName() const;
+    std::string NameOfNext() const;
     void WriteSet();
     bool WriteScreens(const std::string& folder) const;
 

@@ -15,6 +15,7 @@
 #include "controls/picture_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
+#include "core/previous_screens.h"
 #include "editor/host.h"
 #include "main_window/tool_table.h"
 #include "options/host.h"
@@ -83,6 +84,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void Form_Activate() override;
     bool Form_Unload() override;
     void Form_Resize(controls::Size client) override;
+    bool Form_KeyDown(int key) override;
     void Form_KeyUp(int key) override;
     void MenuCommand(int id) override;
     bool Form_ContextMenu(controls::Point screen) override;
@@ -137,6 +139,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ItmBugReport_Click();
     void ItmAbout_Click();
     void ItmExit_Click();
+    void ItmExport_Click();
+    void ItmImport_Click();
+    void ItmUndoInstall_Click();
     void ItmMoveColors_Click();
     void NoWork() {}
 
@@ -161,6 +166,11 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void SelectAfterDelete(int index);
     bool ConfirmFormatChange(bool toSingle);
     bool ConfirmOverwriting(const std::string& name);
+    std::optional<std::string> ImportArchive(const std::string& path);
+    void TellOfArchive(const std::string& text);
+    core::PreviousScreens Previous() const;
+    void KeepScreensBefore(const std::string& newSet);
+    void CheckUndo();
     void ShowActualSize(platform::WindowHandle owner);
     void OpenPaint(platform::WindowHandle owner);
     void OpenCustomProgram(platform::WindowHandle owner);

@@ -54,6 +54,7 @@ void Principale::MenuCommand(int id) {
 }
 
 void Principale::MenuOpens(platform::MenuHandle menu) {
+    CheckUndo();
     if (menu == ClassicMenu(kMenuListLogo)) MnuListLogo_Click();
     if (menu == controls::SubMenu(ClassicMenu(kMenuTools), kPlaceOfDrives)) ShowDrives(menu);
 }
@@ -158,10 +159,12 @@ void Principale::ItmSetDefault_Click() {
     const platform::BusyPointer busy;
     const bool synchronize = settings_.synchronizeLogos != 0;
     const std::string name = MyList.ItemText(MyList.SelectedItem());
+    KeepScreensBefore(name);
     core::InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
                          name, synchronize);
     companionWanted_ = synchronize;
     SetInstalledSet(name);
+    CheckUndo();
 }
 
 void Principale::ItmLogoManager_Click() { Timer1.SetEnabled(true); }

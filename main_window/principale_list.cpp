@@ -5,6 +5,7 @@
 #include "controls/window_place.h"
 #include "core/entry_name.h"
 #include "core/generali.h"
+#include "core/import_sets.h"
 #include "core/library.h"
 #include "core/screen_file.h"
 #include "main_window/principale.h"
@@ -201,6 +202,12 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     std::string name;
     for (std::string path : paths) {
         showLast = false;
+        if (core::IsArchiveName(path) && !platform::IsFolder(path)) {
+            const auto last = ImportArchive(path);
+            showLast = last.has_value();
+            name = last.value_or("");
+            continue;
+        }
         if (!core::CanBeImported(path, settings_.logoPath)) continue;
         name = core::GetFileName(path);
         const bool exists = platform::IsFolder(settings_.logoPath + name);

@@ -89,13 +89,6 @@ NewFile MakeFileBeside(const std::string& path) {
     return {};
 }
 
-bool WriteInto(File file, const std::vector<std::uint8_t>& bytes) {
-    if (fault::ShouldFail()) return false;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    // Closing writes what is still buffered: the disk may turn out to be full only here.
-    return std::fclose(file.release()) == 0 && written;
-}
-
 bool Rename(const std::string& from, const std::string& to) {
     return !fault::ShouldFail() && std::rename(from.c_str(), to.c_str()) == 0;
 }
@@ -148,12 +141,34 @@ std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path
     return file ? ReadNext(file.get(), count) : std::nullopt;
 }
 
+FileWriter::FileWriter(std::string path) : path_(std::move(path)) {
+    NewFile made = MakeFileBeside(path_);
+    temporary_ = made.path;
+    file_ = made.file.release();
+}
+
+FileWriter::~FileWriter() {
+    if (file_) std::fclose(file_);
+    if (!temporary_.empty()) std::remove(temporary_.c_str());
+}
+
+bool FileWriter::Write(FileBytes bytes) {
+    return file_ && !fault::ShouldFail() &&
+           std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
+}
+
+bool FileWriter::Finish() {
+    if (!file_) return false;
+    // Closing writes what is still buffered: the disk may turn out to be full only here.
+    if (std::fclose(std::exchange(file_, nullptr)) != 0 || !MoveOver(temporary_, path_))
+        return false;
+    temporary_.clear();
+    return true;
+}
+
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
-    NewFile temporary = MakeFileBeside(path);
-    if (!temporary.file) return false;
-    if (WriteInto(std::move(temporary.file), bytes) && MoveOver(temporary.path, path)) return true;
-    std::remove(temporary.path.c_str());
-    return false;
+    FileWriter writer(path);
+    return writer.Write(bytes) && writer.Finish();
 }
 
 }  // namespace vistrel::pictures

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <memory>
 #include <optional>
 #include <string>
@@ -46,9 +47,30 @@ auto ReadInPieces(const std::string& path, Read read) {
 std::optional<std::vector<std::uint8_t>> ReadStartOfFile(const std::string& path,
                                                          std::size_t count);
 
-/// Writes `bytes` to `path`, replacing a file of that name. The bytes go to a temporary name in the
-/// same folder first, so a full disk never leaves half a file under the target's name. False when
-/// the file could not be written; `path` is then as it was.
+/// A file that is written in pieces, replacing one of that name when it is finished. The bytes go
+/// to a temporary name in the same folder first, so a full disk never leaves half a file under the
+/// target's name.
+class FileWriter {
+ public:
+    explicit FileWriter(std::string path);
+    FileWriter(const FileWriter&) = delete;
+    FileWriter& operator=(const FileWriter&) = delete;
+    /// What is not finished is removed.
+    ~FileWriter();
+
+    /// False when the piece could not be written, or no file could be made to write it into.
+    bool Write(FileBytes bytes);
+    /// False when the file could not take the target's place, which is then as it was.
+    bool Finish();
+
+ private:
+    std::string path_;
+    std::string temporary_;
+    std::FILE* file_ = nullptr;
+};
+
+/// Writes `bytes` to `path` by a FileWriter. False when the file could not be written; `path` is
+/// then as it was.
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes);
 
 }  // namespace vistrel::pictures

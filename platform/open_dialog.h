@@ -1,4 +1,4 @@
-// The system's open-file dialog.
+// The system's dialogs for choosing a file.
 #pragma once
 
 #include <string>
@@ -22,5 +22,9 @@ struct OpenDialogRequest {
 /// Shows the dialog with the record that Windows 95 knows, without a check box for opening
 /// read-only. True when the user chose a file, which then exists.
 bool RunOpenDialog(OpenDialogRequest& request);
+
+/// Shows the dialog for a file that is to be written. A name without an ending gets `ending`, which
+/// has no dot; before a file that exists is replaced the dialog asks.
+bool RunSaveDialog(OpenDialogRequest& request, const std::string& ending);
 
 }  // namespace vistrel::platform

@@ -65,6 +65,9 @@
 #define ID_ToolBug 1065
 #define ID_MnuExit 1066
 #define ID_WhatIsThis 1067
+#define ID_ToolExport 1075
+#define ID_ToolImport 1076
+#define ID_ToolUndoInstall 1077
 
 #define ID_ItmRename 1100
 #define ID_ItmDelete 1101
@@ -87,6 +90,9 @@
 #define ID_ItmMend 1121
 #define ID_ItmMoveColors 1122
 #define ID_ItmDriveList 1130  // 1130 stands for none; 1131 on, one for each fixed drive
+#define ID_ItmExport 1160
+#define ID_ItmImport 1161
+#define ID_ItmUndoInstall 1162
 
 // Splash and actual-size preview: 1180 to 1199
 #define ID_LblSplashVersion 1180

@@ -20,6 +20,12 @@ constexpr ToolWords kTools[] = {
     {"ToolBrowser", ID_ToolBrowser, "Logo &browser...", "Logo browser", "Logo"},
     {"ToolExplore", ID_ToolExplore, "&Explore", "Opens the folder in Explorer", "Logo"},
     {"ToolRefresh", ID_ToolRefresh, "&Refresh\tF5", "Refreshed the logo sets list", "Logo"},
+    {"", 0, "", "", ""},
+    {"ToolExport", ID_ToolExport, "E&xport...", "Export selected logo set", "Logo"},
+    {"ToolImport", ID_ToolImport, "&Import...", "Import logo sets", "Logo"},
+    {"", 0, "", "", ""},
+    {"ToolUndoInstall", ID_ToolUndoInstall, "&Undo install\tCtrl+Z",
+     "Bring back the previous screens", "Logo"},
 };
 
 using LogoMenu = Commanding;

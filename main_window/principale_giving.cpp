@@ -1,0 +1,98 @@
+// Giving sets away and taking them in, as ZIP files.
+#include "controls/window_place.h"
+#include "core/cm_dialog.h"
+#include "core/export_sets.h"
+#include "core/generali.h"
+#include "core/import_sets.h"
+#include "core/library.h"
+#include "main_window/principale.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
+
+namespace vistrel::main_window {
+namespace {
+
+constexpr const char* kZipFiles = "ZIP files (*.zip)|*.zip|All files (*.*)|*.*";
+
+}  // namespace
+
+void Principale::ItmExport_Click() {
+    if (!ASetIsSelected()) return;
+    const std::string name = MyList.ItemText(MyList.SelectedItem());
+    const std::string path =
+        core::ShowSaveDialog(handle(), kZipFiles, "Export logo set", name + ".zip", "zip");
+    if (path.empty()) return;
+    core::ExportResult result;
+    {
+        const platform::BusyPointer busy;
+        result = core::ExportSets(settings_.logoPath, {name}, path);
+    }
+    switch (result) {
+        case core::ExportResult::Written:
+            return;
+        case core::ExportResult::NoScreens:
+            platform::Tell(handle(),
+                           "There is nothing to export: " + name + " has no screens of its own.");
+            return;
+        case core::ExportResult::NotRead:
+            platform::Tell(handle(), "A screen of " + name + " cannot be read.");
+            return;
+        case core::ExportResult::NotWritten:
+            platform::Tell(handle(), path +
+                                         " cannot be written. The disk may be full, or the file "
+                                         "protected.");
+            return;
+    }
+}
+
+void Principale::ItmImport_Click() {
+    const std::string path =
+        core::CutAtNul(core::ShowOpenDialog(handle(), kZipFiles, "Import logo sets", ""));
+    if (path.empty()) return;
+    const auto last = ImportArchive(path);
+    if (!last) return;
+    EndInstalledView();
+    SelItem(*last);
+}
+
+/// Takes the sets of a ZIP file, but those that the user does not want to replace others. The name
+/// of the last one taken; empty when there is none.
+std::optional<std::string> Principale::ImportArchive(const std::string& path) {
+    core::UnpackedSets sets(core::AddBackslash(settings_.logoPath));
+    std::string fault;
+    {
+        const platform::BusyPointer busy;
+        fault = sets.Unpack(path);
+    }
+    if (!fault.empty()) {
+        TellOfArchive(path + " " + fault + ".");
+        return std::nullopt;
+    }
+    std::optional<std::string> last;
+    for (std::size_t i = 0; i < sets.Sets().size(); ++i) {
+        const std::string& name = sets.Sets()[i].name;
+        const bool exists = platform::IsFolder(settings_.logoPath + name);
+        if (exists && !ConfirmOverwriting(name)) continue;
+        if (!sets.Take(i)) {
+            TellOfArchive(name +
+                          " cannot be taken into the logo folder. A file of that name may be "
+                          "there, or one that is in use.");
+            continue;
+        }
+        // An existing set may have its name in other case, and be new to the list all the same.
+        const int listed = MyList.FindItemOfAnyCase(name);
+        if (listed < 0) MyList.AddItem(name, core::IconKeyOfSet(name));
+        last = listed < 0 ? name : MyList.ItemText(listed);
+    }
+    VisualizzaNumLogo();
+    return last;
+}
+
+void Principale::TellOfArchive(const std::string& text) {
+    // The file may come from another window, which is still the one in front.
+    controls::BringToFront(handle());
+    platform::Tell(handle(), text);
+}
+
+}  // namespace vistrel::main_window
