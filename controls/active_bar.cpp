@@ -38,6 +38,10 @@ platform::MenuHandle ActiveBar::MenuOf(const Band& band) {
     const HMENU menu = band.kind == BandKind::MenuBar ? CreateMenu() : CreatePopupMenu();
     menus_[band.name] = menu;
     for (const char* name : band.tools) {
+        if (!*name) {
+            AppendMenuA(menu, MF_SEPARATOR, 0, nullptr);
+            continue;
+        }
         const Tool& tool = *ToolOfName(name);
         const Band* opened = nullptr;
         for (const Band& other : bands_)

@@ -46,6 +46,8 @@
 #define ID_NumLogo 1010
 #define ID_LblDefaultLogo 1011
 #define ID_LblFaults 1012
+#define ID_LblFind 1020
+#define ID_FindBox 1021
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051
@@ -65,6 +67,9 @@
 #define ID_ToolBug 1065
 #define ID_MnuExit 1066
 #define ID_WhatIsThis 1067
+#define ID_ToolThumbnailView 1080
+#define ID_ToolLargerThumbnails 1081
+#define ID_ToolSmallerThumbnails 1082
 
 #define ID_ItmRename 1100
 #define ID_ItmDelete 1101
@@ -87,6 +92,7 @@
 #define ID_ItmMend 1121
 #define ID_ItmMoveColors 1122
 #define ID_ItmDriveList 1130  // 1130 stands for none; 1131 on, one for each fixed drive
+#define ID_ItmThumbnailView 1170
 
 // Splash and actual-size preview: 1180 to 1199
 #define ID_LblSplashVersion 1180

@@ -24,7 +24,8 @@ void ExpectTools(Principale& main, std::size_t menu, std::span<const ToolWords> 
     const auto rows = seen::RowsOf(seen::RowsOf(GetMenu(main.handle())).at(menu).opens);
     ASSERT_EQ(rows.size(), tools.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_FALSE(rows[i].separator);
+        EXPECT_EQ(rows[i].separator, *tools[i].name == 0);
+        if (rows[i].separator) continue;
         EXPECT_EQ(rows[i].id, static_cast<unsigned>(tools[i].id));
         EXPECT_EQ(rows[i].text, tools[i].menuText);
         ExpectTool(main, tools[i]);

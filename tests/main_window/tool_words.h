@@ -11,7 +11,7 @@
 namespace vistrel::test {
 
 struct ToolWords {
-    const char* name;
+    const char* name;  ///< empty for a line between commands
     int id;
     const char* menuText;  ///< caption and, behind a tab, the key
     const char* tip;
