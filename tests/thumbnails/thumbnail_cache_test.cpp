@@ -129,6 +129,17 @@ TEST_F(ThumbnailCache, ADamagedByteAnywhereLosesAPictureAtMostAndShowsNoWrongOne
     }
 }
 
+TEST_F(ThumbnailCache, DamageDoesNotMakeAnOldPictureTheNewScreens) {
+    KeepFirst(1);
+    std::string bytes = Bytes();
+    bytes[kHeader + 8] ^= 1;  // the time in the first row
+    Put(bytes);
+    Cache cache(file, kMost);
+    Source changed = SourceOf(0);
+    changed.modified ^= 1;
+    EXPECT_EQ(cache.Find(changed), std::nullopt);
+}
+
 TEST_F(ThumbnailCache, AFileCutShortAnywhereOrFullOfOtherBytesIsHarmless) {
     KeepFirst(3);
     const std::string good = Bytes();
