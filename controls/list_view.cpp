@@ -41,21 +41,6 @@ void ListView::LoadIcons(int bitmapResource, long transparent,
     SendPointer(LVM_SETIMAGELIST, LVSIL_SMALL, icons);
 }
 
-void ListView::AddColumn(const std::string& heading, int width) {
-    LVCOLUMNA column{};
-    column.mask = LVCF_TEXT | LVCF_WIDTH;
-    column.cx = width;
-    column.pszText = const_cast<char*>(heading.c_str());
-    SendPointer(LVM_INSERTCOLUMNA, 0, &column);
-}
-
-void ListView::SetColumnWidth(int width) { Send(LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width, 0)); }
-
-void ListView::FitColumn() {
-    SetColumnWidth(PlaceOnScreen(handle()).width - 2 * GetSystemMetrics(SM_CXEDGE) -
-                   GetSystemMetrics(SM_CXVSCROLL));
-}
-
 int ListView::Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
 
 int ListView::AddItem(const std::string& text, const std::string& iconKey) {
@@ -193,35 +178,10 @@ void ListView::EnsureVisible(int index) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
 }
 
-int ListView::TopItem() const { return static_cast<int>(Send(LVM_GETTOPINDEX)); }
-
-void ListView::ScrollTo(int top) {
-    // Coming from below, the item ends up as the first one.
-    EnsureVisible(Count() - 1);
-    EnsureVisible(top);
-}
-
 int ListView::HitTest(Point at) const {
     LVHITTESTINFO hit{};
     hit.pt = {at.x, at.y};
     return static_cast<int>(SendPointer(LVM_HITTEST, 0, &hit));
-}
-
-ListViewMode ListView::Mode() const {
-    return (GetWindowLongA(handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT ? ListViewMode::Report
-                                                                              : ListViewMode::List;
-}
-
-void ListView::SetMode(ListViewMode mode) {
-    const LONG style = GetWindowLongA(handle(), GWL_STYLE) & ~LVS_TYPEMASK;
-    SetWindowLongA(handle(), GWL_STYLE,
-                   style | (mode == ListViewMode::Report ? LVS_REPORT : LVS_LIST));
-    if (columnFills_ && mode == ListViewMode::Report) {
-        RECT r{};
-        GetClientRect(handle(), &r);
-        SetColumnWidth(static_cast<int>(r.right));
-    }
-    Repaint();
 }
 
 void ListView::SuspendPainting() { Send(WM_SETREDRAW, FALSE); }
@@ -310,6 +270,11 @@ std::intptr_t ListView::OnNotify(void* header) {
             if (MouseUp) MouseUp(button, {static_cast<int>(at.x), static_cast<int>(at.y)});
             return 1;
         }
+        case LVN_COLUMNCLICK:
+            if (HeadingClick) HeadingClick();
+            return 0;
+        case NM_CUSTOMDRAW:
+            return OnCustomDraw(header);
         case NM_DBLCLK:
             if (DblClick) DblClick();
             return 0;
@@ -331,6 +296,7 @@ bool ListView::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t 
     // Releases arrive as NM_CLICK and NM_RCLICK. The right button's is a message of its own where
     // the control saw the beginning of a drag: the hand was not steady.
     if (message == WM_LBUTTONUP) return false;
+    if (IsZoom(message, wParam)) return true;
     if (message == WM_DESTROY) dropTarget_.reset();
     if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
         pressedAt_ = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};

@@ -1,5 +1,5 @@
-// A list of items with small icons, as a list or as a report of one column, whose labels can be
-// edited in place. Items are numbered from 0.
+// A list of items with small icons, as a list, as a report of one column or as pictures with names
+// under them, whose labels can be edited in place. Items are numbered from 0.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@
 
 namespace vistrel::controls {
 
-enum class ListViewMode { List = 2, Report = 3 };
+enum class ListViewMode { Pictures = 0, List = 2, Report = 3 };
 
 class FileDropTarget;
 
@@ -64,6 +64,16 @@ class ListView : public Control {
     ListViewMode Mode() const;
     void SetMode(ListViewMode mode);
 
+    /// The size of the pictures of the view of that name.
+    void SetPictureSize(Size size);
+    Size PictureSize() const { return pictureSize_; }
+    /// How many pictures cover as much as the whole list.
+    int PicturesInView() const;
+    /// Whether any of the item's picture is in sight.
+    bool IsInView(int index) const;
+    /// Paints an item now, not when messages have been handled.
+    void RepaintItem(int index);
+
     /// Between these nothing is painted; the end paints all once.
     void SuspendPainting();
     void ResumePainting();
@@ -90,6 +100,15 @@ class ListView : public Control {
     /// What stands in an item's label while it is being edited, at each change; when editing ends
     /// without a new text, once more what stood there before.
     std::function<void(const std::string& text)> LabelChange;
+    /// The heading of the report's column was clicked.
+    std::function<void()> HeadingClick;
+    /// Paints an item's picture at a point; false when there is none to paint.
+    std::function<bool(platform::DeviceContext target, int index, Point at)> PaintPicture;
+    /// The keys of the icons that an item's picture bears.
+    std::function<std::vector<std::string>(int index)> PictureMarks;
+    /// The user asks for larger pictures (1) or smaller ones (-1): by the wheel or the keys + and
+    /// -, with Ctrl.
+    std::function<void(int steps)> Zoom;
     /// Files and folders were dropped on the list: their full paths.
     std::function<void(const std::vector<std::string>& paths)> OLEDragDrop;
 
@@ -107,6 +126,14 @@ class ListView : public Control {
 
  private:
     void SetColumnWidth(int width);
+    void MakeRoomForPictures();
+    int TopPicture() const;
+    bool IsZoom(unsigned message, std::uintptr_t wParam);
+    std::intptr_t OnCustomDraw(const void* draw);
+    void PaintItem(platform::DeviceContext target, int index);
+    void PaintBlank(platform::DeviceContext target, int index, const Rect& place);
+    void PaintMarks(platform::DeviceContext target, int index, const Rect& place);
+    platform::ImageListHandle Icons() const;
     /// Number of the first item behind `after` with this text, whatever the case; -1 for none.
     int NextItem(const std::string& text, int after) const;
     int IconNumber(const std::string& key) const;
@@ -118,6 +145,7 @@ class ListView : public Control {
 
     std::vector<std::string> iconKeys_;
     bool columnFills_ = false;
+    Size pictureSize_;
     bool selectingByCode_ = false;
     Point pressedAt_;
     bool clickTold_ = false;  ///< ItemClick has run for the press that goes on

@@ -56,6 +56,8 @@ void EndSession() {
         (*window)->SessionEnds();
 }
 
+bool InputIsWaiting() { return HIWORD(GetQueueStatus(QS_INPUT)) != 0; }
+
 void RunLoopWhileOpen(const Window& window) {
     MSG message{};
     while (window.IsOpen()) {

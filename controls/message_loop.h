@@ -19,6 +19,9 @@ Window* OpenWindowOf(platform::WindowHandle handle);
 /// they keep the same again.
 void EndSession();
 
+/// Whether the user has pressed, typed or moved something that has not been handled yet.
+bool InputIsWaiting();
+
 /// Runs until this window has been closed, or the program is to end.
 void RunLoopWhileOpen(const Window& window);
 

@@ -15,4 +15,9 @@ void Timer::SetEnabled(bool enabled) {
     }
 }
 
+void Timer::TickSoon() {
+    SetEnabled(true);
+    PostMessageA(window_, WM_TIMER, reinterpret_cast<WPARAM>(this), 0);
+}
+
 }  // namespace vistrel::controls

@@ -19,6 +19,8 @@ class Timer {
     bool Enabled() const { return enabled_; }
     /// Starting it anew begins a whole interval.
     void SetEnabled(bool enabled);
+    /// Starts it, and its first tick comes as soon as what is being handled is done.
+    void TickSoon();
 
     std::function<void()> Tick;
 

@@ -66,6 +66,8 @@ constexpr SettingRow kRows[] = {
     {"WindowHeight", &Settings::windowHeight, Rule::Number, 17},
     {"WindowMaximized", &Settings::windowMaximized, Rule::Number, 18},
     {"AutoshowAnimation", &Settings::autoshowAnimation, Rule::Number, 19},
+    {"Thumbnails", &Settings::thumbnails, Rule::UpToOne, 20},
+    {"ThumbnailSize", &Settings::thumbnailSize, Rule::Number, 21},
 };
 
 /// Whether each place in the order of reading belongs to exactly one row.

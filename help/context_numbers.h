@@ -103,5 +103,6 @@ inline constexpr unsigned long DefaultLogo = 84;
 inline constexpr unsigned long LogoType = 85;
 inline constexpr unsigned long NumLogo = 86;
 inline constexpr unsigned long LblFaults = 87;
+inline constexpr unsigned long FindBox = 89;
 
 }  // namespace vistrel::help_number

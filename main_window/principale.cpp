@@ -23,6 +23,11 @@ constexpr int kTwipsPerInch = 1440;
 constexpr unsigned kBrowserDelay = 50;
 /// A timer's tick comes when all else is done: the window is there, and drawn.
 constexpr unsigned kNoDelay = 1;
+/// The list follows the box "Find:" when nothing has been typed for so long: while a word is
+/// typed, a list of thousands would be filled for each letter.
+constexpr unsigned kFindDelay = 60;
+/// In the program's folder.
+constexpr const char* kThumbnailFile = "thumbnails.dat";
 
 }  // namespace
 
@@ -31,7 +36,15 @@ Principale::Principale(core::SystemLocations locations)
       ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
       dropTimer_(kNoDelay),
-      locations_(std::move(locations)) {
+      idleTimer_(kNoDelay),
+      findTimer_(kFindDelay),
+      locations_(std::move(locations)),
+      thumbnails_(
+          MyList, idleTimer_,
+          [this](const std::string& set) {
+              return core::LogoSet{settings_.logoPath, set}.Screens()[0];
+          },
+          locations_.programFolder + kThumbnailFile) {
     // The list and the pictures have menus of their own at the right button, and F1 means the
     // help's contents here: only what cannot have the focus answers what it is.
     const controls::Part parts[] = {
@@ -47,10 +60,14 @@ Principale::Principale(core::SystemLocations locations)
         {LblFaults, ID_LblFaults, help_number::LblFaults},
         {LogoType, ID_LogoType, help_number::LogoType},
         {NumLogo, ID_NumLogo, help_number::NumLogo},
+        {LblFind, ID_LblFind, help_number::FindBox},
+        {FindBox, ID_FindBox, help_number::FindBox, "Shows the sets whose names hold this text"},
     };
     AddParts(parts);
     Add(Timer1);
     Add(dropTimer_);
+    Add(idleTimer_);
+    Add(findTimer_);
 
     ActiveBar1.Click = [this](const controls::Tool& tool) { ActiveBar1_Click(tool); };
     ActiveBar1.PreCustomizeMenu = [](bool& cancel) { cancel = true; };
@@ -65,6 +82,14 @@ Principale::Principale(core::SystemLocations locations)
     MyList.OLEDragDrop = [this](const std::vector<std::string>& paths) {
         MyList_OLEDragDrop(paths);
     };
+    MyList.HeadingClick = [this] { MyList_HeadingClick(); };
+    FindBox.Change = [this] { FindBox_Change(); };
+    findTimer_.Tick = [this] { ShowFoundSets(); };
+    MyList.PaintPicture = [this](platform::DeviceContext target, int index, controls::Point at) {
+        return thumbnails_.Paint(target, index, at);
+    };
+    MyList.PictureMarks = [this](int index) { return MarksOf(index); };
+    MyList.Zoom = [this](int steps) { ZoomThumbnails(steps); };
     MyList.ContextMenu = [this](controls::Point screen, bool byKeyboard) {
         if (byKeyboard && !savedView_) ActiveBar1.PopUp("LogoBand", screen);
     };
@@ -85,7 +110,7 @@ Principale::~Principale() = default;
 void Principale::Form_Load() {
     classicMenus_ = controls::LoadMenuResource(IDM_Principale);
     ActiveBar1.Attach(*this, ID_ActiveBar1, IDB_Toolbar, kToolbarTransparent);
-    MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo"});
+    MyList.LoadIcons(IDB_List, kToolbarTransparent, {"singlelogo", "multilogo", kInstalledMark});
     DefaultLogo.SetFont({.bold = true});
     DefaultLogo.SetForeColor(controls::kBlue);
     LblFaults.SetForeColor(controls::kDarkRed);
@@ -100,7 +125,10 @@ void Principale::Form_Load() {
     bootLogoOption_ = core::ReadBootLogoOption(locations_.BootConfigurationFile());
 
     settings_ = core::LoadSettings(locations_);
+    MyList.SetPictureSize(SetThumbnails::SizeOf(settings_.thumbnailSize));
+    const bool thumbnails = settings_.thumbnails == 1;
     ItmViewType_Click(settings_.view);
+    if (thumbnails) ViewAsThumbnails();
     ShowCustomProgramName();
     SetAnimationShown(settings_.autoshowAnimation != 0);
     PutBackWindow();
@@ -138,7 +166,6 @@ void Principale::CloseAll() {
     if (bootLogoOptionChanged_) state.changedBootOption = bootLogoOption_;
     state.companionWanted = companionWanted_;
     state.settings = settings_;
-    state.settings.view = MenuMark(ID_ItmViewType) ? 0 : 1;
     state.settings.defaultLogoSet = InstalledSet().value_or("");
     const controls::WindowPlace place = controls::PlaceOf(handle());
     state.settings.windowLeft = static_cast<std::int16_t>(place.normal.left);
@@ -174,7 +201,12 @@ void Principale::Form_Resize(controls::Size client) {
     const int left = client.width - edge - panel;
 
     const int listWidth = left - gap - edge;
-    MyList.MoveTo({edge, top, listWidth, height - line - 4});
+    const int findLabel = LblFind.Bounds().width;
+    const int findHeight = FindBox.Bounds().height;
+    LblFind.MoveTo({edge, top + (findHeight - line) / 2, findLabel, line});
+    FindBox.MoveTo({edge + findLabel + edge, top, listWidth - findLabel - edge, findHeight});
+    const int above = findHeight + edge;
+    MyList.MoveTo({edge, top + above, listWidth, height - above - line - 4});
     const int below = client.height - edge - line;
     // The count line begins with a blank.
     NumLogo.MoveTo({edge - 2, below, listWidth / 2, line});

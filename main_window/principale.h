@@ -13,10 +13,13 @@
 #include "controls/list_view.h"
 #include "controls/owned_handle.h"
 #include "controls/picture_box.h"
+#include "controls/text_box.h"
 #include "controls/timer.h"
 #include "controls/window.h"
+#include "core/found_sets.h"
 #include "core/previous_screens.h"
 #include "editor/host.h"
+#include "main_window/set_thumbnails.h"
 #include "main_window/tool_table.h"
 #include "options/host.h"
 
@@ -38,8 +41,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void LeggiDatiDisco() override;
 
     // EditorHost
-    std::vector<std::string> SetNames() const override;
-    int SelectedSet() const override { return MyList.SelectedItem(); }
+    std::vector<std::string> SetNames() const override { return sets_; }
+    int SelectedSet() const override;
     void VisualizzaNumLogo() override;
     std::optional<std::string> InstalledSet() const override;
     void SetInstalledSet(const std::optional<std::string>& name) override;
@@ -77,6 +80,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     controls::Label LblFaults;  ///< what is wrong with the screens that are shown
     controls::Label LogoType;
     controls::Label NumLogo;
+    controls::Label LblFind;
+    controls::TextBox FindBox;
     controls::Timer Timer1;
 
  protected:
@@ -86,6 +91,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void Form_Resize(controls::Size client) override;
     bool Form_KeyDown(int key) override;
     void Form_KeyUp(int key) override;
+    void Form_DisplayChange() override;
     void MenuCommand(int id) override;
     bool Form_ContextMenu(controls::Point screen) override;
     void MenuOpens(platform::MenuHandle menu) override;
@@ -115,6 +121,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool MyList_BeforeLabelEdit();
     bool MyList_AfterLabelEdit(const std::string& newName);
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
+    void MyList_HeadingClick();
+    void FindBox_Change();
     void Imag_MouseUp(int index, int button, controls::Point at);
     void MnuListLogo_Click();
     void ShowDrives(platform::MenuHandle menu);
@@ -129,6 +137,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void itmRefresh_Click();
     void ViewAsList();
     void ViewAsReport();
+    void ViewAsThumbnails();
+    void LargerThumbnails() { ZoomThumbnails(1); }
+    void SmallerThumbnails() { ZoomThumbnails(-1); }
     void ItmViewType_Click(int index);
     void ToggleShowCurrent();
     void ItmViewDefOrActual_Click();
@@ -150,6 +161,11 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void CheckSetCommands();
     void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
+    void ShowListAs(controls::ListViewMode mode);
+    void CheckViews();
+    void ZoomThumbnails(int steps);
+    void ForgetThumbnails();
+    std::vector<std::string> MarksOf(int index) const;
     void ShowScreens(const std::array<std::string, 3>& paths);
     void ClearScreens();
     void ShowFaults();
@@ -161,6 +177,13 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowSetScreens();
     void LeaveInstalledView();
     void EndInstalledView();
+    void FillList();
+    void ShowFoundSets();
+    void ShowAllSets();
+    void LeaveFindBox();
+    void AddSet(const std::string& name);
+    void ReplaceSet(const std::string& from, const std::string& to);
+    void RemoveSet(const std::string& name);
     ListPlace PlaceInList() const;
     void ReturnTo(const ListPlace& place);
     void SelectAfterDelete(int index);
@@ -189,8 +212,13 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     };
 
     controls::Timer dropTimer_;
+    controls::Timer idleTimer_;
+    controls::Timer findTimer_;
     core::SystemLocations locations_;
     core::Settings settings_;
+    SetThumbnails thumbnails_;
+    std::vector<std::string> sets_;  ///< all of them, as the logo folder lists them
+    core::SetOrder order_ = core::SetOrder::Folder;
     bool installedSetListed_ = false;  ///< the setting names a set of the list
     controls::OwnedMenu classicMenus_;
     std::int16_t bootLogoOption_ = 1;

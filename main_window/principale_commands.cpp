@@ -44,7 +44,11 @@ void Principale::ActiveBar1_Click(const controls::Tool& tool) {
 void Principale::MenuCommand(int id) {
     if (ActiveBar1.OnCommand(id)) return;
     if (OpenWithCommand(id, handle())) return;
-    if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected()) InstallOrBrowse();
+    if (id == ID_BtnCancel) ShowAllSets();
+    if (id == ID_BtnOK && FindBox.HasFocus())
+        LeaveFindBox();
+    else if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected())
+        InstallOrBrowse();
     if (id == ID_ItmViewDefOrActual) ItmViewDefOrActual_Click();
     if (id == ID_ItmMoveColors) ItmMoveColors_Click();
     for (const MainTool& row : Tools())
@@ -150,6 +154,7 @@ void Principale::ItmDelete_Click() {
     if (!editor::EliminaLogoSet(handle(), *this, set.Path(), name, "")) return;
     if (InstalledSet() == name) SetInstalledSet(std::nullopt);
     MyList.RemoveItem(index);
+    RemoveSet(name);
     SelectAfterDelete(index);
     VisualizzaNumLogo();
 }

@@ -16,12 +16,6 @@
 #include "platform/pointer.h"
 
 namespace vistrel::main_window {
-std::vector<std::string> Principale::SetNames() const {
-    std::vector<std::string> names;
-    for (int i = 0; i < MyList.Count(); ++i) names.push_back(MyList.ItemText(i));
-    return names;
-}
-
 std::optional<std::string> Principale::InstalledSet() const {
     if (!installedSetListed_) return std::nullopt;
     return settings_.defaultLogoSet;
@@ -31,6 +25,7 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
     settings_.defaultLogoSet = name.value_or("");
     installedSetListed_ = name.has_value();
     ShowInstalledSet();
+    if (MyList.Mode() == controls::ListViewMode::Pictures) MyList.Repaint();  // its mark
 }
 
 void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
@@ -48,14 +43,11 @@ void Principale::LeggiDatiDisco() {
     if (installedShown) LeaveInstalledView();
 
     const platform::BusyPointer busy;  // there may be thousands of sets
-    installedSetListed_ = false;
-    MyList.SuspendPainting();
-    MyList.Clear();
-    core::ForEachLogoSet(core::AddBackslash(settings_.logoPath), [&](const std::string& name) {
-        if (name == settings_.defaultLogoSet) installedSetListed_ = true;
-        MyList.AddItem(name, core::IconKeyOfSet(name));
-    });
-    MyList.ResumePainting();
+    thumbnails_.Forget();
+    sets_ = core::LogoSetNames(settings_.logoPath);
+    installedSetListed_ =
+        std::find(sets_.begin(), sets_.end(), settings_.defaultLogoSet) != sets_.end();
+    FillList();
     ShowListaLogo();
     VisualizzaNumLogo();
     if (installedSetListed_) SelItem(settings_.defaultLogoSet);
@@ -171,6 +163,7 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
         return false;
     }
     MyList.SetItemText(edited, newName);
+    ReplaceSet(oldName_, newName);
     SelItem(newName);
     if (InstalledSet() == oldName_) SetInstalledSet(newName);
     // The label shows the folder's name by now, which is not always the text as it was typed.
@@ -200,6 +193,7 @@ bool Principale::ConfirmOverwriting(const std::string& name) {
 void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
     bool showLast = false;
     std::string name;
+    ShowAllSets();
     for (std::string path : paths) {
         showLast = false;
         if (core::IsArchiveName(path) && !platform::IsFolder(path)) {
@@ -214,7 +208,7 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
         if (exists && !ConfirmOverwriting(name)) continue;
         // Whether it could be copied is not asked: the list catches up at the next refresh.
         core::ImportSet(handle(), path, settings_.logoPath);
-        if (!exists) MyList.AddItem(name, core::IconKeyOfSet(name));
+        if (!exists) AddSet(name);
         showLast = true;
     }
     if (!showLast) return;

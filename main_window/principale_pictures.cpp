@@ -61,6 +61,7 @@ void Principale::ItmMend_Click(platform::WindowHandle owner) {
     if (!boot_show::AskAndMend(owner, currentPicture_)) return;
     RedrawScreens();
     ShowFaults();
+    ForgetThumbnails();
 }
 
 bool Principale::AnimationShown() const { return MenuMark(ID_ItmAnimate); }

@@ -1,5 +1,7 @@
 // How the main window shows its sets: as a list or a report, or in their place the screens that are
 // installed now.
+#include <algorithm>
+
 #include "controls/menu.h"
 #include "core/library.h"
 #include "main_window/principale.h"
@@ -17,15 +19,68 @@ void Principale::ViewAsList() { ItmViewType_Click(0); }
 
 void Principale::ViewAsReport() { ItmViewType_Click(1); }
 
+void Principale::ViewAsThumbnails() { ShowListAs(controls::ListViewMode::Pictures); }
+
 void Principale::ItmViewType_Click(int index) {
+    settings_.view = static_cast<std::int16_t>(index);
+    ShowListAs(index == 0 ? controls::ListViewMode::List : controls::ListViewMode::Report);
+}
+
+void Principale::ShowListAs(controls::ListViewMode mode) {
     const int top = MyList.TopItem();
-    MyList.SetMode(index == 0 ? controls::ListViewMode::List : controls::ListViewMode::Report);
+    MyList.SetMode(mode);
     MyList.ScrollTo(top);
     if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
-    ActiveBar1.SetChecked("ToolListView", index == 0);
-    ActiveBar1.SetChecked("ToolReportView", index != 0);
-    controls::SetMenuMark(classicMenus_, ID_ItmViewType, index == 0);
-    controls::SetMenuMark(classicMenus_, ID_ItmViewType + 1, index != 0);
+    settings_.thumbnails = mode == controls::ListViewMode::Pictures ? 1 : 0;
+    CheckViews();
+}
+
+void Principale::CheckViews() {
+    const struct {
+        const char* tool;
+        int item;
+        controls::ListViewMode mode;
+    } views[] = {
+        {"ToolListView", ID_ItmViewType, controls::ListViewMode::List},
+        {"ToolReportView", ID_ItmViewType + 1, controls::ListViewMode::Report},
+        {"ToolThumbnailView", ID_ItmThumbnailView, controls::ListViewMode::Pictures},
+    };
+    for (const auto& view : views) {
+        ActiveBar1.SetChecked(view.tool, MyList.Mode() == view.mode);
+        controls::SetMenuMark(classicMenus_, view.item, MyList.Mode() == view.mode);
+    }
+    const int size = settings_.thumbnailSize;
+    const bool thumbnails = settings_.thumbnails == 1;
+    ActiveBar1.SetEnabled("ToolLargerThumbnails", thumbnails && size < SetThumbnails::kLargest);
+    ActiveBar1.SetEnabled("ToolSmallerThumbnails", thumbnails && size > SetThumbnails::kSmallest);
+}
+
+void Principale::ZoomThumbnails(int steps) {
+    const int size = std::clamp(settings_.thumbnailSize + steps, SetThumbnails::kSmallest,
+                                SetThumbnails::kLargest);
+    if (size == settings_.thumbnailSize) return;
+    settings_.thumbnailSize = static_cast<std::int16_t>(size);
+    const int top = MyList.TopItem();
+    thumbnails_.Forget();
+    MyList.SetPictureSize(SetThumbnails::SizeOf(size));
+    MyList.ScrollTo(top);
+    if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
+    CheckViews();
+}
+
+void Principale::ForgetThumbnails() {
+    thumbnails_.Forget();
+    if (MyList.Mode() == controls::ListViewMode::Pictures) MyList.Repaint();
+}
+
+void Principale::Form_DisplayChange() { ForgetThumbnails(); }
+
+std::vector<std::string> Principale::MarksOf(int index) const {
+    std::vector<std::string> marks;
+    const std::string name = MyList.ItemText(index);
+    if (core::IsSingleLogoSet(name)) marks.push_back(core::IconKeyOfSet(name));
+    if (InstalledSet() == name) marks.push_back(kInstalledMark);
+    return marks;
 }
 
 Principale::ListPlace Principale::PlaceInList() const {

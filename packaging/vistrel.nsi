@@ -107,6 +107,7 @@ UninstPage instfiles
     Delete "${FOLDER}\Mirrorkin.exe"
     Delete "${FOLDER}\${CONVERTER}"
     Delete "${FOLDER}\Mirrorkin.ini"
+    Delete "${FOLDER}\thumbnails.dat"
     Delete "${FOLDER}\Rotaline.lnk"
     Delete "${FOLDER}\Shufflet.lnk"
     !insertmacro ReadFirstLine "${FOLDER}"

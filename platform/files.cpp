@@ -36,8 +36,9 @@ std::string NameOf(const WIN32_FIND_DATAA& found) {
 }
 
 FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
-    return {NameOf(found), found.dwFileAttributes,
-            (static_cast<std::uint64_t>(found.nFileSizeHigh) << 32) | found.nFileSizeLow};
+    const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
+    return {NameOf(found), found.dwFileAttributes, joined(found.nFileSizeHigh, found.nFileSizeLow),
+            joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)};
 }
 
 // Windows 95 does not know a folder by a name that ends in a backslash, other than a drive's root.

@@ -23,6 +23,7 @@ struct FolderEntry {
     std::string name;  ///< the short one (8.3) where the code page lacks letters of the long one
     std::uint32_t attributes = 0;
     std::uint64_t size = 0;
+    std::uint64_t modified = 0;  ///< when it was last changed; counts up
 
     bool IsFolder() const { return (attributes & kDirectory) != 0; }
 };

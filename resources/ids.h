@@ -46,6 +46,8 @@
 #define ID_NumLogo 1010
 #define ID_LblDefaultLogo 1011
 #define ID_LblFaults 1012
+#define ID_LblFind 1020
+#define ID_FindBox 1021
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051
@@ -68,6 +70,9 @@
 #define ID_ToolExport 1075
 #define ID_ToolImport 1076
 #define ID_ToolUndoInstall 1077
+#define ID_ToolThumbnailView 1080
+#define ID_ToolLargerThumbnails 1081
+#define ID_ToolSmallerThumbnails 1082
 
 #define ID_ItmRename 1100
 #define ID_ItmDelete 1101
@@ -93,6 +98,7 @@
 #define ID_ItmExport 1160
 #define ID_ItmImport 1161
 #define ID_ItmUndoInstall 1162
+#define ID_ItmThumbnailView 1170
 
 // Splash and actual-size preview: 1180 to 1199
 #define ID_LblSplashVersion 1180

@@ -5,7 +5,7 @@
 //   vistrel.ico, rotaline.ico,     16, 32 and 48 pixels, in 16 and in 256 colours
 //   shufflet.ico, mirrorkin.ico
 //   toolbar.bmp    13 pictures of 16 x 16
-//   list.bmp       2 pictures of 16 x 16
+//   list.bmp       3 pictures of 16 x 16
 //   browser.bmp    3 pictures of 16 x 16
 //   drives.bmp     5 pictures of 16 x 16
 //   drag.ico       a picture being dragged, 16 colours

@@ -27,6 +27,26 @@ const Rows kMultiLogo = {
     "................",
 };
 
+// A green tick: the set that is installed.
+const Rows kInstalled = {
+    "................",
+    "..............k.",
+    ".............kgk",
+    "............kGgk",
+    "...........kGgk.",
+    "..........kGgk..",
+    "..k......kGgk...",
+    ".kgk....kGgk....",
+    "kGggk..kGgk.....",
+    ".kGggkkGgk......",
+    "..kGggGgk.......",
+    "...kGggk........",
+    "....kgk.........",
+    ".....k..........",
+    "................",
+    "................",
+};
+
 const Rows kClosedFolder = {
     "................",
     "................",
@@ -184,7 +204,7 @@ Grid NetworkDrive() {
 
 }  // namespace
 
-Grid ListPictures() { return Strip({SmallMonitor(), Grid(kMultiLogo)}); }
+Grid ListPictures() { return Strip({SmallMonitor(), Grid(kMultiLogo), Grid(kInstalled)}); }
 
 Grid BrowserPictures() {
     return Strip({Grid(kClosedFolder), Grid(kScreenFile), Grid(kPictureFile)});

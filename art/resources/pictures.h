@@ -9,7 +9,7 @@ namespace vistrel::art {
 /// Contents, About, Preferences, Tutorial, Bug.
 Grid ToolbarPictures();
 
-/// The list of sets, 16 x 16 each: singlelogo, multilogo.
+/// The list of sets, 16 x 16 each: singlelogo, multilogo, installed.
 Grid ListPictures();
 
 /// The editor's list, 16 x 16 each: closed (a folder), sys (a screen file), im (another picture).

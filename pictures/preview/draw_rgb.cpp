@@ -1,7 +1,6 @@
 #include "pictures/preview/draw_rgb.h"
 
 #include <new>
-#include <vector>
 
 #include "controls/display_palette.h"
 #include "pictures/screen/display_dither.h"
@@ -20,7 +19,8 @@ struct BitmapHeader {
     const BITMAPINFO* info() const { return reinterpret_cast<const BITMAPINFO*>(this); }
 };
 
-/// Rows of blue, green, red, each padded to a multiple of four bytes, as Windows draws them.
+}  // namespace
+
 std::vector<std::uint8_t> BlueGreenRedRows(const std::uint8_t* rgb, int width, int height) {
     const std::size_t stride = (static_cast<std::size_t>(width) * 3 + 3) & ~std::size_t{3};
     std::vector<std::uint8_t> rows(stride * height);
@@ -34,8 +34,6 @@ std::vector<std::uint8_t> BlueGreenRedRows(const std::uint8_t* rgb, int width, i
     }
     return rows;
 }
-
-}  // namespace
 
 void ImgDLLDrawRGB(platform::DeviceContext target, const std::uint8_t* rgb, int pixelWidth,
                    int pixelHeight, int x, int y, int width, int height, int) try {

@@ -195,6 +195,11 @@ TEST_F(Layout, OfTheMainWindow) {
     Look(main, "main-list");
     Command(main, ID_ItmViewType + 1);
     Look(main, "main-report");
+    Command(main, ID_ItmThumbnailView);
+    Look(main, "main-thumbnails");
+    main.FindBox.SetText("e");
+    Look(main, "main-finding");
+    Command(main, ID_ItmViewType + 1);
     PutScreens(boot, "installed");
     main.Preferences().bootRoot = boot;
     Command(main, ID_ToolShowCurrent);

@@ -12,6 +12,7 @@
 #include "pictures/bmp/writer.h"
 #include "pictures/convert.h"
 #include "pictures/imgdll.h"
+#include "pictures/preview/ready_picture.h"
 #include "pictures/read_picture.h"
 #include "platform/display_colors.h"
 #include "tests/support/main_window/main_window_fixture.h"
@@ -225,6 +226,19 @@ TEST_F(PaletteDisplay, KeepsTheColorsOfAPictureThatIsAdjusted) {
     Open(adjust);
     const Error error = BlockError(Shown(adjust.ScreenBox), Wanted(adjust.ScreenBox));
     user::TakeShot("adjust-256-colours");
+    EXPECT_LT(error.mean, 2);
+    EXPECT_LT(error.largest, 12);
+}
+
+TEST_F(PaletteDisplay, KeepsTheColorsOfThumbnailsByDithering) {
+    Store("Thumbnails", TextValue("1"));
+    Principale main(locations);
+    Open(main);
+    user::TakeShot("thumbnails-256-colours");
+    const RgbPicture wanted = ReadPicturePreview(screen, 96, 72)->picture;
+    const Screen display;
+    ASSERT_TRUE(preview::ReadyPicture(wanted).Paint(display.dc, 0, 0));
+    const Error error = BlockError(Corner(96, 72), wanted);
     EXPECT_LT(error.mean, 2);
     EXPECT_LT(error.largest, 12);
 }

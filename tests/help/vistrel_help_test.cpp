@@ -154,7 +154,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ControlTitle{help_number::DefaultLogo, "Default logo set"},
                     ControlTitle{help_number::LogoType, "Type of the set"},
                     ControlTitle{help_number::NumLogo, "Number of sets"},
-                    ControlTitle{help_number::LblFaults, "What is wrong with a screen"}));
+                    ControlTitle{help_number::LblFaults, "What is wrong with a screen"},
+                    ControlTitle{help_number::FindBox, "Find"}));
 
 TEST(VistrelHelp, EveryTopicIsReachedFromTheContentsOrByANumber) {
     const ReadHelp& help = VistrelHelp();

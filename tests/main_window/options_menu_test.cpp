@@ -21,6 +21,11 @@ constexpr ToolWords kTools[] = {
      "Show current logo setting", "Options"},
     {"ToolRandom", ID_ToolRandom, "Rando&m Change", "Random change", "Options"},
     {"ToolPrefer", ID_ToolPrefer, "&Preferences...", "", "Options"},
+    {"", 0, "", "", ""},
+    {"ToolThumbnailView", ID_ToolThumbnailView, "View as &thumbnails", "", "Options"},
+    {"ToolLargerThumbnails", ID_ToolLargerThumbnails, "Lar&ger thumbnails\tCtrl++", "", "Options"},
+    {"ToolSmallerThumbnails", ID_ToolSmallerThumbnails, "&Smaller thumbnails\tCtrl+-", "",
+     "Options"},
 };
 
 using OptionsMenu = Commanding;
@@ -103,7 +108,9 @@ TEST_F(OptionsMenu, TheMenuOfTheDrivesHasEachFixedOneOnceAndMarksThatOfTheStartu
             main.Preferences().bootRoot = root;
             user::RightClickAt(corner);
             const HMENU menu = user::WaitForPopUp();
-            const HMENU drives = seen::RowsOf(menu).back().opens;
+            const HMENU drives = seen::RowsOf(menu).at(9).opens;
+            // From the end, past the thumbnails.
+            user::Press(VK_UP);
             user::Press(VK_UP);
             user::Press(VK_RIGHT);
             EXPECT_TRUE(WaitUntil([&] {

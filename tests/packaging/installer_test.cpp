@@ -194,7 +194,7 @@ TEST_F(Installer, LeavesNothingBehindWhenUninstalled) {
     ASSERT_EQ(InstallSilently(), 0u);
     // What use leaves: settings, the help viewer's lists, Mirrorkin's notes.
     Store("DefaultLogoSet", TextValue("Sunny Day"));
-    for (const char* name : {"vistrl.gid", "vistrl.fts", "Mirrorkin.ini"}) {
+    for (const char* name : {"vistrl.gid", "vistrl.fts", "Mirrorkin.ini", "thumbnails.dat"}) {
         Put(kProgramFolder + name, "notes");
         GiveAttributes(kProgramFolder + name, FILE_ATTRIBUTE_HIDDEN);
     }

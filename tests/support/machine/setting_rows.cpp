@@ -28,6 +28,8 @@ const std::vector<SettingRow>& SettingRows() {
         {"WindowHeight", &Settings::windowHeight, 17, "452"},
         {"WindowMaximized", &Settings::windowMaximized, 18, "1"},
         {"AutoshowAnimation", &Settings::autoshowAnimation, 19, "1"},
+        {"Thumbnails", &Settings::thumbnails, 20, "1", 0, 0, 1},
+        {"ThumbnailSize", &Settings::thumbnailSize, 21, "-2"},
     };
     return rows;
 }

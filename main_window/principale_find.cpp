@@ -1,0 +1,92 @@
+// The box "Find:" over the list, and the order of the list.
+#include <algorithm>
+#include <utility>
+
+#include "controls/screen_metrics.h"
+#include "core/library.h"
+#include "main_window/principale.h"
+#include "platform/pointer.h"
+
+namespace vistrel::main_window {
+namespace {
+
+constexpr int kKeyF = 'F';
+
+}  // namespace
+
+int Principale::SelectedSet() const {
+    const int selected = MyList.SelectedItem();
+    if (selected < 0) return -1;
+    const auto found = std::find(sets_.begin(), sets_.end(), MyList.ItemText(selected));
+    return found == sets_.end() ? -1 : static_cast<int>(found - sets_.begin());
+}
+
+bool Principale::Form_KeyDown(int key) {
+    if (key != kKeyF || !controls::IsControlDown() || MyList.EditingLabel()) return false;
+    FindBox.Focus();
+    SelectAllText(FindBox);
+    return true;
+}
+
+void Principale::FindBox_Change() { findTimer_.SetEnabled(true); }
+
+/// Enter goes on to what was found.
+void Principale::LeaveFindBox() {
+    ShowFoundSets();
+    if (!ASetIsSelected() && MyList.Count() > 0) {
+        EndInstalledView();
+        SelItem(MyList.ItemText(0));
+    }
+    MyList.Focus();
+}
+
+void Principale::ShowAllSets() {
+    if (FindBox.Text().empty()) return;
+    FindBox.SetText("");
+    ShowFoundSets();
+    MyList.Focus();
+}
+
+void Principale::MyList_HeadingClick() {
+    order_ = core::NextOrder(order_);
+    ShowFoundSets();
+}
+
+void Principale::FillList() {
+    MyList.SuspendPainting();
+    MyList.Clear();
+    for (const std::string& name : core::FoundSets(sets_, FindBox.Text(), order_))
+        MyList.AddItem(name, core::IconKeyOfSet(name));
+    MyList.ResumePainting();
+}
+
+// The selected set stays so where it is still shown, and its screens with it.
+void Principale::ShowFoundSets() {
+    findTimer_.SetEnabled(false);
+    EndEdits();
+    const platform::BusyPointer busy;
+    const std::string selected = ASetIsSelected() ? MyList.ItemText(MyList.SelectedItem()) : "";
+    const auto whenSelectionChanges = std::exchange(MyList.SelectionChanged, nullptr);
+    FillList();
+    const int index = selected.empty() ? -1 : MyList.FindItem(selected);
+    if (index >= 0) {
+        MyList.Select(index);
+        MyList.EnsureVisible(index);
+    }
+    MyList.SelectionChanged = whenSelectionChanges;
+    MyList_SelectionChanged();
+    VisualizzaNumLogo();
+}
+
+void Principale::AddSet(const std::string& name) {
+    sets_.push_back(name);
+    MyList.AddItem(name, core::IconKeyOfSet(name));
+}
+
+void Principale::ReplaceSet(const std::string& from, const std::string& to) {
+    std::replace(sets_.begin(), sets_.end(), from, to);
+}
+
+void Principale::RemoveSet(const std::string& name) { std::erase(sets_, name); }
+
+}  // namespace vistrel::main_window
