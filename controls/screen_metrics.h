@@ -26,6 +26,7 @@ inline constexpr int kKeyRight = 39;
 inline constexpr int kKeyDown = 40;
 inline constexpr int kKeyDelete = 46;
 inline constexpr int kKeyY = 'Y';
+inline constexpr int kKeyF = 'F';
 inline constexpr int kKeyZ = 'Z';
 inline constexpr int kKeyF1 = 112;
 inline constexpr int kKeyF2 = 113;

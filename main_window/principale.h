@@ -180,6 +180,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void FillList();
     void ShowFoundSets();
     void ShowAllSets();
+    void GoToFindBox();
     void LeaveFindBox();
     void AddSet(const std::string& name);
     void ReplaceSet(const std::string& from, const std::string& to);

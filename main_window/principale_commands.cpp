@@ -57,6 +57,18 @@ void Principale::MenuCommand(int id) {
         ItmDriveList_Click(id - ID_ItmDriveList);
 }
 
+// A label that is being edited, and the box "Find:", have an undo of their own for the same keys.
+bool Principale::Form_KeyDown(int key) {
+    if (!controls::IsControlDown() || MyList.EditingLabel()) return false;
+    if (key == controls::kKeyF)
+        GoToFindBox();
+    else if (key == controls::kKeyZ && !FindBox.HasFocus())
+        ItmUndoInstall_Click();
+    else
+        return false;
+    return true;
+}
+
 void Principale::MenuOpens(platform::MenuHandle menu) {
     CheckUndo();
     if (menu == ClassicMenu(kMenuListLogo)) MnuListLogo_Click();

@@ -2,18 +2,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/screen_metrics.h"
 #include "core/library.h"
 #include "main_window/principale.h"
 #include "platform/pointer.h"
 
 namespace vistrel::main_window {
-namespace {
-
-constexpr int kKeyF = 'F';
-
-}  // namespace
-
 int Principale::SelectedSet() const {
     const int selected = MyList.SelectedItem();
     if (selected < 0) return -1;
@@ -21,11 +14,9 @@ int Principale::SelectedSet() const {
     return found == sets_.end() ? -1 : static_cast<int>(found - sets_.begin());
 }
 
-bool Principale::Form_KeyDown(int key) {
-    if (key != kKeyF || !controls::IsControlDown() || MyList.EditingLabel()) return false;
+void Principale::GoToFindBox() {
     FindBox.Focus();
     SelectAllText(FindBox);
-    return true;
 }
 
 void Principale::FindBox_Change() { findTimer_.SetEnabled(true); }

@@ -69,6 +69,7 @@ std::optional<std::string> Principale::ImportArchive(const std::string& path) {
         TellOfArchive(path + " " + fault + ".");
         return std::nullopt;
     }
+    ShowAllSets();
     std::optional<std::string> last;
     for (std::size_t i = 0; i < sets.Sets().size(); ++i) {
         const std::string& name = sets.Sets()[i].name;
@@ -82,9 +83,10 @@ std::optional<std::string> Principale::ImportArchive(const std::string& path) {
         }
         // An existing set may have its name in other case, and be new to the list all the same.
         const int listed = MyList.FindItemOfAnyCase(name);
-        if (listed < 0) MyList.AddItem(name, core::IconKeyOfSet(name));
+        if (listed < 0) AddSet(name);
         last = listed < 0 ? name : MyList.ItemText(listed);
     }
+    ForgetThumbnails();
     VisualizzaNumLogo();
     return last;
 }

@@ -211,6 +211,7 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
         if (!exists) AddSet(name);
         showLast = true;
     }
+    ForgetThumbnails();
     if (!showLast) return;
     EndInstalledView();
     // An existing set may have been dropped in other case than the list has it.

@@ -1,6 +1,7 @@
 // Taking an install back.
+#include <algorithm>
+
 #include "controls/menu.h"
-#include "controls/screen_metrics.h"
 #include "core/previous_screens.h"
 #include "main_window/principale.h"
 #include "platform/message_box.h"
@@ -38,13 +39,6 @@ void Principale::CheckUndo() {
     controls::SetMenuEnabled(classicMenus_, ID_ItmUndoInstall, possible);
 }
 
-// A label that is being edited has an undo of its own for the same keys.
-bool Principale::Form_KeyDown(int key) {
-    if (key != controls::kKeyZ || !controls::IsControlDown() || MyList.EditingLabel()) return false;
-    ItmUndoInstall_Click();
-    return true;
-}
-
 void Principale::ItmUndoInstall_Click() {
     core::PreviousScreens previous = Previous();
     const auto record = previous.Last();
@@ -63,7 +57,7 @@ void Principale::ItmUndoInstall_Click() {
     }();
     if (result == core::UndoResult::Done) {
         companionWanted_ = record->companionWanted;
-        const bool isListed = MyList.FindItem(record->setName) >= 0;
+        const bool isListed = std::find(sets_.begin(), sets_.end(), record->setName) != sets_.end();
         SetInstalledSet(isListed ? std::optional(record->setName) : std::nullopt);
     } else {
         platform::Tell(handle(), WhyNotBroughtBack(*record, result));

@@ -82,6 +82,23 @@ TEST_F(Giving, ExportsTheSelectedSetByTheKeyboardAndImportsItAgain) {
     EXPECT_TRUE(Contents(logos + "Red\\LOGOS.SYS") == ScreenFile(255, 0, 0));
 }
 
+TEST_F(Giving, ShowsAllSetsAgainWhereSomeOnlyWereFound) {
+    Archive({{"New/LOGO.SYS", ScreenFile(255, 0, 0)}});
+    WithMainWindow([&](Principale& main) {
+        user::Press('F', {VK_CONTROL});
+        EXPECT_TRUE(
+            WaitUntil([&] { return seen::FocusIn(main.handle()) == main.FindBox.handle(); }));
+        user::Type("Blue");
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.Count() == 1; }));
+        ChooseByKey('I');
+        EXPECT_TRUE(AnswerDialog("Import logo sets", zip));
+        EXPECT_TRUE(WaitUntil([&] { return Selected(main) == "New"; }));
+        Settle(main);
+        EXPECT_EQ(main.NumLogo.Text(), " 4 logo sets");
+        EXPECT_EQ(user::TextOf(main.FindBox.handle()), "");
+    });
+}
+
 TEST_F(Giving, ProposesTheNameOfTheSetAndAddsTheEnding) {
     std::string proposed;
     WithMainWindow([&](Principale& main) {

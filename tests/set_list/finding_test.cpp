@@ -195,5 +195,30 @@ TEST_F(Finding, TheHeadingOfTheReportSortsByNameBackwardsAndAsTheFolderDoes) {
     });
 }
 
+TEST_F(Finding, LeavesCtrlZToItsText) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        Find(main, "Red");
+        user::Press('Z', {VK_CONTROL});
+        Settle(main);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Red");
+    });
+}
+
+TEST_F(Finding, AnInstallIsTakenBackToASetThatIsNotFound) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        Command(main, ID_ToolSetDefault);
+        Find(main, "Red");
+        EXPECT_TRUE(Lists(main, {"Red"}));
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(
+            WaitUntil([&] { return seen::FocusIn(main.handle()) == main.MyList.handle(); }));
+        user::Press('Z', {VK_CONTROL});
+        EXPECT_TRUE(WaitUntil([&] { return main.DefaultLogo.Text() == "Blue"; }));
+    });
+}
+
 }  // namespace
 }  // namespace vistrel::test
