@@ -1,6 +1,7 @@
 // How much memory unpacking takes, however much is unpacked.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 

@@ -164,6 +164,10 @@ TEST(Zip, RefusesSymbolsThatStandForNothing) {
               ArchiveFault::Damaged);
     EXPECT_EQ(UnpackFirst(Deflated(Binary({0x4B, 0x04, 0x3E, 0x00, 0x00}), "aaaa")).fault,
               ArchiveFault::Damaged);
+    // The code for lengths has one symbol, of one bit, and the other bit comes.
+    const std::string others(600, '\xFF');
+    EXPECT_EQ(UnpackFirst(Deflated(Binary({0x05, 0x00, 0x80, 0xE0}) + others, "a")).fault,
+              ArchiveFault::Damaged);
 }
 
 TEST(BrokenZip, ThatIsNoArchiveIsCalledSo) {

@@ -167,6 +167,7 @@ TEST_F(PreviousScreensOf, APowerCutWhileKeepingLeavesTheFormerOrTheNewScreens) {
         fault::Reset();
         const auto record = previous_.Last();
         ASSERT_TRUE(record);
+        EXPECT_FALSE(Exists(program + "Previous screens.old"));
         EXPECT_EQ(previous_.BringBack(*record), UndoResult::Done);
         EXPECT_EQ(Installed(),
                   record->newName == "Blue" ? own_ : (Screens{"newer", "newer", "newer"}));
