@@ -104,9 +104,12 @@ int ListView::TopPicture() const {
     return first;
 }
 
+// Not by way of the control, which would look through all items for those to be painted, and erase
+// this one first.
 void ListView::RepaintItem(int index) {
-    Send(LVM_REDRAWITEMS, static_cast<WPARAM>(index), index);
-    UpdateWindow(handle());
+    const HDC dc = GetDCEx(handle(), nullptr, DCX_CACHE | DCX_CLIPCHILDREN);
+    PaintItem(dc, index);
+    ReleaseDC(handle(), dc);
 }
 
 std::intptr_t ListView::OnCustomDraw(const void* draw) {

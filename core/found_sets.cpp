@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
-#include "core/generali.h"
 #include "platform/characters.h"
 
 namespace vistrel::core {
 namespace {
 
-/// Both in upper case. A text may begin where a character does, and not between its two bytes.
+/// Both in capitals. A text may begin where a character does, and not between its two bytes.
 bool Holds(const std::string& name, const std::string& text) {
     for (std::size_t at = 0; at + text.size() <= name.size();
          at += platform::CharacterLength(name, at))
@@ -31,10 +30,10 @@ SetOrder NextOrder(SetOrder order) {
 
 std::vector<std::string> FoundSets(const std::vector<std::string>& sets, const std::string& text,
                                    SetOrder order) {
-    const std::string wanted = UpperCase(text);
+    const std::string wanted = platform::InCapitals(text);
     std::vector<std::string> found;
     for (const std::string& name : sets)
-        if (wanted.empty() || Holds(UpperCase(name), wanted)) found.push_back(name);
+        if (wanted.empty() || Holds(platform::InCapitals(name), wanted)) found.push_back(name);
     if (order == SetOrder::Name)
         std::stable_sort(found.begin(), found.end(), platform::ComesBefore);
     if (order == SetOrder::NameBackwards)

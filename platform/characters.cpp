@@ -13,6 +13,11 @@ bool ComesBefore(const std::string& text, const std::string& other) {
     return lstrcmpiA(text.c_str(), other.c_str()) < 0;
 }
 
+std::string InCapitals(std::string text) {
+    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
 std::size_t LastBackslash(std::string_view path) {
     std::size_t last = std::string_view::npos;
     for (std::size_t at = 0; at < path.size(); at += CharacterLength(path, at)) {

@@ -16,6 +16,9 @@ std::size_t CharacterLength(std::string_view text, std::size_t at);
 /// regard to case, accents beside their letters.
 bool ComesBefore(const std::string& text, const std::string& other);
 
+/// A text in capital letters, those with accents too.
+std::string InCapitals(std::string text);
+
 /// Where the last backslash of a path stands; npos without one.
 std::size_t LastBackslash(std::string_view path);
 /// True when a path's last character is a backslash.

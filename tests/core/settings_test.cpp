@@ -185,8 +185,8 @@ TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
     for (const SettingRow& row : SettingRows()) order.at(row.loadPlace) = row.name;
     const auto store = [&] {
         ForgetSettings();
-        for (const NumberCase& number : kNumbers) Store(number.name, TextValue("2"));
-        Store("View", TextValue("1"));
+        for (const NumberCase& number : kNumbers)
+            Store(number.name, TextValue(number.largest == 1 ? "1" : "2"));
         for (const TextCase& text : kTexts) Store(text.name, TextValue("text"));
         Store("StartUpDrive", TextValue("D"));
         Store("LogoPath", TextValue(logos));
@@ -199,8 +199,8 @@ TEST_F(SettingsTest, EachValueIsReadInTheOrderInWhichOthersDependOnIt) {
             // The value whose reading failed is the first that has its default.
             std::vector<std::string> defaults;
             for (const NumberCase& number : kNumbers) {
-                if (settings.*number.field == number.missing && settings.*number.field != 2 &&
-                    !(std::string(number.name) == "View" && settings.view == 1))
+                const int stored = number.largest == 1 ? 1 : 2;
+                if (settings.*number.field == number.missing && number.missing != stored)
                     defaults.push_back(number.name);
             }
             for (const TextCase& text : kTexts) {
