@@ -126,6 +126,7 @@ class ListView : public Control {
 
  private:
     void SetColumnWidth(int width);
+    void FitScrollBars();
     void MakeRoomForPictures();
     int TopPicture() const;
     bool IsZoom(unsigned message, std::uintptr_t wParam);

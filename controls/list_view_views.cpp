@@ -46,7 +46,18 @@ void ListView::SetMode(ListViewMode mode) {
         GetClientRect(handle(), &r);
         SetColumnWidth(static_cast<int>(r.right));
     }
+    FitScrollBars();
     Repaint();
+}
+
+// Some versions of the list keep the scroll bars of the former view until their size changes.
+void ListView::FitScrollBars() {
+    const SCROLLINFO none{sizeof none, SIF_ALL, 0, 0, 0, 0, 0};
+    SetScrollInfo(handle(), SB_HORZ, &none, FALSE);
+    SetScrollInfo(handle(), SB_VERT, &none, FALSE);
+    const Rect place = Bounds();
+    MoveTo({place.left, place.top, place.width, place.height - 1});
+    MoveTo(place);
 }
 
 int ListView::TopItem() const {

@@ -27,13 +27,13 @@ class ListHolder : public Window {
 TEST(IconsOfAList, GoWithTheListItselfAndNotBefore) {
     ListHolder window;
     ASSERT_TRUE(window.Create(nullptr));
-    window.list->LoadIcons(IDB_List, 0xFF00FF, {"singlelogo", "multilogo"});
+    window.list->LoadIcons(IDB_List, 0xFF00FF, {"singlelogo", "multilogo", "installed"});
     const HWND list = window.list->handle();
     const auto icons =
         reinterpret_cast<HIMAGELIST>(SendMessageA(list, LVM_GETIMAGELIST, LVSIL_SMALL, 0));
-    EXPECT_EQ(ImageList_GetImageCount(icons), 2);
+    EXPECT_EQ(ImageList_GetImageCount(icons), 3);
     window.list.reset();
-    EXPECT_EQ(ImageList_GetImageCount(icons), 2);
+    EXPECT_EQ(ImageList_GetImageCount(icons), 3);
     DestroyWindow(window.handle());
     EXPECT_FALSE(IsWindow(list));
 }

@@ -35,8 +35,10 @@ TEST(FoundSets, AreNotFoundByHalfACharacter) {
 
 TEST(FoundSets, AreSortedByNameAsTheSystemDoesOrBackwards) {
     const Names sorted = FoundSets(kSets, "", SetOrder::Name);
-    EXPECT_EQ(sorted,
-              (Names{"\xc4pfel", "City 2.SLS", "city lights", "Moon", "Night Sky", "Zebra"}));
+    const Names latin = {"\xc4pfel", "City 2.SLS", "city lights", "Moon", "Night Sky", "Zebra"};
+    // The same byte is a letter of another script there, which comes behind these.
+    const Names japanese = {"City 2.SLS", "city lights", "Moon", "Night Sky", "Zebra", "\xc4pfel"};
+    EXPECT_EQ(sorted, GetACP() == 932 ? japanese : latin);
     EXPECT_EQ(FoundSets(kSets, "", SetOrder::NameBackwards), Names(sorted.rbegin(), sorted.rend()));
 }
 

@@ -369,7 +369,8 @@ TEST_F(Following, ASetLoadedFromAnotherLogoFolderStaysLoadedOverTheNextCommands)
         Settle(editor);
         ChooseSet(editor, "Oak");
         Run(editor, ID_BrowserRefresh);
-        EXPECT_TRUE(seen::RowOf(ActionMenu(editor), ID_OkButton + 1).enabled);
+        Await([&] { return seen::RowOf(ActionMenu(editor), ID_OkButton + 1).enabled; },
+              "to update");
         EXPECT_TRUE(seen::RowOf(ActionMenu(editor), ID_EliminaSetBtn).enabled);
     });
 }

@@ -104,6 +104,21 @@ TEST_F(ThumbnailView, IsChosenFromTheMenuAndShowsStartupScreensInFourToThree) {
     EXPECT_EQ(Stored("View"), SavedText("0"));
 }
 
+TEST_F(ThumbnailView, ScrollsDownwardsWhateverTheViewBeforeDid) {
+    for (int i = 10; i < 90; ++i) MakeFolders(logos + "Set " + std::to_string(i) + "\\");
+    WithMainWindow([&](Principale& main) {
+        const auto bars = [&] {
+            return GetWindowLongA(main.MyList.handle(), GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL);
+        };
+        EXPECT_EQ(bars(), WS_HSCROLL);
+        Command(main, ID_ToolThumbnailView);
+        EXPECT_EQ(bars(), WS_VSCROLL);
+        user::TakeShot("thumbnails_scroll");
+        Command(main, ID_ToolListView);
+        EXPECT_EQ(bars(), WS_HSCROLL);
+    });
+}
+
 TEST_F(ThumbnailView, IsThereAgainAtTheNextStartAndLeavesTheOtherViewsAsTheyWere) {
     Store("View", TextValue("1"));
     WithThumbnails([&](Principale& main) { EXPECT_TRUE(IsSeen(main, "Red", kRed)); });

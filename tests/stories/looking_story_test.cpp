@@ -19,12 +19,12 @@ class Looking : public RunningProgram {
         return (GetWindowLongA(user::Control(main, ID_MyList), GWL_STYLE) & LVS_TYPEMASK) ==
                LVS_ICON;
     }
-    /// Whether no picture in the first column of the list is grey any more.
+    /// Whether no picture in the first column of the list is grey any more, beside its marks.
     static bool HasItsPictures(HWND main) {
         RECT r{};
         GetWindowRect(user::Control(main, ID_MyList), &r);
         for (LONG y = r.top + 4; y < r.bottom - 4; y += 4)
-            if (seen::PixelAt({r.left + 24, y}) == GetSysColor(COLOR_BTNFACE)) return false;
+            if (seen::PixelAt({r.left + 50, y}) == GetSysColor(COLOR_BTNFACE)) return false;
         return true;
     }
 };

@@ -81,13 +81,28 @@ bool WouldDouble(POINT earlier, DWORD time, POINT point) {
            std::abs(point.y - earlier.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
 }
 
+/// Keys that WhileHolding holds down just now.
+std::vector<WORD> held;
+
+/// Presses a button of the mouse. With it go the keys that are held: what the X server tells late
+/// of its own keyboard lets go of them.
+void PressButton(DWORD down, POINT point) {
+    std::vector<INPUT> inputs;
+    for (const WORD key : held) inputs.push_back(KeyInput(key, 0));
+    inputs.push_back(MouseInput(down, point));
+    Send(inputs);
+}
+
 /// Clicks `times` times at the point. Lets a possible double click with an earlier click pass by.
 void ClickButton(POINT point, DWORD down, DWORD up, int times) {
     static DWORD last_click = GetTickCount() - GetDoubleClickTime() - 1;
     static POINT last_point = point;
     MoveTo(point);
     WaitUntil([&] { return !WouldDouble(last_point, last_click, point); });
-    for (int i = 0; i < times; ++i) Send({MouseInput(down, point), MouseInput(up, point)});
+    for (int i = 0; i < times; ++i) {
+        PressButton(down, point);
+        Send({MouseInput(up, point)});
+    }
     last_click = GetTickCount();
     last_point = point;
 }
@@ -206,7 +221,7 @@ namespace {
 void DragWith(DWORD down, DWORD up, const std::vector<POINT>& points,
               const std::function<void()>& atCorner) {
     MoveTo(points.front());
-    Send({MouseInput(down, points.front())});
+    PressButton(down, points.front());
     constexpr int kSteps = 10;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const POINT from = points[i - 1], to = points[i];
@@ -300,15 +315,17 @@ void LetGoKey(WORD key) { Send({KeyInput(key, KEYEVENTF_KEYUP)}); }
 void WhileHolding(WORD key, const std::function<void()>& act) {
     TakeUpKeyboard();
     HoldKey(key);
+    held.push_back(key);
     act();
+    held.pop_back();
     LetGoKey(key);
 }
 
-void Press(WORD key, const std::vector<WORD>& held) {
+void Press(WORD key, const std::vector<WORD>& with) {
     TakeUpKeyboard();
-    for (const WORD holding : held) HoldKey(holding);
+    for (const WORD holding : with) HoldKey(holding);
     Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
-    for (auto holding = held.rbegin(); holding != held.rend(); ++holding) {
+    for (auto holding = with.rbegin(); holding != with.rend(); ++holding) {
         LetGoKey(*holding);
     }
 }
