@@ -84,14 +84,16 @@ bool WouldDouble(POINT earlier, DWORD time, POINT point) {
 /// Keys that WhileHolding holds down just now.
 std::vector<WORD> held;
 
-/// Presses a button of the mouse. With it go the keys that are held: what the X server tells late
-/// of its own keyboard lets go of them.
-void PressButton(DWORD down, POINT point) {
+/// Input that comes with these keys held down at once: what the X server tells late of its own
+/// keyboard lets go of keys that are held already.
+std::vector<INPUT> WithKeys(const std::vector<WORD>& keys, const std::vector<INPUT>& then) {
     std::vector<INPUT> inputs;
-    for (const WORD key : held) inputs.push_back(KeyInput(key, 0));
-    inputs.push_back(MouseInput(down, point));
-    Send(inputs);
+    for (const WORD key : keys) inputs.push_back(KeyInput(key, 0));
+    inputs.insert(inputs.end(), then.begin(), then.end());
+    return inputs;
 }
+
+void PressButton(DWORD down, POINT point) { Send(WithKeys(held, {MouseInput(down, point)})); }
 
 /// Clicks `times` times at the point. Lets a possible double click with an earlier click pass by.
 void ClickButton(POINT point, DWORD down, DWORD up, int times) {
@@ -324,7 +326,7 @@ void WhileHolding(WORD key, const std::function<void()>& act) {
 void Press(WORD key, const std::vector<WORD>& with) {
     TakeUpKeyboard();
     for (const WORD holding : with) HoldKey(holding);
-    Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
+    Send(WithKeys(with, {KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)}));
     for (auto holding = with.rbegin(); holding != with.rend(); ++holding) {
         LetGoKey(*holding);
     }
