@@ -161,7 +161,7 @@ TEST_F(TypedLine, LongerThanTheScreenIsCutOffAtBothSides) {
         const HWND window = OpenOn(editor, "dark.bmp");
         TurnTo(window, 2);
         AddLine(window, text);
-        EXPECT_GT(WidthOfLetters(window), 300);
+        Await([&] { return WidthOfLetters(window) > 300; }, "from side to side");
         user::TakeShot("adjust-long-line");
         CloseBy(editor, window, IDOK);
         EXPECT_TRUE(Contents(editor.CurView.Tag()) == ScreenWith(text));
