@@ -230,11 +230,15 @@ TEST_F(Freehand, IsNotBegunByTheMousesRelease) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         const HWND window = OpenWithShimmer(editor, kFreehand);
         user::MoveTo(OnScreen(window, 40, 40));
+        Follow(window);
         mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        Follow(window);
         for (const POINT& at : Square(40, 40, 90, 90)) {
             user::MoveTo(OnScreen(window, at.x, at.y));
             Follow(window);
         }
+        // Something is drawn that can be taken back.
+        Await([&] { return Enabled(window, ID_BtnUndo); }, "drawn");
         user::Press('Z', {VK_CONTROL});
         Follow(window);
         mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);

@@ -93,18 +93,14 @@ std::vector<INPUT> WithKeys(const std::vector<WORD>& keys, const std::vector<INP
     return inputs;
 }
 
-void PressButton(DWORD down, POINT point) { Send(WithKeys(held, {MouseInput(down, point)})); }
-
 /// Clicks `times` times at the point. Lets a possible double click with an earlier click pass by.
 void ClickButton(POINT point, DWORD down, DWORD up, int times) {
     static DWORD last_click = GetTickCount() - GetDoubleClickTime() - 1;
     static POINT last_point = point;
     MoveTo(point);
     WaitUntil([&] { return !WouldDouble(last_point, last_click, point); });
-    for (int i = 0; i < times; ++i) {
-        PressButton(down, point);
-        Send({MouseInput(up, point)});
-    }
+    for (int i = 0; i < times; ++i)
+        Send(WithKeys(held, {MouseInput(down, point), MouseInput(up, point)}));
     last_click = GetTickCount();
     last_point = point;
 }
@@ -223,7 +219,7 @@ namespace {
 void DragWith(DWORD down, DWORD up, const std::vector<POINT>& points,
               const std::function<void()>& atCorner) {
     MoveTo(points.front());
-    PressButton(down, points.front());
+    Send(WithKeys(held, {MouseInput(down, points.front())}));
     constexpr int kSteps = 10;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const POINT from = points[i - 1], to = points[i];
@@ -326,7 +322,7 @@ void WhileHolding(WORD key, const std::function<void()>& act) {
 void Press(WORD key, const std::vector<WORD>& with) {
     TakeUpKeyboard();
     for (const WORD holding : with) HoldKey(holding);
-    Send(WithKeys(with, {KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)}));
+    Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
     for (auto holding = with.rbegin(); holding != with.rend(); ++holding) {
         LetGoKey(*holding);
     }
