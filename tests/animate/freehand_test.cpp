@@ -231,7 +231,12 @@ TEST_F(Freehand, IsNotBegunByTheMousesRelease) {
         const HWND window = OpenWithShimmer(editor, kFreehand);
         user::MoveTo(OnScreen(window, 40, 40));
         Follow(window);
-        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        // With its place: late news can have moved the pointer.
+        const POINT from = OnScreen(window, 40, 40);
+        const int width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
+        mouse_event(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE,
+                    static_cast<DWORD>((from.x * 65536 + width - 1) / width),
+                    static_cast<DWORD>((from.y * 65536 + height - 1) / height), 0, 0);
         Follow(window);
         for (const POINT& at : Square(40, 40, 90, 90)) {
             user::MoveTo(OnScreen(window, at.x, at.y));
