@@ -42,16 +42,23 @@ void Label::FitToText() {
     MoveTo(place);
 }
 
-bool Label::HasRoomFor(const std::string& text) const {
+Size Label::RoomNeededBy(const std::string& text, int width) const {
     const HDC dc = GetDC(handle());
     const HGDIOBJ former = SelectObject(dc, reinterpret_cast<HFONT>(Send(WM_GETFONT)));
-    const Rect room = Bounds();
-    RECT needed{0, 0, room.width, 0};
+    RECT needed{0, 0, width, 0};
     DrawTextA(dc, text.c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     SelectObject(dc, former);
     ReleaseDC(handle(), dc);
-    return needed.right <= room.width && needed.bottom <= room.height;
+    return {needed.right, needed.bottom};
 }
+
+bool Label::HasRoomFor(const std::string& text) const {
+    const Rect room = Bounds();
+    const Size needed = RoomNeededBy(text, room.width);
+    return needed.width <= room.width && needed.height <= room.height;
+}
+
+int Label::HeightAt(int width) const { return RoomNeededBy(Text(), width).height; }
 
 void Label::SetBackColor(long color) {
     background_ = CreateSolidBrush(static_cast<COLORREF>(color));

@@ -37,6 +37,8 @@ class Label : public Control {
     /// Whether all of a text would be seen, with its lines broken where they are as long as the
     /// label is wide.
     bool HasRoomFor(const std::string& text) const;
+    /// How high the label must be for all of its text, with lines broken to be no wider than this.
+    int HeightAt(int width) const;
     /// Makes the label just as wide as its text of one line.
     void FitToText();
     /// Shows the hand over the text, from the program's cursor resource of this name.
@@ -51,6 +53,8 @@ class Label : public Control {
     bool SetPointer() override;
 
  private:
+    Size RoomNeededBy(const std::string& text, int width) const;
+
     long color_ = kSystemColor;
     OwnedBrush background_;
     bool seeThrough_ = false;

@@ -172,10 +172,11 @@ void SelPictureForm::PlaceSlots(const controls::Rect& column, const Columns& col
 void SelPictureForm::PlaceSlot(int index, const controls::Rect& slot) {
     ImgPreview[index].MoveTo(slot);
     SlotFrame[index].MoveTo(slot);
-    const int text = LblSlot[index].Bounds().height;  // two lines, as the caption has
     // Within the frame, which its background must not cover.
+    const int width = slot.width - 2 * Gap();
+    const int height = LblNotAval[index].HeightAt(width);
     LblNotAval[index].MoveTo(
-        {slot.left + Gap(), slot.top + (slot.height - text) / 2, slot.width - 2 * Gap(), text});
+        {slot.left + Gap(), slot.top + (slot.height - height) / 2, width, height});
 }
 
 void SelPictureForm::PlaceBeside(int index, const controls::Rect& slot) {

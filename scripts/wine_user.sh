@@ -68,8 +68,8 @@ make_screen_password() {
     } >"$1")
 }
 
-# start_screen FOLDER [BITS]: starts a virtual X screen on a free display, of 24 bits a pixel or of
-# BITS. Sets DISPLAY, XAUTHORITY and screen_pid; what it shows is in FOLDER/Xvfb_screen0. Screens of
+# start_screen FOLDER [BITS [SIZE]]: starts a virtual X screen on a free display, of 24 bits a pixel or
+# of BITS, and of 1024x768 pixels or of SIZE. Sets DISPLAY, XAUTHORITY and screen_pid; what it shows is in FOLDER/Xvfb_screen0. Screens of
 # other folders, or of other roots on the same machine, may have had the same number before or get it
 # afterwards: a password keeps each to the programs that were started for it.
 start_screen() {
@@ -79,7 +79,7 @@ start_screen() {
     export XAUTHORITY=$1/screen_password
     # A session of its own: an interrupt from the keyboard is not meant for the screen.
     : >"$1/display"
-    setsid Xvfb -displayfd 3 -screen 0 "1024x768x${2:-24}" -fbdir "$1" -nolisten tcp -noreset \
+    setsid Xvfb -displayfd 3 -screen 0 "${3:-1024x768}x${2:-24}" -fbdir "$1" -nolisten tcp -noreset \
         -auth "$1/screen_password" 3>"$1/display" >"$1/screen.log" 2>&1 &
     screen_pid=$!
     for attempt in $(seq 300); do

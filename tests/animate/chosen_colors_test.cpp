@@ -37,9 +37,7 @@ class ChosenColors : public Moving {
         for (std::size_t i = 0; i < 3; ++i) {
             const HWND part = GetDlgItem(dialog, kParts[i]);
             const std::string number = std::to_string(typed[i]);
-            EXPECT_TRUE(user::DoubleClick(part));
-            user::Type(number);
-            Await([&] { return user::TextOf(part) == number; }, "typed");
+            EXPECT_TRUE(TypeOver(part, number));
         }
         EXPECT_TRUE(user::Click(GetDlgItem(dialog, answer)));
         EXPECT_TRUE(user::WaitUntilGone(dialog));
@@ -47,11 +45,20 @@ class ChosenColors : public Moving {
         return begun;
     }
 
-    /// Whether the middle of a control comes to be of this colour, as it is seen.
+    /// Puts a number into a box in place of what is there. Where the double click that marks it
+    /// came apart, then once more.
+    static bool TypeOver(HWND box, const std::string& number) {
+        constexpr int kTries = 3;
+        for (int i = 0; i < kTries; ++i) {
+            EXPECT_TRUE(user::DoubleClick(box));
+            user::Type(number);
+            if (WaitUntil([&] { return user::TextOf(box) == number; }, 2000)) return true;
+        }
+        return false;
+    }
+
     static bool Shows(HWND control, const ScreenColor& color) {
-        return WaitUntil([&] {
-            return seen::PixelAt(user::CentreOf(control)) == RGB(color[0], color[1], color[2]);
-        });
+        return seen::ComesToShow(control, RGB(color[0], color[1], color[2]));
     }
     static POINT Cell(HWND window, int entry) {
         RECT r{};

@@ -56,13 +56,14 @@ endif()
 #                  [FILES <files, folders or $<TARGET_FILE:...> to put beside the program>]
 #                  [DEPENDS <targets that make FILES>] [TIMEOUT <seconds>]
 #                  [REGISTRY <file of what differs from windows98.reg>] [BITS <bits a pixel>]
+#                  [SIZE <pixels of the X screen, such as 640x720>]
 #                  [LANGUAGE <locale whose code page programs have, such as ja_JP>])
 # The target and the program are called <name>; the program's folder is its current one, C:\test.
 # Building the target makes everything that `ctest -R <name>` needs.
 # With PROGRAM <target> instead of SOURCES and LIBRARIES that test's program runs once more, on
 # another machine.
 function(add_windows_test)
-    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;BITS;LANGUAGE"
+    cmake_parse_arguments(ARG "" "NAME;PROGRAM;TIMEOUT;REGISTRY;SIZE;BITS;LANGUAGE"
         "SOURCES;LIBRARIES;FILES;DEPENDS" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
@@ -76,6 +77,9 @@ function(add_windows_test)
     set(machine)
     if(ARG_REGISTRY)
         list(APPEND machine --registry ${ARG_REGISTRY})
+    endif()
+    if(ARG_SIZE)
+        list(APPEND machine --size ${ARG_SIZE})
     endif()
     if(ARG_BITS)
         list(APPEND machine --bits ${ARG_BITS})

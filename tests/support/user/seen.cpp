@@ -133,6 +133,10 @@ COLORREF PixelAt(POINT point) {
     return color;
 }
 
+bool ComesToShow(HWND control, COLORREF color) {
+    return user::WaitUntil([&] { return PixelAt(user::CentreOf(control)) == color; });
+}
+
 bool ShowsColor(HWND window, COLORREF color) {
     RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW);
     // Nothing was left to paint where the window's own thread had begun: let it finish.

@@ -57,6 +57,8 @@ HWND FocusIn(HWND window);
 
 /// The colour of a pixel of the screen.
 COLORREF PixelAt(POINT point);
+/// Waits for a control's middle to be painted in this colour. Returns false after some seconds.
+bool ComesToShow(HWND control, COLORREF color);
 /// Whether any pixel of a window, as the screen shows it, has this colour. Text has its own colour
 /// only where the font is not smoothed.
 bool ShowsColor(HWND window, COLORREF color);

@@ -322,7 +322,7 @@ void WhileHolding(WORD key, const std::function<void()>& act) {
 void Press(WORD key, const std::vector<WORD>& with) {
     TakeUpKeyboard();
     for (const WORD holding : with) HoldKey(holding);
-    Send({KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)});
+    Send(WithKeys(with, {KeyInput(key, 0), KeyInput(key, KEYEVENTF_KEYUP)}));
     for (auto holding = with.rbegin(); holding != with.rend(); ++holding) {
         LetGoKey(*holding);
     }
