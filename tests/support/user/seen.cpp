@@ -134,7 +134,7 @@ COLORREF PixelAt(POINT point) {
 }
 
 bool ComesToShow(HWND control, COLORREF color) {
-    return user::WaitUntil([&] { return PixelAt(user::CentreOf(control)) == color; });
+    return WaitUntil([&] { return PixelAt(user::CentreOf(control)) == color; });
 }
 
 bool ShowsColor(HWND window, COLORREF color) {

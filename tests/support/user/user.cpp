@@ -216,9 +216,26 @@ void RightClickAt(POINT point) {
 
 namespace {
 
+/// Has the pointer at a point until nothing moves it away for a while: what the X server tells late
+/// of former places would be a corner of what is drawn.
+void RestAt(POINT point) {
+    MoveTo(point);
+    DWORD since = GetTickCount();
+    WaitUntil([&] {
+        POINT now{};
+        GetCursorPos(&now);
+        if (now.x != point.x || now.y != point.y) {
+            MoveTo(point);
+            since = GetTickCount();
+        }
+        constexpr DWORD kWhile = 100;
+        return GetTickCount() - since >= kWhile;
+    });
+}
+
 void DragWith(DWORD down, DWORD up, const std::vector<POINT>& points,
               const std::function<void()>& atCorner) {
-    MoveTo(points.front());
+    RestAt(points.front());
     Send(WithKeys(held, {MouseInput(down, points.front())}));
     constexpr int kSteps = 10;
     for (std::size_t i = 1; i < points.size(); ++i) {
