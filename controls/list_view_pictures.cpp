@@ -54,7 +54,9 @@ platform::ImageListHandle ListView::Icons() const {
 
 void ListView::SetPictureSize(Size size) {
     pictureSize_ = size;
-    if (Mode() == ListViewMode::Pictures) MakeRoomForPictures();
+    if (Mode() != ListViewMode::Pictures) return;
+    MakeRoomForPictures();
+    FitScrollBars();
 }
 
 // A list of images without any: an item asks for one that is not there, and has room for it.

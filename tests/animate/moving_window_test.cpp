@@ -53,6 +53,9 @@ TEST_F(MovingWindow, ShowsTheScreenMovingAndWhatStandsStanding) {
         TurnTo(window, 1);
         const POINT bar = OnScreen(window, 160, 382), picture = OnScreen(window, 160, 150);
         std::set<COLORREF> moving, standing;
+        // What the page before showed is gone with the next frame.
+        const COLORREF first = seen::PixelAt(bar);
+        Await([&] { return seen::PixelAt(bar) != first; }, "moves at all");
         Await(
             [&] {
                 moving.insert(seen::PixelAt(bar));

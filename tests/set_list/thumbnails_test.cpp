@@ -389,7 +389,7 @@ TEST_F(ThumbnailView, TakesSizesOutOfRangeForTheNearest) {
         Store("ThumbnailSize", TextValue(stored));
         WithThumbnails([&](Principale& main) {
             EXPECT_EQ(main.MyList.PictureSize().width, width);
-            EXPECT_TRUE(IsSeen(main, "Red", kRed));
+            EXPECT_TRUE(IsSeen(main, "Blue", RGB(0, 0, 255)));
         });
     }
 }
