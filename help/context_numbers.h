@@ -103,6 +103,10 @@ inline constexpr unsigned long DefaultLogo = 84;
 inline constexpr unsigned long LogoType = 85;
 inline constexpr unsigned long NumLogo = 86;
 inline constexpr unsigned long LblFaults = 87;
+inline constexpr unsigned long StatusLine = 88;
+inline constexpr unsigned long BtnStopLooking = 92;
+inline constexpr unsigned long WorkBar = 93;
+inline constexpr unsigned long WorkCancel = 94;
 inline constexpr unsigned long FindBox = 89;
 
 }  // namespace vistrel::help_number

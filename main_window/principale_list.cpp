@@ -36,13 +36,14 @@ void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
 void Principale::ShowInstalledSet() {
     // While the installed screens are shown the label says so.
     if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(core::kUnknownSet));
+    LookForInstalledSet();
 }
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
-    const platform::BusyPointer busy;  // there may be thousands of sets
+    const Doing doing(*this, "Reading the logo folder...");  // there may be thousands of sets
     thumbnails_.Forget();
     sets_ = core::LogoSetNames(settings_.logoPath);
     installedSetListed_ =
@@ -58,6 +59,7 @@ void Principale::LeggiDatiDisco() {
 
 void Principale::VisualizzaNumLogo() {
     NumLogo.SetText(core::CountLine(MyList.Count()));
+    ShowCounts();
     if (MyList.Count() == 0) LogoType.SetText("");
 }
 

@@ -14,6 +14,7 @@
 #define IDD_FrmManySets 107
 #define IDD_FrmBootShow 108
 #define IDD_FrmAnimate 109
+#define IDD_FrmProgress 112
 #define IDM_Principale 110
 #define IDM_SelPictureForm 111
 #define IDB_Toolbar 120
@@ -48,6 +49,11 @@
 #define ID_LblFaults 1012
 #define ID_LblFind 1020
 #define ID_FindBox 1021
+#define ID_LblDoing 1022
+#define ID_LblSelected 1023
+#define ID_BtnStopLooking 1024
+#define ID_LblWork 1025
+#define ID_WorkBar 1026
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051

@@ -11,6 +11,7 @@
 #include "animate/read_screen.h"
 #include "controls/screen_metrics.h"
 #include "editor/select_picture_form.h"
+#include "main_window/frm_progress.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
 #include "pictures/preview/draw_letters.h"
@@ -205,6 +206,22 @@ TEST_F(Layout, OfTheMainWindow) {
     Command(main, ID_ToolShowCurrent);
     ASSERT_EQ(main.DefaultLogo.Text(), "Current logo setting");
     Look(main, "main-installed");
+}
+
+TEST_F(Layout, OfTheMainWindowWhileSetsAreCompared) {
+    Principale main(locations);
+    Open(main);
+    main.LblDoing.SetText("Comparing sets with the installed screens: 100 %");
+    main.BtnStopLooking.SetVisible(true);
+    SetWindowPos(main.handle(), nullptr, 0, 0, 520, 400, SWP_NOZORDER);
+    Look(main, "main-comparing");
+}
+
+TEST_F(Layout, OfTheProgress) {
+    FrmProgress progress(nullptr, "Unpacking sunsets.zip...");
+    Open(progress);
+    progress.WorkBar.SetValue(40);
+    Look(progress, "progress");
 }
 
 TEST_F(Layout, OfTheMainWindowWithAScreenThatWouldFlash) {

@@ -155,7 +155,11 @@ INSTANTIATE_TEST_SUITE_P(
                     ControlTitle{help_number::LogoType, "Type of the set"},
                     ControlTitle{help_number::NumLogo, "Number of sets"},
                     ControlTitle{help_number::LblFaults, "What is wrong with a screen"},
-                    ControlTitle{help_number::FindBox, "Find"}));
+                    ControlTitle{help_number::FindBox, "Find"},
+                    ControlTitle{help_number::StatusLine, "Status line"},
+                    ControlTitle{help_number::BtnStopLooking, "Cancel in the status line"},
+                    ControlTitle{help_number::WorkBar, "Progress"},
+                    ControlTitle{help_number::WorkCancel, "Cancel"}));
 
 TEST(VistrelHelp, EveryTopicIsReachedFromTheContentsOrByANumber) {
     const ReadHelp& help = VistrelHelp();
