@@ -24,6 +24,8 @@ inline constexpr unsigned long CustomName = 43;
 inline constexpr unsigned long CustProg = 44;
 inline constexpr unsigned long BtnBrowse = 44;
 inline constexpr unsigned long StartUpAction[] = {54, 55};
+inline constexpr unsigned long RotationList = 95;
+inline constexpr unsigned long BtnAllSets = 96;
 
 // The Logo browser.
 inline constexpr unsigned long LogoList = 60;

@@ -7,6 +7,7 @@
 #include "core/generali.h"
 #include "core/import_sets.h"
 #include "core/library.h"
+#include "core/rotation.h"
 #include "core/screen_file.h"
 #include "main_window/principale.h"
 #include "pictures/preview/draw_preview.h"
@@ -31,6 +32,7 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
 void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
     std::string& selected = placeBehindBrowser_.selectedSet;
     if (core::UpperCase(selected) == core::UpperCase(from)) selected = to;
+    core::RenameLeftOut(settings_, from, to);
 }
 
 void Principale::ShowInstalledSet() {
@@ -166,6 +168,7 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     }
     MyList.SetItemText(edited, newName);
     ReplaceSet(oldName_, newName);
+    SetWasRenamed(oldName_, newName);
     SelItem(newName);
     if (InstalledSet() == oldName_) SetInstalledSet(newName);
     // The label shows the folder's name by now, which is not always the text as it was typed.

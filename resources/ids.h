@@ -154,7 +154,6 @@
 
 // Preferences: 1400 to 1599
 #define ID_TabStrip1 1400
-#define ID_MyFrame 1401  // 1401 to 1404, in the order of the tabs
 #define ID_LblLogoPath 1405
 #define ID_TxtLogoPath 1406
 #define ID_btnBrwFolder 1407
@@ -178,6 +177,11 @@
 #define ID_StartUpAction 1427  // 1427 Rotaline, 1428 Shufflet, 1429 nothing
 #define ID_LblCustomName 1430
 #define ID_LblCustProg 1431
+#define ID_MyFrame 1440  // 1440 to 1444, in the order of the tabs
+#define ID_LblRotation 1445
+#define ID_RotationList 1446
+#define ID_BtnAllSets 1447
+#define ID_BtnNoSets 1448
 
 // About box: 1600 to 1699
 #define ID_Image1 1600

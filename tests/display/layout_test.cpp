@@ -115,7 +115,7 @@ bool IsGround(HWND control) {
     return kind == WC_TABCONTROLA || (kind == "Button" && (style & 0xf) == BS_GROUPBOX) ||
            (kind == "Static" && ((style & SS_TYPEMASK) == SS_ETCHEDFRAME)) ||
            (kind == "Static" && user::TextOf(control).empty() &&
-            GetDlgCtrlID(control) >= ID_MyFrame && GetDlgCtrlID(control) < ID_MyFrame + 4);
+            GetDlgCtrlID(control) >= ID_MyFrame && GetDlgCtrlID(control) < ID_MyFrame + 5);
 }
 
 bool IsSeeThrough(HWND control) {
@@ -280,7 +280,7 @@ TEST_F(Layout, OfThePreferences) {
     ASSERT_TRUE(main.Create(nullptr));
     FrmOptions options(main);
     Open(options);
-    for (int page = 0; page < 4; ++page) {
+    for (int page = 0; page < 5; ++page) {
         SendMessageA(options.TabStrip1.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
         Look(options, "preferences-" + std::to_string(page));
     }

@@ -138,7 +138,9 @@ INSTANTIATE_TEST_SUITE_P(
         ControlTitle{40, "Confirm logo type change"},
         ControlTitle{41, "Show it in its actual size"}, ControlTitle{42, "Open Paint"},
         ControlTitle{43, "Open program"}, ControlTitle{44, "Path of the program"},
-        ControlTitle{54, "Logo sequential change"}, ControlTitle{55, "Logo random change"}));
+        ControlTitle{54, "Logo sequential change"}, ControlTitle{55, "Logo random change"},
+        ControlTitle{help_number::RotationList, "Sets of the rotation"},
+        ControlTitle{help_number::BtnAllSets, "All and None"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OtherWindows, VistrelHelpOfControl,
