@@ -7,6 +7,7 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "core/mdl_registry.h"
+#include "core/rotation.h"
 #include "core/running_instance.h"
 #include "core/settings.h"
 #include "core/synchronizing.h"
@@ -36,13 +37,18 @@ bool HasStartupScreen(const std::string& logoFolder, const std::string& setName)
                             platform::kHiddenFile | platform::kSystemFile);
 }
 
-/// Chooses again until it is a set that can be installed: one with a startup screen. Empty when
-/// there is none.
+/// Chooses again until it is a set that can be installed: one that takes part and has a startup
+/// screen. Empty when there is none.
 std::optional<std::string> ChooseUsable(const SetChooser& choose, const core::Settings& settings) {
+    const core::LeftOutSets leftOut(settings.leftOutOfRotation);
     std::vector<std::string> sets = core::LogoSetNames(settings.logoPath);
+    // The installed one stays: the next in turn is the one behind it.
+    std::erase_if(sets, [&](const std::string& set) {
+        return set != settings.defaultLogoSet && leftOut.Holds(set);
+    });
     while (!sets.empty()) {
         const std::string chosen = choose(sets, settings.defaultLogoSet);
-        if (HasStartupScreen(settings.logoPath, chosen)) return chosen;
+        if (!leftOut.Holds(chosen) && HasStartupScreen(settings.logoPath, chosen)) return chosen;
         sets.erase(std::find(sets.begin(), sets.end(), chosen));
     }
     return std::nullopt;

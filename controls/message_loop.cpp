@@ -58,6 +58,17 @@ void EndSession() {
 
 bool InputIsWaiting() { return HIWORD(GetQueueStatus(QS_INPUT)) != 0; }
 
+void HandleWaiting() {
+    MSG message{};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        Handle(message);
+    }
+}
+
 void RunLoopWhileOpen(const Window& window) {
     MSG message{};
     while (window.IsOpen()) {

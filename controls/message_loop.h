@@ -22,6 +22,9 @@ void EndSession();
 /// Whether the user has pressed, typed or moved something that has not been handled yet.
 bool InputIsWaiting();
 
+/// Handles what the user has done so far, and what is to be painted, while something long goes on.
+void HandleWaiting();
+
 /// Runs until this window has been closed, or the program is to end.
 void RunLoopWhileOpen(const Window& window);
 

@@ -131,14 +131,19 @@ void Window::Show() {
     if (handle_) UpdateWindow(handle_);
 }
 
-void Window::ShowModal(platform::WindowHandle owner) {
+bool Window::ShowInFront(platform::WindowHandle owner) {
     if (Window* below = OpenWindowOf(owner)) below->EndEdits();
-    if (!Create(owner)) return;
+    if (!Create(owner)) return false;
     if (owner && IsWindowEnabled(owner)) {
         disabledOwner_ = owner;
         EnableWindow(owner, FALSE);
     }
     Show();
+    return true;
+}
+
+void Window::ShowModal(platform::WindowHandle owner) {
+    if (!ShowInFront(owner)) return;
     RunLoopWhileOpen(*this);
     if (Window* below = OpenWindowOf(owner)) below->Form_Activate();
 }

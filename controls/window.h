@@ -37,8 +37,10 @@ class Window {
     /// system refuses or the template lacks a control; there is no window then.
     bool Create(platform::WindowHandle owner);
     void Show();
-    /// Makes the window, shows it in front of `owner`, which is disabled meanwhile, and returns
-    /// when it has been closed.
+    /// Makes the window and shows it in front of `owner`, which is disabled until it is closed.
+    /// False when it could not be made.
+    bool ShowInFront(platform::WindowHandle owner);
+    /// The same, and returns when it has been closed.
     void ShowModal(platform::WindowHandle owner);
     /// Closes the window unless Form_Unload refuses. False when it did.
     bool Unload();

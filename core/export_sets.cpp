@@ -17,9 +17,10 @@ class SetsWriter {
           file_(path),
           zip_([this](pictures::FileBytes bytes) { return file_.Write(bytes); }) {}
 
-    ExportResult Write(const std::vector<std::string>& names) {
-        for (const std::string& name : names) {
-            const LogoSet set{library_, name};
+    ExportResult Write(const std::vector<std::string>& names, const Progress& progress) {
+        for (std::size_t done = 0; done < names.size(); ++done) {
+            if (!progress(static_cast<double>(done) / names.size())) return ExportResult::Stopped;
+            const LogoSet set{library_, names[done]};
             const std::size_t count = set.IsSingle() ? 1 : kScreenFileNames.size();
             for (std::size_t i = 0; i < count; ++i) {
                 const ExportResult result = AddScreen(set, kScreenFileNames[i]);
@@ -54,8 +55,8 @@ class SetsWriter {
 }  // namespace
 
 ExportResult ExportSets(const std::string& library, const std::vector<std::string>& names,
-                        const std::string& path) {
-    return SetsWriter(library, path).Write(names);
+                        const std::string& path, const Progress& progress) {
+    return SetsWriter(library, path).Write(names, progress);
 }
 
 }  // namespace vistrel::core

@@ -205,7 +205,7 @@ bool UnpackedSets::MakeHiddenFolder() {
     return platform::MakeFolder(hidden_ + "0");
 }
 
-std::string UnpackedSets::Unpack(const std::string& path) {
+std::string UnpackedSets::Unpack(const std::string& path, const Progress& progress) {
     const auto file = pictures::FileOnDisk::Open(path);
     if (!file) return "cannot be read";
     const archive::Directory all = archive::ReadDirectory(PictureFile(*file), platform::DosToUtf8);
@@ -215,8 +215,12 @@ std::string UnpackedSets::Unpack(const std::string& path) {
     const auto sets = SetsOfArchive(all.entries, WithoutEnding(FileNameOf(path)));
     std::string fault = FaultBefore(sets, library_);
     if (fault.empty() && !MakeHiddenFolder()) fault = kNotUnpacked;
-    for (const ArchivedSet& set : sets) {
-        if (fault.empty()) fault = UnpackNext(PictureFile(*file), set);
+    for (std::size_t done = 0; done < sets.size() && fault.empty(); ++done) {
+        if (!progress(static_cast<double>(done) / sets.size())) {
+            sets_.clear();
+            return "";
+        }
+        fault = UnpackNext(PictureFile(*file), sets[done]);
         if (file->HasFailed()) fault = "cannot be read";
     }
     if (!fault.empty()) sets_.clear();

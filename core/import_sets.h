@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "archive/zip_reader.h"
+#include "core/progress.h"
 
 namespace vistrel::core {
 
@@ -48,8 +49,9 @@ class UnpackedSets {
     ~UnpackedSets();
 
     /// Unpacks all sets of the archive at `path`, into a hidden folder of the library. What keeps
-    /// it from that, as half a sentence behind the file's name; empty when all went well.
-    std::string Unpack(const std::string& path);
+    /// it from that, as half a sentence behind the file's name; empty when all went well, and when
+    /// the user stopped it: there are no sets then.
+    std::string Unpack(const std::string& path, const Progress& progress = kNobodyAsks);
 
     const std::vector<UnpackedSet>& Sets() const { return sets_; }
 

@@ -1,7 +1,6 @@
 // A random choice among the other sets: Marsaglia's xorshift with 128 bits of state.
 #include "core/random_choice.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 
@@ -39,15 +38,6 @@ int DrawOther(RandomGenerator& generator, int count, int current) {
         const int drawn = static_cast<int>(generator.Next() * count) + 1;
         if (drawn != current) return drawn;
     }
-}
-
-std::string RandomOtherSet(RandomGenerator& generator, const std::vector<std::string>& sets,
-                           const std::string& installed) {
-    if (sets.size() == 1) return sets.front();
-    // An installed set that is not among them has no number: 0 is never drawn.
-    const auto found = std::find(sets.begin(), sets.end(), installed);
-    const int current = found == sets.end() ? 0 : static_cast<int>(found - sets.begin()) + 1;
-    return sets[DrawOther(generator, static_cast<int>(sets.size()), current) - 1];
 }
 
 }  // namespace vistrel::core

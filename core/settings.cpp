@@ -68,6 +68,7 @@ constexpr SettingRow kRows[] = {
     {"AutoshowAnimation", &Settings::autoshowAnimation, Rule::Number, 19},
     {"Thumbnails", &Settings::thumbnails, Rule::UpToOne, 20},
     {"ThumbnailSize", &Settings::thumbnailSize, Rule::Number, 21},
+    {"LeftOutOfRotation", &Settings::leftOutOfRotation, Rule::Text, 22},
 };
 
 /// Whether each place in the order of reading belongs to exactly one row.

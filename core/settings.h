@@ -38,6 +38,9 @@ struct Settings {
     std::int16_t autoshowAnimation = 0;  ///< not 0: the actual-size view moves the colours
     std::int16_t thumbnails = 0;         ///< 1: the sets are seen as thumbnails, whatever `view` is
     std::int16_t thumbnailSize = 0;      ///< steps from the middle size, below 0 smaller
+
+    /// The sets that Rotaline and Shufflet pass over, as LeftOutSets has them.
+    std::string leftOutOfRotation;
 };
 
 /// The flag "ShowSplashScreen" alone, read before any window exists; 1 when empty.

@@ -6,6 +6,7 @@
 #include "core/file_handling.h"
 #include "core/generali.h"
 #include "core/library.h"
+#include "core/rotation.h"
 #include "core/slot_file.h"
 #include "editor/select_picture_form.h"
 #include "platform/files.h"
@@ -73,6 +74,7 @@ void SelPictureForm::ItmDelete_Click() {
     LogoList.GiveKeys(std::min(place, LogoList.Count() - 1));
     if (core::IsAtOrIn(SelectedPicture, path)) ForgetPicture();
     if (!isSet) return;
+    core::RemoveLeftOut(host_.Preferences(), name);
     if (SameName(name, LoadedSet))
         ForgetLoadedSet(name);
     else

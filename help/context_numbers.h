@@ -24,6 +24,8 @@ inline constexpr unsigned long CustomName = 43;
 inline constexpr unsigned long CustProg = 44;
 inline constexpr unsigned long BtnBrowse = 44;
 inline constexpr unsigned long StartUpAction[] = {54, 55};
+inline constexpr unsigned long RotationList = 95;
+inline constexpr unsigned long BtnAllSets = 96;
 
 // The Logo browser.
 inline constexpr unsigned long LogoList = 60;
@@ -103,6 +105,10 @@ inline constexpr unsigned long DefaultLogo = 84;
 inline constexpr unsigned long LogoType = 85;
 inline constexpr unsigned long NumLogo = 86;
 inline constexpr unsigned long LblFaults = 87;
+inline constexpr unsigned long StatusLine = 88;
+inline constexpr unsigned long BtnStopLooking = 92;
+inline constexpr unsigned long WorkBar = 93;
+inline constexpr unsigned long WorkCancel = 94;
 inline constexpr unsigned long FindBox = 89;
 
 }  // namespace vistrel::help_number

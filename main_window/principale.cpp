@@ -36,6 +36,7 @@ Principale::Principale(core::SystemLocations locations)
       ActiveBar1(BarTools(), MainBands()),
       Timer1(kBrowserDelay),
       dropTimer_(kNoDelay),
+      compareTimer_(kNoDelay),
       idleTimer_(kNoDelay),
       findTimer_(kFindDelay),
       locations_(std::move(locations)),
@@ -60,12 +61,17 @@ Principale::Principale(core::SystemLocations locations)
         {LblFaults, ID_LblFaults, help_number::LblFaults},
         {LogoType, ID_LogoType, help_number::LogoType},
         {NumLogo, ID_NumLogo, help_number::NumLogo},
+        {LblDoing, ID_LblDoing, help_number::StatusLine},
+        {LblSelected, ID_LblSelected, help_number::StatusLine},
+        {BtnStopLooking, ID_BtnStopLooking, help_number::BtnStopLooking,
+         "Ends the comparing of sets"},
         {LblFind, ID_LblFind, help_number::FindBox},
         {FindBox, ID_FindBox, help_number::FindBox, "Shows the sets whose names hold this text"},
     };
     AddParts(parts);
     Add(Timer1);
     Add(dropTimer_);
+    Add(compareTimer_);
     Add(idleTimer_);
     Add(findTimer_);
 
@@ -98,6 +104,8 @@ Principale::Principale(core::SystemLocations locations)
             Imag_MouseUp(i, button, at);
         };
     Timer1.Tick = [this] { Timer1_Timer(); };
+    BtnStopLooking.Click = [this] { BtnStopLooking_Click(); };
+    compareTimer_.Tick = [this] { CompareTimer_Timer(); };
     dropTimer_.Tick = [this] {
         dropTimer_.SetEnabled(false);
         MyList.AcceptDrops();
@@ -189,6 +197,7 @@ void Principale::Form_Resize(controls::Size client) {
     const int line = LblDefaultLogo.Bounds().height;
     const int twoLines = LblScreen[0].Bounds().height;
     const int labelWidth = FromDialogUnits({0, 0, 52, 0}).width;
+    client.height = PlaceStatusLine(client);
     const int top = ActiveBar1.Resize() + gap;
     const int height = client.height - top - edge;
     const int leastList = FromDialogUnits({0, 0, 110, 0}).width;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "controls/active_bar.h"
+#include "controls/button.h"
 #include "controls/label.h"
 #include "controls/list_view.h"
 #include "controls/owned_handle.h"
@@ -17,11 +18,14 @@
 #include "controls/timer.h"
 #include "controls/window.h"
 #include "core/found_sets.h"
+#include "core/installed_origin.h"
 #include "core/previous_screens.h"
 #include "editor/host.h"
+#include "main_window/frm_progress.h"
 #include "main_window/set_thumbnails.h"
 #include "main_window/tool_table.h"
 #include "options/host.h"
+#include "platform/pointer.h"
 
 namespace vistrel::options {
 class FrmOptions;
@@ -80,6 +84,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     controls::Label LblFaults;  ///< what is wrong with the screens that are shown
     controls::Label LogoType;
     controls::Label NumLogo;
+    controls::Label LblDoing;     ///< the status line: what the program is doing
+    controls::Label LblSelected;  ///< and beside it how many sets are selected
+    controls::Button BtnStopLooking;
     controls::Label LblFind;
     controls::TextBox FindBox;
     controls::Timer Timer1;
@@ -103,6 +110,22 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     struct ListPlace {
         std::string selectedSet;
         int top = 0;
+    };
+
+    /// As long as it lives the status line says what is being done, and the pointer is the
+    /// hourglass. What takes longer calls Continue, which shows a window to cancel it.
+    class Doing {
+     public:
+        Doing(Principale& window, const std::string& what);
+        ~Doing();
+        bool Continue(double share) { return progress_.Continue(share); }
+        Doing(const Doing&) = delete;
+        Doing& operator=(const Doing&) = delete;
+
+     private:
+        Principale& window_;
+        platform::BusyPointer busy_;
+        FrmProgress progress_;
     };
 
     static const MainTool kTools[];
@@ -192,9 +215,19 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool ConfirmOverwriting(const std::string& name);
     std::optional<std::string> ImportArchive(const std::string& path);
     void TellOfArchive(const std::string& text);
+    core::InstallTargets Targets() const;
     core::PreviousScreens Previous() const;
     void KeepScreensBefore(const std::string& newSet);
     void CheckUndo();
+    int PlaceStatusLine(controls::Size client);
+    void ShowCounts();
+    void LookForInstalledSet();
+    void LookAgain();
+    void CompareTimer_Timer();
+    void BtnStopLooking_Click();
+    void ShowBtnStopLooking(bool shown);
+    void LibraryHasChanged();
+    void ShowStatus();
     void ShowActualSize(platform::WindowHandle owner);
     void OpenPaint(platform::WindowHandle owner);
     void OpenCustomProgram(platform::WindowHandle owner);
@@ -213,6 +246,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     };
 
     controls::Timer dropTimer_;
+    controls::Timer compareTimer_;  ///< ticks while sets are compared with the installed screens
+    std::optional<core::InstalledOrigin> origin_;  ///< of these, as far as it is known
+    double lookingSince_ = 0;
     controls::Timer idleTimer_;
     controls::Timer findTimer_;
     core::SystemLocations locations_;

@@ -123,6 +123,7 @@ void Principale::MyList_MouseUp(int button) {
 
 // While the installed screens are shown nothing is selected, but the tools keep their state.
 void Principale::MyList_SelectionChanged() {
+    ShowCounts();
     if (savedView_) return;
     CheckSetCommands();
     if (!ASetIsSelected()) ShowListaLogo();
@@ -173,12 +174,11 @@ void Principale::ItmDelete_Click() {
 
 void Principale::ItmSetDefault_Click() {
     if (!ASetIsSelected()) return;
-    const platform::BusyPointer busy;
     const bool synchronize = settings_.synchronizeLogos != 0;
     const std::string name = MyList.ItemText(MyList.SelectedItem());
+    const Doing doing(*this, "Setting " + name + " as default...");
     KeepScreensBefore(name);
-    core::InstallLogoSet({settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory},
-                         name, synchronize);
+    core::InstallLogoSet(Targets(), name, synchronize);
     companionWanted_ = synchronize;
     SetInstalledSet(name);
     CheckUndo();

@@ -72,12 +72,22 @@ void Principale::ShowFoundSets() {
 void Principale::AddSet(const std::string& name) {
     sets_.push_back(name);
     MyList.AddItem(name, core::IconKeyOfSet(name));
+    LibraryHasChanged();
 }
 
 void Principale::ReplaceSet(const std::string& from, const std::string& to) {
     std::replace(sets_.begin(), sets_.end(), from, to);
+    LibraryHasChanged();
 }
 
-void Principale::RemoveSet(const std::string& name) { std::erase(sets_, name); }
+void Principale::RemoveSet(const std::string& name) {
+    std::erase(sets_, name);
+    LibraryHasChanged();
+}
+
+void Principale::LibraryHasChanged() {
+    ShowCounts();
+    LookAgain();
+}
 
 }  // namespace vistrel::main_window

@@ -8,7 +8,6 @@
 #include "main_window/principale.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
-#include "platform/pointer.h"
 
 namespace vistrel::main_window {
 namespace {
@@ -25,11 +24,13 @@ void Principale::ItmExport_Click() {
     if (path.empty()) return;
     core::ExportResult result;
     {
-        const platform::BusyPointer busy;
-        result = core::ExportSets(settings_.logoPath, {name}, path);
+        Doing doing(*this, "Exporting " + name + "...");
+        result = core::ExportSets(settings_.logoPath, {name}, path,
+                                  [&](double share) { return doing.Continue(share); });
     }
     switch (result) {
         case core::ExportResult::Written:
+        case core::ExportResult::Stopped:
             return;
         case core::ExportResult::NoScreens:
             platform::Tell(handle(),
@@ -62,8 +63,9 @@ std::optional<std::string> Principale::ImportArchive(const std::string& path) {
     core::UnpackedSets sets(core::AddBackslash(settings_.logoPath));
     std::string fault;
     {
-        const platform::BusyPointer busy;
-        fault = sets.Unpack(path);
+        std::string file = path;
+        Doing doing(*this, "Unpacking " + core::GetFileName(file) + "...");
+        fault = sets.Unpack(path, [&](double share) { return doing.Continue(share); });
     }
     if (!fault.empty()) {
         TellOfArchive(path + " " + fault + ".");

@@ -7,6 +7,7 @@
 #include "core/generali.h"
 #include "core/import_sets.h"
 #include "core/library.h"
+#include "core/rotation.h"
 #include "core/screen_file.h"
 #include "main_window/principale.h"
 #include "pictures/preview/draw_preview.h"
@@ -31,18 +32,20 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
 void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
     std::string& selected = placeBehindBrowser_.selectedSet;
     if (core::UpperCase(selected) == core::UpperCase(from)) selected = to;
+    core::RenameLeftOut(settings_, from, to);
 }
 
 void Principale::ShowInstalledSet() {
     // While the installed screens are shown the label says so.
     if (!savedView_) DefaultLogo.SetText(InstalledSet().value_or(core::kUnknownSet));
+    LookForInstalledSet();
 }
 
 void Principale::LeggiDatiDisco() {
     const bool installedShown = savedView_.has_value();
     if (installedShown) LeaveInstalledView();
 
-    const platform::BusyPointer busy;  // there may be thousands of sets
+    const Doing doing(*this, "Reading the logo folder...");  // there may be thousands of sets
     thumbnails_.Forget();
     sets_ = core::LogoSetNames(settings_.logoPath);
     installedSetListed_ =
@@ -58,6 +61,7 @@ void Principale::LeggiDatiDisco() {
 
 void Principale::VisualizzaNumLogo() {
     NumLogo.SetText(core::CountLine(MyList.Count()));
+    ShowCounts();
     if (MyList.Count() == 0) LogoType.SetText("");
 }
 
@@ -164,6 +168,7 @@ bool Principale::MyList_AfterLabelEdit(const std::string& typed) {
     }
     MyList.SetItemText(edited, newName);
     ReplaceSet(oldName_, newName);
+    SetWasRenamed(oldName_, newName);
     SelItem(newName);
     if (InstalledSet() == oldName_) SetInstalledSet(newName);
     // The label shows the folder's name by now, which is not always the text as it was typed.

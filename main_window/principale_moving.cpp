@@ -39,6 +39,7 @@ void Principale::ItmMoveColors_Click() {
     if (!saved) return;
     RedrawScreens();
     ShowFaults();
+    LookAgain();
 }
 
 }  // namespace vistrel::main_window

@@ -62,6 +62,7 @@ void Principale::ItmMend_Click(platform::WindowHandle owner) {
     RedrawScreens();
     ShowFaults();
     ForgetThumbnails();
+    LookAgain();
 }
 
 bool Principale::AnimationShown() const { return MenuMark(ID_ItmAnimate); }

@@ -5,7 +5,6 @@
 #include "core/previous_screens.h"
 #include "main_window/principale.h"
 #include "platform/message_box.h"
-#include "platform/pointer.h"
 #include "resources/ids.h"
 
 namespace vistrel::main_window {
@@ -22,10 +21,11 @@ std::string WhyNotBroughtBack(const core::InstallRecord& record, core::UndoResul
 
 }  // namespace
 
-core::PreviousScreens Principale::Previous() const {
-    return {locations_.programFolder,
-            {settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory}};
+core::InstallTargets Principale::Targets() const {
+    return {settings_.logoPath, settings_.bootRoot, locations_.windowsDirectory};
 }
+
+core::PreviousScreens Principale::Previous() const { return {locations_.programFolder, Targets()}; }
 
 // Whether the screens could be kept or not, the set is installed.
 void Principale::KeepScreensBefore(const std::string& newSet) {
@@ -52,7 +52,7 @@ void Principale::ItmUndoInstall_Click() {
                            platform::DefaultAnswer::No))
         return;
     const core::UndoResult result = [&] {
-        const platform::BusyPointer busy;
+        const Doing doing(*this, "Bringing back the previous screens...");
         return previous.BringBack(*record);
     }();
     if (result == core::UndoResult::Done) {
@@ -60,6 +60,7 @@ void Principale::ItmUndoInstall_Click() {
         const bool isListed = std::find(sets_.begin(), sets_.end(), record->setName) != sets_.end();
         SetInstalledSet(isListed ? std::optional(record->setName) : std::nullopt);
     } else {
+        LookAgain();
         platform::Tell(handle(), WhyNotBroughtBack(*record, result));
     }
     CheckUndo();

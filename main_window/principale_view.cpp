@@ -137,6 +137,7 @@ void Principale::ShowInstalledScreens() {
     DefaultLogo.SetText("");
     DefaultLogo.SetForeColor(kGreen);
     DefaultLogo.SetText("Current logo setting");
+    LookForInstalledSet();
 }
 
 void Principale::ShowSetScreens() {

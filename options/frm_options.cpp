@@ -30,6 +30,7 @@ FrmOptions::FrmOptions(OptionsHost& host, Page first)
     AddConfirmations();
     AddImages();
     AddStartUp();
+    AddRotation();
     TabStrip1.Click = [this] { TabStrip1_Click(); };
     BtnOK.Click = [this] { BtnOK_Click(); };
     BtnCancel.Click = [this] { BtnCancel_Click(); };
@@ -124,7 +125,8 @@ void FrmOptions::AddStartUp() {
 }
 
 void FrmOptions::Form_Load() {
-    for (const char* caption : {"General", "Confirmations", "Images", "StartUp settings"})
+    for (const char* caption :
+         {"General", "Confirmations", "Images", "StartUp settings", "Rotation"})
         TabStrip1.AddTab(caption);
     TabStrip1.Select(first_);
     DblAction.AddItem("Sets the logo set as default");
@@ -147,6 +149,7 @@ void FrmOptions::Form_Activate() {
     for (const Flag& flag : flags_) flag.checkBox->SetValue(settings.*flag.setting);
     ShowStartUpAction();
     TxtLogoPath.SetText(settings.logoPath);
+    rotationIsShown_ = false;
     DefineVisible();
     showingValues_ = false;
     // Who is sent to the pictures is to say which program opens them.
@@ -173,6 +176,8 @@ void FrmOptions::DefineVisible() {
         focusGoes |= MyFrame[i].HoldsFocus();
         MyFrame[i].ShowWithAll(false);
     }
+    // There may be thousands of sets.
+    if (shown + 1 == kRotation && !rotationIsShown_) ShowRotation();
     MyFrame[shown].ShowWithAll(true);
     if (focusGoes) FocusNextTo(TabStrip1);
 }
@@ -261,6 +266,7 @@ void FrmOptions::BtnOK_Click() {
     host_.SetAnimationShown(ChkShowAnim.Value() == 1);
     for (const Flag& flag : flags_)
         settings.*flag.setting = static_cast<std::int16_t>(flag.checkBox->Value());
+    if (rotationIsShown_) TakeRotation();
     settings.actionOnDoubleClick = static_cast<std::int16_t>(DblAction.ListIndex());
     settings.bootRoot = DriveHost.Text() + ":\\";
     host_.SetBootLogoOption(static_cast<std::int16_t>(ActiveStart.Value()));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/button.h"
+#include "controls/check_list.h"
 #include "controls/combo_box.h"
 #include "controls/label.h"
 #include "controls/owned_handle.h"
@@ -19,14 +20,14 @@ namespace vistrel::options {
 class FrmOptions : public controls::Window {
  public:
     /// The pages, as the tabs are numbered.
-    enum Page { kGeneral = 1, kConfirmations = 2, kImages = 3, kStartUp = 4 };
+    enum Page { kGeneral = 1, kConfirmations = 2, kImages = 3, kStartUp = 4, kRotation = 5 };
 
     /// `first` is the page that is shown at first.
     explicit FrmOptions(OptionsHost& host, Page first = kGeneral);
     ~FrmOptions() override;
 
     controls::TabStrip TabStrip1;
-    controls::Frame MyFrame[4];
+    controls::Frame MyFrame[5];
 
     controls::Label LblLogoPath;
     controls::TextBox TxtLogoPath;
@@ -54,6 +55,11 @@ class FrmOptions : public controls::Window {
 
     controls::Label LblStartUp;
     controls::OptionButton StartUpAction[3];
+
+    controls::Label LblRotation;
+    controls::CheckList RotationList;  ///< the sets; those that take part are checked
+    controls::Button BtnAllSets;
+    controls::Button BtnNoSets;
 
     controls::Button BtnOK;
     controls::Button BtnCancel;
@@ -87,6 +93,7 @@ class FrmOptions : public controls::Window {
     void AddConfirmations();
     void AddImages();
     void AddStartUp();
+    void AddRotation();
 
     void TabStrip1_Click();
     void DefineVisible();
@@ -102,6 +109,9 @@ class FrmOptions : public controls::Window {
     void BtnCancel_Click();
 
     void ShowStartUpAction();
+    void ShowRotation();
+    void CheckAllSets(bool checked);
+    void TakeRotation();
     std::string NameOfProgram() const;
     void ApplyStartUpChoice();
     void TakeLogoFolder();
@@ -114,6 +124,7 @@ class FrmOptions : public controls::Window {
     bool StartupActionChanged_ = false;
     /// True while the dialog itself fills its boxes, which is no typing.
     bool showingValues_ = false;
+    bool rotationIsShown_ = false;  ///< the list of the page "Rotation" has been filled
 };
 
 }  // namespace vistrel::options

@@ -14,6 +14,7 @@
 #define IDD_FrmManySets 107
 #define IDD_FrmBootShow 108
 #define IDD_FrmAnimate 109
+#define IDD_FrmProgress 112
 #define IDM_Principale 110
 #define IDM_SelPictureForm 111
 #define IDB_Toolbar 120
@@ -48,6 +49,11 @@
 #define ID_LblFaults 1012
 #define ID_LblFind 1020
 #define ID_FindBox 1021
+#define ID_LblDoing 1022
+#define ID_LblSelected 1023
+#define ID_BtnStopLooking 1024
+#define ID_LblWork 1025
+#define ID_WorkBar 1026
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051
@@ -148,7 +154,6 @@
 
 // Preferences: 1400 to 1599
 #define ID_TabStrip1 1400
-#define ID_MyFrame 1401  // 1401 to 1404, in the order of the tabs
 #define ID_LblLogoPath 1405
 #define ID_TxtLogoPath 1406
 #define ID_btnBrwFolder 1407
@@ -172,6 +177,11 @@
 #define ID_StartUpAction 1427  // 1427 Rotaline, 1428 Shufflet, 1429 nothing
 #define ID_LblCustomName 1430
 #define ID_LblCustProg 1431
+#define ID_MyFrame 1440  // 1440 to 1444, in the order of the tabs
+#define ID_LblRotation 1445
+#define ID_RotationList 1446
+#define ID_BtnAllSets 1447
+#define ID_BtnNoSets 1448
 
 // About box: 1600 to 1699
 #define ID_Image1 1600

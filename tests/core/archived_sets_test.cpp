@@ -209,6 +209,39 @@ TEST_F(ArchivedSets, AnExistingSetGetsTheNewScreensAndKeepsTheOthers) {
     EXPECT_EQ(NamesIn(logos), Names{"Blue"});
 }
 
+TEST_F(ArchivedSets, AStoppedExportLeavesTheFileThatWasThere) {
+    PutScreens(logos + "Blue\\", "Blue");
+    PutScreens(logos + "Red\\", "Red");
+    Put(zip, "older");
+    const Names before = NamesIn(root);
+    std::vector<double> shares;
+    const auto stop = [&](double share) {
+        shares.push_back(share);
+        return share == 0;
+    };
+    EXPECT_EQ(ExportSets(logos, {"Blue", "Red"}, zip, stop), ExportResult::Stopped);
+    EXPECT_EQ(shares, (std::vector<double>{0, 0.5}));
+    EXPECT_EQ(Contents(zip), "older");
+    EXPECT_EQ(NamesIn(root), before);
+}
+
+TEST_F(ArchivedSets, AStoppedImportLeavesNothing) {
+    const std::string path = Archive({{"Blue/LOGO.SYS", "new"}, {"Red/LOGO.SYS", "new"}});
+    std::vector<double> shares;
+    {
+        UnpackedSets sets(logos);
+        EXPECT_EQ(sets.Unpack(path,
+                              [&](double share) {
+                                  shares.push_back(share);
+                                  return share == 0;
+                              }),
+                  "");
+        EXPECT_TRUE(sets.Sets().empty());
+    }
+    EXPECT_EQ(shares, (std::vector<double>{0, 0.5}));
+    EXPECT_EQ(NamesIn(logos), Names{});
+}
+
 TEST_F(ArchivedSets, NotTakenLeaveNothing) {
     PutScreens(logos + "Blue\\", "old");
     {

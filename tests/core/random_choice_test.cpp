@@ -81,21 +81,5 @@ TEST(RandomChoiceTest, OfTwoItIsAlwaysTheOther) {
     }
 }
 
-TEST(RandomChoiceTest, TheInstalledSetIsChosenOnlyWhenItIsAlone) {
-    RandomGenerator generator(7.0);
-    EXPECT_EQ(RandomOtherSet(generator, {"only"}, "only"), "only");
-    EXPECT_EQ(RandomOtherSet(generator, {"only"}, "deleted"), "only");
-    std::set<std::string> chosen;
-    for (int i = 0; i < 100; ++i) chosen.insert(RandomOtherSet(generator, {"a", "b", "c"}, "b"));
-    EXPECT_EQ(chosen, (std::set<std::string>{"a", "c"}));
-}
-
-TEST(RandomChoiceTest, WithoutAKnownInstalledSetAnyCanBeChosen) {
-    RandomGenerator generator(7.0);
-    std::set<std::string> chosen;
-    for (int i = 0; i < 100; ++i) chosen.insert(RandomOtherSet(generator, {"a", "b", "c"}, ""));
-    EXPECT_EQ(chosen, (std::set<std::string>{"a", "b", "c"}));
-}
-
 }  // namespace
 }  // namespace vistrel::test

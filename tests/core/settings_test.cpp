@@ -45,6 +45,7 @@ constexpr TextCase kTexts[] = {
     {"DefaultLogoSet", &Settings::defaultLogoSet},
     {"CustomProgName", &Settings::customProgName},
     {"CustomProgPath", &Settings::customProgPath},
+    {"LeftOutOfRotation", &Settings::leftOutOfRotation},
 };
 
 class SettingsTest : public Machine {

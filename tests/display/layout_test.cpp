@@ -11,6 +11,7 @@
 #include "animate/read_screen.h"
 #include "controls/screen_metrics.h"
 #include "editor/select_picture_form.h"
+#include "main_window/frm_progress.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
 #include "pictures/preview/draw_letters.h"
@@ -114,7 +115,7 @@ bool IsGround(HWND control) {
     return kind == WC_TABCONTROLA || (kind == "Button" && (style & 0xf) == BS_GROUPBOX) ||
            (kind == "Static" && ((style & SS_TYPEMASK) == SS_ETCHEDFRAME)) ||
            (kind == "Static" && user::TextOf(control).empty() &&
-            GetDlgCtrlID(control) >= ID_MyFrame && GetDlgCtrlID(control) < ID_MyFrame + 4);
+            GetDlgCtrlID(control) >= ID_MyFrame && GetDlgCtrlID(control) < ID_MyFrame + 5);
 }
 
 bool IsSeeThrough(HWND control) {
@@ -207,6 +208,22 @@ TEST_F(Layout, OfTheMainWindow) {
     Look(main, "main-installed");
 }
 
+TEST_F(Layout, OfTheMainWindowWhileSetsAreCompared) {
+    Principale main(locations);
+    Open(main);
+    main.LblDoing.SetText("Comparing sets with the installed screens: 100 %");
+    main.BtnStopLooking.SetVisible(true);
+    SetWindowPos(main.handle(), nullptr, 0, 0, 520, 400, SWP_NOZORDER);
+    Look(main, "main-comparing");
+}
+
+TEST_F(Layout, OfTheProgress) {
+    FrmProgress progress(nullptr, "Unpacking sunsets.zip...");
+    Open(progress);
+    progress.WorkBar.SetValue(40);
+    Look(progress, "progress");
+}
+
 TEST_F(Layout, OfTheMainWindowWithAScreenThatWouldFlash) {
     std::string file = ScreenFile(255, 0, 0);
     file[51] = 1;  // 256 where the first moving colour belongs
@@ -263,7 +280,7 @@ TEST_F(Layout, OfThePreferences) {
     ASSERT_TRUE(main.Create(nullptr));
     FrmOptions options(main);
     Open(options);
-    for (int page = 0; page < 4; ++page) {
+    for (int page = 0; page < 5; ++page) {
         SendMessageA(options.TabStrip1.handle(), TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
         Look(options, "preferences-" + std::to_string(page));
     }

@@ -177,6 +177,21 @@ TEST_F(Following, ARenamedSetIsRenamedInTheSessionAndInTheMainWindow) {
     });
 }
 
+TEST_F(Following, ASetThatIsLeftOutOfTheRotationStaysSoUnderItsNewNameUntilItIsDeleted) {
+    Store("SearchLogoPath", TextValue(logos));
+    Store("LeftOutOfRotation", TextValue("Blue/Red"));
+    WithEditor([&](Principale& main, SelPictureForm& editor) {
+        RenameItem(editor, "Blue", "Navy");
+        Await([&] { return Exists(logos + "Navy"); }, "renamed");
+        Settle(editor);
+        EXPECT_EQ(main.Preferences().leftOutOfRotation, "Navy/Red");
+        Pick(editor, "Red");
+        RunAndAnswerShell(editor, ID_BrowserDelete, IDYES);
+        EXPECT_EQ(main.Preferences().leftOutOfRotation, "Navy");
+    });
+    EXPECT_EQ(Stored("LeftOutOfRotation"), SavedText("Navy"));
+}
+
 TEST_F(Following, ASetThatIsNotLoadedKeepsTheLoadedOneInItsPlace) {
     Store("SearchLogoPath", TextValue(logos));
     WithEditor([&](Principale&, SelPictureForm& editor) {

@@ -138,7 +138,9 @@ INSTANTIATE_TEST_SUITE_P(
         ControlTitle{40, "Confirm logo type change"},
         ControlTitle{41, "Show it in its actual size"}, ControlTitle{42, "Open Paint"},
         ControlTitle{43, "Open program"}, ControlTitle{44, "Path of the program"},
-        ControlTitle{54, "Logo sequential change"}, ControlTitle{55, "Logo random change"}));
+        ControlTitle{54, "Logo sequential change"}, ControlTitle{55, "Logo random change"},
+        ControlTitle{help_number::RotationList, "Sets of the rotation"},
+        ControlTitle{help_number::BtnAllSets, "All and None"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OtherWindows, VistrelHelpOfControl,
@@ -155,7 +157,11 @@ INSTANTIATE_TEST_SUITE_P(
                     ControlTitle{help_number::LogoType, "Type of the set"},
                     ControlTitle{help_number::NumLogo, "Number of sets"},
                     ControlTitle{help_number::LblFaults, "What is wrong with a screen"},
-                    ControlTitle{help_number::FindBox, "Find"}));
+                    ControlTitle{help_number::FindBox, "Find"},
+                    ControlTitle{help_number::StatusLine, "Status line"},
+                    ControlTitle{help_number::BtnStopLooking, "Cancel in the status line"},
+                    ControlTitle{help_number::WorkBar, "Progress"},
+                    ControlTitle{help_number::WorkCancel, "Cancel"}));
 
 TEST(VistrelHelp, EveryTopicIsReachedFromTheContentsOrByANumber) {
     const ReadHelp& help = VistrelHelp();

@@ -10,6 +10,7 @@
 #include "animate/read_screen.h"
 #include "boot_show/frm_boot_show.h"
 #include "editor/select_picture_form.h"
+#include "main_window/frm_progress.h"
 #include "main_window/frm_view.h"
 #include "options/frm_options.h"
 #include "tests/support/main_window/main_window_fixture.h"
@@ -59,11 +60,13 @@ TEST_F(EveryWindow, HoldsEachOfItsControls) {
     FrmAnimate animate(
         *BeginDocument(*ReadScreen(logos + "Blue\\LOGO.SYS"), std::nullopt), logos,
         [](platform::WindowHandle, const std::vector<std::uint8_t>&) { return true; });
+    FrmProgress progress(nullptr, "");
     boot_show::FrmBootShow show({screen::IndexedScreen{1, 1, {0}, {}, 0}});
     FrmAboutReg about;
     frmSplash splash;
-    for (Window* window : std::initializer_list<Window*>{&options, &editor, &adjust, &many,
-                                                         &animate, &view, &show, &about, &splash}) {
+    for (Window* window :
+         std::initializer_list<Window*>{&options, &editor, &adjust, &many, &animate, &progress,
+                                        &view, &show, &about, &splash}) {
         ASSERT_TRUE(window->Create(nullptr));
         Check(*window);
     }

@@ -50,6 +50,15 @@ TEST_F(Renaming, KeepsTheInstalledSetInstalledUnderItsNewName) {
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Azure"));
 }
 
+TEST_F(Renaming, LeavesTheSetOutOfTheRotationUnderItsNewName) {
+    Store("LeftOutOfRotation", TextValue("Blue/Red"));
+    WithMainWindow([&](Principale& main) {
+        Rename(main, "Red", "Azure");
+        EXPECT_TRUE(Shows(main, "Azure"));
+    });
+    EXPECT_EQ(Stored("LeftOutOfRotation"), SavedText("Blue/Azure"));
+}
+
 TEST_F(Renaming, AsksBeforeAMultiLogoSetBecomesASingleLogoSet) {
     WithMainWindow([&](Principale& main) {
         Rename(main, "Red", "Red.SLS");
@@ -298,6 +307,15 @@ TEST_F(Deleting, AsksAndDeletesTheFolderAndSelectsTheNextSet) {
     });
     EXPECT_FALSE(Exists(logos + "Blue"));
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText(""));
+}
+
+TEST_F(Deleting, LeavesANewSetOfTheSameNameInTheRotation) {
+    Store("LeftOutOfRotation", TextValue("Blue/Red"));
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        DeleteSelected(main, IDYES);
+    });
+    EXPECT_EQ(Stored("LeftOutOfRotation"), SavedText("Blue"));
 }
 
 TEST_F(Deleting, SelectsTheNewLastSetAfterTheLast) {

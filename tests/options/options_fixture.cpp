@@ -45,7 +45,7 @@ bool Preferences::HasFocus(FrmOptions& options, const controls::Control& control
 
 bool Preferences::PageIsShown(FrmOptions& options, int number) {
     return WaitUntil([&] {
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 5; ++i)
             if ((IsWindowVisible(options.MyFrame[i].handle()) != 0) != (i == number - 1))
                 return false;
         return true;

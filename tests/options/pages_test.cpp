@@ -15,14 +15,15 @@ namespace {
 
 TEST_F(Preferences, ShowsOnlyThePageOfTheSelectedTab) {
     WithDialog([&](FrmOptions& options) {
-        for (int tab = 1; tab <= 4; ++tab) {
+        for (int tab = 1; tab <= 5; ++tab) {
             ClickTab(options, tab);
-            for (int i = 0; i < 4; ++i)
+            for (int i = 0; i < 5; ++i)
                 EXPECT_EQ(options.MyFrame[i].Visible(), i == tab - 1) << tab;
             EXPECT_EQ(options.TxtLogoPath.Visible(), tab == 1);
             EXPECT_EQ(options.ChkDelConfirm.Visible(), tab == 2);
             EXPECT_EQ(options.CustProg.Visible(), tab == 3);
             EXPECT_EQ(options.StartUpAction[2].Visible(), tab == 4);
+            EXPECT_EQ(options.RotationList.Visible(), tab == 5);
             user::TakeShot("preferences_" + std::to_string(tab));
         }
     });
@@ -70,7 +71,7 @@ TEST_F(Preferences, AreWordedLikeThis) {
             tabs.push_back(text);
         }
         EXPECT_EQ(tabs, (std::vector<std::string>{"General", "Confirmations", "Images",
-                                                  "StartUp settings"}));
+                                                  "StartUp settings", "Rotation"}));
         char actions[2][64];
         const HWND combo = options.DblAction.handle();
         EXPECT_EQ(SendMessageA(combo, CB_GETCOUNT, 0, 0), 2);
@@ -103,7 +104,7 @@ TEST_F(Preferences, OpenWhereThePictureProgramIsSetWhenAskedTo) {
 
 TEST_F(Preferences, TurnTheirPagesByTheKeyboard) {
     WithDialog([&](FrmOptions& options) {
-        for (const int page : {2, 3, 4, 1}) {
+        for (const int page : {2, 3, 4, 5, 1}) {
             user::Press(VK_TAB, {VK_CONTROL});
             EXPECT_TRUE(PageIsShown(options, page)) << page;
             EXPECT_EQ(SendMessageA(options.TabStrip1.handle(), TCM_GETCURSEL, 0, 0), page - 1);
@@ -112,13 +113,13 @@ TEST_F(Preferences, TurnTheirPagesByTheKeyboard) {
         }
         EXPECT_TRUE(HasFocus(options, options.TxtLogoPath));
         user::Press(VK_TAB, {VK_CONTROL, VK_SHIFT});
-        EXPECT_TRUE(PageIsShown(options, 4));
+        EXPECT_TRUE(PageIsShown(options, 5));
         user::Press(VK_PRIOR, {VK_CONTROL});
-        EXPECT_TRUE(PageIsShown(options, 3));
+        EXPECT_TRUE(PageIsShown(options, 4));
         user::Press(VK_NEXT, {VK_CONTROL});
-        EXPECT_TRUE(PageIsShown(options, 4));
+        EXPECT_TRUE(PageIsShown(options, 5));
         user::Press(VK_TAB);
-        EXPECT_TRUE(PageIsShown(options, 4));
+        EXPECT_TRUE(PageIsShown(options, 5));
     });
 }
 
