@@ -59,7 +59,13 @@ void Principale::MenuCommand(int id) {
 
 // A label that is being edited, and the box "Find:", have an undo of their own for the same keys.
 bool Principale::Form_KeyDown(int key) {
-    if (!controls::IsControlDown() || MyList.EditingLabel()) return false;
+    if (MyList.EditingLabel()) return false;
+    // The list answers its own keys.
+    if (key == controls::kKeyF5 && !MyList.HasFocus()) {
+        itmRefresh_Click();
+        return true;
+    }
+    if (!controls::IsControlDown()) return false;
     if (key == controls::kKeyF)
         GoToFindBox();
     else if (key == controls::kKeyZ && !FindBox.HasFocus())

@@ -116,6 +116,17 @@ TEST_F(Finding, StaysOverARefreshAndKnowsTheInstalledSetThatIsNotShown) {
     EXPECT_EQ(Stored("DefaultLogoSet"), SavedText("Blue"));
 }
 
+TEST_F(Finding, F5RefreshesFromTheBoxAsFromTheList) {
+    WithMainWindow([&](Principale& main) {
+        Find(main, "e");
+        EXPECT_TRUE(Lists(main, all));
+        PutSet("Yellow", 255, 255, 0);
+        user::Press(VK_F5);
+        EXPECT_TRUE(Lists(main, {"Blue", "Green.SLS", "Red", "Yellow"}));
+        EXPECT_EQ(user::TextOf(Box(main)), "e");
+    });
+}
+
 TEST_F(Finding, RenamesAndDeletesWhatWasFoundAndAllIsRightAfterwards) {
     WithMainWindow([&](Principale& main) {
         main.Preferences().deleteInTheRecycleBin = 0;
