@@ -84,6 +84,7 @@ Point Control::MenuPoint() const {
 }
 
 void Control::SetTip(const std::string& tip) {
+    if (tip == tip_) return;
     tip_ = tip;
     if (handle_) parent_->ShowTip(handle_, tip_);
 }

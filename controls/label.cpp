@@ -8,6 +8,7 @@
 namespace vistrel::controls {
 
 void Label::SetForeColor(long color) {
+    if (color == color_) return;
     color_ = color;
     Repaint();
 }
