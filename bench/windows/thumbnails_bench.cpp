@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/windows/machine.h"
 #include "bench/windows/side_by_side.h"
 #include "core/locations.h"
 #include "main_window/principale.h"
@@ -23,6 +24,7 @@ namespace {
 using vistrel::bench::Compare;
 using vistrel::bench::Median;
 using vistrel::bench::Now;
+using vistrel::bench::Store;
 using vistrel::bench::TimeOf;
 using vistrel::main_window::Principale;
 
@@ -44,14 +46,6 @@ std::vector<std::uint8_t> Screen() {
         palette[i * 4 + 2] = static_cast<std::uint8_t>(i);
     }
     return vistrel::bmp::ColormappedBmp(indices.data(), 320, 400, 256, palette.data());
-}
-
-void Store(const char* name, const std::string& text) {
-    HKEY key = nullptr;
-    RegCreateKeyA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Tarnwick\\Vistrel", &key);
-    RegSetValueExA(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                   static_cast<DWORD>(text.size() + 1));
-    RegCloseKey(key);
 }
 
 std::string ScreenOf(const std::string& set) { return kLogos + set + "\\LOGO.SYS"; }
