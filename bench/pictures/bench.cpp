@@ -216,6 +216,15 @@ int Run(const std::vector<std::string>& arguments) {
             least = i < 2 ? milliseconds : std::min(least, milliseconds);
         }
         std::printf("%.3f\n", least);
+    } else if (mode == "convert" && count == 4) {
+        double least = 0;
+        for (int i = 0; i < std::atoi(arguments[3].c_str()); ++i) {
+            const double start = ProcessorTime();
+            pictures::ConvertToLogo(arguments[1], arguments[2]);
+            const double spent = ProcessorTime() - start;
+            least = i < 2 ? spent : std::min(least, spent);
+        }
+        std::printf("%.3f\n", least);
     } else if (mode == "whole" && count == 4) {
         const WholeWayTimes times =
             MeasureWholeWay(arguments[1], arguments[2], std::atoi(arguments[3].c_str()));
@@ -226,6 +235,7 @@ int Run(const std::vector<std::string>& arguments) {
             "usage: picture-bench reference|scaled SOURCE OUT.ppm\n"
             "       picture-bench compare REFERENCE.ppm CANDIDATE.ppm\n"
             "       picture-bench reduce NAME IN.ppm OUT.ppm TIMES\n"
+            "       picture-bench convert SOURCE TARGET TIMES\n"
             "       picture-bench whole SOURCE.jpg TARGET TIMES");
     }
     return 0;
