@@ -44,7 +44,7 @@ Permits Monkey::RenameSetOutside() {
 
 Permits Monkey::DeleteSetOutside() {
     const std::string set = AnySet();
-    if (!set.empty()) RemoveTree(logos + set);
+    if (!set.empty() && held_ == INVALID_HANDLE_VALUE) RemoveTree(logos + set);
     TakeAsGiven();
     return {};
 }
