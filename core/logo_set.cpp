@@ -16,6 +16,16 @@ bool IsDriveRoot(const std::string& path) {
     return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
 }
 
+/// The shell stops at a folder that has nothing in it, or is gone.
+bool HoldsAnything(const std::string& folder) {
+    bool holds = false;
+    platform::ForEachEntry(folder + "\\*.*", [&](const platform::FolderEntry& entry) {
+        holds = entry.name != "." && entry.name != "..";
+        return !holds;
+    });
+    return holds;
+}
+
 }  // namespace
 
 bool IsSingleLogoSet(const std::string& setName) {
@@ -55,6 +65,22 @@ void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin)
     else
         platform::RemoveMatching(everything);
     platform::RemoveFolder(folder);
+}
+
+std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
+                                    const std::vector<std::string>& names, Bin bin) {
+    std::vector<std::string> everything;
+    for (const std::string& name : names)
+        if (HoldsAnything(library + name)) everything.push_back(library + name + "\\*.*");
+    if (bin == Bin::Recycle && !everything.empty()) DeleteToRecycleBin(owner, everything);
+    if (bin == Bin::Destroy)
+        for (const std::string& pattern : everything) platform::RemoveMatching(pattern);
+    std::vector<std::string> left;
+    for (const std::string& name : names) {
+        platform::RemoveFolder(library + name);
+        if (platform::IsFolder(library + name)) left.push_back(name);
+    }
+    return left;
 }
 
 bool CanBeImported(const std::string& path, const std::string& library) {
