@@ -1,6 +1,8 @@
 // A logo set on disk as a whole.
 #include "core/logo_set.h"
 
+#include <algorithm>
+
 #include "core/entry_name.h"
 #include "core/file_handling.h"
 #include "core/generali.h"
@@ -69,10 +71,16 @@ void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin)
 
 std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
                                     const std::vector<std::string>& names, Bin bin) {
-    std::vector<std::string> everything;
+    std::vector<std::string> full;
     for (const std::string& name : names)
-        if (HoldsAnything(library + name)) everything.push_back(library + name + "\\*.*");
-    if (bin == Bin::Recycle && !everything.empty()) DeleteToRecycleBin(owner, everything);
+        if (HoldsAnything(library + name)) full.push_back(library + name);
+    std::vector<std::string> everything;
+    for (const std::string& folder : full) everything.push_back(folder + "\\*.*");
+    if (bin == Bin::Recycle && !full.empty()) {
+        DeleteToRecycleBin(owner, everything);
+        // The user has said no to the shell, and means the empty ones too.
+        if (std::all_of(full.begin(), full.end(), HoldsAnything)) return names;
+    }
     if (bin == Bin::Destroy)
         for (const std::string& pattern : everything) platform::RemoveMatching(pattern);
     std::vector<std::string> left;
