@@ -17,20 +17,29 @@ class SetsWriter {
           file_(path),
           zip_([this](pictures::FileBytes bytes) { return file_.Write(bytes); }) {}
 
-    ExportResult Write(const std::vector<std::string>& names) {
+    ExportOutcome Write(const std::vector<std::string>& names) {
+        std::vector<std::string> notRead;
         for (const std::string& name : names) {
-            const LogoSet set{library_, name};
-            const std::size_t count = set.IsSingle() ? 1 : kScreenFileNames.size();
-            for (std::size_t i = 0; i < count; ++i) {
-                const ExportResult result = AddScreen(set, kScreenFileNames[i]);
-                if (result != ExportResult::Written) return result;
-            }
+            const ExportResult result = AddSet({library_, name});
+            if (result == ExportResult::NotWritten) return {result, {}};
+            if (result == ExportResult::NotRead) notRead.push_back(name);
         }
-        if (screens_ == 0) return ExportResult::NoScreens;
-        return zip_.Finish() && file_.Finish() ? ExportResult::Written : ExportResult::NotWritten;
+        if (!notRead.empty()) return {ExportResult::NotRead, notRead};
+        if (screens_ == 0) return {ExportResult::NoScreens, {}};
+        const bool finished = zip_.Finish() && file_.Finish();
+        return {finished ? ExportResult::Written : ExportResult::NotWritten, {}};
     }
 
  private:
+    ExportResult AddSet(const LogoSet& set) {
+        const std::size_t count = set.IsSingle() ? 1 : kScreenFileNames.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            const ExportResult result = AddScreen(set, kScreenFileNames[i]);
+            if (result != ExportResult::Written) return result;
+        }
+        return ExportResult::Written;
+    }
+
     /// A screen that the set lacks is passed over.
     ExportResult AddScreen(const LogoSet& set, const std::string& screen) {
         const std::string path = set.Folder() + screen;
@@ -53,8 +62,8 @@ class SetsWriter {
 
 }  // namespace
 
-ExportResult ExportSets(const std::string& library, const std::vector<std::string>& names,
-                        const std::string& path) {
+ExportOutcome ExportSets(const std::string& library, const std::vector<std::string>& names,
+                         const std::string& path) {
     return SetsWriter(library, path).Write(names);
 }
 

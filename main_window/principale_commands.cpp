@@ -24,16 +24,26 @@
 namespace vistrel::main_window {
 namespace {
 
+bool IsAboutSelection(Needs needs) {
+    return needs == Needs::SelectedSet || needs == Needs::SelectedSets;
+}
+
 /// Where "StartUp logo in" stands in its menu.
 constexpr int kPlaceOfDrives = 9;
 
 }  // namespace
 
-bool Principale::ASetIsSelected() const { return MyList.SelectedItem() >= 0; }
+bool Principale::ASetIsSelected() const { return MyList.SelectedCount() > 0; }
+
+bool Principale::OneSetIsSelected() const { return MyList.SelectedCount() == 1; }
+
+bool Principale::IsThere(Needs what) const {
+    return what == Needs::SelectedSet ? OneSetIsSelected() : ASetIsSelected();
+}
 
 void Principale::CheckSetCommands() {
     for (const MainTool& row : Tools())
-        if (row.needs == Needs::SelectedSet) ActiveBar1.SetEnabled(row.tool.name, ASetIsSelected());
+        if (IsAboutSelection(row.needs)) ActiveBar1.SetEnabled(row.tool.name, IsThere(row.needs));
 }
 
 void Principale::ActiveBar1_Click(const controls::Tool& tool) {
@@ -47,7 +57,7 @@ void Principale::MenuCommand(int id) {
     if (id == ID_BtnCancel) ShowAllSets();
     if (id == ID_BtnOK && FindBox.HasFocus())
         LeaveFindBox();
-    else if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected())
+    else if (id == ID_BtnOK && MyList.HasFocus() && OneSetIsSelected())
         InstallOrBrowse();
     if (id == ID_ItmViewDefOrActual) ItmViewDefOrActual_Click();
     if (id == ID_ItmMoveColors) ItmMoveColors_Click();
@@ -64,6 +74,10 @@ bool Principale::Form_KeyDown(int key) {
         GoToFindBox();
     else if (key == controls::kKeyZ && !FindBox.HasFocus())
         ItmUndoInstall_Click();
+    else if (key == controls::kKeyA && MyList.HasFocus())
+        ItmSelectAll_Click();
+    else if (key == controls::kKeyC && MyList.HasFocus())
+        ItmCopy_Click();
     else
         return false;
     return true;
@@ -98,8 +112,8 @@ void Principale::ItmDriveList_Click(int index) {
 
 void Principale::MnuListLogo_Click() {
     for (const MainTool& row : Tools())
-        if (row.needs == Needs::SelectedSet)
-            controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), row.item, ASetIsSelected());
+        if (IsAboutSelection(row.needs))
+            controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), row.item, IsThere(row.needs));
 }
 
 platform::MenuHandle Principale::ClassicMenu(int place) const {
@@ -126,10 +140,11 @@ void Principale::MyList_SelectionChanged() {
     if (savedView_) return;
     CheckSetCommands();
     if (!ASetIsSelected()) ShowListaLogo();
+    severalTimer_.SetEnabled(true);
 }
 
 void Principale::MyList_DblClick() {
-    if (MyList.HitTest(lastMouseDown_) >= 0) InstallOrBrowse();
+    if (MyList.HitTest(lastMouseDown_) >= 0 && OneSetIsSelected()) InstallOrBrowse();
 }
 
 // What a double click on a set does, and Enter.
@@ -158,6 +173,7 @@ void Principale::Form_KeyUp(int key) {
 void Principale::ItmRename_Click() { MyList.StartLabelEdit(); }
 
 void Principale::ItmDelete_Click() {
+    if (MyList.SelectedCount() > 1) return DeleteSeveral();
     const int index = MyList.SelectedItem();
     if (index < 0) return;
     const std::string name = MyList.ItemText(index);
@@ -172,7 +188,7 @@ void Principale::ItmDelete_Click() {
 }
 
 void Principale::ItmSetDefault_Click() {
-    if (!ASetIsSelected()) return;
+    if (!OneSetIsSelected()) return;
     const platform::BusyPointer busy;
     const bool synchronize = settings_.synchronizeLogos != 0;
     const std::string name = MyList.ItemText(MyList.SelectedItem());
