@@ -94,7 +94,8 @@ void ActiveBar::Attach(Window& window, int barId, int bitmapResource, long trans
 }
 
 void ActiveBar::SetEnabled(const std::string& tool, bool enabled) {
-    states_[tool].enabled = enabled;
+    // Asked for at each of thousands of sets that are selected at once.
+    if (std::exchange(states_[tool].enabled, enabled) == enabled) return;
     const Tool& t = *ToolOfName(tool);
     const UINT state = enabled ? MF_ENABLED : MF_GRAYED;
     if (t.id) {

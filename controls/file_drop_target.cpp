@@ -7,6 +7,8 @@
 
 #include <utility>
 
+#include "controls/drag_out.h"
+
 namespace vistrel::controls {
 namespace {
 
@@ -57,7 +59,8 @@ class FileDropTarget::Receiver final : public IDropTarget {
     }
 
     HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* data, DWORD, POINTL, DWORD* effect) override {
-        accepted_ = OffersFileList(data);
+        // What lies in the program's own list would come back to where it is.
+        accepted_ = !IsDraggingOut() && OffersFileList(data);
         return DragOver(0, {}, effect);
     }
     HRESULT STDMETHODCALLTYPE DragOver(DWORD, POINTL, DWORD* effect) override {
@@ -69,7 +72,7 @@ class FileDropTarget::Receiver final : public IDropTarget {
         *effect &= DROPEFFECT_COPY;
         // No exception may cross the system's code.
         try {
-            if (OffersFileList(data)) dropped_(FileList(data));
+            if (accepted_) dropped_(FileList(data));
         } catch (...) {
             return E_UNEXPECTED;
         }

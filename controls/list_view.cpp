@@ -121,59 +121,6 @@ int ListView::FindItemOfAnyCase(const std::string& text) const {
     return exact >= 0 ? exact : NextItem(text, -1);
 }
 
-int ListView::SelectedItem() const {
-    const auto next = [this](LPARAM kind) {
-        return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), kind));
-    };
-    const int focused = next(LVNI_SELECTED | LVNI_FOCUSED);
-    return focused >= 0 ? focused : next(LVNI_SELECTED);
-}
-
-std::vector<int> ListView::SelectedItems() const {
-    std::vector<int> items;
-    int item = -1;
-    while ((item = static_cast<int>(
-                Send(LVM_GETNEXTITEM, static_cast<WPARAM>(item), LVNI_SELECTED))) >= 0)
-        items.push_back(item);
-    return items;
-}
-
-bool ListView::IsSelected(int index) const {
-    return Send(LVM_GETITEMSTATE, static_cast<WPARAM>(index), LVIS_SELECTED) != 0;
-}
-
-bool ListView::HasKeys(int index) const {
-    return Send(LVM_GETITEMSTATE, static_cast<WPARAM>(index), LVIS_FOCUSED) != 0;
-}
-
-void ListView::Select(int index) {
-    LVITEMA item{};
-    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    selectingByCode_ = true;
-    // Only what is selected is touched: going through all of a long list would take its time.
-    for (const int former : SelectedItems())
-        if (former != index) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(former), &item);
-    item.state = item.stateMask;
-    if (index >= 0) SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
-    selectingByCode_ = false;
-}
-
-void ListView::SelectToo(int index) {
-    if (index < 0) return;  // which would be all of them
-    LVITEMA item{};
-    item.state = item.stateMask = LVIS_SELECTED;
-    selectingByCode_ = true;
-    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
-    selectingByCode_ = false;
-}
-
-void ListView::GiveKeys(int index) {
-    if (index < 0) return;
-    LVITEMA item{};
-    item.state = item.stateMask = LVIS_FOCUSED;
-    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(index), &item);
-}
-
 void ListView::EnsureVisible(int index) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
 }
@@ -250,10 +197,11 @@ std::intptr_t ListView::OnNotify(void* header) {
             const auto& change = *static_cast<const NMLISTVIEW*>(header);
             if (!(change.uChanged & LVIF_STATE)) return 0;
             if (!((change.uNewState ^ change.uOldState) & LVIS_SELECTED)) return 0;
+            if (selectingMany_) return 0;
             if (SelectionChanged) SelectionChanged();
             if (!(change.uNewState & LVIS_SELECTED) || selectingByCode_ || !ItemClick) return 0;
             // Of many that are selected at once, the user means the one that the keys act on.
-            if (!HasKeys(change.iItem) && Send(LVM_GETSELECTEDCOUNT) > 1) return 0;
+            if (!HasKeys(change.iItem) && SelectedCount() > 1) return 0;
             clickTold_ = true;
             ItemClick(change.iItem);
             return 0;

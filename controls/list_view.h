@@ -48,10 +48,14 @@ class ListView : public Control {
     /// template allows it, the one that the keys act on, or else the first.
     int SelectedItem() const;
     std::vector<int> SelectedItems() const;
+    int SelectedCount() const;
     /// Selects one item, or none with -1. ItemClick does not run.
     void Select(int index);
     /// Selects one item more, or none with -1. ItemClick does not run.
     void SelectToo(int index);
+    /// Selects these items and no others; the keys go on where they were. However many change,
+    /// SelectionChanged runs once. ItemClick does not run.
+    void SelectJust(const std::vector<int>& items);
     /// Makes an item the one at which the keys go on, which selects nothing; none with -1.
     void GiveKeys(int index);
     void EnsureVisible(int index);
@@ -148,6 +152,7 @@ class ListView : public Control {
     bool columnFills_ = false;
     Size pictureSize_;
     bool selectingByCode_ = false;
+    bool selectingMany_ = false;
     Point pressedAt_;
     bool clickTold_ = false;  ///< ItemClick has run for the press that goes on
     int editedItem_ = -1;

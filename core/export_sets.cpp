@@ -17,21 +17,31 @@ class SetsWriter {
           file_(path),
           zip_([this](pictures::FileBytes bytes) { return file_.Write(bytes); }) {}
 
-    ExportResult Write(const std::vector<std::string>& names, const Progress& progress) {
+    ExportOutcome Write(const std::vector<std::string>& names, const Progress& progress) {
+        std::vector<std::string> notRead;
         for (std::size_t done = 0; done < names.size(); ++done) {
-            if (!progress(static_cast<double>(done) / names.size())) return ExportResult::Stopped;
-            const LogoSet set{library_, names[done]};
-            const std::size_t count = set.IsSingle() ? 1 : kScreenFileNames.size();
-            for (std::size_t i = 0; i < count; ++i) {
-                const ExportResult result = AddScreen(set, kScreenFileNames[i]);
-                if (result != ExportResult::Written) return result;
-            }
+            if (!progress(static_cast<double>(done) / names.size()))
+                return {ExportResult::Stopped, {}};
+            const ExportResult result = AddSet({library_, names[done]});
+            if (result == ExportResult::NotWritten) return {result, {}};
+            if (result == ExportResult::NotRead) notRead.push_back(names[done]);
         }
-        if (screens_ == 0) return ExportResult::NoScreens;
-        return zip_.Finish() && file_.Finish() ? ExportResult::Written : ExportResult::NotWritten;
+        if (!notRead.empty()) return {ExportResult::NotRead, notRead};
+        if (screens_ == 0) return {ExportResult::NoScreens, {}};
+        const bool finished = zip_.Finish() && file_.Finish();
+        return {finished ? ExportResult::Written : ExportResult::NotWritten, {}};
     }
 
  private:
+    ExportResult AddSet(const LogoSet& set) {
+        const std::size_t count = set.IsSingle() ? 1 : kScreenFileNames.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            const ExportResult result = AddScreen(set, kScreenFileNames[i]);
+            if (result != ExportResult::Written) return result;
+        }
+        return ExportResult::Written;
+    }
+
     /// A screen that the set lacks is passed over.
     ExportResult AddScreen(const LogoSet& set, const std::string& screen) {
         const std::string path = set.Folder() + screen;
@@ -54,8 +64,8 @@ class SetsWriter {
 
 }  // namespace
 
-ExportResult ExportSets(const std::string& library, const std::vector<std::string>& names,
-                        const std::string& path, const Progress& progress) {
+ExportOutcome ExportSets(const std::string& library, const std::vector<std::string>& names,
+                         const std::string& path, const Progress& progress) {
     return SetsWriter(library, path).Write(names, progress);
 }
 

@@ -1,6 +1,8 @@
 // A logo set on disk as a whole.
 #include "core/logo_set.h"
 
+#include <algorithm>
+
 #include "core/entry_name.h"
 #include "core/file_handling.h"
 #include "core/generali.h"
@@ -14,6 +16,16 @@ namespace {
 /// "D:" or "D:\\".
 bool IsDriveRoot(const std::string& path) {
     return path.size() <= 3 && path.size() >= 2 && path[1] == ':';
+}
+
+/// The shell stops at a folder that has nothing in it, or is gone.
+bool HoldsAnything(const std::string& folder) {
+    bool holds = false;
+    platform::ForEachEntry(folder + "\\*.*", [&](const platform::FolderEntry& entry) {
+        holds = entry.name != "." && entry.name != "..";
+        return !holds;
+    });
+    return holds;
 }
 
 }  // namespace
@@ -55,6 +67,28 @@ void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin)
     else
         platform::RemoveMatching(everything);
     platform::RemoveFolder(folder);
+}
+
+std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
+                                    const std::vector<std::string>& names, Bin bin) {
+    std::vector<std::string> full;
+    for (const std::string& name : names)
+        if (HoldsAnything(library + name)) full.push_back(library + name);
+    std::vector<std::string> everything;
+    for (const std::string& folder : full) everything.push_back(folder + "\\*.*");
+    if (bin == Bin::Recycle && !full.empty()) {
+        DeleteToRecycleBin(owner, everything);
+        // The user has said no to the shell, and means the empty ones too.
+        if (std::all_of(full.begin(), full.end(), HoldsAnything)) return names;
+    }
+    if (bin == Bin::Destroy)
+        for (const std::string& pattern : everything) platform::RemoveMatching(pattern);
+    std::vector<std::string> left;
+    for (const std::string& name : names) {
+        platform::RemoveFolder(library + name);
+        if (platform::IsFolder(library + name)) left.push_back(name);
+    }
+    return left;
 }
 
 bool CanBeImported(const std::string& path, const std::string& library) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/locations.h"
 #include "platform/handles.h"
@@ -53,6 +54,11 @@ enum class Bin { Recycle, Destroy };
 /// succeeded: a folder that holds another one, or a file that the user kept, stays. `owner` is the
 /// window in front while the shell asks.
 void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin);
+
+/// The same with several sets of the logo folder `library`; the shell asks once. The names of those
+/// whose folders are still there.
+std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
+                                    const std::vector<std::string>& names, Bin bin);
 
 /// True for a folder that can become a set of the logo folder `library`: a drive's root has no name
 /// for one, and the logo folder cannot lie in itself.

@@ -151,6 +151,7 @@ void SelPictureForm::Form_Load() {
     ForgetPicture();
     OptCompSet.SetMark(true);
     GrowToScreen();
+    AcceptDrops();
     LogoList.Focus();
 }
 
@@ -168,8 +169,7 @@ void SelPictureForm::Form_Activate() {
     const std::string& lastBrowsed = host_.Preferences().searchLogoPath;
     const std::string folder = core::AddBackslash(
         platform::IsFolder(lastBrowsed) ? lastBrowsed : host_.Locations().programFolder);
-    if (Drive1.SetDrive(folder)) Drive1_Change();
-    BrowseTo(folder);
+    GoTo(folder);
 }
 
 void SelPictureForm::ListNames() {
@@ -203,6 +203,7 @@ bool SelPictureForm::Form_Unload() {
         host_.LeggiDatiDisco();
         host_.VisualizzaNumLogo();
     }
+    for (auto& drop : slotDrops_) drop.reset();
     return true;
 }
 

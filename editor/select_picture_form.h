@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/drive_list.h"
+#include "controls/file_drop_target.h"
 #include "controls/label.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
@@ -166,6 +168,7 @@ class SelPictureForm : public controls::Window {
     void ItmDelete_Click();
     void itmRefresh_Click();
     void ShowManageMenu(controls::Point screen);
+    void GoTo(const std::string& folder);
     void BrowseTo(const std::string& folder);
     void ShowPath(const std::string& path);
     void GoUp();
@@ -177,6 +180,12 @@ class SelPictureForm : public controls::Window {
     std::string SelectedName() const;
     void DragPicture(const controls::Control& source);
     bool RunOpenWith(int id);
+
+    // What is dropped from other programs
+    void AcceptDrops();
+    void LogoList_OLEDragDrop(const std::vector<std::string>& paths);
+    void ImgPreview_OLEDragDrop(int index, const std::vector<std::string>& paths);
+    void SelectDropped(const std::vector<std::string>& paths);
 
     // What follows when something is renamed or deleted
     bool InLogoFolder() const;
@@ -278,6 +287,7 @@ class SelPictureForm : public controls::Window {
     std::string setsOwnTag_[3];        ///< of slots 1 and 2 while they show the shared screens
     adjust::Adjustments adjustments_;  ///< of this session's temporary files
     std::string shownLogoFolder_;      ///< whose sets the session is about
+    std::unique_ptr<controls::FileDropTarget> slotDrops_[3];
 };
 
 }  // namespace vistrel::editor

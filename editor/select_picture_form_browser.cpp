@@ -87,6 +87,12 @@ void SelPictureForm::GoWhereAFolderIs() {
     ShowPath(CurrentFolder);
 }
 
+/// On whatever drive it is.
+void SelPictureForm::GoTo(const std::string& folder) {
+    if (Drive1.SetDrive(folder)) Drive1_Change();
+    BrowseTo(folder);
+}
+
 void SelPictureForm::BrowseTo(const std::string& folder) {
     CurrentFolder = folder;
     GoWhereAFolderIs();

@@ -39,6 +39,7 @@ Principale::Principale(core::SystemLocations locations)
       compareTimer_(kNoDelay),
       idleTimer_(kNoDelay),
       findTimer_(kFindDelay),
+      severalTimer_(kNoDelay),
       locations_(std::move(locations)),
       thumbnails_(
           MyList, idleTimer_,
@@ -74,6 +75,7 @@ Principale::Principale(core::SystemLocations locations)
     Add(compareTimer_);
     Add(idleTimer_);
     Add(findTimer_);
+    Add(severalTimer_);
 
     ActiveBar1.Click = [this](const controls::Tool& tool) { ActiveBar1_Click(tool); };
     ActiveBar1.PreCustomizeMenu = [](bool& cancel) { cancel = true; };
@@ -88,9 +90,11 @@ Principale::Principale(core::SystemLocations locations)
     MyList.OLEDragDrop = [this](const std::vector<std::string>& paths) {
         MyList_OLEDragDrop(paths);
     };
+    MyList.BeginDrag = [this] { MyList_BeginDrag(); };
     MyList.HeadingClick = [this] { MyList_HeadingClick(); };
     FindBox.Change = [this] { FindBox_Change(); };
     findTimer_.Tick = [this] { ShowFoundSets(); };
+    severalTimer_.Tick = [this] { ShowOneOfSeveral(); };
     MyList.PaintPicture = [this](platform::DeviceContext target, int index, controls::Point at) {
         return thumbnails_.Paint(target, index, at);
     };

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -106,9 +107,15 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     controls::Size SmallestSize() const override;
 
  private:
+    /// Which sets are selected, by their names: the list may be read anew, or show others.
+    struct SelectedSets {
+        std::string shown;          ///< the one whose screens are shown; empty when none is
+        std::set<std::string> all;  ///< that one and the others
+    };
+
     /// Where the user is in the list: what a command that reads it anew goes back to.
     struct ListPlace {
-        std::string selectedSet;
+        SelectedSets selected;
         int top = 0;
     };
 
@@ -144,6 +151,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool MyList_BeforeLabelEdit();
     bool MyList_AfterLabelEdit(const std::string& newName);
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
+    void MyList_BeginDrag();
     void MyList_HeadingClick();
     void FindBox_Change();
     void Imag_MouseUp(int index, int button, controls::Point at);
@@ -176,6 +184,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ItmExport_Click();
     void ItmImport_Click();
     void ItmUndoInstall_Click();
+    void ItmDuplicate_Click();
+    void ItmCopy_Click();
+    void ItmSelectAll_Click();
     void ItmMoveColors_Click();
     void NoWork() {}
 
@@ -184,6 +195,16 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void CheckSetCommands();
     void EnableSetScreenCommands(bool enabled);
     bool ASetIsSelected() const;
+    bool OneSetIsSelected() const;
+    bool IsThere(Needs what) const;
+    SelectedSets WhatIsSelected() const;
+    std::vector<std::string> SelectedNames() const;
+    void SelectAgain(const SelectedSets& sets);
+    void MarkAgain(const SelectedSets& sets);
+    void ShowOneOfSeveral();
+    bool ConfirmDeletingSeveral(std::size_t count);
+    void DeleteSeveral();
+    void TellWhatWasNotDeleted(const std::vector<std::string>& names);
     void ShowListAs(controls::ListViewMode mode);
     void CheckViews();
     void ZoomThumbnails(int steps);
@@ -240,17 +261,13 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     /// Places of the classic menus in their resource.
     enum ClassicMenuPlace { kMenuListLogo = 0, kMenuTools = 1, kMenuHelp = 2, kMenuOpenWith = 3 };
 
-    /// What the installed view puts back when it is left.
-    struct SavedView {
-        std::string selectedSet;
-    };
-
     controls::Timer dropTimer_;
     controls::Timer compareTimer_;  ///< ticks while sets are compared with the installed screens
     std::optional<core::InstalledOrigin> origin_;  ///< of these, as far as it is known
     double lookingSince_ = 0;
     controls::Timer idleTimer_;
     controls::Timer findTimer_;
+    controls::Timer severalTimer_;  ///< ticks once when the selection has become another
     core::SystemLocations locations_;
     core::Settings settings_;
     SetThumbnails thumbnails_;
@@ -267,7 +284,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::string currentPicture_;
     std::string oldName_;
     controls::Point lastMouseDown_;
-    std::optional<SavedView> savedView_;
+    std::optional<SelectedSets> savedView_;  ///< what the installed view puts back when it is left
     ListPlace placeBehindBrowser_;  ///< where the user goes back to when the Logo browser closes
 };
 

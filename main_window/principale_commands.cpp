@@ -24,16 +24,26 @@
 namespace vistrel::main_window {
 namespace {
 
+bool IsAboutSelection(Needs needs) {
+    return needs == Needs::SelectedSet || needs == Needs::SelectedSets;
+}
+
 /// Where "StartUp logo in" stands in its menu.
 constexpr int kPlaceOfDrives = 9;
 
 }  // namespace
 
-bool Principale::ASetIsSelected() const { return MyList.SelectedItem() >= 0; }
+bool Principale::ASetIsSelected() const { return MyList.SelectedCount() > 0; }
+
+bool Principale::OneSetIsSelected() const { return MyList.SelectedCount() == 1; }
+
+bool Principale::IsThere(Needs what) const {
+    return what == Needs::SelectedSet ? OneSetIsSelected() : ASetIsSelected();
+}
 
 void Principale::CheckSetCommands() {
     for (const MainTool& row : Tools())
-        if (row.needs == Needs::SelectedSet) ActiveBar1.SetEnabled(row.tool.name, ASetIsSelected());
+        if (IsAboutSelection(row.needs)) ActiveBar1.SetEnabled(row.tool.name, IsThere(row.needs));
 }
 
 void Principale::ActiveBar1_Click(const controls::Tool& tool) {
@@ -47,7 +57,7 @@ void Principale::MenuCommand(int id) {
     if (id == ID_BtnCancel) ShowAllSets();
     if (id == ID_BtnOK && FindBox.HasFocus())
         LeaveFindBox();
-    else if (id == ID_BtnOK && MyList.HasFocus() && ASetIsSelected())
+    else if (id == ID_BtnOK && MyList.HasFocus() && OneSetIsSelected())
         InstallOrBrowse();
     if (id == ID_ItmViewDefOrActual) ItmViewDefOrActual_Click();
     if (id == ID_ItmMoveColors) ItmMoveColors_Click();
@@ -70,6 +80,10 @@ bool Principale::Form_KeyDown(int key) {
         GoToFindBox();
     else if (key == controls::kKeyZ && !FindBox.HasFocus())
         ItmUndoInstall_Click();
+    else if (key == controls::kKeyA && MyList.HasFocus())
+        ItmSelectAll_Click();
+    else if (key == controls::kKeyC && MyList.HasFocus())
+        ItmCopy_Click();
     else
         return false;
     return true;
@@ -104,8 +118,8 @@ void Principale::ItmDriveList_Click(int index) {
 
 void Principale::MnuListLogo_Click() {
     for (const MainTool& row : Tools())
-        if (row.needs == Needs::SelectedSet)
-            controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), row.item, ASetIsSelected());
+        if (IsAboutSelection(row.needs))
+            controls::SetMenuEnabled(ClassicMenu(kMenuListLogo), row.item, IsThere(row.needs));
 }
 
 platform::MenuHandle Principale::ClassicMenu(int place) const {
@@ -133,10 +147,11 @@ void Principale::MyList_SelectionChanged() {
     if (savedView_) return;
     CheckSetCommands();
     if (!ASetIsSelected()) ShowListaLogo();
+    severalTimer_.SetEnabled(true);
 }
 
 void Principale::MyList_DblClick() {
-    if (MyList.HitTest(lastMouseDown_) >= 0) InstallOrBrowse();
+    if (MyList.HitTest(lastMouseDown_) >= 0 && OneSetIsSelected()) InstallOrBrowse();
 }
 
 // What a double click on a set does, and Enter.
@@ -165,6 +180,7 @@ void Principale::Form_KeyUp(int key) {
 void Principale::ItmRename_Click() { MyList.StartLabelEdit(); }
 
 void Principale::ItmDelete_Click() {
+    if (MyList.SelectedCount() > 1) return DeleteSeveral();
     const int index = MyList.SelectedItem();
     if (index < 0) return;
     const std::string name = MyList.ItemText(index);
@@ -179,7 +195,7 @@ void Principale::ItmDelete_Click() {
 }
 
 void Principale::ItmSetDefault_Click() {
-    if (!ASetIsSelected()) return;
+    if (!OneSetIsSelected()) return;
     const bool synchronize = settings_.synchronizeLogos != 0;
     const std::string name = MyList.ItemText(MyList.SelectedItem());
     const Doing doing(*this, "Setting " + name + " as default...");

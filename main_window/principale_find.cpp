@@ -51,19 +51,15 @@ void Principale::FillList() {
     MyList.ResumePainting();
 }
 
-// The selected set stays so where it is still shown, and its screens with it.
+// The selected sets stay so where they are still shown, and the screens of one with it.
 void Principale::ShowFoundSets() {
     findTimer_.SetEnabled(false);
     EndEdits();
     const platform::BusyPointer busy;
-    const std::string selected = ASetIsSelected() ? MyList.ItemText(MyList.SelectedItem()) : "";
+    const SelectedSets selected = WhatIsSelected();
     const auto whenSelectionChanges = std::exchange(MyList.SelectionChanged, nullptr);
     FillList();
-    const int index = selected.empty() ? -1 : MyList.FindItem(selected);
-    if (index >= 0) {
-        MyList.Select(index);
-        MyList.EnsureVisible(index);
-    }
+    if (!savedView_) MarkAgain(selected);
     MyList.SelectionChanged = whenSelectionChanges;
     MyList_SelectionChanged();
     VisualizzaNumLogo();

@@ -5,6 +5,7 @@
 #include "core/generali.h"
 #include "core/import_sets.h"
 #include "core/library.h"
+#include "main_window/names_in_lines.h"
 #include "main_window/principale.h"
 #include "platform/files.h"
 #include "platform/message_box.h"
@@ -14,37 +15,43 @@ namespace {
 
 constexpr const char* kZipFiles = "ZIP files (*.zip)|*.zip|All files (*.*)|*.*";
 
+/// A sentence; empty where all went well.
+std::string WhyNotExported(const std::vector<std::string>& names, const std::string& path,
+                           const core::ExportOutcome& outcome) {
+    switch (outcome.result) {
+        case core::ExportResult::NoScreens:
+            return "There is nothing to export: " +
+                   (names.size() > 1 ? "the selected logo sets have" : names.front() + " has") +
+                   " no screens of " + (names.size() > 1 ? "their" : "its") + " own.";
+        case core::ExportResult::NotRead:
+            if (names.size() == 1) return "A screen of " + names.front() + " cannot be read.";
+            return "Nothing has been exported. Screens of these logo sets cannot be read:\r\n" +
+                   NamesInLines(outcome.notRead);
+        case core::ExportResult::NotWritten:
+            return path + " cannot be written. The disk may be full, or the file protected.";
+        default:
+            return "";
+    }
+}
+
 }  // namespace
 
 void Principale::ItmExport_Click() {
-    if (!ASetIsSelected()) return;
-    const std::string name = MyList.ItemText(MyList.SelectedItem());
+    const std::vector<std::string> names = SelectedNames();
+    if (names.empty()) return;
+    const bool several = names.size() > 1;
     const std::string path =
-        core::ShowSaveDialog(handle(), kZipFiles, "Export logo set", name + ".zip", "zip");
+        core::ShowSaveDialog(handle(), kZipFiles, several ? "Export logo sets" : "Export logo set",
+                             (several ? "Logo sets" : names.front()) + ".zip", "zip");
     if (path.empty()) return;
-    core::ExportResult result;
+    core::ExportOutcome outcome;
     {
-        Doing doing(*this, "Exporting " + name + "...");
-        result = core::ExportSets(settings_.logoPath, {name}, path,
-                                  [&](double share) { return doing.Continue(share); });
+        Doing doing(*this, "Exporting " + (several ? "logo sets" : names.front()) + "...");
+        outcome = core::ExportSets(settings_.logoPath, names, path,
+                                   [&](double share) { return doing.Continue(share); });
     }
-    switch (result) {
-        case core::ExportResult::Written:
-        case core::ExportResult::Stopped:
-            return;
-        case core::ExportResult::NoScreens:
-            platform::Tell(handle(),
-                           "There is nothing to export: " + name + " has no screens of its own.");
-            return;
-        case core::ExportResult::NotRead:
-            platform::Tell(handle(), "A screen of " + name + " cannot be read.");
-            return;
-        case core::ExportResult::NotWritten:
-            platform::Tell(handle(), path +
-                                         " cannot be written. The disk may be full, or the file "
-                                         "protected.");
-            return;
-    }
+    const std::string fault = WhyNotExported(names, path, outcome);
+    if (!fault.empty()) platform::Tell(handle(), fault);
 }
 
 void Principale::ItmImport_Click() {

@@ -30,8 +30,9 @@ void Principale::SetInstalledSet(const std::optional<std::string>& name) {
 }
 
 void Principale::SetWasRenamed(const std::string& from, const std::string& to) {
-    std::string& selected = placeBehindBrowser_.selectedSet;
-    if (core::UpperCase(selected) == core::UpperCase(from)) selected = to;
+    SelectedSets& selected = placeBehindBrowser_.selected;
+    if (core::UpperCase(selected.shown) == core::UpperCase(from)) selected.shown = to;
+    if (selected.all.erase(from) > 0) selected.all.insert(to);
     core::RenameLeftOut(settings_, from, to);
 }
 
@@ -180,7 +181,7 @@ void Principale::SelectAfterDelete(int index) {
         ClearScreens();
         return;
     }
-    const int next = index == MyList.Count() ? index - 1 : index;
+    const int next = std::min(index, MyList.Count() - 1);
     SelItem(MyList.ItemText(next));
 }
 

@@ -50,7 +50,7 @@ int Principale::PlaceStatusLine(controls::Size client) {
 
 void Principale::ShowCounts() {
     LblSelected.SetText(CountsInWords(static_cast<std::size_t>(MyList.Count()), sets_.size(),
-                                      MyList.SelectedItems().size()));
+                                      static_cast<std::size_t>(MyList.SelectedCount())));
 }
 
 // While the label names a set nobody has asked, and no set is read.

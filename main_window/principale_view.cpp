@@ -84,21 +84,17 @@ std::vector<std::string> Principale::MarksOf(int index) const {
 }
 
 Principale::ListPlace Principale::PlaceInList() const {
-    const int selected = MyList.SelectedItem();
-    std::string name = selected < 0 ? std::string() : MyList.ItemText(selected);
-    if (savedView_) name = savedView_->selectedSet;
-    return {name, MyList.TopItem()};
+    return {WhatIsSelected(), MyList.TopItem()};
 }
 
 // Reading the list anew has selected the installed set; the user's own choice comes back where it
 // is still there.
 void Principale::ReturnTo(const ListPlace& place) {
-    const int index = MyList.FindItem(place.selectedSet);
-    if (index < 0) return;
+    if (MyList.FindItem(place.selected.shown) < 0) return;
     if (savedView_)
-        savedView_->selectedSet = place.selectedSet;
-    else if (index != MyList.SelectedItem())
-        SelItem(place.selectedSet);
+        savedView_ = place.selected;
+    else
+        SelectAgain(place.selected);
     MyList.ScrollTo(place.top);
 }
 
@@ -131,7 +127,7 @@ void Principale::ShowInstalledScreens() {
     LogoType.SetVisible(false);
     LblDefaultLogo.SetVisible(false);
     // Run again while they are shown already, there is nothing new to save.
-    if (!savedView_) savedView_ = {PlaceInList().selectedSet};
+    savedView_ = WhatIsSelected();
     MyList.Select(-1);
     ShowScreens(core::InstalledScreenPaths(settings_.bootRoot, locations_.windowsDirectory));
     DefaultLogo.SetText("");
@@ -141,10 +137,10 @@ void Principale::ShowInstalledScreens() {
 }
 
 void Principale::ShowSetScreens() {
-    const int former = savedView_ ? MyList.FindItem(savedView_->selectedSet) : -1;
+    const SelectedSets former = savedView_.value_or(SelectedSets{});
     LeaveInstalledView();
-    if (former >= 0)
-        SelItem(MyList.ItemText(former));
+    if (MyList.FindItem(former.shown) >= 0)
+        SelectAgain(former);
     else
         ShowListaLogo();
 }

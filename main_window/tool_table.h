@@ -13,8 +13,9 @@ class Principale;
 /// What there has to be for a tool to be enabled.
 enum class Needs {
     Nothing,
-    SelectedSet,
-    SetScreens,  ///< the screens of a set are shown and not the installed ones
+    SelectedSet,   ///< one, and no others
+    SelectedSets,  ///< one or more
+    SetScreens,    ///< the screens of a set are shown and not the installed ones
 };
 
 /// Instead of the number of a menu item.

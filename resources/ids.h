@@ -76,9 +76,12 @@
 #define ID_ToolExport 1075
 #define ID_ToolImport 1076
 #define ID_ToolUndoInstall 1077
+#define ID_ToolDuplicate 1078
+#define ID_ToolCopy 1079
 #define ID_ToolThumbnailView 1080
 #define ID_ToolLargerThumbnails 1081
 #define ID_ToolSmallerThumbnails 1082
+#define ID_ToolSelectAll 1083
 
 #define ID_ItmRename 1100
 #define ID_ItmDelete 1101
@@ -104,6 +107,9 @@
 #define ID_ItmExport 1160
 #define ID_ItmImport 1161
 #define ID_ItmUndoInstall 1162
+#define ID_ItmDuplicate 1163
+#define ID_ItmCopy 1164
+#define ID_ItmSelectAll 1165
 #define ID_ItmThumbnailView 1170
 
 // Splash and actual-size preview: 1180 to 1199

@@ -77,7 +77,7 @@ class ArchivedSets : public Machine {
 TEST_F(ArchivedSets, ASetIsAFolderOfItsScreensInTheFile) {
     PutScreens(logos + "Blue\\", "Blue");
     Put(logos + "Blue\\notes.txt", "no screen");
-    EXPECT_EQ(ExportSets(logos, {"Blue"}, zip), ExportResult::Written);
+    EXPECT_EQ(ExportSets(logos, {"Blue"}, zip).result, ExportResult::Written);
     EXPECT_EQ(PackedIn(zip), (std::vector<std::pair<std::string, std::string>>{
                                  {"Blue/LOGO.SYS", "Blue LOGO.SYS"},
                                  {"Blue/LOGOW.SYS", "Blue LOGOW.SYS"},
@@ -88,7 +88,8 @@ TEST_F(ArchivedSets, SeveralSetsGoIntoOneFileSingleOnesWithTheirStartupScreen) {
     PutScreens(logos + "Blue\\", "Blue");
     PutScreens(logos + "Dawn.sls\\", "Dawn");
     MakeFolders(logos + "Empty\\");
-    EXPECT_EQ(ExportSets(logos, {"Dawn.sls", "Empty", "gone", "Blue"}, zip), ExportResult::Written);
+    EXPECT_EQ(ExportSets(logos, {"Dawn.sls", "Empty", "gone", "Blue"}, zip).result,
+              ExportResult::Written);
     const auto packed = PackedIn(zip);
     ASSERT_EQ(packed.size(), 4u);
     EXPECT_EQ(packed[0].first, "Dawn.sls/LOGO.SYS");
@@ -97,7 +98,7 @@ TEST_F(ArchivedSets, SeveralSetsGoIntoOneFileSingleOnesWithTheirStartupScreen) {
 
 TEST_F(ArchivedSets, WithoutAnyScreenNoFileIsWritten) {
     MakeFolders(logos + "Empty\\");
-    EXPECT_EQ(ExportSets(logos, {"Empty"}, zip), ExportResult::NoScreens);
+    EXPECT_EQ(ExportSets(logos, {"Empty"}, zip).result, ExportResult::NoScreens);
     EXPECT_FALSE(Exists(zip));
 }
 
@@ -105,7 +106,7 @@ TEST_F(ArchivedSets, ComeBackAsTheyWentWithTheirTimes) {
     const std::string odd = OddName();
     PutScreens(logos + odd + "\\", "odd");
     SetModifiedAt(logos + odd + "\\LOGO.SYS", kPackedAt);
-    ASSERT_EQ(ExportSets(logos, {odd}, zip), ExportResult::Written);
+    ASSERT_EQ(ExportSets(logos, {odd}, zip).result, ExportResult::Written);
     RemoveTree(logos + odd);
     EXPECT_EQ(ImportAll(zip), "");
     EXPECT_EQ(taken_, Names{odd});
@@ -121,7 +122,7 @@ TEST_F(ArchivedSets, AnExportThatFailsAnywhereLeavesTheFileThatWasThere) {
     bool written = false;
     WithEachOperationFailing(
         [&] { Put(zip, "older"); },
-        [&] { written = ExportSets(logos, {"Blue"}, zip) == ExportResult::Written; },
+        [&] { written = ExportSets(logos, {"Blue"}, zip).result == ExportResult::Written; },
         [&](int) {
             // A screen that cannot be looked up is left out; a time that cannot be told is 0.
             EXPECT_EQ(Contents(zip) == "older", !written);
@@ -131,7 +132,7 @@ TEST_F(ArchivedSets, AnExportThatFailsAnywhereLeavesTheFileThatWasThere) {
     for (int from = 1; from < 12; ++from) {
         Put(zip, "older");
         fault::FailFromOperation(from);
-        EXPECT_NE(ExportSets(logos, {"Blue"}, zip), ExportResult::Written) << from;
+        EXPECT_NE(ExportSets(logos, {"Blue"}, zip).result, ExportResult::Written) << from;
         fault::Reset();
         EXPECT_EQ(Contents(zip), "older") << from;
     }

@@ -90,6 +90,16 @@ TEST_F(SetOnDisk, IsDeletedAsFarAsItGoes) {
                              [&](int) { EXPECT_TRUE(Exists(logos)); });
 }
 
+TEST_F(SetOnDisk, IsDeletedWithOthersAndSaysWhichAreLeft) {
+    PutScreens(logos + "Red\\", "red");
+    PutScreens(logos + "Held\\", "held");
+    MakeFolders(logos + "Held\\more\\");
+    MakeFolders(logos + "Empty\\");
+    EXPECT_EQ(DeleteSets(nullptr, logos, {"Empty", "gone", "Held", "Red"}, Bin::Destroy),
+              Names{"Held"});
+    EXPECT_EQ(Sets(), (Names{"Blue", "Held"}));
+}
+
 TEST_F(SetOnDisk, CanBeADroppedFolderButNoDriveAndNoFile) {
     EXPECT_TRUE(CanBeImported(logos + "Blue", logos));
     EXPECT_TRUE(CanBeImported(blue.Folder(), logos));

@@ -2,6 +2,7 @@
 #include <ole2.h>
 
 #include "tests/main_window/file_drag_source.h"
+#include "tests/main_window/open_file.h"
 #include "tests/support/machine/zip_file.h"
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"
@@ -135,19 +136,6 @@ TEST_F(Giving, SaysWhatKeepsAnExportFromItsFile) {
         EXPECT_FALSE(Exists(zip));
     });
 }
-
-/// A file that nobody else can open as long as this lives.
-class OpenFile {
- public:
-    explicit OpenFile(const std::string& path)
-        : file_(CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {}
-    ~OpenFile() { CloseHandle(file_); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
- private:
-    HANDLE file_;
-};
 
 TEST_F(Giving, SaysWhereAScreenCannotBeRead) {
     const OpenFile open(logos + "Red\\LOGOW.SYS");

@@ -26,6 +26,11 @@ constexpr ToolWords kTools[] = {
     {"", 0, "", "", ""},
     {"ToolUndoInstall", ID_ToolUndoInstall, "&Undo install\tCtrl+Z",
      "Bring back the previous screens", "Logo"},
+    {"", 0, "", "", ""},
+    {"ToolDuplicate", ID_ToolDuplicate, "Du&plicate", "Make a copy of the selected logo set",
+     "Logo"},
+    {"ToolCopy", ID_ToolCopy, "&Copy\tCtrl+C", "Copy for pasting in a folder", "Logo"},
+    {"ToolSelectAll", ID_ToolSelectAll, "Select &all\tCtrl+A", "Select all logo sets", "Logo"},
 };
 
 using LogoMenu = Commanding;

@@ -93,10 +93,12 @@ TEST_F(ClassicMenus, HaveTheirItemsInTheirOrderAndWords) {
     EXPECT_EQ(
         seen::TextsOf(Menu(0)),
         (Texts{"Re&name\tF2", "D&elete\tDel", "Set as &default", "-", "&Explore", "&Refresh\tF5",
-               "&Logo browser...", "-", "E&xport...", "&Import...", "-", "&Undo install\tCtrl+Z"}));
-    EXPECT_THAT(NumbersOf(Menu(0)), ElementsAre(ID_ItmRename, ID_ItmDelete, ID_ItmSetDefault,
-                                                ID_ItmExplore, ID_ItmRefresh, ID_ItmLogoManager,
-                                                ID_ItmExport, ID_ItmImport, ID_ItmUndoInstall));
+               "&Logo browser...", "-", "E&xport...", "&Import...", "-", "&Undo install\tCtrl+Z",
+               "-", "Du&plicate", "&Copy\tCtrl+C", "Select &all\tCtrl+A"}));
+    EXPECT_THAT(NumbersOf(Menu(0)),
+                ElementsAre(ID_ItmRename, ID_ItmDelete, ID_ItmSetDefault, ID_ItmExplore,
+                            ID_ItmRefresh, ID_ItmLogoManager, ID_ItmExport, ID_ItmImport,
+                            ID_ItmUndoInstall, ID_ItmDuplicate, ID_ItmCopy, ID_ItmSelectAll));
     EXPECT_EQ(seen::TextsOf(Menu(1)),
               (Texts{"&View as list", "&View as report", "-", "Show current logo setting", "-",
                      "&Random change", "-", "&Preferences...", "&NetUpdate", "StartUp logo in", "-",
