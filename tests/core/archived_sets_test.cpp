@@ -220,7 +220,7 @@ TEST_F(ArchivedSets, AStoppedExportLeavesTheFileThatWasThere) {
         shares.push_back(share);
         return share == 0;
     };
-    EXPECT_EQ(ExportSets(logos, {"Blue", "Red"}, zip, stop), ExportResult::Stopped);
+    EXPECT_EQ(ExportSets(logos, {"Blue", "Red"}, zip, stop).result, ExportResult::Stopped);
     EXPECT_EQ(shares, (std::vector<double>{0, 0.5}));
     EXPECT_EQ(Contents(zip), "older");
     EXPECT_EQ(NamesIn(root), before);
