@@ -50,8 +50,8 @@ void ListView::SetMode(ListViewMode mode) {
     Repaint();
 }
 
-// Some versions of the list keep the scroll bars of the former view, or of pictures of another size,
-// until their own size changes.
+// Some versions of the list keep the scroll bars of the former view, or of pictures of another
+// size, until their own size changes.
 void ListView::FitScrollBars() {
     const SCROLLINFO none{sizeof none, SIF_ALL, 0, 0, 0, 0, 0};
     SetScrollInfo(handle(), SB_HORZ, &none, FALSE);

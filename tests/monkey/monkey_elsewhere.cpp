@@ -1,4 +1,6 @@
 // What happens on the machine besides: other programs, other displays.
+#include <algorithm>
+
 #include "tests/monkey/monkey.h"
 
 namespace vistrel::test {

@@ -115,8 +115,11 @@ TEST_F(SeveralStory, TwoSetsAreDraggedToTheFolderOfAnotherProgram) {
     OleInitialize(nullptr);
     {
         FileDropWindow folder({4, 4}, given_);
+        // The list sees that something is dragged only while the pointer is over it.
+        const POINT first{list.left + 30, list.top + 10};
+        const POINT inside{first.x + 40, first.y + 60};
         user::Meanwhile dragging(
-            [&] { user::Drag({list.left + 30, list.top + 10}, user::CentreOf(folder.window())); });
+            [&] { user::DragThrough({first, inside, user::CentreOf(folder.window())}, [] {}); });
         dragging.Finish();
         EXPECT_TRUE(WaitUntil([&] {
             MSG message{};
