@@ -370,7 +370,10 @@ TEST_F(Browsing, ClicksOnEmptyPicturesDoNothing) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         EXPECT_TRUE(user::Click(editor.CurView.handle()));
         EXPECT_TRUE(user::RightClick(editor.ImgPreview[0].handle()));
-        Settle(editor);
+        // What comes of a later click shows that these have been handled.
+        EXPECT_TRUE(user::Click(editor.OptDefShut.handle()));
+        Await([&] { return SendMessageA(editor.OptDefShut.handle(), BM_GETCHECK, 0, 0) != 0; },
+              "a click");
         EXPECT_EQ(user::FindTop("FrmView"), nullptr);
         EXPECT_EQ(user::FindTop("#32768"), nullptr);
     });
