@@ -33,15 +33,9 @@ class Several : public MainWindow98 {
         WaitUntil([&] { return main.MyList.SelectedCount() == main.MyList.Count(); });
         Settle(main);
     }
-    void ClickWith(Principale& main, WORD key, const std::string& name) {
-        user::WhileHolding(key, [&] { user::ClickAt(PointOfSet(main, name)); });
-    }
     /// Clicks two sets, the second with Ctrl.
     void SelectTwo(Principale& main, const std::string& first, const std::string& second) {
-        ClickSet(main, first);
-        ClickWith(main, VK_CONTROL, second);
-        EXPECT_TRUE(WaitUntil([&] { return main.MyList.SelectedCount() == 2; }));
-        Settle(main);
+        ClickAlso(main, first, VK_CONTROL, second, 2);
     }
     static bool Shows(Principale& main, const std::string& screen) {
         return WaitUntil([&] { return main.Imag[0].Tag() == screen; });
@@ -88,8 +82,7 @@ TEST_F(Several, ShowTheScreensOfTheOneThatTheKeysActOn) {
 
 TEST_F(Several, AreSelectedByShiftByTheFrameAndByTheCommandForAll) {
     WithMainWindow([&](Principale& main) {
-        ClickSet(main, "Blue");
-        ClickWith(main, VK_SHIFT, "Red");
+        ClickAlso(main, "Blue", VK_SHIFT, "Red", 3);
         EXPECT_TRUE(AreSelected(main, {"Blue", "Green.SLS", "Red"}));
         ClickBelowSets(main);
         const POINT last = PointOfSet(main, "Red");

@@ -171,6 +171,18 @@ void MainWindow98::ClickSet(Principale& main, const std::string& name) {
     Settle(main);
 }
 
+void MainWindow98::ClickAlso(Principale& main, const std::string& first, WORD key,
+                             const std::string& second, int count) {
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries; ++i) {
+        ClickSet(main, first);
+        user::WhileHolding(key, [&] { user::ClickAt(PointOfSet(main, second)); });
+        if (WaitUntil([&] { return main.MyList.SelectedCount() == count; }, 3000)) break;
+    }
+    EXPECT_EQ(main.MyList.SelectedCount(), count);
+    Settle(main);
+}
+
 void MainWindow98::ClickBelowSets(Principale& main) {
     RECT last{};
     last.left = LVIR_BOUNDS;

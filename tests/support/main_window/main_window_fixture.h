@@ -57,6 +57,10 @@ class MainWindow98 : public Machine {
     }
     /// For the user's thread: selects a set by a click on it.
     void ClickSet(main_window::Principale& main, const std::string& name);
+    /// Clicks a set and, with a key held, another one: then so many are selected. Where the key was
+    /// lost meanwhile, then once more.
+    void ClickAlso(main_window::Principale& main, const std::string& first, WORD key,
+                   const std::string& second, int count);
     POINT PointOfSet(main_window::Principale& main, const std::string& name);
     /// For the user's thread: clicks below the last set, where nothing is.
     void ClickBelowSets(main_window::Principale& main);
