@@ -109,23 +109,26 @@ TEST_F(SeveralStory, ACopyIsMadeAndNamedAndTwoSetsAreTakenElsewhere) {
 TEST_F(SeveralStory, TwoSetsAreDraggedToTheFolderOfAnotherProgram) {
     const HWND main = Start();
     ASSERT_NE(main, nullptr);
-    SelectTwo(main);
     RECT list{};
     GetWindowRect(user::Control(main, ID_MyList), &list);
     OleInitialize(nullptr);
     {
         FileDropWindow folder({4, 4}, given_);
-        // The list sees that something is dragged only while the pointer is over it.
+        // The list sees that something is dragged only while the pointer is over it; where it had
+        // no time to, then once more.
         const POINT first{list.left + 30, list.top + 10};
         const POINT inside{first.x + 40, first.y + 60};
-        user::Meanwhile dragging(
-            [&] { user::DragThrough({first, inside, user::CentreOf(folder.window())}, [] {}); });
-        dragging.Finish();
-        EXPECT_TRUE(WaitUntil([&] {
-            MSG message{};
-            while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
-            return folder.drops() == 1;
-        }));
+        constexpr int kTries = 3;
+        for (int i = 0; i < kTries && folder.drops() == 0; ++i) {
+            SelectTwo(main);
+            user::Meanwhile dragging([&] {
+                user::DragThrough({first, inside, user::CentreOf(folder.window())}, [] {});
+            });
+            dragging.Finish();
+            user::TakeShot("story_dragged");
+            WaitUntil([&] { return folder.drops() == 1; }, 5000);
+        }
+        EXPECT_EQ(folder.drops(), 1);
     }
     OleUninitialize();
     EXPECT_EQ(NamesIn(given_), (Names{sets_.at(0), sets_.at(1)}));
