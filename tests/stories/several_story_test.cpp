@@ -1,9 +1,6 @@
 // A user with many sets: several of them are given away, copied and deleted at once.
-#include <ole2.h>
-
 #include "resources/ids.h"
 #include "tests/main_window/dropped_paths.h"
-#include "tests/main_window/file_drop_window.h"
 #include "tests/stories/running_program.h"
 
 namespace vistrel::test {
@@ -13,11 +10,7 @@ using Names = std::vector<std::string>;
 
 class SeveralStory : public RunningProgram {
  protected:
-    SeveralStory() { MakeFolders(given_); }
-    ~SeveralStory() override {
-        RemoveTree(given_);
-        DeleteFileA(zip_.c_str());
-    }
+    ~SeveralStory() override { DeleteFileA(zip_.c_str()); }
 
     bool Counts(HWND main, const std::string& sets) {
         return WaitUntil([&] { return LabelOf(main, ID_NumLogo) == sets; });
@@ -51,7 +44,6 @@ class SeveralStory : public RunningProgram {
         return paths;
     }
 
-    const std::string given_ = "C:\\given\\";
     const std::string zip_ = "C:\\gift.zip";
     const Names sets_ = NamesIn(logos);
 };
@@ -104,37 +96,6 @@ TEST_F(SeveralStory, ACopyIsMadeAndNamedAndTwoSetsAreTakenElsewhere) {
     EXPECT_TRUE(WaitUntil([&] { return OnTheClipboard() == two; }));
     Close();
     EXPECT_EQ(OnTheClipboard(), two);
-}
-
-TEST_F(SeveralStory, TwoSetsAreDraggedToTheFolderOfAnotherProgram) {
-    const HWND main = Start();
-    ASSERT_NE(main, nullptr);
-    RECT list{};
-    GetWindowRect(user::Control(main, ID_MyList), &list);
-    OleInitialize(nullptr);
-    {
-        FileDropWindow folder({4, 4}, given_);
-        // The list sees that something is dragged only while the pointer is over it; where it had
-        // no time to, then once more.
-        const POINT first{list.left + 30, list.top + 10};
-        const POINT inside{first.x + 40, first.y + 60};
-        constexpr int kTries = 3;
-        for (int i = 0; i < kTries && folder.drops() == 0; ++i) {
-            SelectTwo(main);
-            user::Meanwhile dragging([&] {
-                user::DragThrough({first, inside, user::CentreOf(folder.window())}, [] {});
-            });
-            dragging.Finish();
-            user::TakeShot("story_dragged");
-            WaitUntil([&] { return folder.drops() == 1; }, 5000);
-        }
-        EXPECT_EQ(folder.drops(), 1);
-    }
-    OleUninitialize();
-    EXPECT_EQ(NamesIn(given_), (Names{sets_.at(0), sets_.at(1)}));
-    EXPECT_EQ(NamesIn(given_ + sets_.at(0) + "\\"), NamesIn(logos + sets_.at(0) + "\\"));
-    Close();
-    EXPECT_EQ(NamesIn(logos), sets_);
 }
 
 }  // namespace
