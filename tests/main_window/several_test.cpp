@@ -112,6 +112,7 @@ TEST_F(Several, AreDeletedAfterOneQuestionThatSaysHowMany) {
     PutSet("Last", 9, 9, 9);
     WithMainWindow([&](Principale& main) {
         DeleteForGood(main);
+        main.Preferences().leftOutOfRotation = "Blue/Last";
         SelectTwo(main, "Blue", "Green.SLS");
         user::Press(VK_DELETE);
         const user::Box box = user::AnswerBox(IDNO);
@@ -130,6 +131,7 @@ TEST_F(Several, AreDeletedAfterOneQuestionThatSaysHowMany) {
         EXPECT_TRUE(AreSelected(main, {"Last"}));
         EXPECT_EQ(main.SetNames(), (Names{"Last", "Red"}));
         EXPECT_EQ(main.DefaultLogo.Text(), "<Don't know>");
+        EXPECT_EQ(main.Preferences().leftOutOfRotation, "Last");
         EXPECT_EQ(user::FindTop("#32770"), nullptr);
     });
     EXPECT_EQ(NamesIn(logos), (Names{"LOGOS.SYS", "LOGOW.SYS", "Last", "Red"}));
