@@ -15,22 +15,6 @@ class GivingStory : public RunningProgram {
         ASSERT_TRUE(WaitUntil([&] { return LabelOf(main, ID_Imag) == set_ + "\\LOGO.SYS"; }));
     }
 
-    /// Types a path into the dialog of this title.
-    void AnswerDialog(const std::string& title, const std::string& path) {
-        const HWND dialog = user::WaitForTop("#32770", title, process);
-        ASSERT_NE(dialog, nullptr) << title;
-        user::Activate(dialog);
-        user::Type(path);
-        user::Press(VK_RETURN);
-        EXPECT_TRUE(user::WaitUntilGone(dialog));
-    }
-
-    void ChooseFromLogoMenu(char letter) {
-        ASSERT_NE(user::OpenMenuByLetter('L', process), nullptr);
-        user::TakeShot("story_logo_menu");
-        user::Press(letter);
-    }
-
     /// A right click on the selected set opens the same commands.
     void ChooseFromMenuOfSet(HWND main, char letter) {
         RECT list{};

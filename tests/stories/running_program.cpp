@@ -74,4 +74,19 @@ void RunningProgram::PressToolbarButton(HWND main, int place, int gaps) {
     user::ClickAt(at);
 }
 
+void RunningProgram::ChooseFromLogoMenu(char letter) {
+    ASSERT_NE(user::OpenMenuByLetter('L', process), nullptr);
+    user::TakeShot("story_logo_menu");
+    user::Press(letter);
+}
+
+void RunningProgram::AnswerDialog(const std::string& title, const std::string& path) {
+    const HWND dialog = user::WaitForTop("#32770", title, process);
+    ASSERT_NE(dialog, nullptr) << title;
+    user::Activate(dialog);
+    user::Type(path);
+    user::Press(VK_RETURN);
+    EXPECT_TRUE(user::WaitUntilGone(dialog));
+}
+
 }  // namespace vistrel::test

@@ -37,6 +37,10 @@ class RunningProgram : public testing::Test {
     std::string LabelOf(HWND main, int id) { return user::TextOf(user::Control(main, id)); }
     /// Presses the button at this place of the toolbar; gaps between groups count 8 pixels.
     void PressToolbarButton(HWND main, int place, int gaps);
+    /// Opens the menu "Logo" and chooses the command with this letter.
+    void ChooseFromLogoMenu(char letter);
+    /// Types a path into the system's dialog of this title, and Enter.
+    void AnswerDialog(const std::string& title, const std::string& path);
 
     const std::string logos = "C:\\Logos\\";
     DWORD process = 0;

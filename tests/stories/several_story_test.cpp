@@ -18,18 +18,6 @@ class SeveralStory : public RunningProgram {
     bool Shows(HWND main, const std::string& set) {
         return WaitUntil([&] { return LabelOf(main, ID_Imag) == logos + set + "\\LOGO.SYS"; });
     }
-    void AnswerDialog(const std::string& title, const std::string& path) {
-        const HWND dialog = user::WaitForTop("#32770", title, process);
-        ASSERT_NE(dialog, nullptr) << title;
-        user::Activate(dialog);
-        user::Type(path);
-        user::Press(VK_RETURN);
-        EXPECT_TRUE(user::WaitUntilGone(dialog));
-    }
-    void ChooseFromLogoMenu(char letter) {
-        ASSERT_NE(user::OpenMenuByLetter('L', process), nullptr);
-        user::Press(letter);
-    }
     /// The first two sets of the list, by the keyboard.
     void SelectTwo(HWND main) {
         SelectSet(main, 0);
