@@ -44,10 +44,7 @@ class BrowserList : public LogoBrowser {
     /// Presses Del and answers the shell's question with Yes.
     static void DeleteByKey(SelPictureForm& editor) {
         user::Press(VK_DELETE);
-        const HWND question = user::WaitForTop("#32770");
-        user::Activate(question);
-        EXPECT_TRUE(user::Click(GetDlgItem(question, IDYES)));
-        EXPECT_TRUE(user::WaitUntilGone(question));
+        EXPECT_TRUE(user::AnswerShell(IDYES));
         Settle(editor);
     }
 };

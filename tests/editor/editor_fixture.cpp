@@ -227,11 +227,7 @@ void LogoBrowser::Fill(SelPictureForm& editor, const std::string& name, int slot
 
 void LogoBrowser::RunAndAnswerShell(SelPictureForm& editor, int command, int answer) {
     PostMessageA(editor.handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
-    const HWND question = user::WaitForTop("#32770");
-    EXPECT_NE(question, nullptr);
-    user::Activate(question);
-    EXPECT_TRUE(user::Click(GetDlgItem(question, answer)));
-    EXPECT_TRUE(user::WaitUntilGone(question));
+    EXPECT_TRUE(user::AnswerShell(answer));
     Settle(editor);
 }
 

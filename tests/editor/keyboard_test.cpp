@@ -112,10 +112,7 @@ TEST_F(Keyboard, DelDeletesAndF5Refreshes) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "a.sys");
         user::Press(VK_DELETE);
-        const HWND question = user::WaitForTop("#32770");
-        EXPECT_NE(question, nullptr);
-        user::Activate(question);
-        EXPECT_TRUE(user::Click(GetDlgItem(question, IDYES)));
+        EXPECT_TRUE(user::AnswerShell(IDYES));
         Await([&] { return Listed(editor) == Names{".."}; }, "deleted");
         Put(pictures + "b.sys", "");
         user::Activate(editor.handle());

@@ -89,6 +89,8 @@ TEST_F(Ending, AStartRightAfterClosingOpensTheProgramAgain) {
     HWND main = Start();
     ASSERT_NE(main, nullptr);
     PostMessageA(main, WM_SYSCOMMAND, SC_CLOSE, 0);
+    // The user sees it gone, not its program end.
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindowVisible(main); }));
     main = Start();
     EXPECT_NE(main, nullptr);
     Close();

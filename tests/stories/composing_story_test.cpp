@@ -152,12 +152,8 @@ TEST_F(Composing, BuildsSetsByDraggingPicturesAndUpdatesConvertsAndDeletesThem) 
     // Into the recycle bin: the program asks, then the shell.
     ChooseAction(kDelete);
     EXPECT_EQ(user::AnswerBox(IDYES, process).title, "Confirm deletions");
-    const HWND question = user::WaitForTop("#32770", "", process);
-    ASSERT_NE(question, nullptr);
-    EXPECT_TRUE(user::Activate(question));
-    EXPECT_TRUE(user::Click(GetDlgItem(question, IDYES)));
+    EXPECT_TRUE(user::AnswerShell(IDYES, process));
     EXPECT_TRUE(WaitUntil([&] { return !Exists(logos + "Keep.sls"); }));
-    EXPECT_TRUE(user::WaitUntilGone(question));
 
     EXPECT_TRUE(user::Click(Part(ID_CloseButton)));
     EXPECT_TRUE(user::WaitUntilGone(editor_));

@@ -52,9 +52,7 @@ TEST_F(GivingStory, ExportsASetDeletesItAndImportsItAgain) {
     user::Press(VK_DELETE);
     EXPECT_NE(user::AnswerBox(IDYES, process).text.find("City Lights"), std::string::npos);
     // The system has a question of its own before files go into the bin.
-    const HWND question = user::WaitForTop("#32770", "", process);
-    user::Activate(question);
-    EXPECT_TRUE(user::Click(GetDlgItem(question, IDYES)));
+    EXPECT_TRUE(user::AnswerShell(IDYES, process));
     EXPECT_TRUE(Counts(main, " 9 logo sets"));
     EXPECT_FALSE(Exists(set_));
 

@@ -124,6 +124,9 @@ Box WaitForBox(DWORD process = 0, DWORD milliseconds = 20000);
 /// Waits for a message box, presses this button and waits until the box is closed. When it stays
 /// for seconds the button is pressed again.
 Box AnswerBox(int button, DWORD process = 0);
+/// The same with a question that the shell asks, which is no message box. False when there was none
+/// or it stayed.
+bool AnswerShell(int button, DWORD process = 0);
 
 /// Keeps what the screen shows, or the part of it that a window takes, as NAME.png in the folder
 /// that the environment variable VISTREL_SHOTS names; does nothing without it.

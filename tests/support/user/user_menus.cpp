@@ -193,15 +193,30 @@ Box WaitForBox(DWORD process, DWORD milliseconds) {
     return box;
 }
 
-Box AnswerBox(int button, DWORD process) {
-    const Box box = WaitForBox(process);
-    if (box.window == nullptr) return box;
+namespace {
+
+bool ClickUntilGone(HWND dialog, int button) {
     constexpr int kTries = 3;
     for (int i = 0; i < kTries; ++i) {
-        Click(GetDlgItem(box.window, button));
-        if (WaitUntilGone(box.window, 7000)) break;
+        Click(GetDlgItem(dialog, button));
+        if (WaitUntilGone(dialog, 7000)) return true;
     }
+    return false;
+}
+
+}  // namespace
+
+Box AnswerBox(int button, DWORD process) {
+    const Box box = WaitForBox(process);
+    if (box.window) ClickUntilGone(box.window, button);
     return box;
+}
+
+bool AnswerShell(int button, DWORD process) {
+    const HWND question = WaitForTop("#32770", "", process);
+    if (!question) return false;
+    Activate(question);
+    return ClickUntilGone(question, button);
 }
 
 }  // namespace vistrel::user
