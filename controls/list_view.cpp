@@ -49,7 +49,9 @@ int ListView::AddItem(const std::string& text, const std::string& iconKey) {
     item.iItem = INT_MAX;
     item.pszText = const_cast<char*>(text.c_str());
     item.iImage = IconNumber(iconKey);
-    return static_cast<int>(SendPointer(LVM_INSERTITEMA, 0, &item));
+    const int index = static_cast<int>(SendPointer(LVM_INSERTITEMA, 0, &item));
+    if (detailsShown_) AskForDetails(index);
+    return index;
 }
 
 void ListView::RemoveItem(int index) {
@@ -219,7 +221,7 @@ std::intptr_t ListView::OnNotify(void* header) {
             return 1;
         }
         case LVN_COLUMNCLICK:
-            if (HeadingClick) HeadingClick();
+            if (HeadingClick) HeadingClick(static_cast<const NMLISTVIEW*>(header)->iSubItem);
             return 0;
         case NM_CUSTOMDRAW:
             return OnCustomDraw(header);
@@ -228,6 +230,9 @@ std::intptr_t ListView::OnNotify(void* header) {
             return 0;
         case LVN_BEGINDRAG:
             if (BeginDrag) BeginDrag();
+            return 0;
+        case LVN_GETDISPINFOA:
+            TellDetail(header);
             return 0;
         case LVN_BEGINLABELEDITA:
             editedItem_ = static_cast<const NMLVDISPINFOA*>(header)->item.iItem;

@@ -1,5 +1,6 @@
-// A list of items with small icons, as a list, as a report of one column or as pictures with names
-// under them, whose labels can be edited in place. Items are numbered from 0.
+// A list of items with small icons, as a list, as a report of one column, with columns of details
+// or as pictures with names under them, whose labels can be edited in place. Items are numbered
+// from 0.
 #pragma once
 
 #include <functional>
@@ -11,9 +12,16 @@
 
 namespace vistrel::controls {
 
-enum class ListViewMode { Pictures = 0, List = 2, Report = 3 };
+enum class ListViewMode { Pictures = 0, List = 2, Report = 3, Details = 4 };
 
 class FileDropTarget;
+
+/// A column that only the view with details has.
+struct DetailColumn {
+    std::string heading;
+    std::string longest;  ///< a text for which it has room
+    bool isNumber = false;
+};
 
 class ListView : public Control {
  public:
@@ -28,6 +36,9 @@ class ListView : public Control {
     void FitColumn();
     /// From now on the column of a report takes the whole width, however it changes.
     void FillWithColumn() { columnFills_ = true; }
+    /// What the view with details shows behind the items' own column, which has room there for
+    /// `longestName`. Columns whose width the user changes keep it.
+    void SetDetailColumns(const std::string& longestName, std::vector<DetailColumn> columns);
 
     int Count() const;
     /// Adds an item at the end; its number.
@@ -104,8 +115,10 @@ class ListView : public Control {
     /// What stands in an item's label while it is being edited, at each change; when editing ends
     /// without a new text, once more what stood there before.
     std::function<void(const std::string& text)> LabelChange;
-    /// The heading of the report's column was clicked.
-    std::function<void()> HeadingClick;
+    /// The heading of a column was clicked, from 0.
+    std::function<void(int column)> HeadingClick;
+    /// The text of a detail of an item that is seen; `column` counts from 0.
+    std::function<std::string(int index, int column)> Detail;
     /// Paints an item's picture at a point; false when there is none to paint.
     std::function<bool(platform::DeviceContext target, int index, Point at)> PaintPicture;
     /// The keys of the icons that an item's picture bears.
@@ -130,6 +143,11 @@ class ListView : public Control {
 
  private:
     void SetColumnWidth(int width);
+    int RoomFor(const std::string& text) const;
+    void AddDetailColumns();
+    void RemoveDetailColumns();
+    void AskForDetails(int index);
+    void TellDetail(void* info);
     void FitScrollBars();
     void MakeRoomForPictures();
     int TopPicture() const;
@@ -150,6 +168,10 @@ class ListView : public Control {
 
     std::vector<std::string> iconKeys_;
     bool columnFills_ = false;
+    std::string longestName_;
+    std::vector<DetailColumn> details_;
+    std::vector<int> detailWidths_;  ///< as the user has left them; the items' own comes first
+    bool detailsShown_ = false;
     Size pictureSize_;
     bool selectingByCode_ = false;
     bool selectingMany_ = false;

@@ -68,6 +68,7 @@ constexpr SettingRow kRows[] = {
     {"AutoshowAnimation", &Settings::autoshowAnimation, Rule::Number, 19},
     {"Thumbnails", &Settings::thumbnails, Rule::UpToOne, 20},
     {"ThumbnailSize", &Settings::thumbnailSize, Rule::Number, 21},
+    {"Details", &Settings::details, Rule::UpToOne, 23},
     {"LeftOutOfRotation", &Settings::leftOutOfRotation, Rule::Text, 22},
 };
 

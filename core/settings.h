@@ -38,6 +38,7 @@ struct Settings {
     std::int16_t autoshowAnimation = 0;  ///< not 0: the actual-size view moves the colours
     std::int16_t thumbnails = 0;         ///< 1: the sets are seen as thumbnails, whatever `view` is
     std::int16_t thumbnailSize = 0;      ///< steps from the middle size, below 0 smaller
+    std::int16_t details = 0;            ///< 1: the sets are seen with their details likewise
 
     /// The sets that Rotaline and Shufflet pass over, as LeftOutSets has them.
     std::string leftOutOfRotation;

@@ -46,7 +46,10 @@ Principale::Principale(core::SystemLocations locations)
           [this](const std::string& set) {
               return core::LogoSet{settings_.logoPath, set}.Screens()[0];
           },
-          locations_.programFolder + kThumbnailFile) {
+          locations_.programFolder + kThumbnailFile),
+      columns_(MyList, [this](const std::string& name) {
+          return core::LogoSet{settings_.logoPath, name};
+      }) {
     // The list and the pictures have menus of their own at the right button, and F1 means the
     // help's contents here: only what cannot have the focus answers what it is.
     const controls::Part parts[] = {
@@ -63,7 +66,9 @@ Principale::Principale(core::SystemLocations locations)
         {LogoType, ID_LogoType, help_number::LogoType},
         {NumLogo, ID_NumLogo, help_number::NumLogo},
         {LblDoing, ID_LblDoing, help_number::StatusLine},
+        {DoingFrame, ID_DoingFrame},
         {LblSelected, ID_LblSelected, help_number::StatusLine},
+        {SelectedFrame, ID_SelectedFrame},
         {BtnStopLooking, ID_BtnStopLooking, help_number::BtnStopLooking,
          "Ends the comparing of sets"},
         {LblFind, ID_LblFind, help_number::FindBox},
@@ -91,9 +96,12 @@ Principale::Principale(core::SystemLocations locations)
         MyList_OLEDragDrop(paths);
     };
     MyList.BeginDrag = [this] { MyList_BeginDrag(); };
-    MyList.HeadingClick = [this] { MyList_HeadingClick(); };
+    MyList.HeadingClick = [this](int column) { MyList_HeadingClick(column); };
     FindBox.Change = [this] { FindBox_Change(); };
-    findTimer_.Tick = [this] { ShowFoundSets(); };
+    findTimer_.Tick = [this] {
+        // Behind a window that tells how far the list is it would be filled twice.
+        if (IsEnabled()) ShowFoundSets();
+    };
     severalTimer_.Tick = [this] { ShowOneOfSeveral(); };
     MyList.PaintPicture = [this](platform::DeviceContext target, int index, controls::Point at) {
         return thumbnails_.Paint(target, index, at);
@@ -139,8 +147,10 @@ void Principale::Form_Load() {
     settings_ = core::LoadSettings(locations_);
     MyList.SetPictureSize(SetThumbnails::SizeOf(settings_.thumbnailSize));
     const bool thumbnails = settings_.thumbnails == 1;
+    const bool details = settings_.details == 1;
     ItmViewType_Click(settings_.view);
     if (thumbnails) ViewAsThumbnails();
+    if (details) ViewAsDetails();
     ShowCustomProgramName();
     SetAnimationShown(settings_.autoshowAnimation != 0);
     PutBackWindow();

@@ -23,6 +23,7 @@
 #include "core/previous_screens.h"
 #include "editor/host.h"
 #include "main_window/frm_progress.h"
+#include "main_window/set_columns.h"
 #include "main_window/set_thumbnails.h"
 #include "main_window/tool_table.h"
 #include "options/host.h"
@@ -87,6 +88,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     controls::Label NumLogo;
     controls::Label LblDoing;     ///< the status line: what the program is doing
     controls::Label LblSelected;  ///< and beside it how many sets are selected
+    controls::Label DoingFrame;
+    controls::Label SelectedFrame;
     controls::Button BtnStopLooking;
     controls::Label LblFind;
     controls::TextBox FindBox;
@@ -152,7 +155,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     bool MyList_AfterLabelEdit(const std::string& newName);
     void MyList_OLEDragDrop(const std::vector<std::string>& paths);
     void MyList_BeginDrag();
-    void MyList_HeadingClick();
+    void MyList_HeadingClick(int column);
     void FindBox_Change();
     void Imag_MouseUp(int index, int button, controls::Point at);
     void MnuListLogo_Click();
@@ -169,6 +172,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ViewAsList();
     void ViewAsReport();
     void ViewAsThumbnails();
+    void ViewAsDetails();
     void LargerThumbnails() { ZoomThumbnails(1); }
     void SmallerThumbnails() { ZoomThumbnails(-1); }
     void ItmViewType_Click(int index);
@@ -208,6 +212,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowListAs(controls::ListViewMode mode);
     void CheckViews();
     void ZoomThumbnails(int steps);
+    void ScreensHaveChanged();
     void ForgetThumbnails();
     std::vector<std::string> MarksOf(int index) const;
     void ShowScreens(const std::array<std::string, 3>& paths);
@@ -216,12 +221,14 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void FitFaults();
     void ShowScreensAtStart();
     void ItmMend_Click(platform::WindowHandle owner);
+    void AShownScreenWasWritten();
     void ShowInstalledSet();
     void ShowInstalledScreens();
     void ShowSetScreens();
     void LeaveInstalledView();
     void EndInstalledView();
     void FillList();
+    bool ReadDetails(const std::vector<std::string>& names);
     void ShowFoundSets();
     void ShowAllSets();
     void GoToFindBox();
@@ -271,8 +278,9 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     core::SystemLocations locations_;
     core::Settings settings_;
     SetThumbnails thumbnails_;
+    SetColumns columns_;
     std::vector<std::string> sets_;  ///< all of them, as the logo folder lists them
-    core::SetOrder order_ = core::SetOrder::Folder;
+    core::SetOrder order_;
     bool installedSetListed_ = false;  ///< the setting names a set of the list
     controls::OwnedMenu classicMenus_;
     std::int16_t bootLogoOption_ = 1;

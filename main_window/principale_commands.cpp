@@ -195,7 +195,7 @@ void Principale::ItmDelete_Click() {
 }
 
 void Principale::ItmSetDefault_Click() {
-    if (!OneSetIsSelected()) return;
+    if (!ASetIsSelected()) return;
     const bool synchronize = settings_.synchronizeLogos != 0;
     const std::string name = MyList.ItemText(MyList.SelectedItem());
     const Doing doing(*this, "Setting " + name + " as default...");

@@ -38,17 +38,30 @@ void Principale::ShowAllSets() {
     MyList.Focus();
 }
 
-void Principale::MyList_HeadingClick() {
-    order_ = core::NextOrder(order_);
+void Principale::MyList_HeadingClick(int column) {
+    order_ = core::NextOrder(order_, static_cast<core::SetColumn>(column));
     ShowFoundSets();
 }
 
 void Principale::FillList() {
+    std::vector<std::string> found = core::FoundSets(sets_, FindBox.Text());
+    if (core::NeedsDetails(order_) && !ReadDetails(found)) order_ = {};
+    core::SortSets(found, order_, [this](const auto& name) -> auto& { return columns_.Of(name); });
     MyList.SuspendPainting();
     MyList.Clear();
-    for (const std::string& name : core::FoundSets(sets_, FindBox.Text(), order_))
-        MyList.AddItem(name, core::IconKeyOfSet(name));
+    for (const std::string& name : found) MyList.AddItem(name, core::IconKeyOfSet(name));
     MyList.ResumePainting();
+}
+
+/// False when the user has cancelled it: thousands of sets take a while.
+bool Principale::ReadDetails(const std::vector<std::string>& names) {
+    Doing doing(*this, "Reading the details of the sets...");
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        columns_.Of(names[i]);
+        if (!doing.Continue(static_cast<double>(i) / static_cast<double>(names.size())))
+            return false;
+    }
+    return true;
 }
 
 // The selected sets stay so where they are still shown, and the screens of one with it.
@@ -82,6 +95,7 @@ void Principale::RemoveSet(const std::string& name) {
 }
 
 void Principale::LibraryHasChanged() {
+    columns_.Forget();  // a name may be another set's now
     ShowCounts();
     LookAgain();
 }

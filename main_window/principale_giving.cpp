@@ -95,7 +95,7 @@ std::optional<std::string> Principale::ImportArchive(const std::string& path) {
         if (listed < 0) AddSet(name);
         last = listed < 0 ? name : MyList.ItemText(listed);
     }
-    ForgetThumbnails();
+    ScreensHaveChanged();
     VisualizzaNumLogo();
     return last;
 }

@@ -48,6 +48,7 @@ void Principale::LeggiDatiDisco() {
 
     const Doing doing(*this, "Reading the logo folder...");  // there may be thousands of sets
     thumbnails_.Forget();
+    columns_.Forget();
     sets_ = core::LogoSetNames(settings_.logoPath);
     installedSetListed_ =
         std::find(sets_.begin(), sets_.end(), settings_.defaultLogoSet) != sets_.end();
@@ -217,7 +218,7 @@ void Principale::MyList_OLEDragDrop(const std::vector<std::string>& paths) {
         if (!exists) AddSet(name);
         showLast = true;
     }
-    ForgetThumbnails();
+    ScreensHaveChanged();
     if (!showLast) return;
     EndInstalledView();
     // An existing set may have been dropped in other case than the list has it.

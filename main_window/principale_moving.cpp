@@ -36,10 +36,7 @@ void Principale::ItmMoveColors_Click() {
     };
     animate::FrmAnimate window(std::move(*start), settings_.logoPath, keep);
     window.ShowModal(handle());
-    if (!saved) return;
-    RedrawScreens();
-    ShowFaults();
-    LookAgain();
+    if (saved) AShownScreenWasWritten();
 }
 
 }  // namespace vistrel::main_window

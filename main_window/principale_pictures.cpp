@@ -58,10 +58,13 @@ void Principale::ShowScreensAtStart() {
 }
 
 void Principale::ItmMend_Click(platform::WindowHandle owner) {
-    if (!boot_show::AskAndMend(owner, currentPicture_)) return;
+    if (boot_show::AskAndMend(owner, currentPicture_)) AShownScreenWasWritten();
+}
+
+void Principale::AShownScreenWasWritten() {
     RedrawScreens();
     ShowFaults();
-    ForgetThumbnails();
+    ScreensHaveChanged();
     LookAgain();
 }
 

@@ -12,6 +12,13 @@ namespace {
 constexpr double kSecondsOfComparing = 0.03;
 constexpr double kSecondsWithoutCancel = 1;
 
+/// A text in a frame, clear of its edges.
+void Place(controls::Label& text, controls::Label& frame, const controls::Rect& place) {
+    const int beside = 4;
+    frame.MoveTo(place);
+    text.MoveTo({place.left + beside, place.top + 1, place.width - 2 * beside, place.height - 2});
+}
+
 std::string CountsInWords(std::size_t shown, std::size_t all, std::size_t selected) {
     std::string text = std::to_string(all) + (all == 1 ? " set" : " sets");
     if (shown != all) text = std::to_string(shown) + " of " + text;
@@ -36,15 +43,15 @@ Principale::Doing::~Doing() { window_.ShowStatus(); }
 // size the window takes hold of it there.
 int Principale::PlaceStatusLine(controls::Size client) {
     const int between = 2;
-    const int height = LblDoing.Bounds().height;
-    const int counts = LblSelected.Bounds().width;
+    const int height = DoingFrame.Bounds().height;
+    const int counts = SelectedFrame.Bounds().width;
     const int cancel = BtnStopLooking.Bounds().width;
     const int top = client.height - height - between;
     const int left = client.width - height - counts;
     const int doing = left - 2 * between - (BtnStopLooking.Visible() ? cancel + between : 0);
-    LblDoing.MoveTo({between, top, doing, height});
+    Place(LblDoing, DoingFrame, {between, top, doing, height});
     BtnStopLooking.MoveTo({left - between - cancel, top, cancel, height});
-    LblSelected.MoveTo({left, top, counts, height});
+    Place(LblSelected, SelectedFrame, {left, top, counts, height});
     return top;
 }
 

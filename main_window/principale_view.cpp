@@ -21,6 +21,8 @@ void Principale::ViewAsReport() { ItmViewType_Click(1); }
 
 void Principale::ViewAsThumbnails() { ShowListAs(controls::ListViewMode::Pictures); }
 
+void Principale::ViewAsDetails() { ShowListAs(controls::ListViewMode::Details); }
+
 void Principale::ItmViewType_Click(int index) {
     settings_.view = static_cast<std::int16_t>(index);
     ShowListAs(index == 0 ? controls::ListViewMode::List : controls::ListViewMode::Report);
@@ -28,10 +30,13 @@ void Principale::ItmViewType_Click(int index) {
 
 void Principale::ShowListAs(controls::ListViewMode mode) {
     const int top = MyList.TopItem();
+    MyList.SuspendPainting();
     MyList.SetMode(mode);
+    MyList.ResumePainting();
     MyList.ScrollTo(top);
     if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
     settings_.thumbnails = mode == controls::ListViewMode::Pictures ? 1 : 0;
+    settings_.details = mode == controls::ListViewMode::Details ? 1 : 0;
     CheckViews();
 }
 
@@ -44,6 +49,7 @@ void Principale::CheckViews() {
         {"ToolListView", ID_ItmViewType, controls::ListViewMode::List},
         {"ToolReportView", ID_ItmViewType + 1, controls::ListViewMode::Report},
         {"ToolThumbnailView", ID_ItmThumbnailView, controls::ListViewMode::Pictures},
+        {"ToolDetailsView", ID_ItmDetailsView, controls::ListViewMode::Details},
     };
     for (const auto& view : views) {
         ActiveBar1.SetChecked(view.tool, MyList.Mode() == view.mode);
@@ -66,6 +72,12 @@ void Principale::ZoomThumbnails(int steps) {
     MyList.ScrollTo(top);
     if (ASetIsSelected()) MyList.EnsureVisible(MyList.SelectedItem());
     CheckViews();
+}
+
+void Principale::ScreensHaveChanged() {
+    ForgetThumbnails();
+    columns_.Forget();
+    if (MyList.Mode() == controls::ListViewMode::Details) MyList.Repaint();
 }
 
 void Principale::ForgetThumbnails() {

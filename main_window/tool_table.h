@@ -14,7 +14,7 @@ class Principale;
 enum class Needs {
     Nothing,
     SelectedSet,   ///< one, and no others
-    SelectedSets,  ///< one or more
+    SelectedSets,  ///< one or more; what can be done to one only is done to the one that is shown
     SetScreens,    ///< the screens of a set are shown and not the installed ones
 };
 

@@ -35,4 +35,16 @@ void SetModifiedAt(const std::string& path, std::uint32_t time) {
     CloseHandle(file);
 }
 
+std::string DayInWords(std::uint64_t modified) {
+    const FILETIME time{static_cast<DWORD>(modified), static_cast<DWORD>(modified >> 32)};
+    FILETIME local;
+    SYSTEMTIME day;
+    char words[80];
+    if (modified == 0 || !FileTimeToLocalFileTime(&time, &local) ||
+        !FileTimeToSystemTime(&local, &day) ||
+        !GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &day, nullptr, words, sizeof words))
+        return "";
+    return words;
+}
+
 }  // namespace vistrel::platform

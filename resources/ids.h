@@ -54,6 +54,8 @@
 #define ID_BtnStopLooking 1024
 #define ID_LblWork 1025
 #define ID_WorkBar 1026
+#define ID_DoingFrame 1027
+#define ID_SelectedFrame 1028
 
 #define ID_ToolRename 1050
 #define ID_ToolDelete 1051
@@ -82,6 +84,7 @@
 #define ID_ToolLargerThumbnails 1081
 #define ID_ToolSmallerThumbnails 1082
 #define ID_ToolSelectAll 1083
+#define ID_ToolDetailsView 1084
 
 #define ID_ItmRename 1100
 #define ID_ItmDelete 1101
@@ -111,6 +114,7 @@
 #define ID_ItmCopy 1164
 #define ID_ItmSelectAll 1165
 #define ID_ItmThumbnailView 1170
+#define ID_ItmDetailsView 1171
 
 // Splash and actual-size preview: 1180 to 1199
 #define ID_LblSplashVersion 1180

@@ -114,6 +114,7 @@ bool IsGround(HWND control) {
     const LONG style = GetWindowLongA(control, GWL_STYLE);
     return kind == WC_TABCONTROLA || (kind == "Button" && (style & 0xf) == BS_GROUPBOX) ||
            (kind == "Static" && ((style & SS_TYPEMASK) == SS_ETCHEDFRAME)) ||
+           (kind == "Static" && (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_STATICEDGE)) ||
            (kind == "Static" && user::TextOf(control).empty() &&
             GetDlgCtrlID(control) >= ID_MyFrame && GetDlgCtrlID(control) < ID_MyFrame + 5);
 }
@@ -198,6 +199,8 @@ TEST_F(Layout, OfTheMainWindow) {
     Look(main, "main-report");
     Command(main, ID_ItmThumbnailView);
     Look(main, "main-thumbnails");
+    Command(main, ID_ItmDetailsView);
+    Look(main, "main-details");
     main.FindBox.SetText("e");
     Look(main, "main-finding");
     Command(main, ID_ItmViewType + 1);

@@ -188,7 +188,8 @@ TEST_F(DraggingOut, CopiesASetThere) {
 TEST_F(DraggingOut, CopiesAllThatAreSelectedInEveryView) {
     WithFolder([&](Principale& main, FileDropWindow& folder) {
         int drops = 0;
-        for (const int view : {ID_ToolListView, ID_ToolReportView, ID_ToolThumbnailView}) {
+        for (const int view :
+             {ID_ToolListView, ID_ToolReportView, ID_ToolThumbnailView, ID_ToolDetailsView}) {
             Command(main, view);
             const auto select = [&] { ClickAlso(main, "Blue", VK_CONTROL, "Red", 2); };
             EXPECT_TRUE(Dragged(main, folder, ++drops, "Blue", select)) << view;

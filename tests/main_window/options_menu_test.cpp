@@ -26,6 +26,7 @@ constexpr ToolWords kTools[] = {
     {"ToolLargerThumbnails", ID_ToolLargerThumbnails, "Lar&ger thumbnails\tCtrl++", "", "Options"},
     {"ToolSmallerThumbnails", ID_ToolSmallerThumbnails, "&Smaller thumbnails\tCtrl+-", "",
      "Options"},
+    {"ToolDetailsView", ID_ToolDetailsView, "View as &details", "", "Options"},
 };
 
 using OptionsMenu = Commanding;

@@ -46,23 +46,39 @@ class Several : public MainWindow98 {
     static void DeleteForGood(Principale& main) { main.Preferences().deleteInTheRecycleBin = 0; }
 };
 
-TEST_F(Several, AreSelectedByCtrlAndWhatIsForOneSetIsGrey) {
+TEST_F(Several, AreSelectedByCtrlAndHaveTheCommandsOnASetButDuplicate) {
     WithMainWindow([&](Principale& main) {
         SelectTwo(main, "Blue", "Red");
         EXPECT_EQ(SelectedSets(main), (Names{"Blue", "Red"}));
         user::TakeShot("several", main.handle());
         const HWND bar = main.ActiveBar1.bar();
-        EXPECT_FALSE(seen::ButtonOf(bar, ID_ToolRename).enabled);
-        EXPECT_FALSE(seen::ButtonOf(bar, ID_ToolSetDefault).enabled);
-        EXPECT_TRUE(seen::ButtonOf(bar, ID_ToolDelete).enabled);
-        for (const unsigned id : {ID_ToolRename, ID_ToolSetDefault, ID_ToolDuplicate})
-            EXPECT_FALSE(Offers(main, id)) << id;
-        for (const unsigned id : {ID_ToolDelete, ID_ToolExport, ID_ToolCopy, ID_ToolSelectAll})
+        for (const int id : {ID_ToolRename, ID_ToolSetDefault, ID_ToolDelete})
+            EXPECT_TRUE(seen::ButtonOf(bar, id).enabled) << id;
+        EXPECT_FALSE(Offers(main, ID_ToolDuplicate));
+        for (const unsigned id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault, ID_ToolExport,
+                                  ID_ToolCopy, ID_ToolSelectAll})
             EXPECT_TRUE(Offers(main, id)) << id;
         main.MyList.SelectJust({0});
         EXPECT_TRUE(AreSelected(main, {"Blue"}));
         EXPECT_TRUE(SetToolsEnabled(main));
     });
+}
+
+TEST_F(Several, OfThemTheOneThatIsShownIsInstalledOrRenamed) {
+    WithMainWindow([&](Principale& main) {
+        SelectTwo(main, "Red", "Green.SLS");
+        EXPECT_TRUE(Shows(main, logos + "Green.SLS\\LOGO.SYS"));
+        Command(main, ID_ToolSetDefault);
+        EXPECT_EQ(main.DefaultLogo.Text(), "Green.SLS");
+        SelectTwo(main, "Blue", "Red");
+        EXPECT_TRUE(Shows(main, logos + "Red\\LOGO.SYS"));
+        user::Press(VK_F2);
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.EditingLabel(); }));
+        user::Type("Scarlet");
+        user::Press(VK_RETURN);
+        EXPECT_TRUE(AreSelected(main, {"Scarlet"}));
+    });
+    EXPECT_EQ(NamesIn(logos), (Names{"Blue", "Green.SLS", "LOGOS.SYS", "LOGOW.SYS", "Scarlet"}));
 }
 
 TEST_F(Several, ShowTheScreensOfTheOneThatTheKeysActOn) {
@@ -232,8 +248,9 @@ class StayingSelected : public Several {};
 TEST_F(StayingSelected, AfterARefreshInEveryViewAndTheInstalledScreens) {
     WithMainWindow([&](Principale& main) {
         SelectTwo(main, "Red", "Green.SLS");
-        for (const int id : {ID_ToolRefresh, ID_ToolReportView, ID_ToolThumbnailView,
-                             ID_ToolListView, ID_ToolPrefer, ID_ToolShowCurrent}) {
+        for (const int id :
+             {ID_ToolRefresh, ID_ToolReportView, ID_ToolThumbnailView, ID_ToolDetailsView,
+              ID_ToolListView, ID_ToolPrefer, ID_ToolShowCurrent}) {
             StartCommand(main, id);
             if (id == ID_ToolPrefer) {
                 const HWND options = user::WaitForTop("FrmOptions");

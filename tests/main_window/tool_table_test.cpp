@@ -102,10 +102,11 @@ TEST_F(ClassicMenus, HaveTheirItemsInTheirOrderAndWords) {
     EXPECT_EQ(seen::TextsOf(Menu(1)),
               (Texts{"&View as list", "&View as report", "-", "Show current logo setting", "-",
                      "&Random change", "-", "&Preferences...", "&NetUpdate", "StartUp logo in", "-",
-                     "View as &thumbnails"}));
-    EXPECT_THAT(NumbersOf(Menu(1)),
-                ElementsAre(ID_ItmViewType, ID_ItmViewType + 1, ID_ItmViewDefOrActual,
-                            ID_ItmRandomSpin, ID_ItmPref, ID_ItmNetUpdate, 0, ID_ItmThumbnailView));
+                     "View as &thumbnails", "View as &details"}));
+    EXPECT_THAT(
+        NumbersOf(Menu(1)),
+        ElementsAre(ID_ItmViewType, ID_ItmViewType + 1, ID_ItmViewDefOrActual, ID_ItmRandomSpin,
+                    ID_ItmPref, ID_ItmNetUpdate, 0, ID_ItmThumbnailView, ID_ItmDetailsView));
     EXPECT_EQ(seen::TextsOf(Menu(2)),
               (Texts{"&Contents\tF1", "-", "&Bug report", "A&bout...", "E&xit"}));
     EXPECT_THAT(NumbersOf(Menu(2)),

@@ -30,6 +30,7 @@ const std::vector<SettingRow>& SettingRows() {
         {"AutoshowAnimation", &Settings::autoshowAnimation, 19, "1"},
         {"Thumbnails", &Settings::thumbnails, 20, "1", 0, 0, 1},
         {"ThumbnailSize", &Settings::thumbnailSize, 21, "-2"},
+        {"Details", &Settings::details, 23, "1", 0, 0, 1},
         {"LeftOutOfRotation", &Settings::leftOutOfRotation, 22, "Blue/" + OddName()},
     };
     return rows;
