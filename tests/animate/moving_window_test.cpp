@@ -1,5 +1,9 @@
 // What the controls of "Moving colours" say of themselves, how the screen moves in it, what goes
 // wrong, and how the main window opens it.
+#include <windows.h>
+// The others need windows.h first.
+#include <commctrl.h>
+
 #include <set>
 
 #include "animate/frm_animate.h"
@@ -174,6 +178,21 @@ TEST_F(MovingWindow, OfTheMainWindowSavesIntoTheSetAfterAQuestion) {
     const std::string before = *Contents(path);
     WithMainWindow([&](Principale& main) {
         ClickSet(main, "Blue");
+        // What the list says of the set follows.
+        Command(main, ID_ToolDetailsView);
+        const auto listed = [&] {
+            constexpr int kMovingColors = 3;
+            char text[80] = "";
+            LVITEMA item{};
+            item.iSubItem = kMovingColors;
+            item.pszText = text;
+            item.cchTextMax = sizeof text;
+            SendMessageA(main.MyList.handle(), LVM_GETITEMTEXTA,
+                         static_cast<WPARAM>(main.MyList.FindItem("Blue")),
+                         reinterpret_cast<LPARAM>(&item));
+            return std::string(text);
+        };
+        EXPECT_EQ(listed(), "");
         const auto openOn = [&] {
             user::RightClick(main.Imag[0].handle());
             EXPECT_TRUE(user::ChooseFromPopUp(ID_ItmMoveColors));
@@ -194,6 +213,7 @@ TEST_F(MovingWindow, OfTheMainWindowSavesIntoTheSetAfterAQuestion) {
         EXPECT_TRUE(user::WaitUntilGone(window));
         MainWindow98::Settle(main);
         EXPECT_EQ(ScreenOf(path).firstAnimated, 236);
+        EXPECT_EQ(listed(), "20");
         // The preview shows it: the bar is dark at its left end.
         EXPECT_NE(Contents(path), before);
         // Wait and shutdown screens do not move.
