@@ -31,7 +31,7 @@ class Details : public Machine {
 
 TEST_F(Details, AreTheScreensOfTheSetsOwnFolderTheirSizeAndTheDayOfTheNewest) {
     PutScreen("Sea\\LOGO.SYS", Screen(0, 1000));
-    PutScreen("Sea\\logos.sys", Screen(0, 30));
+    PutScreen("Sea\\logos.sys", Screen(0, 60));
     PutScreen("Sea\\LOGOX.SYS", "not one of them");
     PutScreen("Sea\\LOGO.SYS.txt", "nor this");
     MakeFolders(logos + "Sea\\LOGOW.SYS\\");
@@ -43,7 +43,7 @@ TEST_F(Details, AreTheScreensOfTheSetsOwnFolderTheirSizeAndTheDayOfTheNewest) {
     const SetDetails sea = Of("Sea");
     EXPECT_EQ(sea.has, (std::array<bool, 3>{true, false, true}));
     EXPECT_EQ(sea.Screens(), 2);
-    EXPECT_EQ(sea.size, 1030u);
+    EXPECT_EQ(sea.size, 1060u);
     EXPECT_EQ(sea.movingColors, 0);
     EXPECT_EQ(TextOfSet("Sea", sea, SetColumn::Name), "Sea");
     EXPECT_EQ(TextOfSet("Sea", sea, SetColumn::Kind), "Multi logo");
