@@ -2,6 +2,7 @@
 // pixels, by the loops of a Pentium, for a program that counts instructions; see count_previews.
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -41,7 +42,7 @@ int Run(const std::string& path, int width, int height, const std::string& step)
     if (step == "Keep") RunOnce([&] { cache.Keep(source, kept->picture); });
     if (step == "Find") RunOnce([&] { cache.Find(source); });
     if (step == "Scale") RunOnce([&] { scale::Resize(kept->picture, width, height); });
-    std::remove((path + ".cache").c_str());
+    std::filesystem::remove(path + ".cache");
     return 0;
 }
 
