@@ -8,12 +8,10 @@
 #include <vector>
 
 #include "bench/pictures/processor_time.h"
+#include "bench/pictures/run_once.h"
 #include "pictures/compose/stages.h"
 
 namespace vistrel::compose {
-
-[[gnu::noinline]] void RunOnce(const std::function<void()>& step) { step(); }
-
 namespace {
 
 struct Step {
@@ -89,7 +87,7 @@ int Run(const std::string& source, const std::string& only) {
     };
     if (only.empty()) Compare(steps);
     for (const Step& step : steps)
-        if (step.name == only) RunOnce(step.run);
+        if (step.name == only) bench::RunOnce(step.run);
     return 0;
 }
 

@@ -4,18 +4,15 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "bench/pictures/run_once.h"
 #include "pictures/file.h"
 #include "pictures/screen/area.h"
 #include "pictures/screen/indexed_screen.h"
 
 namespace vistrel::bench {
-
-[[gnu::noinline]] void RunOnce(const std::function<void()>& step) { step(); }
-
 namespace {
 
 /// The screen as it is shown, and the part of it that is painted at each step.

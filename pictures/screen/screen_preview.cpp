@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <vector>
 
 #include "pictures/bmp/stored_rows.h"
@@ -12,118 +13,165 @@ namespace {
 /// Weights of a target sample add up to this, so that two averages fit into one 32-bit number.
 constexpr std::uint32_t kOne = 256;
 
-/// The source samples that each target sample covers.
-struct Spans {
-    std::vector<int> first;
-    std::vector<int> count;
-    std::vector<std::uint32_t> weights;  ///< those of all target samples, one after the other
+/// Half a unit of what is averaged along both axes, so that the last step rounds.
+constexpr std::uint32_t kHalf = kOne * kOne / 2;
+
+/// What becomes of a source sample: its weight in the target sample that it belongs to, and if that
+/// ends here, its weight in the next one.
+struct Share {
+    std::uint32_t here = 0;
+    std::uint32_t next = 0;
+    bool ends = false;
 };
 
-Spans SpansOf(int samples, int target) {
-    Spans spans;
+/// The shares of all source samples. There are at least as many as target samples: none belongs to
+/// more than two of these.
+std::vector<Share> SharesOf(int samples, int target) {
+    std::vector<Share> shares;
+    shares.reserve(static_cast<std::size_t>(samples));
     for (int i = 0; i < target; ++i) {
         // In units of 1/target source samples, each target sample covers `samples` of them.
-        const std::int64_t from = static_cast<std::int64_t>(i) * samples;
-        const std::int64_t to = from + samples;
-        const auto first = static_cast<int>(from / target);
-        const auto end = static_cast<int>((to + target - 1) / target);
-        spans.first.push_back(first);
-        spans.count.push_back(end - first);
-        std::uint32_t given = 0;
-        for (int s = first; s < end; ++s) {
+        const int from = i * samples;
+        const int to = from + samples;
+        int given = 0;
+        for (int s = from / target; s * target < to; ++s) {
             // Differences of rounded running sums leave no remainder.
-            const std::int64_t covered =
-                std::min((static_cast<std::int64_t>(s) + 1) * target, to) - from;
-            const auto sum = static_cast<std::uint32_t>((covered * kOne + samples / 2) / samples);
-            spans.weights.push_back(sum - given);
+            const int covered = std::min((s + 1) * target, to) - from;
+            const int sum = (covered * static_cast<int>(kOne) + samples / 2) / samples;
+            const auto weight = static_cast<std::uint32_t>(sum - given);
             given = sum;
+            if (static_cast<std::size_t>(s) < shares.size())
+                shares.back().next = weight;
+            else
+                shares.push_back({weight});
         }
+        shares.back().ends = true;
     }
-    return spans;
+    return shares;
 }
 
-/// The colours of a palette, red and blue packed into one number.
-struct PackedPalette {
-    std::array<std::uint32_t, 256> redBlue;  ///< red in the upper half, blue in the lower
-    std::array<std::uint32_t, 256> green;
+/// A colour, or the weighted sum of some: red in the upper half of a number, blue in the lower.
+struct Packed {
+    std::uint32_t redBlue = 0;
+    std::uint32_t green = 0;
+
+    std::uint32_t Red() const { return redBlue >> 16; }
+    std::uint32_t Blue() const { return redBlue & 0xffff; }
+    Packed operator*(std::uint32_t weight) const { return {redBlue * weight, green * weight}; }
+    Packed operator+(Packed other) const { return {redBlue + other.redBlue, green + other.green}; }
 };
+
+using PackedPalette = std::array<Packed, 256>;
 
 PackedPalette PackedColors(const std::array<bmp::RgbColor, 256>& palette) {
     PackedPalette packed;
-    for (std::size_t i = 0; i < palette.size(); ++i) {
-        packed.redBlue[i] = std::uint32_t{palette[i][0]} << 16 | palette[i][2];
-        packed.green[i] = palette[i][1];
-    }
+    for (std::size_t i = 0; i < palette.size(); ++i)
+        packed[i] = {std::uint32_t{palette[i][0]} << 16 | palette[i][2], palette[i][1]};
     return packed;
 }
 
-/// Averages the pixels of an uncompressed 8-bit bitmap: first along each row, then down.
+/// A column of the file: its weights, and what it has in a row of the picture so far.
+struct Column {
+    Packed sum;
+    Share share;
+};
+
+std::vector<Column> ColumnsOf(int samples, int target) {
+    std::vector<Column> columns;
+    for (const Share& share : SharesOf(samples, target)) columns.push_back({{}, share});
+    return columns;
+}
+
+// The loops over columns are functions by themselves, each with all of a Pentium's few registers.
+
+/// The first row of the file in a row of the picture.
+[[gnu::noinline]] void Begin(std::span<Column> columns, const std::uint8_t* pixel,
+                             const PackedPalette& colors, std::uint32_t weight) {
+#pragma GCC unroll 4
+    for (Column& column : columns) column.sum = colors[*pixel++] * weight;
+}
+
+[[gnu::noinline]] void Add(std::span<Column> columns, const std::uint8_t* pixel,
+                           const PackedPalette& colors, std::uint32_t weight) {
+#pragma GCC unroll 4
+    for (Column& column : columns) column.sum = column.sum + colors[*pixel++] * weight;
+}
+
+/// Adds colours that are weighted already.
+[[gnu::noinline]] void Add(std::span<Column> columns, const std::uint8_t* pixel,
+                           const PackedPalette& weighted) {
+#pragma GCC unroll 4
+    for (Column& column : columns) column.sum = column.sum + weighted[*pixel++];
+}
+
+/// Averages the columns; where the next row is to be written.
+[[gnu::noinline]] std::uint8_t* WriteRow(std::span<const Column> columns, std::uint8_t* out) {
+    std::uint32_t red = kHalf;
+    std::uint32_t green = kHalf;
+    std::uint32_t blue = kHalf;
+    for (const auto& [sum, share] : columns) {
+        red += sum.Red() * share.here;
+        green += sum.green * share.here;
+        blue += sum.Blue() * share.here;
+        if (!share.ends) continue;
+        *out++ = static_cast<std::uint8_t>(red / (kOne * kOne));
+        *out++ = static_cast<std::uint8_t>(green / (kOne * kOne));
+        *out++ = static_cast<std::uint8_t>(blue / (kOne * kOne));
+        red = sum.Red() * share.next + kHalf;
+        green = sum.green * share.next + kHalf;
+        blue = sum.Blue() * share.next + kHalf;
+    }
+    return out;
+}
+
+/// Averages the pixels of an uncompressed 8-bit bitmap: first down each column, then along what
+/// comes of it.
 class Shrinker {
  public:
     Shrinker(const pictures::PictureFile& file, const bmp::BmpHeader& header, int width, int height)
         : rows_(file, header),
           colors_(PackedColors(header.palette)),
-          across_(SpansOf(header.width, width)),
-          down_(SpansOf(header.height, height)),
-          redBlue_(static_cast<std::size_t>(width)),
-          green_(redBlue_.size()),
-          sums_(redBlue_.size() * 3) {}
+          down_(SharesOf(header.height, height)),
+          columns_(ColumnsOf(header.width, width)) {}
 
     /// Writes the picture: 3 bytes per pixel, rows from the top.
     void WriteTo(std::uint8_t* out) {
-        const std::uint32_t* weight = down_.weights.data();
-        for (std::size_t target = 0; target < down_.first.size(); ++target) {
-            // Half a unit, so that the last step rounds.
-            std::fill(sums_.begin(), sums_.end(), kOne * kOne / 2);
-            for (int i = 0; i < down_.count[target]; ++i) {
-                HoldRow(down_.first[target] + i);
-                AddHeldRow(*weight++);
+        int y = 0;
+        for (const Share& share : down_) {
+            const std::uint8_t* const pixels = rows_.Row(y++);
+            if (!share.ends) {
+                Add(columns_, pixels, ColorsTimes(share.here));
+                continue;
             }
-            for (const std::uint32_t sum : sums_)
-                *out++ = static_cast<std::uint8_t>(sum / (kOne * kOne));
+            Add(columns_, pixels, colors_, share.here);
+            out = WriteRow(columns_, out);
+            Begin(columns_, pixels, colors_, share.next);
         }
     }
 
  private:
-    /// Averages a row of the file, unless it is the one that is held: a row at a border belongs to
-    /// two target rows.
-    void HoldRow(int y) {
-        if (y == rowHeld_) return;
-        rowHeld_ = y;
-        const std::uint8_t* const pixels = rows_.Row(y);
-        const std::uint32_t* weight = across_.weights.data();
-        for (std::size_t x = 0; x < redBlue_.size(); ++x) {
-            std::uint32_t sumRedBlue = 0;
-            std::uint32_t sumGreen = 0;
-            const std::uint8_t* pixel = pixels + across_.first[x];
-            for (int left = across_.count[x]; left > 0; --left) {
-                sumRedBlue += colors_.redBlue[*pixel] * *weight;
-                sumGreen += colors_.green[*pixel] * *weight;
-                ++pixel;
-                ++weight;
-            }
-            redBlue_[x] = sumRedBlue;
-            green_[x] = sumGreen;
-        }
-    }
+    struct Products {
+        std::uint32_t weight = 0;
+        PackedPalette colors;
+    };
 
-    void AddHeldRow(std::uint32_t weight) {
-        std::uint32_t* sum = sums_.data();
-        for (std::size_t x = 0; x < redBlue_.size(); ++x, sum += 3) {
-            sum[0] += (redBlue_[x] >> 16) * weight;
-            sum[1] += green_[x] * weight;
-            sum[2] += (redBlue_[x] & 0xffff) * weight;
+    /// Multiplying takes a Pentium as long as ten other steps. Rows that lie within one row of the
+    /// picture have no more than two weights, one of them odd: their products are kept.
+    const PackedPalette& ColorsTimes(std::uint32_t weight) {
+        Products& products = products_[weight % 2];
+        if (products.weight != weight) {
+            products.weight = weight;
+            for (std::size_t i = 0; i < colors_.size(); ++i)
+                products.colors[i] = colors_[i] * weight;
         }
+        return products.colors;
     }
 
     bmp::StoredRows rows_;
     PackedPalette colors_;
-    Spans across_;
-    Spans down_;
-    int rowHeld_ = -1;
-    std::vector<std::uint32_t> redBlue_;  ///< of the row that is held, each colour times 256
-    std::vector<std::uint32_t> green_;
-    std::vector<std::uint32_t> sums_;  ///< of a target row: red, green, blue of each pixel
+    std::array<Products, 2> products_;
+    std::vector<Share> down_;
+    std::vector<Column> columns_;
 };
 
 /// True when the file is an uncompressed 8-bit bitmap and has all of its pixels.

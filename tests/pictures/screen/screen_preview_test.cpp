@@ -72,6 +72,50 @@ TEST(ScreenPreview, AveragesTheAreaOfEachPixel) {
     }
 }
 
+/// What a source sample weighs in a target sample, in 1/256.
+int Weight(int sample, int target, int samples, int targets) {
+    const auto weightUpTo = [&](int end) {
+        const int covered = std::clamp(end * targets - target * samples, 0, samples);
+        return (covered * 256 + samples / 2) / samples;
+    };
+    return weightUpTo(sample + 1) - weightUpTo(sample);
+}
+
+/// The average that these weights make, rounded once.
+int WeightedAverage(const RgbPicture& whole, int x, int y, int channel, int width, int height) {
+    int sum = 256 * 256 / 2;
+    for (int row = y * whole.height / height; row * height < (y + 1) * whole.height; ++row)
+        for (int column = x * whole.width / width; column * width < (x + 1) * whole.width; ++column)
+            sum +=
+                Weight(row, y, whole.height, height) * Weight(column, x, whole.width, width) *
+                whole.pixels[(static_cast<std::size_t>(row) * whole.width + column) * 3 + channel];
+    return sum / (256 * 256);
+}
+
+TEST(ScreenPreview, WeighsIn256thsToTheLastBit) {
+    struct Sizes {
+        int fileWidth, fileHeight, width, height;
+    };
+    for (const auto& [fileWidth, fileHeight, width, height] : {Sizes{320, 400, 203, 151},
+                                                               {320, 400, 128, 96},
+                                                               {33, 21, 7, 5},
+                                                               {35, 22, 35, 22},
+                                                               {34, 23, 1, 1},
+                                                               {31, 24, 30, 23},
+                                                               {36, 18, 12, 6}}) {
+        const auto file = Screen(fileWidth, fileHeight);
+        const auto whole = ReadBmp(file);
+        const auto preview = PreviewOfScreen(file, width, height);
+        ASSERT_TRUE(whole && preview) << width;
+        const std::uint8_t* value = preview->picture.pixels.data();
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                for (int c = 0; c < 3; ++c)
+                    ASSERT_EQ(*value++, WeightedAverage(*whole, x, y, c, width, height))
+                        << width << ": " << x << ", " << y;
+    }
+}
+
 TEST(ScreenPreview, KeepsAFlatColourExactly) {
     const std::vector<std::uint8_t> indices(320 * 400, 255);
     std::vector<std::uint8_t> palette(1024, 255);
