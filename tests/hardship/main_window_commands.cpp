@@ -131,6 +131,17 @@ void ChangeAndPressOk(HWND window) {
     PressOk(window);
 }
 
+/// Opens a dialog over the preferences, which are closed without OK.
+template <int button>
+void PressIn(HWND window) {
+    PostMessageA(user::Control(window, button), BM_CLICK, 0, 0);
+}
+
+void LeaveAllOut(HWND window) {
+    SendMessageA(user::Control(window, ID_BtnNoSets), BM_CLICK, 0, 0);
+    PressOk(window);
+}
+
 }  // namespace
 
 const std::vector<WindowCommands::Row>& WindowCommands::OfMainWindow() {
@@ -187,6 +198,19 @@ const std::vector<WindowCommands::Row>& WindowCommands::OfMainWindow() {
          GiveIt<ID_ToolPrefer>,
          {},
          ChangeAndPressOk},
+        {{}, "preferences: rotation", nullptr, GiveIt<ID_ToolPrefer>, {}, LeaveAllOut},
+        {{},
+         "preferences: logo folder",
+         nullptr,
+         GiveIt<ID_ToolPrefer>,
+         {},
+         PressIn<ID_btnBrwFolder>},
+        {{},
+         "preferences: program",
+         PutOlderArchive,
+         GiveIt<ID_ToolPrefer>,
+         {},
+         PressIn<ID_BtnBrowse>},
         {.commands = {ID_Online, ID_WhatIsThis, ID_ItmNetUpdate},
          .name = "nothing",
          .run = GiveIt<ID_Online>,

@@ -233,7 +233,7 @@ TEST_F(Windows, HaveARowForEachOfTheirCommands) {
         for (const controls::Tool& tool : main.ActiveBar1.Tools())
             if (tool.id != 0) commands.push_back(tool.id);
     });
-    EXPECT_GT(commands.size(), 60u);
+    EXPECT_GT(commands.size(), 50u);
     for (const int command : commands) EXPECT_TRUE(HaveRowFor(OfMainWindow(), command)) << command;
     for (const int command : CommandsOfMenus(IDM_SelPictureForm))
         EXPECT_TRUE(HaveRowFor(OfLogoBrowser(), command)) << command;
