@@ -1,6 +1,7 @@
 #include "controls/display_palette.h"
 
 #include "platform/display_colors.h"
+#include "platform/drawing_objects.h"
 #include "platform/win32.h"
 
 namespace vistrel::controls {
@@ -33,7 +34,7 @@ PaletteHandle DisplayPalette() {
     // Lives as long as the program: every window that paints a picture realises it.
     static const HPALETTE palette = [] {
         const Colors colors;
-        return CreatePalette(reinterpret_cast<const LOGPALETTE*>(&colors));
+        return platform::NewPalette(&colors);
     }();
     return palette;
 }
@@ -51,8 +52,7 @@ platform::BitmapHandle DisplayPaletteBitmap(int width, int height) {
         info.colors[i] = {color.peBlue, color.peGreen, color.peRed, 0};
     }
     void* pixels = nullptr;
-    return CreateDIBSection(nullptr, reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS,
-                            &pixels, nullptr, 0);
+    return platform::NewBitmapInMemory(nullptr, &info, &pixels);
 }
 
 void PaintThroughPalette(platform::DeviceContext target, platform::BitmapHandle bitmap, int width,

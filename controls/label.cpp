@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/drawing_objects.h"
 #include "platform/instance.h"
 #include "platform/win32.h"
 
@@ -23,7 +24,7 @@ void Label::SetFont(const FontChange& change) {
         font.lfHeight = -MulDiv(change.points, dotsPerInch, 72);
     }
     if (*change.face) lstrcpynA(font.lfFaceName, change.face, LF_FACESIZE);
-    OwnedFont made = CreateFontIndirectA(&font);
+    OwnedFont made = platform::NewFont(font);
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
     // The one that the control had until now goes with `made`.
     std::swap(font_, made);
@@ -62,7 +63,7 @@ bool Label::HasRoomFor(const std::string& text) const {
 int Label::HeightAt(int width) const { return RoomNeededBy(Text(), width).height; }
 
 void Label::SetBackColor(long color) {
-    background_ = CreateSolidBrush(static_cast<COLORREF>(color));
+    background_ = platform::NewBrush(static_cast<COLORREF>(color));
     Repaint();
 }
 

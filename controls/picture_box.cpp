@@ -4,6 +4,7 @@
 
 #include "controls/display_palette.h"
 #include "controls/window.h"
+#include "platform/drawing_objects.h"
 #include "platform/files.h"
 #include "platform/instance.h"
 
@@ -92,11 +93,12 @@ platform::DeviceContext PictureBox::Canvas() {
         return canvas_;
     ReleaseCanvas();
     const HDC screen = GetDC(handle());
-    canvas_ = CreateCompatibleDC(screen);
+    canvas_ = platform::NewMemoryContext(screen);
     bitmap_ = HasPalette(screen) ? DisplayPaletteBitmap(size.width, size.height)
-                                 : CreateCompatibleBitmap(screen, size.width, size.height);
+                                 : platform::NewBitmap(screen, size.width, size.height);
     ReleaseDC(handle(), screen);
-    if (!bitmap_) {
+    if (!bitmap_ || !canvas_) {
+        DeleteObject(bitmap_);
         DeleteDC(canvas_);
         return canvas_ = nullptr;
     }

@@ -1,6 +1,7 @@
 #include "core/duplicate_set.h"
 
 #include "core/entry_name.h"
+#include "core/set_in_making.h"
 #include "platform/files.h"
 
 namespace vistrel::core {
@@ -8,39 +9,25 @@ namespace {
 
 /// Without those that stand for the folder itself and the one above. False when it cannot be read.
 bool EntriesOf(const std::string& folder, std::vector<platform::FolderEntry>& entries) {
-    return platform::ForEachEntry(folder + "\\*.*", [&](const platform::FolderEntry& entry) {
+    return platform::ForEachEntry(folder + "*.*", [&](const platform::FolderEntry& entry) {
         if (entry.name != "." && entry.name != "..") entries.push_back(entry);
         return true;
     });
 }
 
+/// Both end in a backslash.
 bool CopyContents(const std::string& from, const std::string& to) {
     std::vector<platform::FolderEntry> entries;
     if (!EntriesOf(from, entries)) return false;
     for (const platform::FolderEntry& entry : entries) {
-        const std::string source = from + "\\" + entry.name;
-        const std::string target = to + "\\" + entry.name;
-        const bool copied = entry.IsFolder()
-                                ? platform::MakeFolder(target) && CopyContents(source, target)
-                                : platform::CopyOver(source, target);
+        const std::string source = from + entry.name;
+        const std::string target = to + entry.name;
+        const bool copied = entry.IsFolder() ? platform::MakeFolder(target) &&
+                                                   CopyContents(source + "\\", target + "\\")
+                                             : platform::CopyOver(source, target);
         if (!copied) return false;
     }
     return true;
-}
-
-void RemoveWithContents(const std::string& folder) {
-    std::vector<platform::FolderEntry> entries;
-    EntriesOf(folder, entries);
-    for (const platform::FolderEntry& entry : entries) {
-        const std::string path = folder + "\\" + entry.name;
-        if (entry.IsFolder()) {
-            RemoveWithContents(path);
-            continue;
-        }
-        platform::SetAttributes(path, platform::kNormalFile);
-        platform::Remove(path);
-    }
-    platform::RemoveFolder(folder);
 }
 
 }  // namespace
@@ -58,11 +45,11 @@ std::optional<std::string> DuplicateSet(const LogoSet& set) {
         return platform::FileAttributes(set.library + taken).has_value();
     });
     if (!SetFolderName(name, set.library)) return std::nullopt;
-    const std::string folder = set.library + name;
-    if (!platform::IsFolder(set.Path()) || !platform::MakeFolder(folder)) return std::nullopt;
-    if (CopyContents(set.Path(), folder)) return name;
-    RemoveWithContents(folder);
-    return std::nullopt;
+    if (!platform::IsFolder(set.Path())) return std::nullopt;
+    SetInMaking copy(set.library);
+    const bool made =
+        !copy.Folder().empty() && CopyContents(set.Folder(), copy.Folder()) && copy.Finish(name);
+    return made ? std::optional(name) : std::nullopt;
 }
 
 }  // namespace vistrel::core

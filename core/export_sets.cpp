@@ -2,6 +2,7 @@
 
 #include "archive/zip_writer.h"
 #include "core/logo_set.h"
+#include "core/replacing.h"
 #include "core/slot_file.h"
 #include "pictures/file.h"
 #include "platform/code_pages.h"
@@ -66,6 +67,7 @@ class SetsWriter {
 
 ExportOutcome ExportSets(const std::string& library, const std::vector<std::string>& names,
                          const std::string& path, const Progress& progress) {
+    const ReplacingNote note(path);
     return SetsWriter(library, path).Write(names, progress);
 }
 

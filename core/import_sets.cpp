@@ -5,8 +5,10 @@
 
 #include "core/entry_name.h"
 #include "core/generali.h"
+#include "core/interrupted_imports.h"
 #include "core/logo_set.h"
 #include "core/screen_file.h"
+#include "core/set_in_making.h"
 #include "pictures/file.h"
 #include "platform/code_pages.h"
 #include "platform/file_time.h"
@@ -165,6 +167,7 @@ void RemoveScreens(const std::string& folder) {
 
 void RemoveFolderWithScreens(const std::string& folder) {
     RemoveScreens(folder);
+    platform::Remove(folder + kNameOfSet);
     platform::RemoveFolder(folder.substr(0, folder.size() - 1));
 }
 
@@ -181,9 +184,8 @@ std::vector<ArchivedSet> SetsOfArchive(const std::vector<Entry>& entries,
 }
 
 UnpackedSets::~UnpackedSets() {
-    if (hidden_.empty()) return;
+    if (hidden_.empty() || isInterrupted_) return;
     for (std::size_t i = 1; i <= folders_; ++i) RemoveFolderWithScreens(FolderOf(i));
-    // A replaced screen that could not come back stays in there.
     platform::RemoveFolder(hidden_ + "0");
     platform::RemoveFolder(hidden_.substr(0, hidden_.size() - 1));
 }
@@ -196,13 +198,8 @@ std::string UnpackedSets::FolderOf(std::size_t number) const {
 // In the library, so that a set becomes one of its own by a new name alone, whatever the drives.
 // Hidden folders are no sets.
 bool UnpackedSets::MakeHiddenFolder() {
-    const std::string folder = FreeName(library_ + "~import", "", [](const std::string& path) {
-        return platform::FileAttributes(path).has_value();
-    });
-    if (!platform::MakeFolder(folder)) return false;
-    hidden_ = folder + "\\";
-    platform::SetAttributes(folder, platform::kHiddenFile);
-    return platform::MakeFolder(hidden_ + "0");
+    hidden_ = core::MakeHiddenFolder(library_, kImportFolders);
+    return !hidden_.empty() && platform::MakeFolder(hidden_ + "0");
 }
 
 std::string UnpackedSets::Unpack(const std::string& path, const Progress& progress) {
@@ -251,27 +248,35 @@ std::string UnpackedSets::UnpackNext(const PictureFile& file, const ArchivedSet&
 bool UnpackedSets::Take(std::size_t number) {
     const std::string from = FolderOf(number + 1);
     const std::string to = library_ + sets_[number].name;
-    if (platform::IsFolder(to)) return ReplaceScreens(sets_[number].screens, from, to + "\\");
+    if (platform::IsFolder(to)) return ReplaceScreens(sets_[number], from, to + "\\");
     return platform::Rename(from.substr(0, from.size() - 1), to);
 }
 
 // The old screens step aside, and come back when not all new ones can take their places.
-bool UnpackedSets::ReplaceScreens(const std::vector<std::string>& screens, const std::string& from,
+bool UnpackedSets::ReplaceScreens(const UnpackedSet& set, const std::string& from,
                                   const std::string& to) {
     struct Move {
         std::string from;
         std::string to;
     };
     std::vector<Move> moves;
-    for (const std::string& screen : screens) {
+    for (const std::string& screen : set.screens) {
         if (platform::FileAttributes(to + screen))
             moves.push_back({to + screen, FolderOf(0) + screen});
         moves.push_back({from + screen, to + screen});
     }
+    if (!pictures::WriteWholeFile(from + kNameOfSet, {set.name.begin(), set.name.end()}))
+        return false;
     std::size_t done = 0;
     while (done < moves.size() && platform::Rename(moves[done].from, moves[done].to)) ++done;
     const bool all = done == moves.size();
-    while (!all && done-- > 0) platform::Rename(moves[done].to, moves[done].from);
+    while (!all && done > 0 && platform::Rename(moves[done - 1].to, moves[done - 1].from)) --done;
+    if (!all && done > 0) {
+        // Neither the one nor the other: the next start brings the rest.
+        isInterrupted_ = true;
+        return false;
+    }
+    platform::Remove(from + kNameOfSet);
     // Those that are replaced make room for those of the next set.
     if (all) RemoveScreens(FolderOf(0));
     return all;

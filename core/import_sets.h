@@ -57,20 +57,21 @@ class UnpackedSets {
 
     /// Makes the set of this number one of the library. Where there is a set of that name its
     /// screens are replaced by those that the new one has, and the others stay. False when that
-    /// failed; the library is then as it was.
+    /// failed; the library is then as it was, or will have the new set when the program starts
+    /// again.
     bool Take(std::size_t number);
 
  private:
     std::string UnpackNext(const pictures::PictureFile& file, const ArchivedSet& set);
     std::string FolderOf(std::size_t number) const;
     bool MakeHiddenFolder();
-    bool ReplaceScreens(const std::vector<std::string>& screens, const std::string& from,
-                        const std::string& to);
+    bool ReplaceScreens(const UnpackedSet& set, const std::string& from, const std::string& to);
 
     std::string library_;
     std::string hidden_;             ///< ends in a backslash; empty while there is none
     std::size_t folders_ = 0;        ///< how many hidden_ holds or held
     std::vector<UnpackedSet> sets_;  ///< what these folders are
+    bool isInterrupted_ = false;     ///< a set has some of its new screens, and cannot lose them
 };
 
 }  // namespace vistrel::core

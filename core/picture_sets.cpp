@@ -7,6 +7,7 @@
 #include "core/generali.h"
 #include "core/library.h"
 #include "core/locations.h"
+#include "core/set_in_making.h"
 #include "pictures/compose/stages.h"
 #include "platform/file_contents.h"
 #include "platform/files.h"
@@ -69,20 +70,20 @@ std::string PictureSets::NameOfNext() const {
 
 void PictureSets::WriteSet() {
     const std::string name = NameOfNext();
-    const std::string folder = library_ + name + "\\";
-    if (SetFolderName(name, library_) == name && platform::MakeFolder(library_ + name)) {
-        if (WriteScreens(folder)) {
-            made_.push_back(name);
-            screens_.clear();
-            return;
-        }
-        platform::RemoveMatching(folder + "*.*");
-        platform::RemoveFolder(library_ + name);
+    if (SetFolderName(name, library_) == name && MakeSet(name)) {
+        made_.push_back(name);
+        screens_.clear();
+        return;
     }
     for (const Screen& screen : screens_) notWritten_.push_back(screen.picture);
     notWritten_.insert(notWritten_.end(), pictures_.begin() + static_cast<std::ptrdiff_t>(next_),
                        pictures_.end());
     Stop();
+}
+
+bool PictureSets::MakeSet(const std::string& name) const {
+    SetInMaking set(library_);
+    return !set.Folder().empty() && WriteScreens(set.Folder()) && set.Finish(name);
 }
 
 bool PictureSets::WriteScreens(const std::string& folder) const {

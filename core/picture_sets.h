@@ -46,6 +46,7 @@ class PictureSets {
     std::size_t ScreensOfASet() const;
     std::string NameOfNext() const;
     void WriteSet();
+    bool MakeSet(const std::string& name) const;
     bool WriteScreens(const std::string& folder) const;
 
     std::string library_;

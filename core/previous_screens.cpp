@@ -6,6 +6,7 @@
 
 #include "archive/crc32.h"
 #include "core/library.h"
+#include "core/set_in_making.h"
 #include "pictures/file.h"
 #include "platform/file_contents.h"
 #include "platform/files.h"
@@ -40,15 +41,6 @@ bool Is(const std::string& path, bool isThere, std::uint32_t sum) {
     return found.has_value() == isThere && found.value_or(sum) == sum;
 }
 
-void RemoveKept(const std::string& folder) {
-    for (const std::string& screen : ScreensIn(folder + "\\")) {
-        platform::SetAttributes(screen, platform::kNormalFile);
-        platform::Remove(screen);
-    }
-    platform::Remove(folder + "\\Undo.txt");
-    platform::RemoveFolder(folder);
-}
-
 /// Hidden folders are no sets: the program's folder may be the logo folder, too.
 bool MakeHiddenFolder(const std::string& path) {
     if (!platform::MakeFolder(path)) return false;
@@ -56,9 +48,12 @@ bool MakeHiddenFolder(const std::string& path) {
     return true;
 }
 
+/// By this name a screen is on its way to its place.
+std::string ComingTo(const std::string& place) { return place.substr(0, place.size() - 3) + "~vs"; }
+
 /// Puts a file in the place of another, which stays until the new one is on the disk.
 bool PutInPlace(const std::string& from, const std::string& to) {
-    const std::string coming = to.substr(0, to.size() - 3) + "~vs";
+    const std::string coming = ComingTo(to);
     platform::Remove(coming);
     if (!platform::CopyOver(from, coming)) return false;
     platform::SetAttributes(coming, platform::kNormalFile);
@@ -96,7 +91,8 @@ bool PreviousScreens::Keep(const std::string& setName, const std::string& newNam
         screen.wasThere = attributes.has_value();
         screen.attributes = attributes.value_or(0);
         const auto sum = SumOf(Installed()[i]);
-        if (screen.wasThere && !sum) return false;
+        // Without the one or the other taking it back would delete a screen that was there.
+        if (screen.wasThere != sum.has_value()) return false;
         screen.sum = sum.value_or(0);
         const bool stays = synchronize && i > 0;
         const auto newSum = stays ? sum : SumOf(coming[i]);
@@ -114,7 +110,7 @@ bool PreviousScreens::Keep(const std::string& setName, const std::string& newNam
 // The new folder is whole before the former one goes.
 bool PreviousScreens::KeepScreens(const InstallRecord& record) {
     const std::string coming = folder_ + kNew;
-    RemoveKept(coming);
+    RemoveWithContents(coming);
     if (!MakeHiddenFolder(coming)) return false;
     const auto installed = Installed();
     const auto kept = ScreensIn(coming + "\\");
@@ -131,7 +127,7 @@ bool PreviousScreens::KeepScreens(const InstallRecord& record) {
         platform::Rename(folder_ + kOld, folder_);
         return false;
     }
-    RemoveKept(folder_ + kOld);
+    RemoveWithContents(folder_ + kOld);
     return true;
 }
 
@@ -144,7 +140,28 @@ void PreviousScreens::EndInterruptedKeeping() const {
         else if (platform::FileAttributes(folder_ + kOld))
             platform::Rename(folder_ + kOld, folder_);
     }
-    if (platform::FileAttributes(folder_)) RemoveKept(folder_ + kOld);
+    if (platform::FileAttributes(folder_)) RemoveWithContents(folder_ + kOld);
+}
+
+void PreviousScreens::EndInterrupted() const {
+    pictures::EndInterruptedWriting(RecordFile());
+    EndInterruptedKeeping();
+    RemoveWithContents(folder_ + kNew);
+    // Without this it would be a set where the program's folder is the logo folder, too.
+    if (platform::FileAttributes(folder_)) platform::SetAttributes(folder_, platform::kHiddenFile);
+    const auto record = Last();
+    if (!record) return;
+    const auto installed = Installed();
+    for (std::size_t i = 0; i < installed.size(); ++i) {
+        const std::string coming = ComingTo(installed[i]);
+        if (!platform::FileAttributes(coming)) continue;
+        // The former one had gone already. One that is not whole is as good as none.
+        const bool whole = Is(coming, true, record->screens[i].sum);
+        if (platform::FileAttributes(installed[i]) || !whole)
+            platform::Remove(coming);
+        else
+            platform::Rename(coming, installed[i]);
+    }
 }
 
 bool PreviousScreens::WriteRecord(const std::string& folder, const InstallRecord& record) const {

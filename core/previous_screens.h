@@ -48,6 +48,10 @@ class PreviousScreens {
     bool Keep(const std::string& setName, const std::string& newName, bool synchronize,
               bool companionWanted);
 
+    /// Ends what a program has left that was ended while it kept screens or brought them back: each
+    /// installed screen is then the old or the new one.
+    void EndInterrupted() const;
+
     /// The install that can be taken back, if there is one.
     std::optional<InstallRecord> Last() const;
 

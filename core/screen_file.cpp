@@ -1,6 +1,7 @@
 #include "core/screen_file.h"
 
 #include "core/generali.h"
+#include "core/replacing.h"
 #include "pictures/file.h"
 #include "pictures/screen/mend.h"
 #include "platform/files.h"
@@ -26,7 +27,7 @@ MendResult MendScreenFile(const std::string& path) {
     if (!attributes || !mended) return MendResult::NotRead;
     // Screens in their places are often read-only, and so are copies from a CD-ROM.
     platform::SetAttributes(path, platform::kNormalFile);
-    const bool written = pictures::WriteWholeFile(path, *mended);
+    const bool written = ReplaceFile(path, *mended);
     platform::SetAttributes(path, *attributes);
     return written ? MendResult::Mended : MendResult::NotWritten;
 }

@@ -12,6 +12,7 @@
 #include "core/library.h"
 #include "core/mdl_registry.h"
 #include "core/number_text.h"
+#include "core/set_in_making.h"
 #include "platform/files.h"
 
 namespace vistrel::core {
@@ -161,15 +162,18 @@ bool WriteRow(const SettingRow& row, const std::string& text) {
 }
 
 // Keeps the screens that are installed now as a set, so that the user can go back to them. A screen
-// that is missing or cannot be copied is left out.
+// that is missing or cannot be copied is left out. The set is there with the first run's end only:
+// one of that name is never filled again.
 void SetUpFirstRun(const SystemLocations& locations, Settings& settings) {
     const std::string setFolder = settings.logoPath + kOriginalLogos + "\\";
     if (!platform::IsFolder(setFolder)) {
-        platform::MakeFolder(settings.logoPath + kOriginalLogos);
+        SetInMaking originals(settings.logoPath);
         const auto installed = InstalledScreenPaths(settings.bootRoot, locations.windowsDirectory);
         for (std::size_t screen = 0; screen < installed.size(); ++screen) {
-            platform::CopyOver(installed[screen], setFolder + kScreenFileNames[screen]);
+            if (originals.Folder().empty()) break;
+            platform::CopyOver(installed[screen], originals.Folder() + kScreenFileNames[screen]);
         }
+        originals.Finish(kOriginalLogos);
         settings.defaultLogoSet = kOriginalLogos;
     }
     settings.deleteInTheRecycleBin = 1;

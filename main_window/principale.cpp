@@ -9,6 +9,7 @@
 #include "core/boot_option.h"
 #include "core/close.h"
 #include "core/generali.h"
+#include "core/interrupted_work.h"
 #include "core/library.h"
 #include "core/running_instance.h"
 #include "help/context_numbers.h"
@@ -145,6 +146,7 @@ void Principale::Form_Load() {
     bootLogoOption_ = core::ReadBootLogoOption(locations_.BootConfigurationFile());
 
     settings_ = core::LoadSettings(locations_);
+    core::EndInterruptedWork(locations_, settings_);
     MyList.SetPictureSize(SetThumbnails::SizeOf(settings_.thumbnailSize));
     const bool thumbnails = settings_.thumbnails == 1;
     const bool details = settings_.details == 1;

@@ -1,8 +1,8 @@
 // Moving the colours of a set's startup screen.
 #include "animate/frm_animate.h"
 #include "animate/read_screen.h"
+#include "core/replacing.h"
 #include "main_window/principale.h"
-#include "pictures/file.h"
 #include "platform/message_box.h"
 #include "platform/pointer.h"
 
@@ -27,7 +27,7 @@ void Principale::ItmMoveColors_Click() {
                 owner, "Would you like to save the screen, as it moves now, over " + path + "?",
                 platform::DefaultAnswer::Yes))
             return false;
-        saved = pictures::WriteWholeFile(path, file);
+        saved = core::ReplaceFile(path, file);
         if (!saved)
             platform::Tell(owner, path +
                                       " cannot be written. The disk may be full, or the file "

@@ -93,17 +93,29 @@ bool Rename(const std::string& from, const std::string& to) {
     return !fault::ShouldFail() && std::rename(from.c_str(), to.c_str()) == 0;
 }
 
+/// As long as the file's own name, and found again by whoever comes after a power cut.
+std::string AsideOf(std::string path) {
+    path.back() = '~';
+    return path;
+}
+
 #ifdef _WIN32
+/// The name by which a file steps aside: its own one of those, or another where that is taken.
+std::string FreeAsideOf(const std::string& path) {
+    if (!Open(AsideOf(path), "rb")) return AsideOf(path);
+    const std::string other = MakeFileBeside(path).path;
+    if (!other.empty()) std::remove(other.c_str());
+    return other;
+}
+
 // There the C library does not rename onto a file that exists: the former one steps aside, and
 // comes back if the new one cannot take its place.
 bool MoveOver(const std::string& from, const std::string& to) {
     if (Rename(from, to)) return true;
     // A folder, or a file that must not be written to, would step aside as readily.
     if (!Open(to, "r+b")) return false;
-    const std::string aside = MakeFileBeside(to).path;
-    if (aside.empty()) return false;
-    std::remove(aside.c_str());
-    if (!Rename(to, aside)) return false;
+    const std::string aside = FreeAsideOf(to);
+    if (aside.empty() || !Rename(to, aside)) return false;
     const bool moved = Rename(from, to);
     if (moved) {
         std::remove(aside.c_str());
@@ -169,6 +181,11 @@ bool FileWriter::Finish() {
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
     FileWriter writer(path);
     return writer.Write(bytes) && writer.Finish();
+}
+
+void EndInterruptedWriting(const std::string& path) {
+    if (path.empty()) return;
+    if (!Open(path, "rb")) Rename(AsideOf(path), path);
 }
 
 }  // namespace vistrel::pictures

@@ -73,4 +73,11 @@ class FileWriter {
 /// then as it was.
 bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes);
 
+/// Where a program was ended while a file took the place of the one at `path`, the former one has
+/// stepped aside: it comes back. Elsewhere nothing happens.
+void EndInterruptedWriting(const std::string& path);
+
+/// What the names of files look like that are being written.
+inline constexpr const char* kFilesBeingWritten = "~vs?????.tmp";
+
 }  // namespace vistrel::pictures

@@ -3,32 +3,57 @@
 
 #include <climits>
 
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace vistrel::platform::fault {
 
 namespace {
 
+Kind counting = Kind::Data;
 int counted = 0;
 int firstFailing = INT_MAX;
 int lastFailing = INT_MAX;
+int fatal = INT_MAX;
 
-void Start(int first, int last) {
+void Start(Kind kind, int first, int last) {
+    counting = kind;
     counted = 0;
     firstFailing = first;
     lastFailing = last;
+    fatal = INT_MAX;
+}
+
+void Die() {
+#ifdef _WIN32
+    TerminateProcess(GetCurrentProcess(), kKilledStatus);
+#else
+    _exit(kKilledStatus);
+#endif
 }
 
 }  // namespace
 
-void Reset() { Start(INT_MAX, INT_MAX); }
+void Reset(Kind kind) { Start(kind, INT_MAX, INT_MAX); }
 
-void FailOperation(int n) { Start(n, n); }
+void FailOperation(int n, Kind kind) { Start(kind, n, n); }
 
-void FailFromOperation(int n) { Start(n, INT_MAX); }
+void FailFromOperation(int n, Kind kind) { Start(kind, n, INT_MAX); }
+
+void DieAtOperation(int n) {
+    Start(Kind::Data, INT_MAX, INT_MAX);
+    fatal = n;
+}
 
 int Counted() { return counted; }
 
-bool ShouldFail() {
+bool ShouldFail(Kind kind) {
+    if (kind != counting) return false;
     ++counted;
+    if (counted == fatal) Die();
     return counted >= firstFailing && counted <= lastFailing;
 }
 

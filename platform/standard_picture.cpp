@@ -7,6 +7,7 @@
 
 #include <new>
 
+#include "platform/drawing_objects.h"
 #include "platform/fault.h"
 #include "platform/win32.h"
 
@@ -82,9 +83,9 @@ bool Render(IPicture* source, StandardPicture& picture) {
     info.bmiHeader = HeaderFromTop(across, down, 24);
     void* bits = nullptr;
     HBITMAP bitmap = nullptr;
-    const HDC memory = CreateCompatibleDC(screen);
+    const HDC memory = NewMemoryContext(screen);
     if (across > 0 && down > 0 && across <= kLargestSide && down <= kLargestSide)
-        bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        bitmap = NewBitmapInMemory(memory, &info, &bits);
     bool drawn = false;
     if (bitmap) {
         const HGDIOBJ former = SelectObject(memory, bitmap);

@@ -6,6 +6,7 @@
 #include "controls/display_palette.h"
 #include "pictures/file.h"
 #include "pictures/screen/indexed_screen.h"
+#include "platform/drawing_objects.h"
 #include "platform/win32.h"
 
 namespace vistrel::preview {
@@ -93,7 +94,7 @@ HPALETTE OwnPalette(const screen::IndexedScreen& screen) {
         PALETTEENTRY entries[256];
     } colors;
     FillEntries(screen, colors.entries);
-    return CreatePalette(reinterpret_cast<const LOGPALETTE*>(&colors));
+    return platform::NewPalette(&colors);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "platform/characters.h"
+#include "platform/drawing_objects.h"
 #include "platform/win32.h"
 
 namespace vistrel::preview {
@@ -28,14 +29,14 @@ HFONT MakeFont(const platform::TextFont& font) {
     wanted.lfCharSet = static_cast<BYTE>(font.charSet);
     wanted.lfOutPrecision = OUT_TT_PRECIS;
     lstrcpynA(wanted.lfFaceName, font.face.c_str(), LF_FACESIZE);
-    return CreateFontIndirectA(&wanted);
+    return platform::NewFont(wanted);
 }
 
 /// A device context with a font, and with a bitmap of one bit a dot once it has a size.
 class Drawing {
  public:
     explicit Drawing(const platform::TextFont& font)
-        : dc_(CreateCompatibleDC(nullptr)), font_(MakeFont(font)) {
+        : dc_(platform::NewMemoryContext(nullptr)), font_(MakeFont(font)) {
         formerFont_ = SelectObject(dc_, font_);
     }
     ~Drawing() {
@@ -82,8 +83,7 @@ class Drawing {
             RGBQUAD colors[2] = {{0, 0, 0, 0}, {255, 255, 255, 0}};
         } info{platform::HeaderFromTop(width, height, 1)};
         void* bits = nullptr;
-        bitmap_ = CreateDIBSection(dc_, reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS,
-                                   &bits, nullptr, 0);
+        bitmap_ = platform::NewBitmapInMemory(dc_, &info, &bits);
         if (!bitmap_) return false;
         formerBitmap_ = SelectObject(dc_, bitmap_);
         PatBlt(dc_, 0, 0, width, height, BLACKNESS);

@@ -1,6 +1,7 @@
 // Sets of many pictures: what is made of which, and what is left out.
 #include "core/picture_sets.h"
 
+#include "core/library.h"
 #include "pictures/compose/stages.h"
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
@@ -118,7 +119,7 @@ TEST_F(PictureSetsOf, AFullDiskLeavesWholeSetsAndNamesTheRest) {
         Run(sets);
         const int counted = fault::Counted();
         fault::Reset();
-        EXPECT_EQ(NamesIn(logos).size(), sets.Made().size()) << failing;
+        EXPECT_EQ(LogoSetNames(logos).size(), sets.Made().size()) << failing;
         for (const std::string& name : sets.Made())
             EXPECT_EQ(NamesIn(logos + name + "\\"), Names{"LOGO.SYS"}) << failing;
         EXPECT_EQ(sets.Made().size() + sets.NotWritten().size() + sets.NotRead().size(),

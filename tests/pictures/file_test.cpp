@@ -237,5 +237,23 @@ TEST_F(WriterTest, LeavesTheTargetAsItWasWhicheverStepFails) {
     }
 }
 
+TEST_F(WriterTest, BringsBackWhatHadSteppedAsideWhenAProgramWasEnded) {
+    ASSERT_TRUE(WriteWholeFile(PathOf("logo.sy~"), Bytes(500, 1)));
+    EndInterruptedWriting(PathOf("logo.sys"));
+    EXPECT_EQ(ReadWholeFile(PathOf("logo.sys")), Bytes(500, 1));
+    EXPECT_EQ(Files(), 1u);
+}
+
+TEST_F(WriterTest, BringsNothingBackOverAFileThatIsThere) {
+    ASSERT_TRUE(WriteWholeFile(PathOf("logo.sys"), Bytes(3, 2)));
+    ASSERT_TRUE(WriteWholeFile(PathOf("logo.sy~"), Bytes(500, 1)));
+    EndInterruptedWriting(PathOf("logo.sys"));
+    EXPECT_EQ(ReadWholeFile(PathOf("logo.sys")), Bytes(3, 2));
+    EXPECT_EQ(ReadWholeFile(PathOf("logo.sy~")), Bytes(500, 1));
+    EndInterruptedWriting(PathOf("none/logo.sys"));
+    EndInterruptedWriting("");
+    EXPECT_EQ(Files(), 2u);
+}
+
 }  // namespace
 }  // namespace vistrel::test

@@ -39,5 +39,25 @@ TEST(FaultTest, ResetCountsFromZeroAndFailsNothing) {
     fault::Reset();
 }
 
+TEST(FaultTest, CountsOneKindAtATimeAndLeavesTheOtherAlone) {
+    fault::FailFromOperation(1, fault::Kind::Drawing);
+    EXPECT_EQ(NextFive(), (std::vector<bool>(5, false)));
+    EXPECT_EQ(fault::Counted(), 0);
+    EXPECT_TRUE(fault::ShouldFail(fault::Kind::Drawing));
+    fault::FailFromOperation(1);
+    EXPECT_FALSE(fault::ShouldFail(fault::Kind::Drawing));
+    EXPECT_EQ(fault::Counted(), 0);
+    fault::Reset();
+}
+
+TEST(FaultTest, KillsNobodyBeforeTheChosenOperation) {
+    fault::DieAtOperation(6);
+    EXPECT_EQ(NextFive(), (std::vector<bool>(5, false)));
+    fault::Reset();
+    EXPECT_EQ(NextFive(), (std::vector<bool>(5, false)));
+    EXPECT_EQ(NextFive(), (std::vector<bool>(5, false)));
+    fault::Reset();
+}
+
 }  // namespace
 }  // namespace vistrel::test
