@@ -90,6 +90,17 @@ void SeeThumbnails(Stage& stage) {
     Give(stage, ID_ToolListView);
 }
 
+void SeeDetails(Stage& stage) {
+    constexpr int kDate = 4;
+    Give(stage, ID_ToolDetailsView);
+    // By the date, backwards, and as the folder has them.
+    for (int i = 0; i < 3; ++i) {
+        UpdateWindow(stage.main.MyList.handle());
+        RunOnThreadOf(stage.main.handle(), [&] { stage.main.MyList.HeadingClick(kDate); });
+    }
+    Give(stage, ID_ToolListView);
+}
+
 /// The picture that the menu of a screen's right button acts on.
 void ClickStartupScreen(Stage& stage) {
     RunOnThreadOf(stage.main.handle(), [&] { stage.main.OpenWithMenu(kLogos + "Red\\LOGO.SYS"); });
@@ -246,6 +257,7 @@ const std::vector<WindowCommands::Row>& WindowCommands::OfMainWindow() {
          "thumbnails",
          nullptr,
          SeeThumbnails},
+        {{ID_ToolDetailsView, ID_ItmDetailsView}, "details", nullptr, SeeDetails},
         {{ID_ItmOpenAct}, "actual size", ClickStartupScreen, GiveIt<ID_ItmOpenAct>},
         {.commands = {ID_ItmOpenAct + 1},
          .name = "Paint",
