@@ -26,6 +26,8 @@ constexpr unsigned kNoDelay = 1;
 /// The list follows the box "Find:" when nothing has been typed for so long: while a word is
 /// typed, a list of thousands would be filled for each letter.
 constexpr unsigned kFindDelay = 60;
+/// Screens are compared with their kept pictures when the list has been scrolled so long ago.
+constexpr unsigned kRestDelay = 200;
 /// In the program's folder.
 constexpr const char* kThumbnailFile = "thumbnails.dat";
 
@@ -38,11 +40,12 @@ Principale::Principale(core::SystemLocations locations)
       dropTimer_(kNoDelay),
       compareTimer_(kNoDelay),
       idleTimer_(kNoDelay),
+      restTimer_(kRestDelay),
       findTimer_(kFindDelay),
       severalTimer_(kNoDelay),
       locations_(std::move(locations)),
       thumbnails_(
-          MyList, idleTimer_,
+          MyList, idleTimer_, restTimer_,
           [this](const std::string& set) {
               return core::LogoSet{settings_.logoPath, set}.Screens()[0];
           },
@@ -74,6 +77,7 @@ Principale::Principale(core::SystemLocations locations)
     Add(dropTimer_);
     Add(compareTimer_);
     Add(idleTimer_);
+    Add(restTimer_);
     Add(findTimer_);
     Add(severalTimer_);
 

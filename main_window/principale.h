@@ -266,6 +266,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::optional<core::InstalledOrigin> origin_;  ///< of these, as far as it is known
     double lookingSince_ = 0;
     controls::Timer idleTimer_;
+    controls::Timer restTimer_;
     controls::Timer findTimer_;
     controls::Timer severalTimer_;  ///< ticks once when the selection has become another
     core::SystemLocations locations_;
