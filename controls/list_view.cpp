@@ -221,6 +221,8 @@ std::intptr_t ListView::OnNotify(void* header) {
         case LVN_COLUMNCLICK:
             if (HeadingClick) HeadingClick();
             return 0;
+        case LVN_DELETEALLITEMS:
+            return TRUE;  // not one message more for each of them
         case NM_CUSTOMDRAW:
             return OnCustomDraw(header);
         case NM_DBLCLK:
