@@ -97,7 +97,7 @@ Principale::Principale(core::SystemLocations locations)
     MyList.BeginDrag = [this] { MyList_BeginDrag(); };
     MyList.HeadingClick = [this] { MyList_HeadingClick(); };
     FindBox.Change = [this] { FindBox_Change(); };
-    findTimer_.Tick = [this] { ShowFoundSets(); };
+    findTimer_.Tick = [this] { FindTimer_Timer(); };
     severalTimer_.Tick = [this] { ShowOneOfSeveral(); };
     MyList.PaintPicture = [this](platform::DeviceContext target, int index, controls::Point at) {
         return thumbnails_.Paint(target, index, at);

@@ -221,8 +221,11 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowSetScreens();
     void LeaveInstalledView();
     void EndInstalledView();
-    void FillList();
+    /// False when `isWantedNoMore`, asked from time to time, ended it: the first sets are there.
+    bool FillList(const std::function<bool()>& isWantedNoMore);
     void ShowFoundSets();
+    void ShowFoundSetsUnless(const std::function<bool()>& isWantedNoMore);
+    void FindTimer_Timer();
     void ShowAllSets();
     void GoToFindBox();
     void LeaveFindBox();
@@ -285,6 +288,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::string currentPicture_;
     std::string oldName_;
     controls::Point lastMouseDown_;
+    /// What is selected again once the list has all that was found.
+    std::optional<SelectedSets> selectedBefore_;
     std::optional<SelectedSets> savedView_;  ///< what the installed view puts back when it is left
     ListPlace placeBehindBrowser_;  ///< where the user goes back to when the Logo browser closes
 };

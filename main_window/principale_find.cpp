@@ -2,11 +2,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/message_loop.h"
+#include "core/found_sets.h"
 #include "core/library.h"
 #include "main_window/principale.h"
 #include "platform/pointer.h"
 
 namespace vistrel::main_window {
+namespace {
+
+/// More than a window shows, and few enough that a key does not wait for them.
+constexpr std::size_t kSetsAtOnce = 200;
+
+}  // namespace
+
 int Principale::SelectedSet() const {
     const int selected = MyList.SelectedItem();
     if (selected < 0) return -1;
@@ -43,24 +52,42 @@ void Principale::MyList_HeadingClick() {
     ShowFoundSets();
 }
 
-void Principale::FillList() {
+bool Principale::FillList(const std::function<bool()>& isWantedNoMore) {
     MyList.SuspendPainting();
     MyList.Clear();
-    for (const std::string& name : core::FoundSets(sets_, FindBox.Text(), order_))
-        MyList.AddItem(name, core::IconKeyOfSet(name));
+    const auto names = core::FoundSets(sets_, FindBox.Text(), order_);
+    std::size_t filled = 0;
+    for (; filled < names.size(); ++filled) {
+        if (filled > 0 && filled % kSetsAtOnce == 0 && isWantedNoMore()) break;
+        MyList.AddItem(names[filled], core::IconKeyOfSet(names[filled]));
+    }
     MyList.ResumePainting();
+    return filled == names.size();
 }
 
-// The selected sets stay so where they are still shown, and the screens of one with it.
 void Principale::ShowFoundSets() {
+    ShowFoundSetsUnless([] { return false; });
+}
+
+// What is typed next asks for another list, and does not wait for this one.
+void Principale::FindTimer_Timer() { ShowFoundSetsUnless(controls::KeyIsWaiting); }
+
+// The selected sets stay so where they are still shown, and the screens of one with it.
+void Principale::ShowFoundSetsUnless(const std::function<bool()>& isWantedNoMore) {
     findTimer_.SetEnabled(false);
     EndEdits();
     const platform::BusyPointer busy;
     const SelectedSets selected = WhatIsSelected();
     const auto whenSelectionChanges = std::exchange(MyList.SelectionChanged, nullptr);
-    FillList();
-    if (!savedView_) MarkAgain(selected);
+    const bool isFilled = FillList(isWantedNoMore);
+    if (isFilled && !savedView_) MarkAgain(selected);
     MyList.SelectionChanged = whenSelectionChanges;
+    if (!isFilled) {
+        if (!savedView_) selectedBefore_ = selected;
+        CheckSetCommands();
+        findTimer_.SetEnabled(true);
+        return;
+    }
     MyList_SelectionChanged();
     VisualizzaNumLogo();
 }
