@@ -223,6 +223,8 @@ std::intptr_t ListView::OnNotify(void* header) {
         case LVN_COLUMNCLICK:
             if (HeadingClick) HeadingClick(static_cast<const NMLISTVIEW*>(header)->iSubItem);
             return 0;
+        case LVN_DELETEALLITEMS:
+            return TRUE;  // not one message more for each of them
         case NM_CUSTOMDRAW:
             return OnCustomDraw(header);
         case NM_DBLCLK:

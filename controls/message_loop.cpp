@@ -58,6 +58,8 @@ void EndSession() {
 
 bool InputIsWaiting() { return HIWORD(GetQueueStatus(QS_INPUT)) != 0; }
 
+bool KeyIsWaiting() { return HIWORD(GetQueueStatus(QS_KEY)) != 0; }
+
 void HandleWaiting() {
     MSG message{};
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {

@@ -21,6 +21,8 @@ void EndSession();
 
 /// Whether the user has pressed, typed or moved something that has not been handled yet.
 bool InputIsWaiting();
+/// The same of keys alone.
+bool KeyIsWaiting();
 
 /// Handles what the user has done so far, and what is to be painted, while something long goes on.
 void HandleWaiting();

@@ -27,6 +27,8 @@ constexpr unsigned kNoDelay = 1;
 /// The list follows the box "Find:" when nothing has been typed for so long: while a word is
 /// typed, a list of thousands would be filled for each letter.
 constexpr unsigned kFindDelay = 60;
+/// Screens are compared with their kept pictures when the list has been scrolled so long ago.
+constexpr unsigned kRestDelay = 200;
 /// In the program's folder.
 constexpr const char* kThumbnailFile = "thumbnails.dat";
 
@@ -39,11 +41,12 @@ Principale::Principale(core::SystemLocations locations)
       dropTimer_(kNoDelay),
       compareTimer_(kNoDelay),
       idleTimer_(kNoDelay),
+      restTimer_(kRestDelay),
       findTimer_(kFindDelay),
       severalTimer_(kNoDelay),
       locations_(std::move(locations)),
       thumbnails_(
-          MyList, idleTimer_,
+          MyList, idleTimer_, restTimer_,
           [this](const std::string& set) {
               return core::LogoSet{settings_.logoPath, set}.Screens()[0];
           },
@@ -80,6 +83,7 @@ Principale::Principale(core::SystemLocations locations)
     Add(dropTimer_);
     Add(compareTimer_);
     Add(idleTimer_);
+    Add(restTimer_);
     Add(findTimer_);
     Add(severalTimer_);
 
@@ -99,10 +103,7 @@ Principale::Principale(core::SystemLocations locations)
     MyList.BeginDrag = [this] { MyList_BeginDrag(); };
     MyList.HeadingClick = [this](int column) { MyList_HeadingClick(column); };
     FindBox.Change = [this] { FindBox_Change(); };
-    findTimer_.Tick = [this] {
-        // Behind a window that tells how far the list is it would be filled twice.
-        if (IsEnabled()) ShowFoundSets();
-    };
+    findTimer_.Tick = [this] { FindTimer_Timer(); };
     severalTimer_.Tick = [this] { ShowOneOfSeveral(); };
     MyList.PaintPicture = [this](platform::DeviceContext target, int index, controls::Point at) {
         return thumbnails_.Paint(target, index, at);

@@ -227,9 +227,12 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     void ShowSetScreens();
     void LeaveInstalledView();
     void EndInstalledView();
-    void FillList();
+    /// False when `isWantedNoMore`, asked from time to time, ended it: the first sets are there.
+    bool FillList(const std::function<bool()>& isWantedNoMore);
     bool ReadDetails(const std::vector<std::string>& names);
     void ShowFoundSets();
+    void ShowFoundSetsUnless(const std::function<bool()>& isWantedNoMore);
+    void FindTimer_Timer();
     void ShowAllSets();
     void GoToFindBox();
     void LeaveFindBox();
@@ -273,6 +276,7 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::optional<core::InstalledOrigin> origin_;  ///< of these, as far as it is known
     double lookingSince_ = 0;
     controls::Timer idleTimer_;
+    controls::Timer restTimer_;
     controls::Timer findTimer_;
     controls::Timer severalTimer_;  ///< ticks once when the selection has become another
     core::SystemLocations locations_;
@@ -292,6 +296,8 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     std::string currentPicture_;
     std::string oldName_;
     controls::Point lastMouseDown_;
+    /// What is selected again once the list has all that was found.
+    std::optional<SelectedSets> selectedBefore_;
     std::optional<SelectedSets> savedView_;  ///< what the installed view puts back when it is left
     ListPlace placeBehindBrowser_;  ///< where the user goes back to when the Logo browser closes
 };

@@ -143,6 +143,7 @@ void Principale::MyList_MouseUp(int button) {
 
 // While the installed screens are shown nothing is selected, but the tools keep their state.
 void Principale::MyList_SelectionChanged() {
+    selectedBefore_.reset();
     ShowCounts();
     if (savedView_) return;
     CheckSetCommands();

@@ -2,11 +2,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/message_loop.h"
+#include "core/found_sets.h"
 #include "core/library.h"
 #include "main_window/principale.h"
 #include "platform/pointer.h"
 
 namespace vistrel::main_window {
+namespace {
+
+/// More than a window shows, and few enough that a key does not wait for them.
+constexpr std::size_t kSetsAtOnce = 200;
+
+}  // namespace
+
 int Principale::SelectedSet() const {
     const int selected = MyList.SelectedItem();
     if (selected < 0) return -1;
@@ -43,14 +52,19 @@ void Principale::MyList_HeadingClick(int column) {
     ShowFoundSets();
 }
 
-void Principale::FillList() {
-    std::vector<std::string> found = core::FoundSets(sets_, FindBox.Text());
-    if (core::NeedsDetails(order_) && !ReadDetails(found)) order_ = {};
-    core::SortSets(found, order_, [this](const auto& name) -> auto& { return columns_.Of(name); });
+bool Principale::FillList(const std::function<bool()>& isWantedNoMore) {
+    std::vector<std::string> names = core::FoundSets(sets_, FindBox.Text());
+    if (core::NeedsDetails(order_) && !ReadDetails(names)) order_ = {};
+    core::SortSets(names, order_, [this](const auto& name) -> auto& { return columns_.Of(name); });
     MyList.SuspendPainting();
     MyList.Clear();
-    for (const std::string& name : found) MyList.AddItem(name, core::IconKeyOfSet(name));
+    std::size_t filled = 0;
+    for (; filled < names.size(); ++filled) {
+        if (filled > 0 && filled % kSetsAtOnce == 0 && isWantedNoMore()) break;
+        MyList.AddItem(names[filled], core::IconKeyOfSet(names[filled]));
+    }
     MyList.ResumePainting();
+    return filled == names.size();
 }
 
 /// False when the user has cancelled it: thousands of sets take a while.
@@ -64,16 +78,32 @@ bool Principale::ReadDetails(const std::vector<std::string>& names) {
     return true;
 }
 
-// The selected sets stay so where they are still shown, and the screens of one with it.
 void Principale::ShowFoundSets() {
+    ShowFoundSetsUnless([] { return false; });
+}
+
+// What is typed next asks for another list, and does not wait for this one.
+void Principale::FindTimer_Timer() {
+    // Behind a window that tells how far the list is it would be filled twice.
+    if (IsEnabled()) ShowFoundSetsUnless(controls::KeyIsWaiting);
+}
+
+// The selected sets stay so where they are still shown, and the screens of one with it.
+void Principale::ShowFoundSetsUnless(const std::function<bool()>& isWantedNoMore) {
     findTimer_.SetEnabled(false);
     EndEdits();
     const platform::BusyPointer busy;
     const SelectedSets selected = WhatIsSelected();
     const auto whenSelectionChanges = std::exchange(MyList.SelectionChanged, nullptr);
-    FillList();
-    if (!savedView_) MarkAgain(selected);
+    const bool isFilled = FillList(isWantedNoMore);
+    if (isFilled && !savedView_) MarkAgain(selected);
     MyList.SelectionChanged = whenSelectionChanges;
+    if (!isFilled) {
+        if (!savedView_) selectedBefore_ = selected;
+        CheckSetCommands();
+        findTimer_.SetEnabled(true);
+        return;
+    }
     MyList_SelectionChanged();
     VisualizzaNumLogo();
 }

@@ -52,7 +52,7 @@ void Principale::LeggiDatiDisco() {
     sets_ = core::LogoSetNames(settings_.logoPath);
     installedSetListed_ =
         std::find(sets_.begin(), sets_.end(), settings_.defaultLogoSet) != sets_.end();
-    FillList();
+    FillList([] { return false; });
     ShowListaLogo();
     VisualizzaNumLogo();
     if (installedSetListed_) SelItem(settings_.defaultLogoSet);

@@ -17,6 +17,7 @@ namespace vistrel::main_window {
 
 Principale::SelectedSets Principale::WhatIsSelected() const {
     if (savedView_) return *savedView_;
+    if (selectedBefore_) return *selectedBefore_;
     const auto names = SelectedNames();
     const int shown = MyList.SelectedItem();
     return {shown < 0 ? std::string() : MyList.ItemText(shown), {names.begin(), names.end()}};

@@ -17,11 +17,12 @@ constexpr int kSpare = 16;
 
 }  // namespace
 
-SetThumbnails::SetThumbnails(controls::ListView& list, controls::Timer& idle,
+SetThumbnails::SetThumbnails(controls::ListView& list, controls::Timer& idle, controls::Timer& rest,
                              std::function<std::string(const std::string&)> screenOf,
                              const std::string& cacheFile)
-    : list_(list), idle_(idle), screenOf_(std::move(screenOf)), cache_(cacheFile) {
+    : list_(list), idle_(idle), rest_(rest), screenOf_(std::move(screenOf)), cache_(cacheFile) {
     idle_.Tick = [this] { MakeWhatIsSeen(); };
+    rest_.Tick = [this] { CompareScreens(); };
 }
 
 controls::Size SetThumbnails::SizeOf(int step) {
@@ -40,7 +41,10 @@ std::vector<SetThumbnails::Ready>::iterator SetThumbnails::Find(const std::strin
 }
 
 bool SetThumbnails::Paint(platform::DeviceContext target, int index, controls::Point at) {
-    const auto found = Find(list_.ItemText(index));
+    const std::string set = list_.ItemText(index);
+    auto found = Find(set);
+    // Whoever goes on scrolling does not wait for the disk.
+    if (found == ready_.end() && !controls::InputIsWaiting()) found = TakeKept(set);
     if (found == ready_.end()) {
         if (std::find(wanted_.begin(), wanted_.end(), index) == wanted_.end())
             wanted_.push_back(index);
@@ -49,7 +53,25 @@ bool SetThumbnails::Paint(platform::DeviceContext target, int index, controls::P
         return false;
     }
     std::rotate(found, found + 1, ready_.end());
-    return ready_.back().picture.Paint(target, at.x, at.y);
+    Ready& ready = ready_.back();
+    ready.index = index;
+    if (ready.stamp && !rest_.Enabled()) rest_.SetEnabled(true);
+    return ready.picture.Paint(target, at.x, at.y);
+}
+
+std::vector<SetThumbnails::Ready>::iterator SetThumbnails::TakeKept(const std::string& set) {
+    const auto kept = cache_.FindOfPath(screenOf_(set));
+    const controls::Size size = list_.PictureSize();
+    if (!kept || kept->picture.width != size.width || kept->picture.height != size.height)
+        return ready_.end();
+    Add({set, preview::ReadyPicture(kept->picture), 0, kept->stamp});
+    return ready_.end() - 1;
+}
+
+void SetThumbnails::Add(Ready ready) {
+    ready_.push_back(std::move(ready));
+    const auto most = static_cast<std::size_t>(2 * list_.PicturesInView() + kSpare);
+    if (ready_.size() > most) ready_.erase(ready_.begin());
 }
 
 // One after the other, each painted at once, until the user does something: what was scrolled out
@@ -60,19 +82,42 @@ void SetThumbnails::MakeWhatIsSeen() {
         wanted_.erase(wanted_.begin());
         if (index >= list_.Count() || !list_.IsInView(index)) continue;
         const std::string set = list_.ItemText(index);
-        if (Find(set) == ready_.end()) Make(set);
+        if (Find(set) == ready_.end()) Add({set, PictureOf(set), index, std::nullopt});
         list_.RepaintItem(index);
     }
     idle_.SetEnabled(!wanted_.empty());
 }
 
-void SetThumbnails::Make(const std::string& set) {
-    ready_.push_back({set, PictureOf(set)});
-    const auto most = static_cast<std::size_t>(2 * list_.PicturesInView() + kSpare);
-    if (ready_.size() > most) ready_.erase(ready_.begin());
+void SetThumbnails::CompareScreens() {
+    const auto next = [this] {
+        return std::find_if(ready_.begin(), ready_.end(),
+                            [](const Ready& ready) { return ready.stamp.has_value(); });
+    };
+    rest_.SetEnabled(false);
+    // Looked for anew each time: painting changes their order.
+    for (auto ready = next(); ready != ready_.end(); ready = next()) {
+        if (controls::InputIsWaiting()) {
+            rest_.SetEnabled(true);
+            return;
+        }
+        Compare(*ready);
+    }
 }
 
-preview::ReadyPicture SetThumbnails::PictureOf(const std::string& set) {
+void SetThumbnails::Compare(Ready& ready) {
+    const auto source = SourceOf(ready.set);
+    const bool isTheSame = source && source->Stamp() == ready.stamp;
+    ready.stamp.reset();
+    if (isTheSame) return;
+    cache_.Drop(screenOf_(ready.set));
+    ready.picture = PictureOf(ready.set);
+    const int index = ready.index;
+    if (index < list_.Count() && list_.ItemText(index) == ready.set && list_.IsInView(index))
+        list_.RepaintItem(index);
+}
+
+/// Empty when there is no such file.
+std::optional<thumbnails::Source> SetThumbnails::SourceOf(const std::string& set) const {
     thumbnails::Source source{screenOf_(set)};
     const bool isThere =
         platform::ForEachEntry(source.path, [&](const platform::FolderEntry& entry) {
@@ -80,9 +125,15 @@ preview::ReadyPicture SetThumbnails::PictureOf(const std::string& set) {
             source.size = entry.size;
             return false;
         });
+    if (!isThere) return std::nullopt;
+    return source;
+}
+
+preview::ReadyPicture SetThumbnails::PictureOf(const std::string& set) {
+    const auto source = SourceOf(set);
     const controls::Size size = list_.PictureSize();
     const auto picture =
-        isThere ? thumbnails::ThumbnailOf(source, cache_, size.width, size.height) : std::nullopt;
+        source ? thumbnails::ThumbnailOf(*source, cache_, size.width, size.height) : std::nullopt;
     return picture ? preview::ReadyPicture(*picture) : preview::ReadyPicture();
 }
 

@@ -1,8 +1,11 @@
-// The pictures of the list of sets, seen as thumbnails: each is made when its set comes into sight,
-// while the user does nothing.
+// The pictures of the list of sets, seen as thumbnails. One that is kept is shown at once, and its
+// screen looked at when the hand rests: it may be another by now. Any other is made when its set
+// comes into sight, while the user does nothing.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +22,8 @@ inline constexpr const char* kInstalledMark = "installed";
 class SetThumbnails {
  public:
     /// `screenOf` tells the startup screen of the set of a name; `idle` ticks when all else is
-    /// done.
-    SetThumbnails(controls::ListView& list, controls::Timer& idle,
+    /// done, `rest` when nothing has been done for a moment.
+    SetThumbnails(controls::ListView& list, controls::Timer& idle, controls::Timer& rest,
                   std::function<std::string(const std::string& set)> screenOf,
                   const std::string& cacheFile);
 
@@ -38,15 +41,23 @@ class SetThumbnails {
     struct Ready {
         std::string set;
         preview::ReadyPicture picture;
+        int index = 0;  ///< where it was painted
+        /// Of the screen that it was made of, while nobody has looked whether it is still that one.
+        std::optional<std::uint64_t> stamp;
     };
 
     std::vector<Ready>::iterator Find(const std::string& set);
+    std::vector<Ready>::iterator TakeKept(const std::string& set);
+    void Add(Ready ready);
     void MakeWhatIsSeen();
-    void Make(const std::string& set);
+    void CompareScreens();
+    void Compare(Ready& ready);
+    std::optional<thumbnails::Source> SourceOf(const std::string& set) const;
     preview::ReadyPicture PictureOf(const std::string& set);
 
     controls::ListView& list_;
     controls::Timer& idle_;
+    controls::Timer& rest_;
     std::function<std::string(const std::string&)> screenOf_;
     thumbnails::Cache cache_;
     std::vector<Ready> ready_;  ///< the one painted last at the end

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::size_t kHeaderBytes = 32;
 constexpr std::size_t kRowBytes = 32;
-constexpr std::size_t kPixelBytes = std::size_t{kKeptWidth} * kKeptHeight * 2;
-constexpr std::uint32_t kMark = 0x31485456;  // "VTH1"; another format gets another number
+constexpr std::size_t kRoomForPixels = std::size_t{kKeptWidth} * kKeptHeight * 2;
+constexpr std::uint32_t kMark = 0x32485456;  // "VTH2"; another format gets another number
 
 void Append(std::vector<std::uint8_t>& bytes, std::uint32_t number) {
     for (int shift = 0; shift < 32; shift += 8)
@@ -36,10 +36,20 @@ std::uint32_t SumOf(std::span<const std::uint8_t> words) {
     return sum;
 }
 
+constexpr std::uint64_t kFirstKey = 0xcbf29ce484222325;
+
+std::uint64_t WithByte(std::uint64_t key, std::uint8_t byte) {
+    return (key ^ byte) * 0x100000001b3;
+}
+
 std::uint64_t KeyOf(const std::string& path) {
-    std::uint64_t key = 0xcbf29ce484222325;
-    for (const char c : path) key = (key ^ static_cast<std::uint8_t>(c)) * 0x100000001b3;
+    std::uint64_t key = kFirstKey;
+    for (const char c : path) key = WithByte(key, static_cast<std::uint8_t>(c));
     return key;
+}
+
+bool HasRoomFor(int width, int height) {
+    return width > 0 && width <= kKeptWidth && height > 0 && height <= kKeptHeight;
 }
 
 /// The bytes with their sum behind them, filled up to `size`.
@@ -51,6 +61,14 @@ std::vector<std::uint8_t> Summed(std::vector<std::uint8_t> bytes, std::size_t si
 
 }  // namespace
 
+std::uint64_t Source::Stamp() const {
+    std::uint64_t stamp = kFirstKey;
+    for (const std::uint64_t number : {modified, size})
+        for (int shift = 0; shift < 64; shift += 8)
+            stamp = WithByte(stamp, static_cast<std::uint8_t>(number >> shift));
+    return stamp;
+}
+
 Cache::Cache(std::string path, std::uint32_t most) : path_(std::move(path)), most_(most) {}
 
 std::vector<std::uint8_t> Cache::Header() const {
@@ -61,25 +79,28 @@ std::vector<std::uint8_t> Cache::Header() const {
     return Summed(bytes, kHeaderBytes);
 }
 
-Cache::Row Cache::RowOf(const Source& source) {
-    return {KeyOf(source.path), source.modified, static_cast<std::uint32_t>(source.size)};
-}
-
 std::vector<std::uint8_t> Cache::BytesOf(const Row& row) {
     std::vector<std::uint8_t> bytes;
-    for (const std::uint64_t number : {row.key, row.modified}) {
+    for (const std::uint64_t number : {row.key, row.stamp}) {
         Append(bytes, static_cast<std::uint32_t>(number));
         Append(bytes, static_cast<std::uint32_t>(number >> 32));
     }
-    for (const std::uint32_t number : {row.size, row.turn, row.pixelSum}) Append(bytes, number);
+    const std::uint32_t size = row.width | std::uint32_t{row.height} << 16;
+    for (const std::uint32_t number : {row.turn, row.pixelSum, size}) Append(bytes, number);
     return Summed(bytes, kRowBytes);
 }
 
-/// A free row where the bytes do not fit their sum.
+/// A free row where the bytes do not fit their sum, or tell of no pixels or more than have room.
 Cache::Row Cache::RowFrom(std::span<const std::uint8_t> bytes) {
     if (SumOf(bytes.first(kRowBytes - 4)) != pictures::DoubleWord(bytes, kRowBytes - 4)) return {};
-    return {QuadWord(bytes, 0), QuadWord(bytes, 8), pictures::DoubleWord(bytes, 16),
-            pictures::DoubleWord(bytes, 20), pictures::DoubleWord(bytes, 24)};
+    const std::uint32_t size = pictures::DoubleWord(bytes, 24);
+    const Row row{QuadWord(bytes, 0),
+                  QuadWord(bytes, 8),
+                  pictures::DoubleWord(bytes, 16),
+                  pictures::DoubleWord(bytes, 20),
+                  static_cast<std::uint16_t>(size & 0xffff),
+                  static_cast<std::uint16_t>(size >> 16)};
+    return HasRoomFor(row.width, row.height) ? row : Row{};
 }
 
 std::size_t Cache::PlaceOfRow(std::size_t number) const {
@@ -87,7 +108,7 @@ std::size_t Cache::PlaceOfRow(std::size_t number) const {
 }
 
 std::size_t Cache::PlaceOfPixels(std::size_t number) const {
-    return PlaceOfRow(most_) + number * kPixelBytes;
+    return PlaceOfRow(most_) + number * kRoomForPixels;
 }
 
 // A file of another kind or with a damaged header is begun anew: what was in it can be made again.
@@ -114,43 +135,72 @@ void Cache::ReadRows() {
         rows_[i] = RowFrom(std::span(table).subspan(i * kRowBytes, kRowBytes));
 }
 
-std::optional<pictures::RgbPicture> Cache::Find(const Source& source) {
-    if (!Open()) return std::nullopt;
-    const Row wanted = RowOf(source);
-    const auto row = std::find_if(rows_.begin(), rows_.end(),
-                                  [&](const Row& r) { return r.turn != 0 && r.key == wanted.key; });
-    if (row == rows_.end() || row->modified != wanted.modified || row->size != wanted.size)
-        return std::nullopt;
-    std::vector<std::uint8_t> pixels(kPixelBytes);
+std::vector<Cache::Row>::iterator Cache::RowOfPath(const std::string& path) {
+    return std::find_if(rows_.begin(), rows_.end(), [key = KeyOf(path)](const Row& row) {
+        return row.turn != 0 && row.key == key;
+    });
+}
+
+std::optional<pictures::RgbPicture> Cache::PictureOf(std::vector<Row>::iterator row) {
+    std::vector<std::uint8_t> pixels(row->PixelBytes());
     const auto number = static_cast<std::size_t>(row - rows_.begin());
     if (file_.ReadAt(PlaceOfPixels(number), pixels) != pixels.size() ||
         SumOf(pixels) != row->pixelSum)
         return std::nullopt;
-    return UnpackPixels(pixels, kKeptWidth, kKeptHeight);
+    return UnpackPixels(pixels, row->width, row->height);
 }
 
-std::size_t Cache::PlaceFor(const Row& row) const {
-    const auto same = std::find_if(rows_.begin(), rows_.end(),
-                                   [&](const Row& r) { return r.turn != 0 && r.key == row.key; });
-    const auto oldest = std::min_element(
-        rows_.begin(), rows_.end(), [](const Row& a, const Row& b) { return a.turn < b.turn; });
-    return static_cast<std::size_t>((same != rows_.end() ? same : oldest) - rows_.begin());
+std::optional<pictures::RgbPicture> Cache::Find(const Source& source) {
+    if (!Open()) return std::nullopt;
+    const auto row = RowOfPath(source.path);
+    if (row == rows_.end() || row->stamp != source.Stamp()) return std::nullopt;
+    return PictureOf(row);
+}
+
+std::optional<KeptPicture> Cache::FindOfPath(const std::string& path) {
+    if (!Open()) return std::nullopt;
+    const auto row = RowOfPath(path);
+    if (row == rows_.end()) return std::nullopt;
+    auto picture = PictureOf(row);
+    if (!picture) return std::nullopt;
+    return KeptPicture{std::move(*picture), row->stamp};
+}
+
+std::vector<Cache::Row>::iterator Cache::PlaceFor(const std::string& path) {
+    const auto same = RowOfPath(path);
+    if (same != rows_.end()) return same;
+    return std::min_element(rows_.begin(), rows_.end(),
+                            [](const Row& a, const Row& b) { return a.turn < b.turn; });
 }
 
 void Cache::Keep(const Source& source, const pictures::RgbPicture& picture) {
-    const auto pixels = PackPixels(picture);
-    if (!Open() || pixels.size() != kPixelBytes) return;
-    Row row = RowOf(source);
-    const std::size_t number = PlaceFor(row);
+    if (!HasRoomFor(picture.width, picture.height) || !Open()) return;
+    auto pixels = PackPixels(picture);
+    Row row{KeyOf(source.path),
+            source.Stamp(),
+            0,
+            SumOf(pixels),
+            static_cast<std::uint16_t>(picture.width),
+            static_cast<std::uint16_t>(picture.height)};
     for (const Row& other : rows_) row.turn = std::max(row.turn, other.turn);
     ++row.turn;
-    row.pixelSum = SumOf(pixels);
+    const auto place = PlaceFor(source.path);
+    const auto number = static_cast<std::size_t>(place - rows_.begin());
     // Pixels first: where the row does not follow them, the one that is there tells that they are
     // another's.
-    rows_[number] = {};
+    *place = {};
+    pixels.resize(kRoomForPixels);
     if (file_.WriteAt(PlaceOfPixels(number), pixels) &&
         file_.WriteAt(PlaceOfRow(number), BytesOf(row)))
-        rows_[number] = row;
+        *place = row;
+}
+
+void Cache::Drop(const std::string& path) {
+    if (!Open()) return;
+    const auto row = RowOfPath(path);
+    if (row == rows_.end()) return;
+    *row = {};
+    file_.WriteAt(PlaceOfRow(static_cast<std::size_t>(row - rows_.begin())), BytesOf(*row));
 }
 
 }  // namespace vistrel::thumbnails

@@ -8,12 +8,10 @@
 namespace vistrel::thumbnails {
 namespace {
 
-std::optional<pictures::RgbPicture> KeptOrMade(const Source& source, Cache& cache) {
-    auto kept = cache.Find(source);
-    if (kept) return kept;
-    auto made = pictures::ReadPicturePreview(source.path, kKeptWidth, kKeptHeight);
+// In the size that is shown: so it is shown next time as it is kept.
+std::optional<pictures::RgbPicture> Made(const Source& source, int width, int height) {
+    auto made = pictures::ReadPicturePreview(source.path, width, height);
     if (!made) return std::nullopt;
-    cache.Keep(source, made->picture);
     return std::move(made->picture);
 }
 
@@ -21,9 +19,12 @@ std::optional<pictures::RgbPicture> KeptOrMade(const Source& source, Cache& cach
 
 std::optional<pictures::RgbPicture> ThumbnailOf(const Source& source, Cache& cache, int width,
                                                 int height) {
-    auto picture = KeptOrMade(source, cache);
-    if (!picture || (width == picture->width && height == picture->height)) return picture;
-    return scale::Resize(*picture, width, height);
+    auto picture = cache.Find(source);
+    if (picture && picture->width == width && picture->height == height) return picture;
+    const bool isLarger = picture && picture->width >= width && picture->height >= height;
+    picture = isLarger ? scale::Resize(*picture, width, height) : Made(source, width, height);
+    if (picture) cache.Keep(source, *picture);
+    return picture;
 }
 
 }  // namespace vistrel::thumbnails

@@ -9,7 +9,8 @@
 namespace vistrel::thumbnails {
 
 /// The picture of a screen in `width` x `height` pixels, at most kKeptWidth x kKeptHeight: the one
-/// that `cache` keeps, or else made of the file and kept. Empty when the file cannot be read.
+/// that `cache` keeps, or made of a larger one there, or else of the file, and then kept in this
+/// size. Empty when the file cannot be read.
 std::optional<pictures::RgbPicture> ThumbnailOf(const Source& source, Cache& cache, int width,
                                                 int height);
 

@@ -7,6 +7,14 @@
 #include "platform/win32.h"
 
 namespace vistrel::preview {
+namespace {
+
+/// Behind another window the colours that are there stand for its own.
+bool IsOfActiveWindow(platform::DeviceContext target) {
+    return IsChild(GetActiveWindow(), WindowFromDC(target)) != 0;
+}
+
+}  // namespace
 
 ReadyPicture::ReadyPicture(const pictures::RgbPicture& picture)
     : width_(picture.width),
@@ -26,10 +34,9 @@ bool ReadyPicture::Paint(platform::DeviceContext target, int x, int y) const {
         info.header.biClrUsed = platform::kDisplayColors;
         for (WORD i = 0; i < platform::kDisplayColors; ++i) info.entries[i] = i;
     }
-    // Behind another window the colours that are there stand for its own.
-    const bool active = IsChild(GetActiveWindow(), WindowFromDC(target)) != 0;
     const HPALETTE former =
-        bits_ == 8 ? SelectPalette(target, controls::DisplayPalette(), !active) : nullptr;
+        bits_ == 8 ? SelectPalette(target, controls::DisplayPalette(), !IsOfActiveWindow(target))
+                   : nullptr;
     if (former) RealizePalette(target);
     SetDIBitsToDevice(target, x, y, static_cast<DWORD>(width_), static_cast<DWORD>(height_), 0, 0,
                       0, static_cast<UINT>(height_), rows_.data(),

@@ -86,6 +86,37 @@ TEST_F(Finding, KeepsTheSelectedSetAndItsScreensWhereItIsFound) {
     });
 }
 
+TEST_F(Finding, LeavesALongListForTheKeyThatIsTypedNextAndSelectsTheSetAgainInTheEnd) {
+    for (int i = 100; i < 1000; ++i) MakeFolders(logos + "Set " + std::to_string(i) + "\\");
+    Principale main(locations);
+    main.Create(nullptr);
+    main.Show();
+    HandleWaiting();
+    main.SelItem("Set 950");
+    main.FindBox.Focus();
+    HandleWaiting();
+    const int all = main.MyList.Count();
+    SendMessageA(Box(main), WM_CHAR, 'S', 0);
+    keybd_event('E', 0, 0, 0);
+    keybd_event('E', 0, KEYEVENTF_KEYUP, 0);
+    EXPECT_TRUE(WaitUntil([&] {
+        // The key's own messages stay where they are.
+        MSG tick{};
+        while (PeekMessageA(&tick, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE)) DispatchMessageA(&tick);
+        return main.MyList.Count() != all;
+    }));
+    EXPECT_EQ(main.MyList.Count(), 200);
+    EXPECT_FALSE(SetToolsEnabled(main));
+    EXPECT_TRUE(WaitUntil([&] {
+        HandleWaiting();
+        return main.MyList.Count() == 900;
+    }));
+    EXPECT_EQ(main.FindBox.Text(), "Se");
+    EXPECT_EQ(Selected(main), "Set 950");
+    EXPECT_TRUE(SetToolsEnabled(main));
+    main.Unload();
+}
+
 TEST_F(Finding, EnterGoesOnToTheFirstSetThatWasFound) {
     WithMainWindow([&](Principale& main) {
         main.Preferences().actionOnDoubleClick = 0;

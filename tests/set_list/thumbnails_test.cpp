@@ -7,6 +7,7 @@
 #include "tests/main_window/file_drag_source.h"
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"
+#include "thumbnails/cache.h"
 
 namespace vistrel::test {
 
@@ -276,6 +277,51 @@ TEST_F(ThumbnailView, TakesAPictureFromItsFileWhileTheScreenIsTheSame) {
     WithThumbnails([&](Principale& main) { EXPECT_TRUE(IsSeen(main, "Red", kRed)); });
     SetTimeOf(screen, 2);
     WithThumbnails([&](Principale& main) { EXPECT_TRUE(IsSeen(main, "Red", kGreenScreen)); });
+}
+
+TEST_F(ThumbnailView, ShowsKeptPicturesWithTheListAndLooksAtTheirScreensLater) {
+    WithThumbnails([&](Principale& main) {
+        EXPECT_TRUE(IsSeen(main, "Red", kRed));
+        EXPECT_TRUE(IsSeen(main, "Green.SLS", kGreenScreen));
+    });
+    Principale main(locations);
+    main.Create(nullptr);
+    main.Show();
+    HandleWaiting();
+    std::vector<bool> painted;
+    const auto paint = main.MyList.PaintPicture;
+    main.MyList.PaintPicture = [&](auto target, int index, Point at) {
+        painted.push_back(paint(target, index, at));
+        return painted.back();
+    };
+    Put(logos + "Red\\LOGO.SYS", ScreenFile(0, 255, 0));
+    SetTimeOf(logos + "Red\\LOGO.SYS", 1);
+    SendMessageA(main.handle(), WM_COMMAND, ID_ToolRefresh, 0);
+    UpdateWindow(main.MyList.handle());
+    EXPECT_EQ(painted, std::vector<bool>(3, true));
+    EXPECT_TRUE(IsSeen(main, "Red", kRed));
+    EXPECT_TRUE(WaitUntil([&] {
+        HandleWaiting();
+        return seen::PixelAt(MiddleOfPicture(main, "Red")) == kGreenScreen;
+    }));
+    // It was never without a picture.
+    EXPECT_EQ(std::count(painted.begin(), painted.end(), false), 0);
+    main.Unload();
+}
+
+TEST_F(ThumbnailView, ForgetsThePictureOfAScreenThatIsGone) {
+    WithThumbnails([&](Principale& main) { EXPECT_TRUE(IsSeen(main, "Red", kRed)); });
+    const std::string screen = logos + "Red\\LOGO.SYS";
+    EXPECT_TRUE(thumbnails::Cache(cache).FindOfPath(screen));
+    DeleteFileA(screen.c_str());
+    WithThumbnails([&](Principale& main) {
+        EXPECT_TRUE(WaitUntil([&] {
+            const RECT r = PictureOf(main, "Red");
+            return seen::PixelAt({r.left + 4, r.top + 4}) == GetSysColor(COLOR_BTNFACE);
+        }));
+    });
+    EXPECT_FALSE(thumbnails::Cache(cache).FindOfPath(screen));
+    EXPECT_TRUE(thumbnails::Cache(cache).FindOfPath(logos + "Blue\\LOGO.SYS"));
 }
 
 TEST_F(ThumbnailView, MakesPicturesAnewWhereTheirFileIsDamagedOrCannotBeWritten) {

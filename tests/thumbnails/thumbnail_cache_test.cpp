@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -87,6 +88,82 @@ TEST_F(ThumbnailCache, ForgetsTheScreenThatHasAnotherTimeOrSize) {
     EXPECT_EQ(cache.Find(SourceOf(0)), std::nullopt);
     // In the place of the old one.
     EXPECT_EQ(Bytes().size(), kHeader + kMost * kRow + kPixels);
+}
+
+TEST_F(ThumbnailCache, FindsByThePathAloneWhateverTheScreenIsNow) {
+    KeepFirst(2);
+    Cache cache(file, kMost);
+    const auto kept = cache.FindOfPath(SourceOf(1).path);
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->picture, Plain(1));
+    EXPECT_EQ(kept->stamp, SourceOf(1).Stamp());
+    for (const Source& other :
+         {Source{SourceOf(1).path, 1001, 129078}, Source{SourceOf(1).path, 1000, 129079},
+          Source{SourceOf(1).path, 129078, 1000}})
+        EXPECT_NE(kept->stamp, other.Stamp());
+    EXPECT_FALSE(cache.FindOfPath(SourceOf(2).path));
+}
+
+TEST_F(ThumbnailCache, KeepsSmallerPicturesInTheirOwnSize) {
+    const RgbPicture small{64, 48, std::vector<std::uint8_t>(64 * 48 * 3, 255)};
+    {
+        Cache cache(file, kMost);
+        cache.Keep(SourceOf(0), Plain(0));
+        cache.Keep(SourceOf(1), small);
+        cache.Keep(SourceOf(2), Plain(2));
+        cache.Keep(SourceOf(0), small);
+        cache.Keep(SourceOf(3), small);
+    }
+    // A small one takes a whole place too.
+    EXPECT_EQ(Bytes().size(), kHeader + 4 * (kRow + kPixels));
+    Cache later(file, kMost);
+    EXPECT_EQ(later.Find(SourceOf(0)), small);
+    EXPECT_EQ(later.Find(SourceOf(1)), small);
+    EXPECT_EQ(later.Find(SourceOf(2)), Plain(2));
+}
+
+TEST_F(ThumbnailCache, KeepsNoPictureThatIsLargerThanItsPlace) {
+    Cache cache(file, kMost);
+    for (const auto& [width, height] : {std::pair{129, 96}, std::pair{128, 97}, std::pair{0, 0}}) {
+        const RgbPicture picture{
+            width, height, std::vector<std::uint8_t>(static_cast<std::size_t>(width * height * 3))};
+        cache.Keep(SourceOf(0), picture);
+        EXPECT_FALSE(cache.Find(SourceOf(0))) << width;
+    }
+}
+
+TEST_F(ThumbnailCache, BelievesNoRowThatTellsOfMorePixelsThanHaveRoom) {
+    KeepFirst(1);
+    std::string bytes = Bytes();
+    bytes[kHeader + 24] = '\x81';  // 129 pixels wide
+    // The row's own sum, so that the row is well but for its size.
+    std::uint32_t sum = 0x811c9dc5;
+    for (std::size_t i = 0; i < kRow - 4; i += 4) {
+        std::uint32_t word = 0;
+        std::memcpy(&word, &bytes[kHeader + i], sizeof word);
+        sum = (sum ^ word) * 0x01000193;
+    }
+    std::memcpy(&bytes[kHeader + kRow - 4], &sum, sizeof sum);
+    Put(bytes + std::string(kPixels, '\0'));
+    Cache cache(file, kMost);
+    EXPECT_FALSE(cache.FindOfPath(SourceOf(0).path));
+    // The row is free: the next picture takes its place.
+    cache.Keep(SourceOf(3), Plain(3));
+    EXPECT_EQ(Bytes().substr(kHeader + kMost * kRow, 2), "\xff\x07");
+}
+
+TEST_F(ThumbnailCache, DropsThePictureOfOneScreenForGood) {
+    KeepFirst(3);
+    {
+        Cache cache(file, kMost);
+        cache.Drop(SourceOf(1).path);
+        cache.Drop(SourceOf(3).path);
+        EXPECT_FALSE(cache.FindOfPath(SourceOf(1).path));
+    }
+    Cache later(file, kMost);
+    EXPECT_EQ(later.Find(SourceOf(0)), Plain(0));
+    EXPECT_EQ(later.Find(SourceOf(1)), std::nullopt);
+    EXPECT_EQ(later.Find(SourceOf(2)), Plain(2));
 }
 
 TEST_F(ThumbnailCache, NeverGrowsBeyondItsBoundAndDropsTheOldest) {
@@ -220,6 +297,23 @@ TEST_F(Thumbnails, ShowTheScreenInEverySizeAndReadItOnce) {
         EXPECT_EQ(At(*picture, width / 4, 20, 2), 255);
         EXPECT_EQ(At(*picture, width * 3 / 4, 20, 0), 255);
         std::filesystem::remove(source.path);
+    }
+}
+
+TEST_F(Thumbnails, AreKeptInTheSizeThatIsShownAndNeverEnlarged) {
+    const Source source = PutScreen();
+    Cache cache(file, kMost);
+    for (const int width : {64, 128, 96}) {
+        const int height = width * 3 / 4;
+        const auto picture = thumbnails::ThumbnailOf(source, cache, width, height);
+        const auto kept = cache.FindOfPath(source.path);
+        ASSERT_TRUE(kept);
+        EXPECT_EQ(kept->picture.width, width);
+        EXPECT_EQ(kept->stamp, source.Stamp());
+        // A larger one shows what the file has: a sharp edge where its colours meet.
+        if (width != 128) continue;
+        EXPECT_EQ(At(*picture, 63, 20, 2), 255);
+        EXPECT_EQ(At(*picture, 64, 20, 2), 0);
     }
 }
 
