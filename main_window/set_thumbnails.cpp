@@ -33,6 +33,7 @@ controls::Size SetThumbnails::SizeOf(int step) {
 void SetThumbnails::Forget() {
     ready_.clear();
     wanted_.clear();
+    displayHasPalette_.reset();
 }
 
 std::vector<SetThumbnails::Ready>::iterator SetThumbnails::Find(const std::string& set) {
@@ -64,7 +65,7 @@ std::vector<SetThumbnails::Ready>::iterator SetThumbnails::TakeKept(const std::s
     const controls::Size size = list_.PictureSize();
     if (!kept || kept->picture.width != size.width || kept->picture.height != size.height)
         return ready_.end();
-    Add({set, preview::ReadyPicture(kept->picture), 0, kept->stamp});
+    Add({set, ReadyOf(kept->picture), 0, kept->stamp});
     return ready_.end() - 1;
 }
 
@@ -109,7 +110,6 @@ void SetThumbnails::Compare(Ready& ready) {
     const bool isTheSame = source && source->Stamp() == ready.stamp;
     ready.stamp.reset();
     if (isTheSame) return;
-    cache_.Drop(screenOf_(ready.set));
     ready.picture = PictureOf(ready.set);
     const int index = ready.index;
     if (index < list_.Count() && list_.ItemText(index) == ready.set && list_.IsInView(index))
@@ -134,7 +134,15 @@ preview::ReadyPicture SetThumbnails::PictureOf(const std::string& set) {
     const controls::Size size = list_.PictureSize();
     const auto picture =
         source ? thumbnails::ThumbnailOf(*source, cache_, size.width, size.height) : std::nullopt;
-    return picture ? preview::ReadyPicture(*picture) : preview::ReadyPicture();
+    if (picture) return ReadyOf(*picture);
+    // Nor is one shown that was kept before.
+    cache_.Drop(screenOf_(set));
+    return {};
+}
+
+preview::ReadyPicture SetThumbnails::ReadyOf(const pictures::RgbPicture& picture) {
+    if (!displayHasPalette_) displayHasPalette_ = controls::DisplayHasPalette();
+    return preview::ReadyPicture(picture, *displayHasPalette_);
 }
 
 }  // namespace vistrel::main_window

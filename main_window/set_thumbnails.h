@@ -54,6 +54,7 @@ class SetThumbnails {
     void Compare(Ready& ready);
     std::optional<thumbnails::Source> SourceOf(const std::string& set) const;
     preview::ReadyPicture PictureOf(const std::string& set);
+    preview::ReadyPicture ReadyOf(const pictures::RgbPicture& picture);
 
     controls::ListView& list_;
     controls::Timer& idle_;
@@ -62,6 +63,7 @@ class SetThumbnails {
     thumbnails::Cache cache_;
     std::vector<Ready> ready_;  ///< the one painted last at the end
     std::vector<int> wanted_;   ///< items that were painted without
+    std::optional<bool> displayHasPalette_;
 };
 
 }  // namespace vistrel::main_window

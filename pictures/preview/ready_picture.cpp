@@ -1,6 +1,5 @@
 #include "pictures/preview/ready_picture.h"
 
-#include "controls/display_palette.h"
 #include "pictures/preview/draw_rgb.h"
 #include "pictures/screen/display_dither.h"
 #include "platform/display_colors.h"
@@ -16,10 +15,10 @@ bool IsOfActiveWindow(platform::DeviceContext target) {
 
 }  // namespace
 
-ReadyPicture::ReadyPicture(const pictures::RgbPicture& picture)
+ReadyPicture::ReadyPicture(const pictures::RgbPicture& picture, bool hasPalette)
     : width_(picture.width),
       height_(picture.height),
-      bits_(controls::DisplayHasPalette() ? 8 : 24),
+      bits_(hasPalette ? 8 : 24),
       rows_(bits_ == 8 ? screen::DitherToDisplayColors(picture.pixels.data(), width_, height_)
                        : BlueGreenRedRows(picture.pixels.data(), width_, height_)) {}
 

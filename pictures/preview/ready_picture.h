@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "controls/display_palette.h"
 #include "pictures/rgb_picture.h"
 #include "platform/handles.h"
 
@@ -13,8 +14,10 @@ class ReadyPicture {
  public:
     /// No picture.
     ReadyPicture() = default;
-    /// Brought to the colours that the display has now.
-    explicit ReadyPicture(const pictures::RgbPicture& picture);
+    /// Brought to the colours that the display has now. Whether it has a palette is worth asking
+    /// once for many pictures.
+    explicit ReadyPicture(const pictures::RgbPicture& picture,
+                          bool hasPalette = controls::DisplayHasPalette());
 
     /// Paints it at (x, y) of a window. False where there is none.
     bool Paint(platform::DeviceContext target, int x, int y) const;

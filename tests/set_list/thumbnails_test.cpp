@@ -299,7 +299,12 @@ TEST_F(ThumbnailView, ShowsKeptPicturesWithTheListAndLooksAtTheirScreensLater) {
     SendMessageA(main.handle(), WM_COMMAND, ID_ToolRefresh, 0);
     UpdateWindow(main.MyList.handle());
     EXPECT_EQ(painted, std::vector<bool>(3, true));
-    EXPECT_TRUE(IsSeen(main, "Red", kRed));
+    // No message has been handled since.
+    POINT at = MiddleOfPicture(main, "Red");
+    ScreenToClient(main.MyList.handle(), &at);
+    const HDC dc = GetDC(main.MyList.handle());
+    EXPECT_EQ(GetPixel(dc, at.x, at.y), kRed);
+    ReleaseDC(main.MyList.handle(), dc);
     EXPECT_TRUE(WaitUntil([&] {
         HandleWaiting();
         return seen::PixelAt(MiddleOfPicture(main, "Red")) == kGreenScreen;
@@ -315,6 +320,7 @@ TEST_F(ThumbnailView, ForgetsThePictureOfAScreenThatIsGone) {
     EXPECT_TRUE(thumbnails::Cache(cache).FindOfPath(screen));
     DeleteFileA(screen.c_str());
     WithThumbnails([&](Principale& main) {
+        EXPECT_TRUE(IsSeen(main, "Blue", kBlueScreen));
         EXPECT_TRUE(WaitUntil([&] {
             const RECT r = PictureOf(main, "Red");
             return seen::PixelAt({r.left + 4, r.top + 4}) == GetSysColor(COLOR_BTNFACE);
