@@ -71,6 +71,8 @@ class ActiveBar {
     std::intptr_t OnNotify(void* header);
 
     const Tool* ToolOfName(const std::string& name) const;
+    /// All of them, those of no band too.
+    std::span<const Tool> Tools() const { return tools_; }
 
  private:
     struct State {
