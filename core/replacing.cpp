@@ -24,7 +24,7 @@ ReplacingNote::ReplacingNote(const std::string& path) {
 
 ReplacingNote::~ReplacingNote() { RemoveNote(); }
 
-bool ReplaceFile(const std::string& path, const std::vector<std::uint8_t>& bytes) {
+bool WriteOver(const std::string& path, const std::vector<std::uint8_t>& bytes) {
     const ReplacingNote note(path);
     return pictures::WriteWholeFile(path, bytes);
 }

@@ -19,7 +19,7 @@ class ReplacingNote {
 
 /// Writes a whole file, over one of that name if there is one. False when it could not be written;
 /// what was there is then as it was.
-bool ReplaceFile(const std::string& path, const std::vector<std::uint8_t>& bytes);
+bool WriteOver(const std::string& path, const std::vector<std::uint8_t>& bytes);
 
 /// Brings back what a note says that a program has left which was ended in between.
 void EndInterruptedReplacing();

@@ -27,7 +27,7 @@ MendResult MendScreenFile(const std::string& path) {
     if (!attributes || !mended) return MendResult::NotRead;
     // Screens in their places are often read-only, and so are copies from a CD-ROM.
     platform::SetAttributes(path, platform::kNormalFile);
-    const bool written = ReplaceFile(path, *mended);
+    const bool written = WriteOver(path, *mended);
     platform::SetAttributes(path, *attributes);
     return written ? MendResult::Mended : MendResult::NotWritten;
 }

@@ -27,7 +27,7 @@ void Principale::ItmMoveColors_Click() {
                 owner, "Would you like to save the screen, as it moves now, over " + path + "?",
                 platform::DefaultAnswer::Yes))
             return false;
-        saved = core::ReplaceFile(path, file);
+        saved = core::WriteOver(path, file);
         if (!saved)
             platform::Tell(owner, path +
                                       " cannot be written. The disk may be full, or the file "

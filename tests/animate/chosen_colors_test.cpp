@@ -34,10 +34,15 @@ class ChosenColors : public Moving {
             Await([&] { return IsWindowVisible(part) != 0; }, "all of the dialog");
             begun[i] = static_cast<std::uint8_t>(std::atoi(user::TextOf(part).c_str()));
         }
-        for (std::size_t i = 0; i < 3; ++i) {
-            const HWND part = GetDlgItem(dialog, kParts[i]);
-            const std::string number = std::to_string(typed[i]);
-            EXPECT_TRUE(TypeOver(part, number));
+        const auto isTyped = [&](std::size_t i) {
+            return user::TextOf(GetDlgItem(dialog, kParts[i])) == std::to_string(typed[i]);
+        };
+        // The dialog works all numbers out anew at each letter, on a busy machine late.
+        constexpr int kTries = 3;
+        for (int tries = 0; tries < kTries && !(isTyped(0) && isTyped(1) && isTyped(2)); ++tries) {
+            for (std::size_t i = 0; i < 3; ++i)
+                EXPECT_TRUE(TypeOver(GetDlgItem(dialog, kParts[i]), std::to_string(typed[i])));
+            WaitUntil([] { return false; }, 200);
         }
         EXPECT_TRUE(user::Click(GetDlgItem(dialog, answer)));
         EXPECT_TRUE(user::WaitUntilGone(dialog));

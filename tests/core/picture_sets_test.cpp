@@ -136,7 +136,7 @@ TEST_F(PictureSetsOf, FiveHundredOnADiskThatFillsUpLeaveWholeSetsAndNameTheRest)
     for (int i = 0; i < 500; ++i) some.push_back(Picture("p" + std::to_string(1000 + i) + ".bmp"));
     PictureSets sets(logos, some, SetKind::StartupOnly, compose::FramingKind::Fill);
     // Room for some sets and a part of one; nothing that comes after succeeds either.
-    fault::FailFromOperation(100);
+    fault::FailFromOperation(200);
     Run(sets);
     fault::Reset();
     EXPECT_GT(sets.Made().size(), 10u);

@@ -195,15 +195,11 @@ const std::vector<FileCommand>& FileCommands() {
          ExpectThatItCanBeTakenBack},
         {"rename",
          Nothing,
-         [](const Place& place) {
-             RenameSet({place.logos, "Red"}, "Scarlet");
-         },
+         [](const Place& place) { RenameSet({place.logos, "Red"}, "Scarlet"); },
          {}},
         {"convert",
          Nothing,
-         [](const Place& place) {
-             RenameSet({place.logos, "Red"}, "Red.SLS");
-         },
+         [](const Place& place) { RenameSet({place.logos, "Red"}, "Red.SLS"); },
          {}},
         {"delete",
          Nothing,
@@ -211,16 +207,9 @@ const std::vector<FileCommand>& FileCommands() {
          {{"Red"}, false, kFilesGoOneByOne}},
         {"delete several",
          Nothing,
-         [](const Place& place) {
-             Delete(place, {"Blue", "Red"});
-         },
+         [](const Place& place) { Delete(place, {"Blue", "Red"}); },
          {{"Blue", "Red"}, false, kFilesGoOneByOne}},
-        {"duplicate",
-         Nothing,
-         [](const Place& place) {
-             DuplicateSet({place.logos, "Red"});
-         },
-         {}},
+        {"duplicate", Nothing, [](const Place& place) { DuplicateSet({place.logos, "Red"}); }, {}},
         {"import", PutArchive, Import, {}},
         {"export",
          PutOlderArchive,
@@ -247,9 +236,7 @@ const std::vector<FileCommand>& FileCommands() {
         {"save default screens", Nothing, SaveShared, {{""}, false, kWrittenStays}},
         {"mend, move colours",
          Nothing,
-         [](const Place& place) {
-             ReplaceFile(place.logos + "Red\\LOGO.SYS", {1, 2, 3});
-         },
+         [](const Place& place) { WriteOver(place.logos + "Red\\LOGO.SYS", {1, 2, 3}); },
          {}},
         {"make sets of pictures",
          PutPictures,

@@ -18,7 +18,7 @@ namespace fault = platform::fault;
 namespace {
 
 /// A program takes its time to start: of a command with more operations it is killed at so many.
-constexpr int kMostKilled = 12;
+constexpr int kMostKilled = 6;
 
 class Commands : public Machine {
  protected:

@@ -1,4 +1,6 @@
 // The main window's rows.
+#include <windows.h>
+// commctrl.h needs windows.h first.
 #include <commctrl.h>
 
 #include "tests/hardship/window_commands.h"

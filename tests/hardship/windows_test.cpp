@@ -85,17 +85,20 @@ class Windows : public WindowCommands {
         if (editor.NameLogoSet.FindItem("Red") < 0) editor.NameLogoSet.AddItem("Red");
     }
 
-    /// Runs a row on a library that is put back, with operations failing as `fail` says.
-    void RunRow(const Row& row, Stage& stage, const std::function<void()>& fail) {
+    /// Runs a row on a library that is put back, with operations failing as `fail` says. How many
+    /// there were of those that are counted then.
+    int RunRow(const Row& row, Stage& stage, const std::function<void()>& fail) {
         PutBack(stage);
         if (row.prepare) row.prepare(stage);
         SettleAll(stage);
-        const Answering answering(
-            root + "given.zip", row.inWindow ? row.inWindow : [](HWND) {});
+        start_ = Look(place_);
+        const Answering answering(root + "given.zip", row.inWindow);
         fail();
         row.run(stage);
         SettleAll(stage);
+        const int counted = fault::Counted();
         fault::Reset();
+        return counted;
     }
 
     static void SettleAll(Stage& stage) {

@@ -110,7 +110,8 @@ TEST_F(OptionsMenu, TheMenuOfTheDrivesHasEachFixedOneOnceAndMarksThatOfTheStartu
             user::RightClickAt(corner);
             const HMENU menu = user::WaitForPopUp();
             const HMENU drives = seen::RowsOf(menu).at(9).opens;
-            // From the end, past the thumbnails.
+            // From the end, past the details and the thumbnails.
+            user::Press(VK_UP);
             user::Press(VK_UP);
             user::Press(VK_UP);
             user::Press(VK_RIGHT);

@@ -111,13 +111,11 @@ TEST_F(Several, AreSelectedByShiftByTheFrameAndByTheCommandForAll) {
     });
 }
 
-TEST_F(Several, AreNotRenamedInstalledOrOpenedByAKey) {
+TEST_F(Several, AreNotInstalledOrOpenedByEnter) {
     WithMainWindow([&](Principale& main) {
         SelectAll(main);
-        user::Press(VK_F2);
         user::Press(VK_RETURN);
         Settle(main);
-        EXPECT_FALSE(main.MyList.EditingLabel());
         EXPECT_EQ(main.DefaultLogo.Text(), "Blue");
         EXPECT_EQ(user::FindTop("SelPictureForm"), nullptr);
         EXPECT_EQ(Installed(), (Names{"-", "-", "-"}));

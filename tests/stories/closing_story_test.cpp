@@ -80,6 +80,9 @@ TEST_F(Ending, ASecondStartRightAfterTheFirstOpensOneProgram) {
     // Of either of the two, whichever came first. Were there another, its program would not end.
     const HWND main = user::WaitForTop("Principale");
     EXPECT_NE(main, nullptr);
+    // That is a second start only while the window is there.
+    EXPECT_TRUE(WaitUntil(
+        [&] { return one.WaitForEnd(0).has_value() || other.WaitForEnd(0).has_value(); }, 60000));
     PostMessageA(main, WM_CLOSE, 0, 0);
     EXPECT_EQ(one.WaitForEnd(), 0u);
     EXPECT_EQ(other.WaitForEnd(), 0u);
