@@ -13,8 +13,6 @@ constexpr const char* kFilesGoOneByOne =
 
 void PressOk(HWND window) { PostMessageA(window, WM_COMMAND, IDOK, 0); }
 
-void MakeSets(HWND window) { PostMessageA(user::Control(window, ID_BtnMakeSets), BM_CLICK, 0, 0); }
-
 }  // namespace
 
 const std::vector<WindowCommands::Row>& WindowCommands::OfLogoBrowser() {
@@ -104,12 +102,7 @@ const std::vector<WindowCommands::Row>& WindowCommands::OfLogoBrowser() {
          [](Stage& stage) { Run(*stage.editor, ID_ItmAdjustSlot); },
          {},
          PressOk},
-        {{ID_ItmManySets},
-         "make sets of pictures",
-         pick,
-         [](Stage& stage) { Run(*stage.editor, ID_ItmManySets); },
-         {},
-         MakeSets},
+        {{ID_ItmManySets}, "make sets of pictures"},
         {{ID_BrowserShowAtStart},
          "show as at start",
          load,
