@@ -3,6 +3,8 @@
 // commctrl.h needs windows.h first.
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/file_time.h"
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"

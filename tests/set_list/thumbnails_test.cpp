@@ -4,6 +4,8 @@
 #include <commctrl.h>
 #include <ole2.h>
 
+#include <algorithm>
+
 #include "tests/main_window/file_drag_source.h"
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"
