@@ -16,17 +16,17 @@ constexpr DWORD kTimeToClose = 300;
 constexpr const char* kOurs[] = {"SelPictureForm", "FrmOptions", "FrmView",   "FrmAboutReg",
                                  "FrmBootShow",    "FrmAnimate", "FrmAdjust", "FrmManySets"};
 
+BOOL CALLBACK AddIfOpenHere(HWND window, LPARAM list) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == GetCurrentProcessId() && IsWindowVisible(window))
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
 std::vector<HWND> OpenWindows() {
     std::vector<HWND> windows;
-    EnumWindows(
-        [](HWND window, LPARAM list) -> BOOL {
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (process == GetCurrentProcessId() && IsWindowVisible(window))
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    EnumWindows(AddIfOpenHere, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 
