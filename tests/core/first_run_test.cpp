@@ -111,7 +111,9 @@ TEST_F(FirstRunTest, AStepThatFailsIsPassedOver) {
         [&](int failed) {
             const auto kept = Kept(program);
             const auto lost = std::count(kept.begin(), kept.end(), "-");
-            if (failed <= reading) EXPECT_EQ(lost, 0);
+            if (failed <= reading) {
+                EXPECT_EQ(lost, 0);
+            }
             // One that cannot be copied, or all where the set cannot be made or named.
             if (lost > 0) missing.push_back(static_cast<int>(lost));
             EXPECT_EQ(settings.defaultLogoSet, "Original Logos");
