@@ -2,7 +2,10 @@
 # Windows 95 OSR2 lacks are then not even declared.
 add_compile_definitions(
     WINVER=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_WINNT=0x0400 _WIN32_IE=0x0300 NOMINMAX STRICT)
-add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-include ${CMAKE_CURRENT_LIST_DIR}/library_threads.h>")
+# Precompiled headers have to come first, and bring it along.
+set(precompiled $<OR:$<BOOL:$<TARGET_PROPERTY:PRECOMPILE_HEADERS>>,$<BOOL:$<TARGET_PROPERTY:PRECOMPILE_HEADERS_REUSE_FROM>>>)
+add_compile_options(
+    "$<$<AND:$<COMPILE_LANGUAGE:CXX>,$<NOT:${precompiled}>>:SHELL:-include ${CMAKE_CURRENT_LIST_DIR}/library_threads.h>")
 add_compile_options(-ffunction-sections -fdata-sections)
 add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 

@@ -8,8 +8,14 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
 endif()
 
 set(GOOGLETEST_SOURCES /usr/src/googletest)
+add_library(googletest STATIC ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp)
+# The compiler has no threads of its own kind, so that GoogleTest goes without.
+target_compile_definitions(googletest PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
+target_include_directories(googletest SYSTEM
+    PUBLIC ${GOOGLETEST_SOURCES}/googletest/include ${GOOGLETEST_SOURCES}/googlemock/include
+    PRIVATE ${GOOGLETEST_SOURCES}/googletest ${GOOGLETEST_SOURCES}/googlemock)
+
 add_library(windows_test STATIC
-    ${CMAKE_CURRENT_LIST_DIR}/googletest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/clean_start.cpp
@@ -21,12 +27,8 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/user/snapshot.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/started_program.cpp)
 add_executable(record_opening WIN32 ${CMAKE_CURRENT_LIST_DIR}/user/record_opening.cpp)
-# The compiler has no threads of its own kind, so that GoogleTest goes without.
-target_compile_definitions(windows_test PUBLIC GTEST_IS_THREADSAFE=0 GTEST_HAS_PTHREAD=0)
-target_include_directories(windows_test SYSTEM
-    PUBLIC ${GOOGLETEST_SOURCES}/googletest/include ${GOOGLETEST_SOURCES}/googlemock/include
-    PRIVATE ${GOOGLETEST_SOURCES}/googletest ${GOOGLETEST_SOURCES}/googlemock)
-target_link_libraries(windows_test PUBLIC gdi32)
+target_link_libraries(windows_test PUBLIC googletest gdi32)
+target_precompile_headers(windows_test PRIVATE ${CMAKE_CURRENT_LIST_DIR}/precompiled.h)
 
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
 set(scripts ${CMAKE_SOURCE_DIR}/scripts)
@@ -72,6 +74,7 @@ function(add_windows_test)
         set(ARG_PROGRAM ${ARG_NAME})
         add_executable(${ARG_NAME} ${ARG_SOURCES})
         target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} windows_test)
+        target_precompile_headers(${ARG_NAME} REUSE_FROM windows_test)
         add_dependencies(${ARG_NAME} wine_template ${ARG_DEPENDS})
     endif()
     set(machine)
