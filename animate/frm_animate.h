@@ -153,7 +153,7 @@ class FrmAnimate : public controls::Window {
     bool ChoosesFreehand() const;
     bool HasCross() const;
     bool HasArea() const;
-    void BeginArea(screen::ScreenPoint at);
+    void BeginArea(screen::ScreenPoint at, bool shift, bool control);
     void DragArea(screen::ScreenPoint at);
     void PickColor(screen::ScreenPoint at);
     void ToleranceBar_Change();

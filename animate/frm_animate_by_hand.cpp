@@ -123,7 +123,7 @@ void FrmAnimate::Board_MouseDown(controls::Point at) {
     BoardBox.Focus();
     const int column = std::clamp(at.x * kAcross / BoardBox.ScaleWidth(), 0, kAcross - 1);
     const int row = std::clamp(at.y * kAcross / BoardBox.ScaleHeight(), 0, kAcross - 1);
-    Mark(row * kAcross + column, controls::IsShiftDown());
+    Mark(row * kAcross + column, BoardBox.PressedWithShift());
 }
 
 void FrmAnimate::MoveOnBoard(int by) {

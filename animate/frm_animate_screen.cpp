@@ -80,7 +80,7 @@ void FrmAnimate::Screen_MouseDown(int button, controls::Point at) {
     lastHand_ = kNobody;
     pressedAt_ = ToScreen(at);
     if (HasArea())
-        BeginArea(pressedAt_);
+        BeginArea(pressedAt_, MovingBox.PressedWithShift(), MovingBox.PressedWithControl());
     else if (GrabBar(pressedAt_))
         drag_ = Drag::Bar;
 }
@@ -108,7 +108,7 @@ void FrmAnimate::Screen_MouseUp() {
 
 void FrmAnimate::Screen_Space() {
     lastHand_ = kNobody;
-    BeginArea(cross_);
+    BeginArea(cross_, controls::IsShiftDown(), controls::IsControlDown());
     drag_ = ChoosesFreehand() ? Drag::LineByKeys : Drag::None;
     LblMovingHint.SetText(Hint());
 }
@@ -156,12 +156,10 @@ void FrmAnimate::DragBar(ScreenPoint at) {
     ChangeArea(&MovingBox, AreaOf(bounds));
 }
 
-void FrmAnimate::BeginArea(ScreenPoint at) {
+void FrmAnimate::BeginArea(ScreenPoint at, bool shift, bool control) {
     drag_ = Drag::Area;
     pressedArea_ = Selected()->area;
-    joining_ = controls::IsShiftDown()     ? Joining::Add
-               : controls::IsControlDown() ? Joining::Remove
-                                           : Joining::Replace;
+    joining_ = shift ? Joining::Add : control ? Joining::Remove : Joining::Replace;
     line_.clear();
     if (ChoosesFreehand()) line_.push_back(at);
     if (ChoosesByColor()) PickColor(at);

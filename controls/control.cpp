@@ -142,6 +142,8 @@ bool Control::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t l
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             secondPress_ = message == WM_LBUTTONDBLCLK;
+            pressedWithShift_ = (wParam & MK_SHIFT) != 0;
+            pressedWithControl_ = (wParam & MK_CONTROL) != 0;
             Pressed(kLeftButton, at);
             break;
         case WM_RBUTTONDOWN:

