@@ -346,8 +346,7 @@ TEST_F(Browsing, AClickOnThePreviewActsOnThePicture) {
     Put(pictures + "new.sys", ScreenFile(0, 255, 0));
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "new.sys");
-        EXPECT_TRUE(user::Click(editor.CurView.handle()));
-        const HWND view = user::WaitForTop("FrmView");
+        const HWND view = user::ClickToOpen(editor.CurView.handle(), "FrmView");
         EXPECT_NE(view, nullptr);
         EXPECT_TRUE(user::Click(view));
         EXPECT_TRUE(user::WaitUntilGone(view));

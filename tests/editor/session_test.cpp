@@ -225,8 +225,7 @@ TEST_F(Session, ForgetsNothingWhenAPreviewWasLookedAt) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         TypeName(editor, "Typed");
         Pick(editor, "New.sys");
-        EXPECT_TRUE(user::Click(editor.CurView.handle()));
-        const HWND view = user::WaitForTop("FrmView");
+        const HWND view = user::ClickToOpen(editor.CurView.handle(), "FrmView");
         ASSERT_NE(view, nullptr);
         EXPECT_TRUE(user::Click(view));
         EXPECT_TRUE(user::WaitUntilGone(view));

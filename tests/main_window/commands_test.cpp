@@ -106,8 +106,7 @@ TEST_F(Commands, AClickOnAnEmptyBoxDoesNothing) {
 
 TEST_F(Commands, AClickOnAPictureShowsItInActualSizeUntilAKeyOrClick) {
     WithMainWindow([&](Principale& main) {
-        ASSERT_TRUE(user::Click(main.Imag[0].handle()));
-        HWND view = user::WaitForTop("FrmView");
+        HWND view = user::ClickToOpen(main.Imag[0].handle(), "FrmView");
         ASSERT_NE(view, nullptr);
         RECT r{};
         GetClientRect(view, &r);
@@ -118,8 +117,7 @@ TEST_F(Commands, AClickOnAPictureShowsItInActualSizeUntilAKeyOrClick) {
         EXPECT_TRUE(user::WaitUntilGone(view));
 
         for (const WORD key : {WORD{VK_SPACE}, WORD{VK_RETURN}, WORD{VK_ESCAPE}, WORD{'Q'}}) {
-            ASSERT_TRUE(user::Click(main.Imag[1].handle()));
-            view = user::WaitForTop("FrmView");
+            view = user::ClickToOpen(main.Imag[1].handle(), "FrmView");
             ASSERT_NE(view, nullptr);
             user::Press(VK_SHIFT);  // makes no character
             EXPECT_TRUE(IsWindow(view));

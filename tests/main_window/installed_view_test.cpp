@@ -109,8 +109,7 @@ TEST_F(InstalledView, IsNotSwitchedByTheMenuItem) {
 TEST_F(InstalledView, OpensTheInstalledFileAtAClickOnIt) {
     WithMainWindow([&](Principale& main) {
         Command(main, ID_ToolShowCurrent);
-        user::Click(main.Imag[2].handle());
-        const HWND view = user::WaitForTop("FrmView");
+        const HWND view = user::ClickToOpen(main.Imag[2].handle(), "FrmView");
         ASSERT_NE(view, nullptr);
         const HWND preview = GetDlgItem(view, ID_Preview);
         EXPECT_NE(preview, nullptr);
@@ -159,8 +158,7 @@ TEST_F(InstalledView, ChangesTheColourAndTheTipOfTheLabel) {
 
 TEST_F(InstalledView, TellsHowToCloseTheActualSize) {
     WithMainWindow([&](Principale& main) {
-        user::Click(main.Imag[0].handle());
-        const HWND view = user::WaitForTop("FrmView");
+        const HWND view = user::ClickToOpen(main.Imag[0].handle(), "FrmView");
         ASSERT_NE(view, nullptr);
         EXPECT_EQ(seen::TipOver(GetDlgItem(view, ID_Preview)), "Click or press a key to close");
         user::Press(VK_ESCAPE);
@@ -315,8 +313,7 @@ class Animation : public MainWindow98 {
 
     /// Shows the first picture in actual size and lets `look` look at it.
     void InActualSize(Principale& main, const std::function<void(HWND preview)>& look) {
-        user::Click(main.Imag[0].handle());
-        const HWND view = user::WaitForTop("FrmView");
+        const HWND view = user::ClickToOpen(main.Imag[0].handle(), "FrmView");
         ASSERT_NE(view, nullptr);
         look(GetDlgItem(view, ID_Preview));
         user::Press(VK_SPACE);

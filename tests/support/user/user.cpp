@@ -279,6 +279,16 @@ bool Click(HWND window) {
     return true;
 }
 
+HWND ClickToOpen(HWND window, const std::string& window_class) {
+    constexpr int kTries = 3;
+    HWND opened = nullptr;
+    for (int i = 0; i < kTries && opened == nullptr; ++i) {
+        Click(window);
+        opened = WaitForTop(window_class, "", 0, 7000);
+    }
+    return opened;
+}
+
 bool DoubleClick(HWND window) {
     if (!WaitUntilSeen(window)) return false;
     DoubleClickAt(CentreOf(window));

@@ -76,6 +76,9 @@ void TurnWheel(int notches);
 /// within a second because it is hidden or another window lies above it.
 bool Click(HWND window);
 bool DoubleClick(HWND window);
+/// Clicks the middle of a window until a top window of this class is there, which that opens;
+/// clicks again when none comes in seconds. Null when none comes at all.
+HWND ClickToOpen(HWND window, const std::string& window_class);
 bool RightClick(HWND window);
 
 // Keyboard: goes to the window that has the focus.
