@@ -13,7 +13,10 @@
 #include "controls/stay_open.h"
 #include "controls/timer.h"
 #include "controls/win32.h"
+#include "platform/fault.h"
 #include "platform/instance.h"
+#include "platform/message_box.h"
+#include "platform/pointer.h"
 
 namespace vistrel::controls {
 namespace {
@@ -102,6 +105,7 @@ bool Window::Create(platform::WindowHandle owner) {
     InitCommonControls();
     RegisterPictureBoxClass();
     RegisterFormClass(className_);
+    if (platform::fault::ShouldFail(platform::fault::Kind::Windows)) return false;
     const HWND handle =
         CreateDialogParamA(platform::ProgramInstance(), MAKEINTRESOURCEA(templateId_), owner,
                            &WindowProcedure::Run, reinterpret_cast<LPARAM>(this));
@@ -138,12 +142,19 @@ bool Window::ShowInFront(platform::WindowHandle owner) {
         disabledOwner_ = owner;
         EnableWindow(owner, FALSE);
     }
+    // A heading that was clicked has the mouse until what that brings about is done, and would keep
+    // it from this window.
+    ReleaseCapture();
     Show();
     return true;
 }
 
 void Window::ShowModal(platform::WindowHandle owner) {
-    if (!ShowInFront(owner)) return;
+    if (!ShowInFront(owner)) {
+        platform::ShowDefaultPointer();
+        return platform::Tell(owner,
+                              "The window cannot be opened. There may not be enough memory.");
+    }
     RunLoopWhileOpen(*this);
     if (Window* below = OpenWindowOf(owner)) below->Form_Activate();
 }

@@ -12,6 +12,7 @@
 #include "pictures/imgdll.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/message_box.h"
 
 namespace vistrel::main_window {
 namespace {
@@ -38,7 +39,10 @@ void Run() {
     }
 
     Principale principale(locations);
-    if (!principale.Create(nullptr)) return;
+    if (!principale.Create(nullptr)) {
+        return platform::Tell(nullptr,
+                              "Vistrel cannot be started. There may not be enough memory.");
+    }
 
     if (splash.IsOpen()) {
         const double wait = about::SplashWait(shownAt, platform::TimeOfDay());

@@ -18,6 +18,7 @@ int counted = 0;
 int firstFailing = INT_MAX;
 int lastFailing = INT_MAX;
 int fatal = INT_MAX;
+unsigned waiting = 0;  ///< milliseconds
 
 void Start(Kind kind, int first, int last) {
     counting = kind;
@@ -25,6 +26,7 @@ void Start(Kind kind, int first, int last) {
     firstFailing = first;
     lastFailing = last;
     fatal = INT_MAX;
+    waiting = 0;
 }
 
 void Die() {
@@ -32,6 +34,14 @@ void Die() {
     TerminateProcess(GetCurrentProcess(), kKilledStatus);
 #else
     _exit(kKilledStatus);
+#endif
+}
+
+void Wait() {
+#ifdef _WIN32
+    Sleep(waiting);
+#else
+    usleep(waiting * 1000);
 #endif
 }
 
@@ -48,12 +58,18 @@ void DieAtOperation(int n) {
     fatal = n;
 }
 
+void WaitAtEach(unsigned milliseconds) {
+    Start(Kind::Data, INT_MAX, INT_MAX);
+    waiting = milliseconds;
+}
+
 int Counted() { return counted; }
 
 bool ShouldFail(Kind kind) {
     if (kind != counting) return false;
     ++counted;
     if (counted == fatal) Die();
+    if (waiting > 0) Wait();
     return counted >= firstFailing && counted <= lastFailing;
 }
 

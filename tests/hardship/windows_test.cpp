@@ -1,7 +1,7 @@
 // Each command of the main window and of the Logo browser with its operations failing, alone, with
-// all behind them, and with no more objects for drawing. Nothing crashes, nothing is kept for ever,
-// and each set and each installed screen is whole as before or whole as after, but for what the
-// command's row says.
+// all behind them, with no more objects for drawing, and with no window that opens. Nothing
+// crashes, nothing is kept for ever, and each set and each installed screen is whole as before or
+// whole as after, but for what the command's row says.
 #include <algorithm>
 #include <cstdio>
 
@@ -175,6 +175,10 @@ class Windows : public WindowCommands {
         for (const int n : SomeOf(drawing, kMostOfDrawing)) {
             SCOPED_TRACE("object for drawing " + std::to_string(n));
             Try(row, stage, after, [&] { fault::FailOperation(n, fault::Kind::Drawing); });
+        }
+        if (!row.startsOther) {
+            SCOPED_TRACE("no window can be opened");
+            Try(row, stage, after, [] { fault::FailFromOperation(1, fault::Kind::Windows); });
         }
         std::printf("%-32s %10d %8d\n", row.name, operations, drawing);
     }

@@ -196,6 +196,30 @@ TEST_F(Failing, OperationsOfADropLoseNothingThatWasThere) {
     OleUninitialize();
 }
 
+TEST_F(Failing, WindowsAreToldAndLeaveTheMainWindowAsItWas) {
+    WithMainWindow([&](Principale& main) {
+        ClickSet(main, "Red");
+        for (const int command : {ID_ToolPrefer, ID_ToolAbout, ID_ToolBrowser}) {
+            fault::FailOperation(1, fault::Kind::Windows);
+            StartCommand(main, command);
+            const user::Box box = user::AnswerBox(IDOK);
+            EXPECT_EQ(box.text, "The window cannot be opened. There may not be enough memory.");
+            EXPECT_EQ(box.title, "Vistrel");
+            fault::Reset();
+            EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(main.handle()) != 0; }));
+            Settle(main);
+            EXPECT_EQ(Selected(main), "Red");
+            EXPECT_TRUE(SetToolsEnabled(main));
+        }
+        // Once there is memory again it opens.
+        StartCommand(main, ID_ToolAbout);
+        const HWND about = user::WaitForTop("FrmAboutReg");
+        EXPECT_NE(about, nullptr);
+        PostMessageA(about, WM_CLOSE, 0, 0);
+        EXPECT_TRUE(user::WaitUntilGone(about));
+    });
+}
+
 TEST_F(Failing, OperationsAreNotThereForTheCommandsThatOnlyChangeTheLook) {
     WithMainWindow([&](Principale& main) {
         PutBack(main);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/fault.h"
 #include "platform/file_time.h"
 #include "tests/support/main_window/main_window_fixture.h"
 #include "tests/support/user/seen.h"
@@ -15,8 +16,6 @@ using namespace controls;
 using namespace main_window;
 
 namespace {
-
-using Names = std::vector<std::string>;
 
 class DetailsView : public MainWindow98 {
  protected:
@@ -59,18 +58,8 @@ class DetailsView : public MainWindow98 {
         }
         return row;
     }
-    static Names Listed(Principale& main) {
-        Names names;
-        for (int i = 0; i < main.MyList.Count(); ++i) names.push_back(main.MyList.ItemText(i));
-        return names;
-    }
-    static bool Lists(Principale& main, const Names& expected) {
-        const bool listed = WaitUntil([&] { return Listed(main) == expected; });
-        Settle(main);
-        return listed;
-    }
-    /// For the user's thread: clicks the heading of a column, which comes into sight first.
-    static void ClickHeading(Principale& main, int column) {
+    /// For the user's thread: the middle of a column's heading, which comes into sight.
+    static POINT PointOfHeading(Principale& main, int column) {
         const HWND list = main.MyList.handle();
         const HWND header = HeaderOf(main);
         RECT r{};
@@ -87,7 +76,10 @@ class DetailsView : public MainWindow98 {
         find();
         POINT middle{(r.left + r.right) / 2, (r.top + r.bottom) / 2};
         ClientToScreen(list, &middle);
-        user::ClickAt(middle);
+        return middle;
+    }
+    static void ClickHeading(Principale& main, int column) {
+        user::ClickAt(PointOfHeading(main, column));
         Settle(main);
     }
 };
@@ -198,6 +190,30 @@ TEST_F(DetailsView, IsSortedByEachHeadingBackwardsAndAsTheFolderDoes) {
             EXPECT_TRUE(Lists(main, folder));
         }
         EXPECT_EQ(main.SetNames(), folder);
+    });
+}
+
+TEST_F(DetailsView, IsInTheFoldersOrderWhereSortingTakesLongAndIsCancelled) {
+    for (int i = 100; i < 160; ++i) PutSingleSet("Set " + std::to_string(i) + ".SLS", 0, 0, 0);
+    WithDetails([&](Principale& main) {
+        const Names folder = Listed(main);
+        ClickHeading(main, 0);
+        ClickHeading(main, 0);
+        EXPECT_NE(Listed(main), folder);
+        const POINT size = PointOfHeading(main, 5);
+        platform::fault::WaitAtEach(150);
+        user::ClickAt(size);
+        const HWND progress = user::WaitForTop("FrmProgress");
+        EXPECT_NE(progress, nullptr);
+        user::TakeShot("details_sorting");
+        EXPECT_TRUE(user::Click(user::Control(progress, ID_BtnCancel)));
+        EXPECT_TRUE(user::WaitUntilGone(progress));
+        platform::fault::Reset();
+        EXPECT_TRUE(Lists(main, folder));
+        EXPECT_TRUE(IsWindowEnabled(main.handle()));
+        // What was given up can be asked for again.
+        ClickHeading(main, 5);
+        EXPECT_TRUE(WaitUntil([&] { return Listed(main).back() == "Red"; }));
     });
 }
 

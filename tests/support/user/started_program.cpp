@@ -1,5 +1,7 @@
 #include "tests/support/user/started_program.h"
 
+#include <cstdio>
+
 namespace vistrel::test {
 
 StartedProgram::StartedProgram(std::string commandLine) {
@@ -7,8 +9,10 @@ StartedProgram::StartedProgram(std::string commandLine) {
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
     if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
+                        &startup, &process)) {
+        std::printf("%s does not start: error %lu\n", commandLine.c_str(), GetLastError());
         return;
+    }
     CloseHandle(process.hThread);
     handle_ = process.hProcess;
     id_ = process.dwProcessId;
