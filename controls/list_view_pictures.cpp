@@ -165,10 +165,11 @@ void ListView::PaintMarks(platform::DeviceContext target, int index, const Rect&
 }
 
 bool ListView::IsZoom(unsigned message, std::uintptr_t wParam) {
-    if (Mode() != ListViewMode::Pictures || !Zoom || !IsControlDown()) return false;
+    if (Mode() != ListViewMode::Pictures || !Zoom) return false;
     int steps = 0;
-    if (message == WM_MOUSEWHEEL) steps = static_cast<short>(HIWORD(wParam)) > 0 ? 1 : -1;
-    if (message == WM_KEYDOWN) {
+    if (message == WM_MOUSEWHEEL && (wParam & MK_CONTROL) != 0)
+        steps = static_cast<short>(HIWORD(wParam)) > 0 ? 1 : -1;
+    if (message == WM_KEYDOWN && IsControlDown()) {
         if (wParam == VK_ADD || wParam == kOemPlus) steps = 1;
         if (wParam == VK_SUBTRACT || wParam == kOemMinus) steps = -1;
     }

@@ -11,8 +11,6 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class ManySets : public Adjusting {
  protected:
     ManySets() {

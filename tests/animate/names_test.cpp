@@ -60,7 +60,6 @@ class MovingNames : public Moving {
 using MovingMarks = MovingNames;
 
 TEST_F(MovingNames, OfPatternsAreThoseOfTheirKind) {
-    using Names = std::vector<std::string>;
     const Names names[] = {{"Gradient", "Pulse", "Stripes", "Comet", "Dots"},
                            {"By brightness", "Left to right", "Top to bottom", "Rings", "Rays",
                             "Diagonal", "Dot by dot", "Piece by piece"},

@@ -74,7 +74,7 @@ unsigned long Boot::RunUnseen(const std::string& commandLine) {
     return start.exitCode;
 }
 
-std::vector<std::string> Boot::SetsInOrder() const {
+Names Boot::SetsInOrder() const {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
     HANDLE search = FindFirstFileA((logos + "*").c_str(), &found);
@@ -93,7 +93,7 @@ void Boot::PutInstalled() {
     Put(windows + "LOGOS.SYS", old[2]);
 }
 
-std::vector<std::string> Boot::Installed() const {
+Screens Boot::Installed() const {
     return {Contents("C:\\LOGO.SYS").value_or("-"), Contents(windows + "LOGOW.SYS").value_or("-"),
             Contents(windows + "LOGOS.SYS").value_or("-")};
 }

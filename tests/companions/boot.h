@@ -9,6 +9,9 @@
 
 namespace vistrel::test {
 
+/// What LOGO.SYS, LOGOW.SYS and LOGOS.SYS hold, "-" where one is not there.
+using Screens = std::vector<std::string>;
+
 class Boot : public Machine {
  protected:
     Boot();
@@ -28,15 +31,15 @@ class Boot : public Machine {
     /// Makes a set with its three screens ("<name> LOGO.SYS" and so on).
     void PutSet(const std::string& name) { PutScreens(logos + name + "\\", name); }
     /// The sets in the order in which the folder lists them.
-    std::vector<std::string> SetsInOrder() const;
+    Names SetsInOrder() const;
     /// Puts "old ..." screens into the places of the installed ones.
     void PutInstalled();
-    std::vector<std::string> Installed() const;
+    Screens Installed() const;
     std::string InstalledSet() const;
 
     const std::string windows = "C:\\windows\\";
     const std::string bin = "C:\\test\\";
-    const std::vector<std::string> old = {"old LOGO.SYS", "old LOGOW.SYS", "old LOGOS.SYS"};
+    const Screens old = {"old LOGO.SYS", "old LOGOW.SYS", "old LOGOS.SYS"};
 
  private:
     void CleanUp();

@@ -15,9 +15,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-using Screens = std::vector<std::string>;
-
 /// A time of long ago, by which a file that was not written is known.
 constexpr FILETIME kLongAgo = {0, 0x01B00000};
 

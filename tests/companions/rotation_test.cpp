@@ -13,8 +13,6 @@ using namespace companions;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class Rotation : public Boot {
  protected:
     Rotation() {

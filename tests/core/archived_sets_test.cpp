@@ -21,8 +21,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 /// A bitmap of one colour, 8 bits a pixel.
 std::string Bitmap(int width, int height, unsigned char color) {
     const std::vector<std::uint8_t> indices(static_cast<std::size_t>(width * height), color);

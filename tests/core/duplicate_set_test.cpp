@@ -13,8 +13,6 @@ using namespace core;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 TEST(NameOfCopyTest, NumbersFromTheSecondOnAndKeepsTheEnding) {
     std::set<std::string> taken;
     for (const char* expected : {"Copy of Sea.sls", "Copy (2) of Sea.sls", "Copy (3) of Sea.sls"}) {

@@ -15,8 +15,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 TEST(LibraryTest, AnEndingInAnyCaseMakesASingleLogoSet) {
     for (const char* name : {"Sunset.SLS", "Sunset.sls", "Blue.sLs", ".SLS", "a.b.sls"}) {
         EXPECT_TRUE(IsSingleLogoSet(name)) << name;

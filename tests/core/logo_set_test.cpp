@@ -14,8 +14,6 @@ using namespace core;
 namespace {
 
 using Screens = std::array<std::string, 3>;
-using Names = std::vector<std::string>;
-
 TEST(LogoSetTest, ASingleLogoSetTakesTwoScreensFromTheLogoFolder) {
     EXPECT_EQ(
         (LogoSet{"D:\\L\\", "Blue"}.Screens()),

@@ -13,8 +13,6 @@ using namespace core;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 /// A bitmap of two pixels beside each other, in one colour.
 std::string Bitmap(unsigned char red, unsigned char green, unsigned char blue) {
     std::string file = "BM";

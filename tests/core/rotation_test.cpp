@@ -13,8 +13,6 @@ using namespace core;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 TEST(LeftOutSetsTest, AreKeptAsATextWhateverTheirNames) {
     const Names names = {"Blue", OddName(), "a & b; c.sls"};
     const LeftOutSets sets{LeftOutSets(names).Text()};

@@ -9,8 +9,6 @@ using namespace core;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class SaveSet : public Machine {
  protected:
     SaveSet() {

@@ -13,8 +13,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class StartUpActionTest : public Machine {
  protected:
     StartUpActionTest() {

@@ -16,8 +16,6 @@ using namespace main_window;
 namespace {
 
 using Appearance = LogoBrowser;
-using Names = std::vector<std::string>;
-
 TEST_F(Appearance, EveryCaptionIsAsItShouldBe) {
     const struct {
         int id;

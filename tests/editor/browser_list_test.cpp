@@ -12,8 +12,6 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class BrowserList : public LogoBrowser {
  protected:
     BrowserList() {

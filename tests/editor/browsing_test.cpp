@@ -12,8 +12,6 @@ using namespace main_window;
 namespace {
 
 using Browsing = LogoBrowser;
-using Names = std::vector<std::string>;
-
 std::string IconOf(SelPictureForm& editor, const std::string& name) {
     return editor.LogoList.ItemIcon(editor.LogoList.FindItem(name));
 }

@@ -10,8 +10,6 @@ using namespace main_window;
 namespace {
 
 using Deleting = LogoBrowser;
-using Names = std::vector<std::string>;
-
 TEST_F(Deleting, AsksBeforeASetIsDeletedAndDoesNothingOnNo) {
     WithEditor([&](Principale& main, SelPictureForm& editor) {
         main.Preferences().confirmLogosetDelete = 1;

@@ -15,8 +15,6 @@ using namespace main_window;
 namespace {
 
 using Following = LogoBrowser;
-using Names = std::vector<std::string>;
-
 Names NamesOffered(SelPictureForm& editor) {
     Names names;
     for (int i = 0; i < editor.NameLogoSet.Count(); ++i)

@@ -11,8 +11,6 @@ using namespace main_window;
 namespace {
 
 using Keyboard = LogoBrowser;
-using Names = std::vector<std::string>;
-
 void FocusTo(SelPictureForm& editor, const Control& control) {
     SendMessageA(editor.handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.handle()), TRUE);
 }

@@ -11,8 +11,6 @@ using namespace main_window;
 namespace {
 
 using Saving = LogoBrowser;
-using Names = std::vector<std::string>;
-
 const std::string kNewScreen = ScreenFile(10, 20, 30, 236);  // its colours move
 
 std::string SaveError(const std::string& text) {

@@ -11,8 +11,6 @@ using namespace main_window;
 namespace {
 
 using Slots = LogoBrowser;
-using Names = std::vector<std::string>;
-
 const std::string kRedScreen = ScreenFile(255, 0, 0);
 const std::string kNewScreen = ScreenFile(10, 20, 30);
 

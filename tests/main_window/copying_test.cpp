@@ -16,8 +16,6 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class Duplicating : public MainWindow98 {
  protected:
     static bool Edits(Principale& main, const std::string& label) {

@@ -5,6 +5,8 @@
 
 #include <cstring>
 
+#include "tests/main_window/small_window.h"
+
 namespace vistrel::test {
 namespace {
 
@@ -86,18 +88,8 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 FileDragSource::FileDragSource(POINT at, std::vector<std::string> paths, bool asFiles)
     : paths_(std::move(paths)), asFiles_(asFiles) {
-    WNDCLASSA c{};
-    c.lpfnWndProc = Procedure;
-    c.hInstance = GetModuleHandleA(nullptr);
-    c.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-    c.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    c.lpszClassName = "FileDragSource";
-    RegisterClassA(&c);
-    window_ = CreateWindowExA(WS_EX_TOPMOST, "FileDragSource", "", WS_POPUP | WS_BORDER, at.x, at.y,
-                              60, 40, nullptr, nullptr, c.hInstance, nullptr);
+    window_ = MakeSmallWindow("FileDragSource", Procedure, at);
     SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    ShowWindow(window_, SW_SHOWNOACTIVATE);
-    UpdateWindow(window_);
 }
 
 FileDragSource::~FileDragSource() { DestroyWindow(window_); }

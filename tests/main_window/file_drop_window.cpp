@@ -4,6 +4,7 @@
 #include <shellapi.h>
 
 #include "tests/main_window/dropped_paths.h"
+#include "tests/main_window/small_window.h"
 
 namespace vistrel::test {
 
@@ -58,18 +59,8 @@ class FileDropWindow::Target final : public IDropTarget {
 
 FileDropWindow::FileDropWindow(POINT at, std::string folder)
     : folder_(std::move(folder)), target_(new Target(*this)) {
-    WNDCLASSA c{};
-    c.lpfnWndProc = DefWindowProcA;
-    c.hInstance = GetModuleHandleA(nullptr);
-    c.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
-    c.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    c.lpszClassName = "FileDropWindow";
-    RegisterClassA(&c);
-    window_ = CreateWindowExA(WS_EX_TOPMOST, "FileDropWindow", "", WS_POPUP | WS_BORDER, at.x, at.y,
-                              60, 40, nullptr, nullptr, c.hInstance, nullptr);
+    window_ = MakeSmallWindow("FileDropWindow", DefWindowProcA, at);
     RegisterDragDrop(window_, target_);
-    ShowWindow(window_, SW_SHOWNOACTIVATE);
-    UpdateWindow(window_);
 }
 
 FileDropWindow::~FileDropWindow() {

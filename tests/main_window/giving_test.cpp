@@ -13,8 +13,6 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class Giving : public MainWindow98 {
  protected:
     /// For the user's thread: chooses a command of the Logo menu by its letter.

@@ -11,8 +11,6 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class Several : public MainWindow98 {
  protected:
     static Names SelectedSets(Principale& main) {

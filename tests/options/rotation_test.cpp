@@ -12,8 +12,6 @@ using namespace options;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class PreferencesOfRotation : public Preferences {
  protected:
     PreferencesOfRotation() {

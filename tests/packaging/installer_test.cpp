@@ -14,8 +14,6 @@
 namespace vistrel::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 constexpr const char* kUninstallKey =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vistrel";
 const Names kFiles = {"Mirrorkin.exe", "Rotaline.exe", "Rotaline.lnk",

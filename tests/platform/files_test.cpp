@@ -17,8 +17,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 Names Matching(const std::string& pattern) {
     Names names;
     ForEachEntry(pattern, [&](const FolderEntry& entry) {

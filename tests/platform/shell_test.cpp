@@ -23,8 +23,6 @@ using namespace platform;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 TEST_F(Machine, StartProgramRunsACommandLine) {
     EXPECT_TRUE(StartProgram("cmd.exe /c echo made>" + logos + "made"));
     EXPECT_TRUE(WaitUntil([&] { return !Contents(logos + "made").value_or("").empty(); }));

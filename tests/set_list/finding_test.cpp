@@ -15,20 +15,8 @@ using namespace main_window;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 class Finding : public MainWindow98 {
  protected:
-    static Names Listed(Principale& main) {
-        Names names;
-        for (int i = 0; i < main.MyList.Count(); ++i) names.push_back(main.MyList.ItemText(i));
-        return names;
-    }
-    static bool Lists(Principale& main, const Names& expected) {
-        const bool listed = WaitUntil([&] { return Listed(main) == expected; });
-        Settle(main);
-        return listed;
-    }
     static HWND Box(Principale& main) { return user::Control(main.handle(), ID_FindBox); }
     /// For the user's thread: goes to the box and types.
     static void Find(Principale& main, const std::string& text) {

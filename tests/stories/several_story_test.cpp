@@ -6,8 +6,6 @@
 namespace vistrel::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 class SeveralStory : public RunningProgram {
  protected:
     ~SeveralStory() override { DeleteFileA(zip_.c_str()); }

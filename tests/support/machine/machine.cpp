@@ -118,7 +118,7 @@ void KeepAccessTime(const std::string& folder) {
     CloseHandle(open);
 }
 
-std::vector<std::string> NamesIn(const std::string& folder) {
+Names NamesIn(const std::string& folder) {
     std::vector<std::string> names;
     WIN32_FIND_DATAA found;
     HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);

@@ -13,6 +13,8 @@
 
 namespace vistrel::test {
 
+using Names = std::vector<std::string>;
+
 // Files. Folders end in a backslash.
 
 /// Writes a file with normal attributes, whatever stood there.
@@ -30,7 +32,7 @@ void RemoveTree(const std::string& path);
 /// Wine's browser for folders knows one again by that time, among others.
 void KeepAccessTime(const std::string& folder);
 /// The names of what a folder holds, sorted; short ones where the code page lacks letters.
-std::vector<std::string> NamesIn(const std::string& folder);
+Names NamesIn(const std::string& folder);
 
 /// A name with letters that are not plain in this machine's code page. Where characters may be two
 /// bytes long, second bytes are those of a backslash and of a small letter.

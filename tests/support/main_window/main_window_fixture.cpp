@@ -213,6 +213,18 @@ std::string MainWindow98::Selected(Principale& main) {
     return selected < 0 ? std::string() : main.MyList.ItemText(selected);
 }
 
+Names MainWindow98::Listed(Principale& main) {
+    Names names;
+    for (int i = 0; i < main.MyList.Count(); ++i) names.push_back(main.MyList.ItemText(i));
+    return names;
+}
+
+bool MainWindow98::Lists(Principale& main, const Names& expected) {
+    const bool listed = WaitUntil([&] { return Listed(main) == expected; });
+    Settle(main);
+    return listed;
+}
+
 bool MainWindow98::SetToolsEnabled(Principale& main) {
     const bool enabled = seen::ButtonOf(main.ActiveBar1.bar(), ID_ToolRename).enabled;
     for (const int id : {ID_ToolRename, ID_ToolDelete, ID_ToolSetDefault}) {

@@ -70,6 +70,9 @@ class MainWindow98 : public Machine {
                        const std::string& typed);
     /// The name of the selected set; empty when none is.
     static std::string Selected(main_window::Principale& main);
+    /// Whether the list holds just these sets, in this order, soon.
+    static bool Lists(main_window::Principale& main, const Names& expected);
+    static Names Listed(main_window::Principale& main);
     /// Whether the list's commands on a set are enabled, as their real buttons say; all or none.
     static bool SetToolsEnabled(main_window::Principale& main);
     /// Chooses a command as the toolbar, a menu or a key would send it, and waits until it is done.

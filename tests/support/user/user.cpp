@@ -270,7 +270,7 @@ void TurnWheel(int notches) {
     turn.type = INPUT_MOUSE;
     turn.mi.dwFlags = MOUSEEVENTF_WHEEL;
     turn.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
-    Send({turn});
+    Send(WithKeys(held, {turn}));
 }
 
 bool Click(HWND window) {
