@@ -6,7 +6,7 @@ namespace vistrel::platform::fault {
 
 /// What an operation is about. One kind is counted at a time; the others never fail then.
 enum class Kind {
-    Data,    ///< files, the registry, the shell, memory blocks: what there is to keep and to lose
+    Data,     ///< files, the registry, the shell, memory blocks: what there is to keep and to lose
     Drawing,  ///< the system's objects for drawing, of which there may be no more
     Windows   ///< windows, likewise
 };
