@@ -60,8 +60,8 @@ class Control {
     /// area.
     std::function<void(int button, Point at)> MouseUp;
     std::function<void(int button, Point at)> MouseDown;
-    /// The keys that were down when a button last went down over the control, however late that is
-    /// heard of.
+    /// The keys that were down when the left button last went down over the control, however late
+    /// that is heard of.
     bool PressedWithShift() const { return pressedWithShift_; }
     bool PressedWithControl() const { return pressedWithControl_; }
     /// `button` is the one that went down over the control and is still down, 0 for none.

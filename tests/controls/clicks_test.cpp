@@ -23,17 +23,21 @@ class Clicked : public Window {
         box.MouseUp = [this](int, Point) { ++clicks; };
     }
 
+    /// Shows it and brings it there.
+    bool ComesToFront() {
+        if (!Create(nullptr)) return false;
+        Show();
+        return user::Activate(handle());
+    }
+
     PictureBox box;
     int presses = 0;
     int clicks = 0;
 };
 
 TEST(Clicks, ADoubleClickOnAPictureIsOneClickAndTheNextOneCountsAgain) {
-    RegisterPictureBoxClass();
     Clicked window;
-    ASSERT_TRUE(window.Create(nullptr));
-    window.Show();
-    ASSERT_TRUE(user::Activate(window.handle()));
+    ASSERT_TRUE(window.ComesToFront());
     const POINT middle = user::CentreOf(window.box.handle());
     user::DoubleClickAt(middle);
     EXPECT_TRUE(WaitUntil([&] { return window.presses == 2; }));
@@ -45,11 +49,8 @@ TEST(Clicks, ADoubleClickOnAPictureIsOneClickAndTheNextOneCountsAgain) {
 }
 
 TEST(Clicks, AKeyCountsThatWasHeldWhenTheButtonWentDownAlsoWhenItIsUpBeforeThatIsHeardOf) {
-    RegisterPictureBoxClass();
     Clicked window;
-    ASSERT_TRUE(window.Create(nullptr));
-    window.Show();
-    ASSERT_TRUE(user::Activate(window.handle()));
+    ASSERT_TRUE(window.ComesToFront());
     const POINT middle = user::CentreOf(window.box.handle());
     user::WhileHolding(VK_SHIFT, [&] { user::ClickAt(middle); });
     EXPECT_TRUE(WaitUntil([&] { return window.presses == 1; }));
