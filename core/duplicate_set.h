@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/logo_set.h"
+#include "core/progress.h"
 
 namespace vistrel::core {
 
@@ -15,7 +16,7 @@ std::string NameOfCopy(const std::string& name,
                        const std::function<bool(const std::string& name)>& isTaken);
 
 /// Copies a set's folder with all that it holds into the same library. The name of the copy; empty
-/// when it cannot be made, and nothing of it is left then.
-std::optional<std::string> DuplicateSet(const LogoSet& set);
+/// when it cannot be made or the user wants no more of it, and nothing of it is left then.
+std::optional<std::string> DuplicateSet(const LogoSet& set, const Progress& progress = kNobodyAsks);
 
 }  // namespace vistrel::core

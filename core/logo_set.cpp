@@ -2,6 +2,7 @@
 #include "core/logo_set.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/entry_name.h"
 #include "core/file_handling.h"
@@ -26,6 +27,19 @@ bool HoldsAnything(const std::string& folder) {
         return !holds;
     });
     return holds;
+}
+
+/// False when the user has said no to the shell, and means the empty sets too.
+bool RecycleContents(platform::WindowHandle owner, const std::string& library,
+                     const std::vector<std::string>& names) {
+    std::vector<std::string> full;
+    for (const std::string& name : names)
+        if (HoldsAnything(library + name)) full.push_back(library + name);
+    if (full.empty()) return true;
+    std::vector<std::string> everything;
+    for (const std::string& folder : full) everything.push_back(folder + "\\*.*");
+    DeleteToRecycleBin(owner, everything);
+    return !std::all_of(full.begin(), full.end(), HoldsAnything);
 }
 
 }  // namespace
@@ -70,24 +84,19 @@ void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin)
 }
 
 std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
-                                    const std::vector<std::string>& names, Bin bin) {
-    std::vector<std::string> full;
-    for (const std::string& name : names)
-        if (HoldsAnything(library + name)) full.push_back(library + name);
-    std::vector<std::string> everything;
-    for (const std::string& folder : full) everything.push_back(folder + "\\*.*");
-    if (bin == Bin::Recycle && !full.empty()) {
-        DeleteToRecycleBin(owner, everything);
-        // The user has said no to the shell, and means the empty ones too.
-        if (std::all_of(full.begin(), full.end(), HoldsAnything)) return names;
+                                    const std::vector<std::string>& names, Bin bin,
+                                    const Progress& progress) {
+    if (bin == Bin::Recycle && !RecycleContents(owner, library, names)) return names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (bin == Bin::Destroy) {
+            if (!progress(static_cast<double>(i) / static_cast<double>(names.size()))) break;
+            platform::RemoveMatching(library + names[i] + "\\*.*");
+        }
+        platform::RemoveFolder(library + names[i]);
     }
-    if (bin == Bin::Destroy)
-        for (const std::string& pattern : everything) platform::RemoveMatching(pattern);
     std::vector<std::string> left;
-    for (const std::string& name : names) {
-        platform::RemoveFolder(library + name);
-        if (platform::IsFolder(library + name)) left.push_back(name);
-    }
+    std::copy_if(names.begin(), names.end(), std::back_inserter(left),
+                 [&](const std::string& name) { return platform::IsFolder(library + name); });
     return left;
 }
 

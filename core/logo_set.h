@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/locations.h"
+#include "core/progress.h"
 #include "platform/handles.h"
 
 namespace vistrel::core {
@@ -55,10 +56,11 @@ enum class Bin { Recycle, Destroy };
 /// window in front while the shell asks.
 void DeleteSet(platform::WindowHandle owner, const std::string& folder, Bin bin);
 
-/// The same with several sets of the logo folder `library`; the shell asks once. The names of those
-/// whose folders are still there.
+/// The same with several sets of the logo folder `library`; the shell asks once, and shows how far
+/// it is, where without it `progress` is told. The names of those whose folders are still there.
 std::vector<std::string> DeleteSets(platform::WindowHandle owner, const std::string& library,
-                                    const std::vector<std::string>& names, Bin bin);
+                                    const std::vector<std::string>& names, Bin bin,
+                                    const Progress& progress = kNobodyAsks);
 
 /// True for a folder that can become a set of the logo folder `library`: a drive's root has no name
 /// for one, and the logo folder cannot lie in itself.

@@ -17,7 +17,7 @@ constexpr int kSteps = 100;
 
 }  // namespace
 
-FrmProgress::FrmProgress(platform::WindowHandle owner, std::string what)
+FrmProgress::FrmProgress(platform::WindowHandle owner, std::string what, const char* afterCancel)
     : Window("FrmProgress", IDD_FrmProgress),
       owner_(owner),
       what_(std::move(what)),
@@ -25,7 +25,7 @@ FrmProgress::FrmProgress(platform::WindowHandle owner, std::string what)
     const controls::Part parts[] = {
         {LblWork, ID_LblWork},
         {WorkBar, ID_WorkBar, help_number::WorkBar},
-        {BtnCancel, ID_BtnCancel, help_number::WorkCancel, "Leaves all as it was"},
+        {BtnCancel, ID_BtnCancel, help_number::WorkCancel, afterCancel},
     };
     AddParts(parts);
     BtnCancel.Click = [this] { cancelled_ = true; };

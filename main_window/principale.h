@@ -127,9 +127,10 @@ class Principale : public controls::Window, public editor::EditorHost, public op
     /// hourglass. What takes longer calls Continue, which shows a window to cancel it.
     class Doing {
      public:
-        Doing(Principale& window, const std::string& what);
+        Doing(Principale& window, const std::string& what, const char* afterCancel = kLeavesAll);
         ~Doing();
         bool Continue(double share) { return progress_.Continue(share); }
+        bool Cancelled() const { return progress_.Cancelled(); }
         Doing(const Doing&) = delete;
         Doing& operator=(const Doing&) = delete;
 

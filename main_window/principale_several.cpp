@@ -83,10 +83,13 @@ void Principale::DeleteSeveral() {
     const int first = MyList.SelectedItems().front();
     const bool toBin = settings_.deleteInTheRecycleBin == 1;
     std::vector<std::string> left;
+    bool isCancelled = false;
     {
-        const Doing doing(*this, "Deleting logo sets...");
+        Doing doing(*this, "Deleting logo sets...", "Leaves the sets that are still there");
         left = core::DeleteSets(handle(), settings_.logoPath, names,
-                                toBin ? core::Bin::Recycle : core::Bin::Destroy);
+                                toBin ? core::Bin::Recycle : core::Bin::Destroy,
+                                [&](double share) { return doing.Continue(share); });
+        isCancelled = doing.Cancelled();
     }
     for (const std::string& name : names) {
         if (std::find(left.begin(), left.end(), name) != left.end()) continue;
@@ -96,8 +99,8 @@ void Principale::DeleteSeveral() {
     }
     ShowFoundSets();
     if (left.empty()) return SelectAfterDelete(first);
-    // Who says no to the shell's own question knows that all are left.
-    if (!toBin || left.size() < names.size()) TellWhatWasNotDeleted(left);
+    // Who cancels, or says no to the shell's own question, knows that they are left.
+    if (!isCancelled && (!toBin || left.size() < names.size())) TellWhatWasNotDeleted(left);
 }
 
 void Principale::TellWhatWasNotDeleted(const std::vector<std::string>& names) {
@@ -110,8 +113,9 @@ void Principale::ItmDuplicate_Click() {
     const core::LogoSet set{settings_.logoPath, SelectedNames().front()};
     std::optional<std::string> copy;
     {
-        const Doing doing(*this, "Copying " + set.name + "...");
-        copy = core::DuplicateSet(set);
+        Doing doing(*this, "Copying " + set.name + "...");
+        copy = core::DuplicateSet(set, [&](double share) { return doing.Continue(share); });
+        if (doing.Cancelled()) return;
     }
     if (!copy) {
         platform::Tell(handle(), set.name +

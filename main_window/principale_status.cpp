@@ -32,8 +32,8 @@ std::string LookingInWords(const std::optional<core::InstalledOrigin>& origin) {
 
 }  // namespace
 
-Principale::Doing::Doing(Principale& window, const std::string& what)
-    : window_(window), progress_(window.handle(), what) {
+Principale::Doing::Doing(Principale& window, const std::string& what, const char* afterCancel)
+    : window_(window), progress_(window.handle(), what, afterCancel) {
     window_.LblDoing.SetText(what);
 }
 

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include "main_window/frm_progress.h"
+#include "platform/fault.h"
 #include "tests/support/machine/zip_file.h"
 #include "tests/support/main_window/main_window_fixture.h"
 
@@ -44,6 +45,17 @@ class LongWork : public MainWindow98 {
         EXPECT_TRUE(IsWindowEnabled(main.handle()));
         EXPECT_TRUE(user::IsInFront(main.handle()));
         return ended;
+    }
+
+    /// For the user's thread.
+    static void CancelByTheButton(Principale& main) {
+        const HWND window = user::WaitForTop("FrmProgress", "", 0, 60000);
+        ASSERT_NE(window, nullptr);
+        user::Activate(window);
+        EXPECT_TRUE(user::Click(user::Control(window, ID_BtnCancel)));
+        EXPECT_TRUE(user::WaitUntilGone(window, 60000));
+        platform::fault::Reset();
+        Settle(main);
     }
 
     bool ownerTakesCommands_ = true;
@@ -91,15 +103,50 @@ TEST_F(LongWork, OfAnImportLeavesNothingWhenItIsCancelled) {
         user::Activate(dialog);
         user::Type(root + "large.zip");
         user::Press(VK_RETURN);
-        const HWND window = user::WaitForTop("FrmProgress", "", 0, 60000);
-        ASSERT_NE(window, nullptr);
-        user::Activate(window);
-        EXPECT_TRUE(user::Click(user::Control(window, ID_BtnCancel)));
-        EXPECT_TRUE(user::WaitUntilGone(window, 60000));
-        Settle(main);
+        CancelByTheButton(main);
         EXPECT_EQ(NamesIn(logos), before);
         EXPECT_EQ(main.MyList.Count(), 3);
         EXPECT_EQ(user::FindTop("#32770"), nullptr);
+    });
+}
+
+TEST_F(LongWork, OfACopyLeavesNothingWhenItIsCancelled) {
+    CreateDirectoryA((logos + "Red\\Drafts").c_str(), nullptr);
+    for (int i = 0; i < 100; ++i) Put(logos + "Red\\Drafts\\" + std::to_string(i), "draft");
+    WithMainWindow([&](Principale& main) {
+        const auto before = NamesIn(logos);
+        ClickSet(main, "Red");
+        platform::fault::WaitAtEach(30);
+        StartCommand(main, ID_ToolDuplicate);
+        CancelByTheButton(main);
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        EXPECT_EQ(NamesIn(logos), before);
+        EXPECT_EQ(main.MyList.Count(), 3);
+        EXPECT_EQ(Selected(main), "Red");
+        EXPECT_FALSE(main.MyList.EditingLabel());
+    });
+}
+
+TEST_F(LongWork, OfADeletionLeavesTheSetsThatAreStillThereWhenItIsCancelled) {
+    for (int i = 0; i < 100; ++i) PutSingleSet("Set " + std::to_string(i) + ".SLS", 0, 0, 0);
+    WithMainWindow([&](Principale& main) {
+        main.Preferences().deleteInTheRecycleBin = 0;
+        StartCommand(main, ID_ToolSelectAll);
+        EXPECT_TRUE(WaitUntil([&] { return main.MyList.SelectedCount() == 103; }));
+        platform::fault::WaitAtEach(30);
+        StartCommand(main, ID_ToolDelete);
+        user::AnswerBox(IDYES);
+        CancelByTheButton(main);
+        EXPECT_EQ(user::FindTop("#32770"), nullptr);
+        const std::size_t left = main.SetNames().size();
+        EXPECT_GT(left, 0u);
+        EXPECT_LT(left, 103u);
+        EXPECT_EQ(NamesIn(logos).size(), left + 2);  // and the shared screens
+        EXPECT_EQ(static_cast<std::size_t>(main.MyList.SelectedCount()), left);
+        for (const std::string& set : main.SetNames())
+            EXPECT_TRUE(Exists(logos + set + "\\LOGO.SYS")) << set;
+        Command(main, ID_ToolRefresh);
+        EXPECT_EQ(main.SetNames().size(), left);
     });
 }
 
