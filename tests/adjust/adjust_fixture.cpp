@@ -31,7 +31,7 @@ HWND Adjusting::WaitForIt() {
     const HWND window = user::WaitForTop("FrmAdjust");
     EXPECT_NE(window, nullptr);
     user::Activate(window);
-    SendMessageA(window, WM_NULL, 0, 0);
+    user::LetFinish(window);
     return window;
 }
 
@@ -56,7 +56,7 @@ void Adjusting::CloseBy(SelPictureForm& editor, HWND window, int button) {
 user::Box Adjusting::PressOkAndAnswer(HWND window) {
     PostMessageA(Item(window, IDOK), BM_CLICK, 0, 0);
     const user::Box box = user::AnswerBox(IDOK);
-    SendMessageA(window, WM_NULL, 0, 0);
+    user::LetFinish(window);
     return box;
 }
 
@@ -68,7 +68,7 @@ void Adjusting::TurnTo(HWND window, int page) {
     ClientToScreen(tabs, &at);
     user::ClickAt(at);
     Await([&] { return SendMessageA(tabs, TCM_GETCURSEL, 0, 0) == page; }, "page turned");
-    SendMessageA(window, WM_NULL, 0, 0);
+    user::LetFinish(window);
 }
 
 void Adjusting::AddLine(HWND window, const std::string& text) {
@@ -121,7 +121,7 @@ void Adjusting::DragInBox(HWND window, POINT from, POINT to) {
     ClientToScreen(Item(window, ID_ScreenBox), &from);
     ClientToScreen(Item(window, ID_ScreenBox), &to);
     user::Drag(from, to);
-    SendMessageA(window, WM_NULL, 0, 0);
+    user::LetFinish(window);
 }
 
 std::string Adjusting::MadeOf(const std::string& path,

@@ -37,7 +37,7 @@ class ChosenLooks : public Adjusting {
     static void CloseDialog(HWND window, HWND dialog, int button) {
         EXPECT_TRUE(user::Click(Item(dialog, button)));
         EXPECT_TRUE(user::WaitUntilGone(dialog));
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
     }
     /// The lists that the dialog shows open.
     static HWND ListOf(HWND dialog, int id) {
@@ -141,7 +141,7 @@ TEST_F(ChosenLooks, ASizeCanBeTypedAndEnterTakesIt) {
         Await([&] { return user::TextOf(Item(dialog, kSizes)) == "90"; }, "size typed");
         user::Press(VK_RETURN);
         EXPECT_TRUE(user::WaitUntilGone(dialog));
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
         CloseBy(editor, window, IDOK);
         TextLine line = FirstLine("Soon");
         line.font.tenthsOfPoint = 900;

@@ -102,7 +102,7 @@ TEST_F(AdjustControls, OfTheTextAreGreyUntilThereIsALine) {
         for (const int id : ofALine) EXPECT_TRUE(Enabled(window, id)) << id;
         EXPECT_TRUE(user::Click(Item(window, ID_BtnDeleteLine)));
         Await([&] { return !Enabled(window, ID_BtnDeleteLine); }, "line deleted");
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
         for (const int id : ofALine) EXPECT_FALSE(Enabled(window, id)) << id;
         CloseBy(editor, window, IDCANCEL);
     });

@@ -186,7 +186,7 @@ TEST_F(AdjustedScreen, TakesAReadyMadeLineOfTheMenu) {
         user::Press(VK_UP);
         user::Press(VK_RIGHT);
         user::TakeShot("adjust-ready-made");
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
         CloseBy(editor, window, IDOK);
         TextLine text;
         text.text = "One moment, please...";

@@ -39,7 +39,7 @@ class ManySets : public Adjusting {
         PostMessageA(editor.handle(), WM_COMMAND, ID_ItmManySets, 0);
         const HWND window = user::WaitForTop("FrmManySets");
         user::Activate(window);
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
         return window;
     }
     static std::string DoneText(HWND window) { return user::TextOf(Item(window, ID_LblManyDone)); }
@@ -144,7 +144,7 @@ TEST_F(ManySets, CloseHasTheKeysAndTheFrameWhenAllAreMade) {
         const HWND window = OpenMany(editor);
         EXPECT_TRUE(user::Click(Item(window, ID_BtnMakeSets)));
         Await([&] { return DoneText(window).starts_with("Done"); }, "done");
-        SendMessageA(window, WM_NULL, 0, 0);
+        user::LetFinish(window);
         user::TakeShot("many-done", window);
         EXPECT_EQ(seen::FocusIn(window), Item(window, IDCANCEL));
         const auto isDefault = [&](int id) {

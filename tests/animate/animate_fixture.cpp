@@ -44,7 +44,7 @@ void Moving::Follow(HWND window) {
     // A window paints once no key or click waits for it any more.
     InvalidateRect(window, nullptr, FALSE);
     Await([&] { return !IsWindow(window) || !GetUpdateRect(window, nullptr, FALSE); }, "followed");
-    SendMessageA(window, WM_NULL, 0, 0);
+    user::LetFinish(window);
 }
 
 void Moving::TurnTo(HWND window, int page) {

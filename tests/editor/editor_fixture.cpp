@@ -115,7 +115,7 @@ void LogoBrowser::WithEditor(const Acting& user,
     main.Unload();
 }
 
-void LogoBrowser::Settle(SelPictureForm& editor) { SendMessageA(editor.handle(), WM_NULL, 0, 0); }
+void LogoBrowser::Settle(SelPictureForm& editor) { user::LetFinish(editor.handle()); }
 
 POINT LogoBrowser::PointOfItem(SelPictureForm& editor, const std::string& name) {
     const int index = editor.LogoList.FindItem(name);
@@ -205,7 +205,7 @@ void LogoBrowser::Press(Control& button) { SendMessageA(button.handle(), BM_CLIC
 user::Box LogoBrowser::PressAndAnswer(Control& button, int answer) {
     PostMessageA(button.handle(), BM_CLICK, 0, 0);
     const user::Box box = user::AnswerBox(answer);
-    SendMessageA(button.handle(), WM_NULL, 0, 0);
+    user::LetFinish(button.handle());
     return box;
 }
 

@@ -98,7 +98,7 @@ TEST_F(Clicking, TheDoubleClickThatOpensTheActualSizeDoesNotCloseIt) {
         SetWindowPos(browser, nullptr, whole.left + (work.left + work.right) / 2 - place.left - 60,
                      whole.top + (work.top + work.bottom) / 2 - place.top - 20, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER);
-        SendMessageA(browser, WM_NULL, 0, 0);
+        user::LetFinish(browser);
         GetWindowRect(list, &place);
         RECT row{};
         row.left = 2;  // LVIR_LABEL

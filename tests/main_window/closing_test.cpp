@@ -45,7 +45,7 @@ class Closing : public MainWindow98 {
         EXPECT_TRUE(WaitUntil([&] {
             return user::TextOf(GetDlgItem(browser, ID_NameLogoSet)).find('X') != std::string::npos;
         }));
-        SendMessageA(browser, WM_NULL, 0, 0);
+        user::LetFinish(browser);
     }
 
     /// Asks a window as the system does, which waits for each answer.

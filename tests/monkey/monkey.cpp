@@ -114,7 +114,11 @@ void Monkey::StartAnew() {
     Store("SearchLogoPath", TextValue("C:\\Pictures\\"));
     Store("LogoPath", TextValue(logos));
     if (OneIn(3)) SpoilSettings();
-    if (!Start()) return Fail("the program does not start");
+    if (!Start()) {
+        const auto status = WaitForEnd();
+        return Fail(status ? "the program ended at its start with " + std::to_string(*status)
+                           : "the program does not start");
+    }
     Settle();
     TakeAsGiven();
 }

@@ -82,7 +82,8 @@ Permits Monkey::AnswerDialog() {
         user::Click(buttons[static_cast<std::size_t>(Below(static_cast<int>(buttons.size())))]);
     // A dialog that none of this closes.
     if (OneIn(10)) PostMessageA(dialog, WM_CLOSE, 0, 0);
-    return {};
+    // One that was about to go lets Enter through to the list, where it installs.
+    return {.installed = true};
 }
 
 Permits Monkey::ClickControl() {

@@ -96,7 +96,11 @@ void Monkey::SpoilSettings() {
         std::string garbage(static_cast<std::size_t>(Below(OneIn(5) ? 3000 : 12)), ' ');
         for (char& letter : garbage)
             letter = static_cast<char>(OneIn(3) ? random_() : '0' + Below(12));
-        Store(OneOf(kNames), {static_cast<unsigned long>(OneIn(4) ? REG_DWORD : REG_SZ), garbage});
+        const char* const name = OneOf(kNames);
+        const auto type = static_cast<unsigned long>(OneIn(4) ? REG_DWORD : REG_SZ);
+        Store(name, {type, garbage});
+        log_.push_back(std::string("spoil ") + name + ", type " + std::to_string(type) + ": " +
+                       testing::PrintToString(garbage.substr(0, 200)));
     }
 }
 

@@ -19,6 +19,7 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/windows_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/user.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/clean_start.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/let_finish.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/user_menus.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/seen.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/screen_shot.cpp

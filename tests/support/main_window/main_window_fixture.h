@@ -52,9 +52,7 @@ class MainWindow98 : public Machine {
 
     /// For the user's thread: waits until the window has done what it was doing. What a handler
     /// does last is seen for sure only then.
-    static void Settle(main_window::Principale& main) {
-        SendMessageA(main.handle(), WM_NULL, 0, 0);
-    }
+    static void Settle(main_window::Principale& main) { user::LetFinish(main.handle()); }
     /// For the user's thread: selects a set by a click on it.
     void ClickSet(main_window::Principale& main, const std::string& name);
     /// Clicks a set and, with a key held, another one: then so many are selected. Where the key was

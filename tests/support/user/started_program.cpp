@@ -4,12 +4,27 @@
 
 namespace vistrel::test {
 
-StartedProgram::StartedProgram(std::string commandLine) {
+namespace {
+
+/// On a busy machine Wine now and then gives up a process that has hardly begun.
+bool CreateProcessInWine(std::string commandLine, PROCESS_INFORMATION& process) {
+    constexpr int kTries = 3;
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
+    for (int i = 0; i < kTries; ++i) {
+        if (CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                           nullptr, &startup, &process))
+            return true;
+        if (GetLastError() != ERROR_INTERNAL_ERROR) return false;
+    }
+    return false;
+}
+
+}  // namespace
+
+StartedProgram::StartedProgram(const std::string& commandLine) {
     PROCESS_INFORMATION process = {};
-    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process)) {
+    if (!CreateProcessInWine(commandLine, process)) {
         std::printf("%s does not start: error %lu\n", commandLine.c_str(), GetLastError());
         return;
     }

@@ -14,7 +14,7 @@ namespace vistrel::test {
 class StartedProgram {
  public:
     StartedProgram() = default;
-    explicit StartedProgram(std::string commandLine);
+    explicit StartedProgram(const std::string& commandLine);
     StartedProgram(StartedProgram&& other) noexcept
         : handle_(std::exchange(other.handle_, nullptr)), id_(other.id_) {}
     StartedProgram& operator=(StartedProgram other) noexcept {

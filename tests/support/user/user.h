@@ -40,6 +40,10 @@ HWND FindTop(const std::string& window_class, const std::string& title = "", DWO
 HWND WaitForTop(const std::string& window_class, const std::string& title = "", DWORD process = 0,
                 DWORD milliseconds = 20000);
 
+/// Waits until the window's thread, one of this process, has done what it was doing and all that
+/// was posted to it before; `window` must not be of a thread that does not look for messages.
+void LetFinish(HWND window);
+
 /// Waits until the window is no more.
 bool WaitUntilGone(HWND window, DWORD milliseconds = 20000);
 

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
+
 namespace vistrel {
 namespace {
 
@@ -14,6 +16,7 @@ constexpr int kEdit = 101;
 constexpr unsigned kFirst = 200;
 constexpr unsigned kDeep = 201;
 constexpr unsigned kPopUp = 202;
+constexpr unsigned kLongWork = WM_APP;
 
 /// A small window with a button, a text and menus, which counts what reaches it.
 class UserTest : public testing::Test {
@@ -66,7 +69,18 @@ class UserTest : public testing::Test {
         if (message == WM_LBUTTONDOWN) ++test->clicks_;
         if (message == WM_LBUTTONUP) test->let_go_at_ = {LOWORD(data), HIWORD(data)};
         if (message == WM_RBUTTONUP) test->ShowPopUp();
+        if (message == kLongWork) test->WorkLong();
         return DefWindowProcA(window, message, wide, data);
+    }
+
+    /// In which what is sent is answered.
+    void WorkLong() {
+        is_working_ = true;
+        MSG message;
+        const DWORD start = GetTickCount();
+        while (GetTickCount() - start < 300)
+            PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+        is_working_ = false;
     }
 
     void ShowPopUp() { TrackPopupMenu(pop_up_, 0, 100, 100, 0, window_, nullptr); }
@@ -78,6 +92,8 @@ class UserTest : public testing::Test {
     }
 
     HWND window_ = nullptr;
+    std::atomic<bool> is_working_ = false;
+    std::atomic<bool> done_ = false;
     HMENU pop_up_ = nullptr;
     unsigned command_ = 0;
     int clicks_ = 0;
@@ -157,6 +173,22 @@ TEST_F(UserTest, ChoosesFromAPopUpMenu) {
         EXPECT_TRUE(chosen);
         EXPECT_EQ(nullptr, user::FindTop("#32768"));
     }
+}
+
+TEST_F(UserTest, LetsAHandlerFinishThatAnswersWhatIsSent) {
+    bool was_working = false;
+    bool is_working = true;
+    user::Meanwhile someone([&] {
+        PostMessageA(window_, kLongWork, 0, 0);
+        was_working = WaitUntil([&] { return is_working_.load(); });
+        user::LetFinish(window_);
+        is_working = is_working_;
+        done_ = true;
+    });
+    WaitUntil([&] { return done_.load(); });
+    someone.Finish();
+    EXPECT_TRUE(was_working);
+    EXPECT_FALSE(is_working);
 }
 
 TEST_F(UserTest, ReadsAndAnswersAMessageBox) {
