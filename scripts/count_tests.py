@@ -4,7 +4,8 @@
 usage: count_tests.py BUILD_FOLDER...
 Counts the single tests of programs that hold many, and one for each other test. Of a program that
 failed, only what its failed tests said is shown. A test that says "Skipped: REASON" counts as
-neither; what it says is passed on. Returns 1 when a test failed.
+neither; what it says is passed on, and so is what failed once and then passed.
+Returns 1 when a test failed.
 """
 import os
 import re
@@ -33,9 +34,13 @@ def count(log):
         good = re.findall(r'^\[  PASSED  \] (\d+) tests?\.$', block, re.M)
         bad = re.findall(r'^\[  FAILED  \] (\d+) tests?, listed below:$', block, re.M)
         block_passed = sum(map(int, good))
-        block_failed = sum(map(int, bad))
+        # Of what was run once more, the second time counts.
+        block_failed = int(bad[-1]) if bad else 0
         if re.search(r'^Test Passed\.$', block, re.M):
             block_passed = block_passed or 1
+            block_failed = 0
+            if again := re.search(r'^Failed once, then passed: .*$', block, re.M):
+                print('%s: %s\n%s\n' % (re.match(r'.*', block)[0], again[0], what_failed(block)))
         else:
             # A program that ended too early failed although none of its tests says so.
             block_failed = block_failed or 1

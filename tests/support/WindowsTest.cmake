@@ -33,14 +33,14 @@ target_precompile_headers(windows_test PRIVATE ${CMAKE_CURRENT_LIST_DIR}/precomp
 
 set(WINE_TEMPLATE ${CMAKE_BINARY_DIR}/wine_prefix)
 set(scripts ${CMAKE_SOURCE_DIR}/scripts)
-set(RUN_IN_WINE ${scripts}/run_in_wine)
+set(TEST_IN_WINE ${scripts}/test_in_wine)
 set(MAKE_PREFIX ${scripts}/make_prefix)
 set(wine_properties)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # 32-bit programs show windows in a 32-bit Debian only, which need not be where they are built: so
     # the prefix is made when the tests run.
     set(debian12 ${scripts}/debian12 wine32)
-    list(PREPEND RUN_IN_WINE ${debian12})
+    list(PREPEND TEST_IN_WINE ${debian12})
     add_test(NAME wine_prefix COMMAND ${debian12} ${MAKE_PREFIX} --if-older ${WINE_TEMPLATE})
     set_tests_properties(wine_prefix PROPERTIES FIXTURES_SETUP wine_prefix)
     set(wine_properties FIXTURES_REQUIRED wine_prefix)
@@ -92,7 +92,7 @@ function(add_windows_test)
         list(APPEND machine --language ${ARG_LANGUAGE})
     endif()
     add_test(NAME ${ARG_NAME}
-        COMMAND ${RUN_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
+        COMMAND ${TEST_IN_WINE} ${machine} ${WINE_TEMPLATE} ${ARG_TIMEOUT}
             $<TARGET_FILE:${ARG_PROGRAM}> ${ARG_FILES})
     math(EXPR limit "${ARG_TIMEOUT} + 60")
     set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${limit} ${wine_properties})
