@@ -6,10 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "bench/windows/machine.h"
+
 namespace {
 
+using vistrel::bench::kLogos;
+
 constexpr int kRounds = 25;
-const std::string kLogos = "C:\\logos\\";
 const std::string kWindows = "C:\\windows\\";
 
 void WriteScreen(const std::string& path, char filling) {
@@ -29,11 +32,7 @@ void PrepareMachine() {
             WriteScreen(kLogos + set + "\\" + screen, set[0]);
         }
     }
-    HKEY key = nullptr;
-    RegCreateKeyA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Tarnwick\\Vistrel", &key);
-    RegSetValueExA(key, "LogoPath", 0, REG_SZ, reinterpret_cast<const BYTE*>(kLogos.c_str()),
-                   static_cast<DWORD>(kLogos.size() + 1));
-    RegCloseKey(key);
+    vistrel::bench::Store("LogoPath", kLogos);
 }
 
 /// Milliseconds from a program's start to its end; the exit code has to be 0.

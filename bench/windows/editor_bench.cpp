@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <string>
 
+#include "bench/windows/machine.h"
 #include "bench/windows/side_by_side.h"
 #include "core/locations.h"
 #include "editor/select_picture_form.h"
@@ -35,11 +36,7 @@ void FillBareList(HWND list) {
     WIN32_FIND_DATAA found;
     const HANDLE search = FindFirstFileA((kFolder + "*.*").c_str(), &found);
     do {
-        LVITEMA item{};
-        item.mask = LVIF_TEXT | LVIF_IMAGE;
-        item.iItem = INT_MAX;
-        item.pszText = found.cFileName;
-        SendMessageA(list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+        vistrel::bench::AddRow(list, found.cFileName);
     } while (FindNextFileA(search, &found));
     FindClose(search);
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);

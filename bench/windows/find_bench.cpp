@@ -16,6 +16,9 @@
 
 namespace {
 
+using vistrel::bench::AddRow;
+using vistrel::bench::HandleMessages;
+using vistrel::bench::MakeLibrary;
 using vistrel::bench::Median;
 using vistrel::bench::Store;
 using vistrel::bench::TimeOf;
@@ -25,20 +28,11 @@ constexpr int kSets = 5000;
 constexpr int kRounds = 9;
 /// Longer than the program waits for the next key.
 constexpr DWORD kRest = 100;
-const std::string kLogos = "C:\\logos\\";
 
 void PrepareMachine() {
-    CreateDirectoryA("C:\\logos", nullptr);
-    for (int i = 0; i < kSets; ++i)
-        CreateDirectoryA((kLogos + "Set " + std::to_string(i)).c_str(), nullptr);
-    Store("LogoPath", kLogos);
+    MakeLibrary(kSets);
     // Of a set that it does not know the program would look for the installed one meanwhile.
     Store("DefaultLogoSet", "Set 0");
-}
-
-void HandleMessages() {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
 }
 
 std::vector<std::string> NamesIn(Principale& window) {
@@ -57,14 +51,8 @@ void FillBareList(HWND list, const std::vector<std::string>& names, std::string 
     CharUpperA(text.data());
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LVM_DELETEALLITEMS, 0, 0);
-    for (const std::string& name : names) {
-        if (!Holds(name, text)) continue;
-        LVITEMA item{};
-        item.mask = LVIF_TEXT | LVIF_IMAGE;
-        item.iItem = INT_MAX;
-        item.pszText = const_cast<char*>(name.c_str());
-        SendMessageA(list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
-    }
+    for (const std::string& name : names)
+        if (Holds(name, text)) AddRow(list, name.c_str());
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
     UpdateWindow(list);

@@ -17,13 +17,15 @@
 
 namespace {
 
+using vistrel::bench::AddRow;
 using vistrel::bench::Compare;
+using vistrel::bench::kLogos;
+using vistrel::bench::MakeLibrary;
 using vistrel::bench::Median;
 using vistrel::bench::Now;
 using vistrel::bench::Store;
 
 constexpr int kSets = 5000;
-const std::string kLogos = "C:\\logos\\";
 
 void WriteScreen(const std::string& path) {
     std::vector<std::uint8_t> indices(320 * 400);
@@ -35,13 +37,10 @@ void WriteScreen(const std::string& path) {
 }
 
 void PrepareMachine() {
-    CreateDirectoryA("C:\\logos", nullptr);
-    for (int i = 0; i < kSets; ++i)
-        CreateDirectoryA((kLogos + "Set " + std::to_string(i)).c_str(), nullptr);
+    MakeLibrary(kSets);
     for (const char* set : {"Set 1", "Set 2"})
         for (const char* screen : {"\\LOGO.SYS", "\\LOGOW.SYS", "\\LOGOS.SYS"})
             WriteScreen(kLogos + set + screen);
-    Store("LogoPath", kLogos);
     Store("DefaultLogoSet", "none");
 }
 
@@ -54,11 +53,7 @@ void FillBareList(HWND list) {
     do {
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) || found.cFileName[0] == '.')
             continue;
-        LVITEMA item{};
-        item.mask = LVIF_TEXT | LVIF_IMAGE;
-        item.iItem = INT_MAX;
-        item.pszText = found.cFileName;
-        SendMessageA(list, LVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+        AddRow(list, found.cFileName);
     } while (FindNextFileA(search, &found));
     FindClose(search);
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);

@@ -24,6 +24,9 @@
 namespace {
 
 using vistrel::bench::Compare;
+using vistrel::bench::HandleMessages;
+using vistrel::bench::kLogos;
+using vistrel::bench::MakeLibrary;
 using vistrel::bench::Median;
 using vistrel::bench::Now;
 using vistrel::bench::Store;
@@ -34,7 +37,6 @@ constexpr int kSets = 5000;
 constexpr int kPages = 9;
 /// Longer than the program waits before it compares kept pictures with their screens.
 constexpr DWORD kRest = 250;
-const std::string kLogos = "C:\\logos\\";
 
 /// A screen with a gradient, some noise and none of the list's own colours.
 std::vector<std::uint8_t> Screen() {
@@ -55,14 +57,10 @@ std::vector<std::uint8_t> Screen() {
 std::string ScreenOf(const std::string& set) { return kLogos + set + "\\LOGO.SYS"; }
 
 void PrepareMachine() {
-    CreateDirectoryA("C:\\logos", nullptr);
+    MakeLibrary(kSets, ".SLS");
     const auto screen = Screen();
-    for (int i = 0; i < kSets; ++i) {
-        const std::string set = "Set " + std::to_string(i) + ".SLS";
-        CreateDirectoryA((kLogos + set).c_str(), nullptr);
-        vistrel::pictures::WriteWholeFile(ScreenOf(set), screen);
-    }
-    Store("LogoPath", kLogos);
+    for (int i = 0; i < kSets; ++i)
+        vistrel::pictures::WriteWholeFile(ScreenOf("Set " + std::to_string(i) + ".SLS"), screen);
     // Of a set that it does not know the program would look for the installed one meanwhile.
     Store("DefaultLogoSet", "Set 0.SLS");
     Store("WindowWidth", "1000");
@@ -115,11 +113,6 @@ bool PageIsPainted(Principale& window) {
     const COLORREF color = GetPixel(dc, r.left + 10, r.top + 6);
     ReleaseDC(list, dc);
     return color != GetSysColor(COLOR_BTNFACE) && color != GetSysColor(COLOR_WINDOW);
-}
-
-void HandleMessages() {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
 }
 
 void ScrollByPages(Principale& window, int pages) {
