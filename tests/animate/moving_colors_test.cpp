@@ -93,6 +93,27 @@ TEST_F(Moving, CancelLeavesTheSlotAsItWas) {
     });
 }
 
+TEST_F(Moving, ALoadedSetWhoseScreenMovesNowCanBeUpdatedOnly) {
+    const auto offers = [](SelPictureForm& editor) {
+        const HMENU menu = ActionMenu(editor);
+        std::vector<int> commands;
+        for (const int command : {ID_OkButton, ID_OkButton + 1, ID_EliminaSetBtn})
+            if (seen::RowOf(menu, command).enabled) commands.push_back(command);
+        return commands;
+    };
+    WithEditor([&](Principale&, SelPictureForm& editor) {
+        ChooseSet(editor, "Red");
+        EXPECT_EQ(offers(editor),
+                  (std::vector<int>{ID_OkButton, ID_OkButton + 1, ID_EliminaSetBtn}));
+        const HWND window = OpenOnSlot(editor);
+        AddLayer(window, 0);
+        CloseBy(editor, window, IDOK);
+        EXPECT_EQ(offers(editor), std::vector<int>{ID_OkButton + 1});
+        Run(editor, ID_OkButton + 1);
+    });
+    EXPECT_EQ(ScreenOf(logos + "Red\\LOGO.SYS").firstAnimated, 236);
+}
+
 TEST_F(Moving, TheItemIsThereForStartupScreensAlone) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         for (const int slot : {0, 1, 2}) {

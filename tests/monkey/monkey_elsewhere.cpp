@@ -72,6 +72,9 @@ Permits Monkey::DamageScreenOutside() {
     for (int i = 0; i < 20 && !contents.empty(); ++i)
         contents[random_() % (OneIn(2) ? std::min<std::size_t>(contents.size(), 60)
                                        : contents.size())] = static_cast<char>(random_());
+    GiveAttributes(screen, FILE_ATTRIBUTE_NORMAL);
+    // Not what somebody holds open.
+    if (!DeleteFileA(screen.c_str())) return {};
     Put(screen, contents);
     TakeAsGiven();
     return {};
