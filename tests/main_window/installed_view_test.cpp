@@ -59,7 +59,8 @@ TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
         EXPECT_EQ(main.DefaultLogo.tip(), "Showing current logo setting");
         EXPECT_FALSE(main.ActiveBar1.Enabled("MnuLogo"));
         EXPECT_FALSE(main.ActiveBar1.Enabled("ToolRandom"));
-        EXPECT_FALSE(main.LogoType.Visible());
+        EXPECT_FALSE(IsWindowVisible(main.LogoType.handle()));
+        EXPECT_FALSE(IsWindowVisible(main.LblDefaultLogo.handle()));
         EXPECT_EQ(main.MyList.SelectedItem(), -1);
         EXPECT_EQ(main.Imag[0].Tag(), boot + "LOGO.SYS");
         EXPECT_EQ(main.Imag[1].Tag(), windows + "LOGOW.SYS");
@@ -74,7 +75,8 @@ TEST_F(InstalledView, ShowsTheInstalledScreensInGreenAndGoesBack) {
         EXPECT_EQ(main.DefaultLogo.tip(), "Default logo set");
         EXPECT_TRUE(main.ActiveBar1.Enabled("MnuLogo"));
         EXPECT_TRUE(main.ActiveBar1.Enabled("ToolRandom"));
-        EXPECT_TRUE(main.LogoType.Visible());
+        EXPECT_TRUE(IsWindowVisible(main.LogoType.handle()));
+        EXPECT_TRUE(IsWindowVisible(main.LblDefaultLogo.handle()));
         EXPECT_EQ(main.MyList.SelectedItem(), 2);
         EXPECT_EQ(MiddleOf(main.Imag[0]), kRed);
     });
