@@ -51,8 +51,7 @@ TEST_F(BootLogo, IsSwitchedOnInTheBootFileByOk) {
     HWND preferences = OpenPreferences();
     ASSERT_NE(preferences, nullptr);
     EXPECT_FALSE(Shown(preferences));
-    EXPECT_TRUE(user::Click(user::Control(preferences, ID_ActiveStart)));
-    EXPECT_TRUE(WaitUntil([&] { return Shown(preferences); }));
+    EXPECT_TRUE(user::ClickToMark(user::Control(preferences, ID_ActiveStart)));
     Leave(preferences, ID_BtnOK);
     EXPECT_TRUE(Says("0"));  // not before the program closes
     Close();
@@ -73,8 +72,7 @@ TEST_F(BootLogo, IsSwitchedOffInTheBootFileByOk) {
     const HWND preferences = OpenPreferences();
     ASSERT_NE(preferences, nullptr);
     EXPECT_TRUE(Shown(preferences));
-    EXPECT_TRUE(user::Click(user::Control(preferences, ID_ActiveStart)));
-    EXPECT_TRUE(WaitUntil([&] { return !Shown(preferences); }));
+    EXPECT_TRUE(user::ClickToMark(user::Control(preferences, ID_ActiveStart)));
     Leave(preferences, ID_BtnOK);
     Close();
     EXPECT_TRUE(Says("0")) << BootFile();
@@ -85,8 +83,7 @@ TEST_F(BootLogo, StaysAsItWasByCancel) {
     const HWND preferences = OpenPreferences();
     ASSERT_NE(preferences, nullptr);
     EXPECT_FALSE(Shown(preferences));
-    EXPECT_TRUE(user::Click(user::Control(preferences, ID_ActiveStart)));
-    EXPECT_TRUE(WaitUntil([&] { return Shown(preferences); }));
+    EXPECT_TRUE(user::ClickToMark(user::Control(preferences, ID_ActiveStart)));
     Leave(preferences, ID_BtnCancel);
     Close();
     // The click alone has it written again, with the value that it has.

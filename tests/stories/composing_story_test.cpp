@@ -142,7 +142,7 @@ TEST_F(Composing, BuildsSetsByDraggingPicturesAndUpdatesConvertsAndDeletesThem) 
     EXPECT_TRUE(IsScreenOf(logos + "Trip\\LOGOW.SYS", "Stained Glass.gif"));
 
     // Startup screen only.
-    EXPECT_TRUE(user::Click(Part(ID_OptOnlyStart)));
+    EXPECT_TRUE(user::ClickToMark(Part(ID_OptOnlyStart)));
     EXPECT_TRUE(WaitUntil([&] { return !IsWindowVisible(Part(ID_ImgPreview + 1)); }));
     ChooseAction(kUpdate);
     EXPECT_TRUE(WaitUntil(
@@ -170,7 +170,7 @@ TEST_F(Composing, AdjustsAPhotographForTheWaitScreen) {
     SelectPicture(2, "Lighthouse.jpg");
     const HWND window = OpenAdjust();
     ASSERT_NE(window, nullptr);
-    EXPECT_TRUE(user::Click(user::Control(window, ID_OptFraming + 1)));
+    EXPECT_TRUE(user::ClickToMark(user::Control(window, ID_OptFraming + 1)));
     const HWND box = user::Control(window, ID_ScreenBox);
     EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(user::Control(window, ID_ZoomBar)); }));
     RECT shown{};

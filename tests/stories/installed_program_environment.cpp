@@ -20,6 +20,9 @@ class ProgramOnTheMachine : public testing::Environment {
                 CopyFileA((std::string("C:\\test\\") + name).c_str(),
                           (kProgramFolder + name).c_str(), FALSE);
         }
+        // What the program makes at its first start, whichever stories run.
+        MakeFolders(kProgramFolder + "Original Logos\\");
+        Put(kProgramFolder + "Original Logos\\LOGO.SYS", "an old screen");
     }
 
     void TearDown() override {

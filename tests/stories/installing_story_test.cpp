@@ -75,7 +75,7 @@ TEST_F(Story, ChangesTheScreensAtEveryStartOfWindowsOnceToldTo) {
     for (int page = 1; page < 4; ++page) user::Press(VK_RIGHT);
     const HWND rotaline = user::Control(preferences, ID_StartUpAction);
     EXPECT_TRUE(WaitUntil([&] { return IsWindowVisible(rotaline); }));
-    EXPECT_TRUE(user::Click(rotaline));
+    EXPECT_TRUE(user::ClickToMark(rotaline));
     user::TakeShot("story_preferences", preferences);
     EXPECT_TRUE(user::Click(user::Control(preferences, ID_BtnOK)));
     EXPECT_TRUE(user::WaitUntilGone(preferences));

@@ -289,6 +289,17 @@ HWND ClickToOpen(HWND window, const std::string& window_class) {
     return opened;
 }
 
+bool ClickToMark(HWND button) {
+    const auto mark = [button] { return SendMessageA(button, BM_GETCHECK, 0, 0); };
+    const LRESULT before = mark();
+    constexpr int kTries = 3;
+    for (int i = 0; i < kTries && mark() == before; ++i) {
+        Click(button);
+        WaitUntil([&] { return mark() != before; }, 7000);
+    }
+    return mark() != before;
+}
+
 bool DoubleClick(HWND window) {
     if (!WaitUntilSeen(window)) return false;
     DoubleClickAt(CentreOf(window));

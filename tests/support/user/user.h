@@ -83,6 +83,9 @@ bool DoubleClick(HWND window);
 /// Clicks the middle of a window until a top window of this class is there, which that opens;
 /// clicks again when none comes in seconds. Null when none comes at all.
 HWND ClickToOpen(HWND window, const std::string& window_class);
+/// Clicks a check box or option button until it shows another mark; clicks again when none comes in
+/// seconds. Returns whether it does.
+bool ClickToMark(HWND button);
 bool RightClick(HWND window);
 
 // Keyboard: goes to the window that has the focus.
