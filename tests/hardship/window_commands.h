@@ -18,8 +18,13 @@ struct Stage {
     editor::SelPictureForm* editor = nullptr;
 };
 
+/// MainWindow98's library with pictures beside it, and the commands that are given there.
 class WindowCommands : public LogoBrowser {
  protected:
+    enum class Table { MainWindow, LogoBrowser };
+
+    WindowCommands();
+
     struct Row {
         std::vector<int> commands;  ///< the numbers that give it; none for what is no command
         const char* name;
@@ -34,6 +39,24 @@ class WindowCommands : public LogoBrowser {
 
     static const std::vector<Row>& OfMainWindow();
     static const std::vector<Row>& OfLogoBrowser();
+    static const std::vector<Row>& Rows(Table table) {
+        return table == Table::MainWindow ? OfMainWindow() : OfLogoBrowser();
+    }
+
+    /// Opens what a table's commands are given in, and lets `user` act there.
+    void OnStage(Table table, const std::function<void(Stage& stage)>& user);
+    /// Puts library, pictures and installed screens back, and "Red" is selected.
+    void PutBack(Stage& stage);
+    /// Runs a row on a library that is put back, after `fail` has said which operations fail. How
+    /// many there were of those that are counted then.
+    int RunRow(const Row& row, Stage& stage, const std::function<void()>& fail);
+
+    const Place place_;
+    Holding before_;  ///< what each row begins with
+    Holding start_;   ///< and what it has prepared
+
+ private:
+    Files pictures_;
 };
 
 }  // namespace vistrel::test

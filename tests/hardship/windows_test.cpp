@@ -28,84 +28,6 @@ constexpr int kMostOfDrawing = 2;
 
 class Windows : public WindowCommands {
  protected:
-    Windows() {
-        Put(pictures + "new.sys", ScreenFile(10, 20, 30));
-        Put(pictures + "a.bmp", BmpOf(TestPicture(64, 48)));
-        std::string damaged = ScreenFile(40, 50, 60);
-        damaged[51] = 1;
-        Put(pictures + "damaged.sys", damaged);
-        for (const auto& [path, contents] : Look(place_).installed) Put(path, "old");
-        before_ = Look(place_);
-        pictures_ = ReadLibrary(root)["pictures"];
-    }
-
-    /// Puts library, pictures and installed screens back, and "Red" is selected.
-    void PutBack(Stage& stage) {
-        fault::Reset();
-        const Library now = ReadLibrary(logos);
-        for (const auto& [name, files] : now)
-            if (!before_.sets.contains(name)) RemoveTree(logos + name);
-        for (const auto& [name, files] : before_.sets) {
-            const std::string folder = name.empty() ? logos : logos + name + "\\";
-            MakeFolders(folder);
-            PutFiles(folder, files, now.contains(name) ? now.at(name) : Files());
-        }
-        PutFiles(pictures, pictures_, ReadLibrary(root)["pictures"]);
-        for (const auto& [path, contents] : before_.installed) Put(path, contents);
-        RemoveTree(program + "Previous screens");
-        core::Settings& settings = stage.main.Preferences();
-        settings.confirmLogosetDelete = 0;
-        settings.deleteInTheRecycleBin = 0;
-        settings.bootRoot = boot;
-        settings.logoPath = logos;
-        RunOnThreadOf(stage.main.handle(), [&] {
-            stage.main.SetInstalledSet("Blue");
-            stage.main.LeggiDatiDisco();
-            stage.main.SelItem("Red");
-        });
-        if (stage.editor) {
-            stage.editor->CurrentFolder = pictures;
-            Run(*stage.editor, ID_ClearAllButton);
-            Run(*stage.editor, ID_BrowserRefresh);
-            SelectionOfNames(*stage.editor);
-        }
-    }
-
-    static void PutFiles(const std::string& folder, const Files& files, const Files& now) {
-        for (const auto& [name, contents] : now)
-            if (!files.contains(name)) RemoveTree(folder + name);
-        for (const auto& [name, contents] : files)
-            if (!now.contains(name) || now.at(name) != contents) Put(folder + name, contents);
-    }
-
-    void SelectionOfNames(SelPictureForm& editor) {
-        for (const char* name : {"Fresh", "Crimson"})
-            if (const int at = editor.NameLogoSet.FindItem(name); at >= 0)
-                editor.NameLogoSet.RemoveItem(at);
-        if (editor.NameLogoSet.FindItem("Red") < 0) editor.NameLogoSet.AddItem("Red");
-    }
-
-    /// Runs a row on a library that is put back, with operations failing as `fail` says. How many
-    /// there were of those that are counted then.
-    int RunRow(const Row& row, Stage& stage, const std::function<void()>& fail) {
-        PutBack(stage);
-        if (row.prepare) row.prepare(stage);
-        SettleAll(stage);
-        start_ = Look(place_);
-        const Answering answering(root + "given.zip", row.inWindow);
-        fail();
-        row.run(stage);
-        SettleAll(stage);
-        const int counted = fault::Counted();
-        fault::Reset();
-        return counted;
-    }
-
-    static void SettleAll(Stage& stage) {
-        SendMessageA(stage.main.handle(), WM_NULL, 0, 0);
-        if (stage.editor) SendMessageA(stage.editor->handle(), WM_NULL, 0, 0);
-    }
-
     void Check(const Row& row, Stage& stage, const Holding& after) {
         EXPECT_TRUE(stage.main.IsOpen());
         const HWND window = stage.editor ? stage.editor->handle() : stage.main.handle();
@@ -183,30 +105,23 @@ class Windows : public WindowCommands {
         std::printf("%-32s %10d %8d\n", row.name, operations, drawing);
     }
 
-    const Place place_;
-    Holding before_;  ///< what each row begins with
-    Holding start_;   ///< and what it has prepared
-    Files pictures_;
+    void EndureAll(Table table) {
+        OnStage(table, [&](Stage& stage) {
+            for (const Row& row : Rows(table))
+                if (row.run) Endure(row, stage);
+            PutBack(stage);
+        });
+    }
 };
 
 TEST_F(Windows, OfTheMainWindowEndureThatOperationsFail) {
-    WithMainWindow([&](Principale& main) {
-        Stage stage{main};
-        std::printf("%-32s %10s %8s\n", "main window", "operations", "drawing");
-        for (const Row& row : OfMainWindow())
-            if (row.run) Endure(row, stage);
-        PutBack(stage);
-    });
+    std::printf("%-32s %10s %8s\n", "main window", "operations", "drawing");
+    EndureAll(Table::MainWindow);
 }
 
 TEST_F(Windows, OfTheLogoBrowserEndureThatOperationsFail) {
-    WithEditor([&](Principale& main, SelPictureForm& editor) {
-        Stage stage{main, &editor};
-        std::printf("%-32s %10s %8s\n", "Logo browser", "operations", "drawing");
-        for (const Row& row : OfLogoBrowser())
-            if (row.run) Endure(row, stage);
-        PutBack(stage);
-    });
+    std::printf("%-32s %10s %8s\n", "Logo browser", "operations", "drawing");
+    EndureAll(Table::LogoBrowser);
 }
 
 // Which commands there are.

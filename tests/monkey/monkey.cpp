@@ -15,23 +15,37 @@ namespace {
 
 constexpr DWORD kPatience = 60000;
 
+struct TopWindows {
+    DWORD process;
+    std::vector<HWND> found;
+};
+
+BOOL CALLBACK AddIfOfProcess(HWND window, LPARAM search) {
+    auto& windows = *reinterpret_cast<TopWindows*>(search);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (IsWindowVisible(window) && process == windows.process) windows.found.push_back(window);
+    return TRUE;
+}
+
 /// The visible top windows of a process, topmost first.
 std::vector<HWND> TopWindowsOf(DWORD process) {
-    struct Search {
-        DWORD process;
-        std::vector<HWND> found;
-    } search{process, {}};
-    EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& search = *reinterpret_cast<Search*>(parameter);
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (IsWindowVisible(window) && process == search.process)
-                search.found.push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
+    TopWindows windows{process, {}};
+    EnumWindows(AddIfOfProcess, reinterpret_cast<LPARAM>(&windows));
+    return windows.found;
+}
+
+BOOL CALLBACK CloseIfOfAnother(HWND window, LPARAM program) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    const bool known = owner == static_cast<DWORD>(program) || owner == GetCurrentProcessId();
+    const LONG style = GetWindowLongA(window, GWL_STYLE);
+    if (!known && IsWindowVisible(window) && (style & WS_CAPTION) == WS_CAPTION) {
+        // Who asks yes or no cannot be closed.
+        PostMessageA(window, WM_COMMAND, IDNO, 0);
+        PostMessageA(window, WM_CLOSE, 0, 0);
+    }
+    return TRUE;
 }
 
 bool IsMereHelper(HWND window) {
@@ -165,21 +179,7 @@ int Monkey::SelectedSets() const {
 }
 
 void Monkey::CloseOtherPrograms() const {
-    EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            DWORD owner = 0;
-            GetWindowThreadProcessId(window, &owner);
-            const bool known =
-                owner == static_cast<DWORD>(parameter) || owner == GetCurrentProcessId();
-            const LONG style = GetWindowLongA(window, GWL_STYLE);
-            if (!known && IsWindowVisible(window) && (style & WS_CAPTION) == WS_CAPTION) {
-                // Who asks yes or no cannot be closed.
-                PostMessageA(window, WM_COMMAND, IDNO, 0);
-                PostMessageA(window, WM_CLOSE, 0, 0);
-            }
-            return TRUE;
-        },
-        static_cast<LPARAM>(process));
+    EnumWindows(CloseIfOfAnother, static_cast<LPARAM>(process));
 }
 
 void Monkey::Fail(const std::string& what) {

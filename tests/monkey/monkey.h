@@ -106,6 +106,9 @@ class Monkey : public RunningProgram {
 
     /// What one command on the selected sets may do.
     Permits AnyCommand() const;
+    /// What keys may do that went into the name of a set if that is being edited, as a click on the
+    /// selected set may have it.
+    Permits Typed(Permits permits) const;
     /// The Logo browser shows a folder that is not the monkey's to play with.
     bool StandsInAForeignFolder(HWND window) const;
     /// The preferences name another folder of sets.

@@ -64,13 +64,18 @@ Permits Monkey::DoubleClickList() {
     return {.installed = true};
 }
 
+Permits Monkey::Typed(Permits permits) const {
+    if (FindWindowExA(List(), nullptr, "Edit", nullptr)) permits.renamed = 1;
+    return permits;
+}
+
 Permits Monkey::PressKey() {
     user::Activate(MainWindow());
     static constexpr WORD kKeys[] = {VK_UP,   VK_DOWN,   VK_HOME, VK_END,    VK_PRIOR, VK_NEXT,
                                      VK_LEFT, VK_RIGHT,  VK_TAB,  VK_ESCAPE, VK_BACK,  VK_SPACE,
                                      VK_F5,   VK_RETURN, 'S',     'C',       'M',      VK_F11};
     user::Press(OneOf(kKeys));
-    return {.installed = true};
+    return Typed({.installed = true});
 }
 
 Permits Monkey::Rename() {
@@ -153,8 +158,9 @@ Permits Monkey::Find() {
     user::Press('F', {VK_CONTROL});
     static const std::string kParts[] = {"s", "un", "n i", "xyz", "C", " "};
     user::Type(OneOf(kParts));
+    const Permits permits = Typed({});
     if (OneIn(2)) user::Press(VK_ESCAPE);
-    return {};
+    return permits;
 }
 
 Permits Monkey::Undo() {

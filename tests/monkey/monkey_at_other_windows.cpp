@@ -8,16 +8,15 @@ namespace {
 /// Where the system's dialogs for files have the box for a name.
 constexpr int kFileNameBox = 0x480;
 
+BOOL CALLBACK AddIfUsable(HWND control, LPARAM found) {
+    if (IsWindowVisible(control) && IsWindowEnabled(control))
+        reinterpret_cast<std::vector<HWND>*>(found)->push_back(control);
+    return TRUE;
+}
+
 std::vector<HWND> ControlsOf(HWND window) {
     std::vector<HWND> controls;
-    EnumChildWindows(
-        window,
-        [](HWND control, LPARAM found) -> BOOL {
-            if (IsWindowVisible(control) && IsWindowEnabled(control))
-                reinterpret_cast<std::vector<HWND>*>(found)->push_back(control);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&controls));
+    EnumChildWindows(window, AddIfUsable, reinterpret_cast<LPARAM>(&controls));
     return controls;
 }
 

@@ -52,6 +52,8 @@ Permits Monkey::DeleteSetOutside() {
 }
 
 Permits Monkey::CopySetOutside() {
+    // One of its screens may be held open.
+    if (held_ != INVALID_HANDLE_VALUE) return {};
     static const std::string kSamples[] = {"City Lights", "Sunny Day", "Deep Sea", "Night Sky"};
     const std::string sample = OneOf(kSamples);
     const std::string from = "C:\\test\\sets\\" + sample + "\\";

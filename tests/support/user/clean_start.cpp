@@ -32,9 +32,10 @@ std::vector<HWND> OpenWindows() {
 
 /// A window that this program always has, so that there is one that can be in front: one pixel in
 /// the corner of the screen.
+constexpr const char* kGround = "Ground";
 HWND Ground() {
     static const HWND window =
-        CreateWindowExA(WS_EX_TOOLWINDOW, "STATIC", "Ground", WS_POPUP | WS_VISIBLE,
+        CreateWindowExA(WS_EX_TOOLWINDOW, "STATIC", kGround, WS_POPUP | WS_VISIBLE,
                         GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1, 1, 1,
                         nullptr, nullptr, nullptr, nullptr);
     return window;
@@ -92,9 +93,17 @@ bool MenuIsOpen(bool end) {
     return open;
 }
 
+/// Whether it is the ground of a test that has started this program and waits for it.
+bool IsGround(HWND window) {
+    char title[sizeof "Ground."] = "";
+    GetWindowTextA(window, title, sizeof title);
+    return std::string(title) == kGround;
+}
+
 /// What only a test can have opened: boxes of this program, and windows of another one.
 bool IsLeftOver(HWND window) {
-    return ProcessOf(window) != GetCurrentProcessId() || ClassOf(window) == "#32770";
+    return (ProcessOf(window) != GetCurrentProcessId() && !IsGround(window)) ||
+           ClassOf(window) == "#32770";
 }
 
 HWND LeftOver() {

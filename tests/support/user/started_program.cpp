@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "tests/support/user/poll.h"
+
 namespace vistrel::test {
 
 namespace {
@@ -39,8 +41,9 @@ StartedProgram::~StartedProgram() {
 
 std::optional<DWORD> StartedProgram::WaitForEnd(DWORD milliseconds) const {
     DWORD status = 0;
-    if (!handle_ || WaitForSingleObject(handle_, milliseconds) != WAIT_OBJECT_0 ||
-        !GetExitCodeProcess(handle_, &status))
+    // This program's own windows answer meanwhile: what comes to the front may wait for that.
+    const auto hasEnded = [this] { return WaitForSingleObject(handle_, 0) == WAIT_OBJECT_0; };
+    if (!handle_ || !WaitUntil(hasEnded, milliseconds) || !GetExitCodeProcess(handle_, &status))
         return std::nullopt;
     return status;
 }
