@@ -29,7 +29,7 @@ void Fill(RgbPicture& board, int left, int top, int right, int bottom,
 }
 
 /// The board with a light frame around what is marked and a dark gap around all else; what moves
-/// has a white corner.
+/// has a yellow corner.
 RgbPicture BoardOf(const screen::IndexedScreen& screen, int width, int height, int from, int to) {
     constexpr screen::ScreenColor kGround{64, 64, 64}, kMark{255, 255, 255}, kMoves{255, 255, 0};
     RgbPicture board{width, height, {}};

@@ -72,7 +72,7 @@ draw shape.bmp 370x118 "
     $(arrow 114)
     stroke black fill #00a0e0 rectangle 146,12 205,87
     stroke none fill #ffff80 ellipse 175,48 15,25 0,360
-    fill black text 152,108 'Preview'
+    fill black text 146,108 'Actual size'
     $(arrow 216)
     push graphic-context $(monitor 254 '#00a0e0')
         stroke none fill #ffff80 ellipse 48,39 17,17 0,360

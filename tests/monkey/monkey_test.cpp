@@ -21,6 +21,8 @@ TEST_F(Monkey, FindsSetsAndScreensAsTheyMustBe) {
     Act(static_cast<unsigned>(Wanted("VISTREL_MONKEY_SEED", 1)),
         Wanted("VISTREL_MONKEY_STEPS", 1000000),
         static_cast<DWORD>(Wanted("VISTREL_MONKEY_MINUTES", kMinutes)) * 60000);
+    RemoveTree("C:\\Out");
+    RemoveTree("C:\\Pictures");
 }
 
 }  // namespace

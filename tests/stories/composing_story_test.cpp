@@ -181,7 +181,7 @@ TEST_F(Composing, AdjustsAPhotographForTheWaitScreen) {
     user::Press(VK_TAB, {VK_CONTROL});
     EXPECT_TRUE(
         WaitUntil([&] { return IsWindowVisible(user::Control(window, ID_TextLines)) != 0; }));
-    AddLine(window, "Sea you soon");
+    AddLine(window, "One moment, please...");
     user::TakeShot("story_adjusting", window);
     EXPECT_TRUE(user::Click(user::Control(window, IDOK)));
     EXPECT_TRUE(user::WaitUntilGone(window));
@@ -191,7 +191,7 @@ TEST_F(Composing, AdjustsAPhotographForTheWaitScreen) {
     ChooseAction(kCreate);
 
     TextLine line;
-    line.text = "Sea you soon";
+    line.text = "One moment, please...";
     line.font.face = FaceFor(line.font.face);
     line.y = kLogoHeight * 5 / 6;
     compose::Composition composition;

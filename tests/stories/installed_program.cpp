@@ -71,6 +71,8 @@ std::vector<std::string> NotOurs() {
         "HKLM\\System\\CurrentControlSet\\Control\\Class\\",
         "HKLM\\System\\CurrentControlSet\\Control\\Video\\",
         "HKCU\\Software\\Wine\\Temporary System Parameters\\",
+        // The system's notes of folders that its dialogs have shown.
+        "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced\\",
     };
 }
 
