@@ -20,6 +20,10 @@ def what_failed(block):
     tests = re.findall(r'^\[ RUN      \] (\S+)\n(.*?)(?=^\[ RUN      \]|^\[----------\]|\Z)', block,
                        re.M | re.S)
     failed = [name + '\n' + said for name, said in tests if '[       OK ] ' + name not in said]
+    # What is looked at before the first test and after the last.
+    around = re.findall(r'^\[----------\] (Global test environment \S+)\n(.*?)(?=^\[|\Z)', block,
+                        re.M | re.S)
+    failed += [name + '\n' + said for name, said in around if said.strip()]
     lines = ''.join(failed).splitlines() if failed else block.splitlines()
     return '\n'.join(lines[-MANY_LINES:])
 
