@@ -34,6 +34,7 @@
 #include "pictures/bmp/writer.h"
 #include "pictures/file.h"
 #include "resources/ids.h"
+#include "tests/support/user/held_objects.h"
 
 namespace vistrel::bench {
 namespace {
@@ -73,42 +74,6 @@ void PumpMessages() {
     }
 }
 
-DWORD Handles() {
-    // Windows 95 has no such call.
-    using Count = BOOL(WINAPI*)(HANDLE, DWORD*);
-    const auto count = reinterpret_cast<Count>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleA("kernel32"), "GetProcessHandleCount")));
-    DWORD handles = 0;
-    if (count) count(GetCurrentProcess(), &handles);
-    return handles;
-}
-
-// Free places in the tables of handles are used again first: what is leaked moves the highest of
-// some new ones up.
-constexpr int kProbes = 64;
-
-int HighestGraphicsHandle() {
-    std::vector<HBRUSH> brushes;
-    int highest = 0;
-    for (int i = 0; i < kProbes; ++i) {
-        brushes.push_back(CreateSolidBrush(static_cast<COLORREF>(i + 0x123400)));
-        highest = std::max<int>(highest, LOWORD(reinterpret_cast<ULONG_PTR>(brushes.back())));
-    }
-    for (const HBRUSH brush : brushes) DeleteObject(brush);
-    return highest;
-}
-
-int HighestWindowHandle() {
-    std::vector<HMENU> menus;
-    int highest = 0;
-    for (int i = 0; i < kProbes; ++i) {
-        menus.push_back(CreateMenu());
-        highest = std::max<int>(highest, LOWORD(reinterpret_cast<ULONG_PTR>(menus.back())));
-    }
-    for (const HMENU menu : menus) DestroyMenu(menu);
-    return highest;
-}
-
 double Megabytes() {
     PROCESS_MEMORY_COUNTERS memory{};
     GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory);
@@ -124,8 +89,9 @@ void Live(const char* kind, int steps, const std::function<void(int)>& step) {
                 PumpMessages();
             }
         });
-        std::printf("%s\t%d\t%.3f\t%lu\t%d\t%d\t%.2f\n", kind, row * each, taken / each, Handles(),
-                    HighestGraphicsHandle(), HighestWindowHandle(), Megabytes());
+        const test::HeldObjects held = test::CountHeldObjects();
+        std::printf("%s\t%d\t%.3f\t%d\t%d\t%d\t%.2f\n", kind, row * each, taken / each, held.system,
+                    held.drawing, held.windows, Megabytes());
         std::fflush(stdout);
     }
 }

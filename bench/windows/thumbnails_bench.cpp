@@ -20,6 +20,7 @@
 #include "pictures/file.h"
 #include "pictures/read_picture.h"
 #include "resources/ids.h"
+#include "tests/support/user/held_objects.h"
 
 namespace {
 
@@ -184,15 +185,13 @@ void LookAtPages(Principale& window, const char* what) {
 
 struct Held {
     double megabytes;
-    DWORD handles;
+    test::HeldObjects objects;
 };
 
 Held HeldNow() {
     PROCESS_MEMORY_COUNTERS memory{};
     GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory);
-    return {static_cast<double>(memory.WorkingSetSize) / (1 << 20),
-            GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) +
-                GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)};
+    return {static_cast<double>(memory.WorkingSetSize) / (1 << 20), test::CountHeldObjects()};
 }
 
 }  // namespace
@@ -221,8 +220,10 @@ int main() {
         std::printf("%-34s ours %8.2f MB   list %8.2f MB   more %.1f MB, %.1f after all pages\n",
                     "working set with a page shown", shown.megabytes, before.megabytes,
                     shown.megabytes - before.megabytes, after.megabytes - before.megabytes);
-        std::printf("%-34s %lu with the list, %lu with a page, %lu after all pages\n",
-                    "GDI and USER handles", before.handles, shown.handles, after.handles);
+        std::printf("%-34s GDI %d, %d, %d   USER %d, %d, %d   list, page, all pages\n",
+                    "highest places of handles", before.objects.drawing, shown.objects.drawing,
+                    after.objects.drawing, before.objects.windows, shown.objects.windows,
+                    after.objects.windows);
         window.Unload();
     }
     CompareOpening();

@@ -5,6 +5,7 @@
 
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/user/held_objects.h"
 
 namespace vistrel::test {
 
@@ -15,16 +16,6 @@ namespace {
 
 constexpr const char* kKey = "SOFTWARE\\Tarnwick\\Vistrel";
 constexpr Hive kHive = Hive::LocalMachine;
-
-/// How many handles this process has open.
-DWORD OpenHandles() {
-    using Count = BOOL(WINAPI*)(HANDLE, DWORD*);
-    const auto count = reinterpret_cast<Count>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetProcessHandleCount")));
-    DWORD handles = 0;
-    EXPECT_TRUE(count && count(GetCurrentProcess(), &handles));
-    return handles;
-}
 
 TEST_F(Machine, CreateNewKeyMakesAnAbsentKeyAndLeavesOneThatIsThere) {
     EXPECT_FALSE(Stored("x"));
@@ -126,19 +117,20 @@ TEST_F(Machine, RegistryOperationsLeaveNoHandleOpenWhetherTheyFailOrNot) {
         DeleteValue(kHive, kKey, "x");
     };
     all();
-    const DWORD before = OpenHandles();
-    WithEachOperationFailing([] {}, all, [&](int) { EXPECT_EQ(OpenHandles(), before); });
+    const HeldObjects before = CountHeldObjects();
+    WithEachOperationFailing([] {}, all,
+                             [&](int) { EXPECT_FALSE(CountHeldObjects().AreMoreThan(before)); });
 }
 
 TEST_F(Machine, AnOpenKeyThatOpensAnotherClosesTheFirst) {
     CreateNewKey(kHive, kKey);
     RegistryKey key;
     key.Open(kHive, kKey);
-    const DWORD before = OpenHandles();
+    const HeldObjects before = CountHeldObjects();
     for (int i = 0; i < 10; ++i) ASSERT_EQ(key.Create(kHive, kKey), 0);
     RegistryKey other = std::move(key);
     key = std::move(other);
-    EXPECT_EQ(OpenHandles(), before);
+    EXPECT_FALSE(CountHeldObjects().AreMoreThan(before));
 }
 
 }  // namespace

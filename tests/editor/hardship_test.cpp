@@ -1,5 +1,6 @@
 // What does not go well: pictures that cannot be read, files and folders that go, long sessions.
 #include "tests/editor/editor_fixture.h"
+#include "tests/support/user/held_objects.h"
 
 namespace vistrel::test {
 
@@ -107,14 +108,9 @@ TEST_F(Hardship, TwoHundredConversionsLeaveNothingBehind) {
     WithEditor([&](Principale&, SelPictureForm& editor) {
         Pick(editor, "a.bmp");
         for (int i = 0; i < 3; ++i) Press(editor.AddButton[i]);
-        const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-        DWORD handles = 0;
-        GetProcessHandleCount(GetCurrentProcess(), &handles);
+        const HeldObjects before = CountHeldObjects();
         for (int i = 0; i < 200; ++i) Press(editor.AddButton[i % 3]);
-        DWORD handlesAfter = 0;
-        GetProcessHandleCount(GetCurrentProcess(), &handlesAfter);
-        EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects + 5);
-        EXPECT_LE(handlesAfter, handles + 5);
+        EXPECT_FALSE(CountHeldObjects().AreMoreThan(before, 5));
         EXPECT_EQ(editor.List1.Count(), 203);
         EXPECT_EQ(TemporaryFiles(), 203u);
     });

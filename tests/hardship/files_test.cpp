@@ -8,6 +8,7 @@
 #include "platform/fault.h"
 #include "tests/hardship/file_commands.h"
 #include "tests/support/machine/machine.h"
+#include "tests/support/user/held_objects.h"
 #include "tests/support/user/started_program.h"
 
 namespace vistrel::test {
@@ -131,9 +132,9 @@ TEST_F(Commands, LoseNoHandleWhereverTheyFail) {
         command.run(place_);
         const int operations = fault::Counted();
         Fail(command, 1, false);
-        const unsigned long before = ProcessHandles();
+        const HeldObjects before = CountHeldObjects();
         for (const int n : SomeOf(operations, kMostWatched)) Fail(command, n, false);
-        EXPECT_LE(ProcessHandles(), before);
+        EXPECT_FALSE(CountHeldObjects().AreMoreThan(before));
     }
 }
 

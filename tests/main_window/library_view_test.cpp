@@ -1,5 +1,6 @@
 // The list of sets and the screens of the selected one.
 #include "tests/support/main_window/main_window_fixture.h"
+#include "tests/support/user/held_objects.h"
 #include "tests/support/user/seen.h"
 
 namespace vistrel::test {
@@ -209,20 +210,20 @@ TEST_F(LibraryView, FollowsTheSelectionOfTheKeyboard) {
     });
 }
 
-TEST_F(LibraryView, HoldsNoMoreHandlesAfterTwoHundredSelections) {
+TEST_F(LibraryView, HoldsNoMoreHandlesAfterFourHundredSelectionsThanAfterTwoHundred) {
     WithMainWindow([&](Principale& main) {
-        const auto handles = [] {
-            return GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) +
-                   GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+        const auto select = [&] {
+            for (int i = 0; i < 100; ++i) {
+                main.SelItem("Red");
+                main.SelItem("Green.SLS");
+            }
+            Settle(main);
         };
-        main.SelItem("Red");
-        main.SelItem("Green.SLS");
-        const DWORD before = handles();
-        for (int i = 0; i < 100; ++i) {
-            main.SelItem("Red");
-            main.SelItem("Green.SLS");
-        }
-        EXPECT_LE(handles(), before + 4);
+        select();
+        const HeldObjects before = CountHeldObjects();
+        select();
+        EXPECT_FALSE(CountHeldObjects().AreMoreThan(before, 4))
+            << before << "; " << CountHeldObjects();
     });
 }
 

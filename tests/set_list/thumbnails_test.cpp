@@ -6,6 +6,7 @@
 
 #include "tests/main_window/file_drag_source.h"
 #include "tests/set_list/thumbnails_fixture.h"
+#include "tests/support/user/held_objects.h"
 
 namespace vistrel::test {
 
@@ -262,10 +263,6 @@ TEST_F(Thumbnails, TakesSizesOutOfRangeForTheNearest) {
 
 TEST_F(Thumbnails, HoldsNoMoreHandlesAfterManyLooksAndSizes) {
     WithThumbnails([&](Principale& main) {
-        const auto handles = [] {
-            return GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) +
-                   GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-        };
         const auto look = [&] {
             Command(main, ID_ToolLargerThumbnails);
             Command(main, ID_ToolRefresh);
@@ -276,9 +273,9 @@ TEST_F(Thumbnails, HoldsNoMoreHandlesAfterManyLooksAndSizes) {
             EXPECT_TRUE(IsSeen(main, "Red", kRed));
         };
         look();
-        const DWORD before = handles();
+        const HeldObjects before = CountHeldObjects();
         for (int i = 0; i < 20; ++i) look();
-        EXPECT_LE(handles(), before + 4);
+        EXPECT_FALSE(CountHeldObjects().AreMoreThan(before, 4));
     });
 }
 

@@ -23,6 +23,7 @@ add_library(windows_test STATIC
     ${CMAKE_CURRENT_LIST_DIR}/user/user_menus.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/seen.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/screen_shot.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/user/held_objects.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/help_requests.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/openings.cpp
     ${CMAKE_CURRENT_LIST_DIR}/user/snapshot.cpp
