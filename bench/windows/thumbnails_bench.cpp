@@ -185,13 +185,14 @@ void LookAtPages(Principale& window, const char* what) {
 
 struct Held {
     double megabytes;
-    test::HeldObjects objects;
+    vistrel::test::HeldObjects objects;
 };
 
 Held HeldNow() {
     PROCESS_MEMORY_COUNTERS memory{};
     GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory);
-    return {static_cast<double>(memory.WorkingSetSize) / (1 << 20), test::CountHeldObjects()};
+    return {static_cast<double>(memory.WorkingSetSize) / (1 << 20),
+            vistrel::test::CountHeldObjects()};
 }
 
 }  // namespace
@@ -220,8 +221,8 @@ int main() {
         std::printf("%-34s ours %8.2f MB   list %8.2f MB   more %.1f MB, %.1f after all pages\n",
                     "working set with a page shown", shown.megabytes, before.megabytes,
                     shown.megabytes - before.megabytes, after.megabytes - before.megabytes);
-        std::printf("%-34s GDI %d, %d, %d   USER %d, %d, %d   list, page, all pages\n",
-                    "highest places of handles", before.objects.drawing, shown.objects.drawing,
+        std::printf("%-34s for drawing %d, %d, %d   windows %d, %d, %d   list, page, all pages\n",
+                    "objects held", before.objects.drawing, shown.objects.drawing,
                     after.objects.drawing, before.objects.windows, shown.objects.windows,
                     after.objects.windows);
         window.Unload();

@@ -73,6 +73,7 @@ void Answering::AnswerDialog(HWND dialog) {
         if (const HWND name = GetDlgItem(dialog, number)) {
             SendMessageA(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(file_.c_str()));
             PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+            ++filesGiven_;
             WaitUntil([&] { return !IsWindow(dialog) || !IsWindowEnabled(dialog); }, 500);
             return;
         }
@@ -116,11 +117,6 @@ void RunOnThreadOf(HWND window, const std::function<void()>& action) {
         SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RunAction)));
     SendMessageA(window, kRun, 0, reinterpret_cast<LPARAM>(&action));
     SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
-}
-
-SystemObjects CountObjects() {
-    return {ProcessHandles(), GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS),
-            GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)};
 }
 
 }  // namespace vistrel::test

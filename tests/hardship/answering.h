@@ -25,6 +25,8 @@ class Answering {
 
     /// How many of our windows it has seen.
     int Windows() const { return windows_; }
+    /// How many dialogs it has given a file.
+    int FilesGiven() const { return filesGiven_; }
 
  private:
     void Answer();
@@ -37,23 +39,11 @@ class Answering {
     std::map<HWND, DWORD> acted_;  ///< and when
     std::atomic<bool> done_ = false;
     std::atomic<int> windows_ = 0;
+    std::atomic<int> filesGiven_ = 0;
     user::Meanwhile thread_;
 };
 
 /// Runs something on the thread of a window of this process, and waits until it is done.
 void RunOnThreadOf(HWND window, const std::function<void()>& action);
-
-/// How many objects of the system's this process holds: of the kernel, for drawing, and windows.
-struct SystemObjects {
-    unsigned long kernel = 0;
-    unsigned long drawing = 0;
-    unsigned long windows = 0;
-
-    bool IsMoreThan(const SystemObjects& other) const {
-        return kernel > other.kernel || drawing > other.drawing || windows > other.windows;
-    }
-};
-
-SystemObjects CountObjects();
 
 }  // namespace vistrel::test

@@ -84,16 +84,6 @@ std::vector<std::string> Wrongs(const Holding& before, const Holding& after, con
     return wrongs;
 }
 
-unsigned long ProcessHandles() {
-    // Windows 95 has no such call.
-    using Count = BOOL(WINAPI*)(HANDLE, DWORD*);
-    static const auto count = reinterpret_cast<Count>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleA("kernel32"), "GetProcessHandleCount")));
-    DWORD handles = 0;
-    if (count) count(GetCurrentProcess(), &handles);
-    return handles;
-}
-
 std::vector<int> SomeOf(int count, int most) {
     std::vector<int> some;
     if (count <= most || GetEnvironmentVariableA("VISTREL_EVERY_OPERATION", nullptr, 0) > 0) {

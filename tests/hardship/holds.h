@@ -33,9 +33,6 @@ Holding Look(const Place& place);
 std::vector<std::string> Wrongs(const Holding& before, const Holding& after, const Holding& now,
                                 const Exceptions& exceptions);
 
-/// The test's process: handles of the system's kernel.
-unsigned long ProcessHandles();
-
 /// So many numbers of 1 to `count`: the first, the last and some between them, with the same
 /// distances. All where there are no more, and with the variable VISTREL_EVERY_OPERATION in the
 /// environment.

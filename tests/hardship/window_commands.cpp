@@ -97,6 +97,7 @@ int WindowCommands::RunRow(const Row& row, Stage& stage, const std::function<voi
     SettleAll(stage);
     const int counted = fault::Counted();
     fault::Reset();
+    filesGiven_ += answering.FilesGiven();
     return counted;
 }
 

@@ -52,8 +52,9 @@ class WindowCommands : public LogoBrowser {
     int RunRow(const Row& row, Stage& stage, const std::function<void()>& fail);
 
     const Place place_;
-    Holding before_;  ///< what each row begins with
-    Holding start_;   ///< and what it has prepared
+    Holding before_;      ///< what each row begins with
+    Holding start_;       ///< and what it has prepared
+    int filesGiven_ = 0;  ///< to the system's dialogs, by all rows so far
 
  private:
     Files pictures_;

@@ -18,6 +18,7 @@
 #include "tests/support/machine/machine.h"
 #include "tests/support/picture_files/bmp_file.h"
 #include "tests/support/picture_files/gif_file.h"
+#include "tests/support/user/held_objects.h"
 
 namespace {
 
@@ -223,12 +224,12 @@ TEST_F(Drawing, WithoutMemoryTheSystemsLoaderGivesNothingAndKeepsNothing) {
     const std::string path = Write("bitmap.bmp", MakeBmp(300, 200, MakePalette(256)).Encode());
     StandardPicture picture;
     ASSERT_TRUE(LoadStandardPicture(path, picture));
-    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const HeldObjects held = CountHeldObjects();
     refused = 300 * 200 * 3;
     picture = {};
     for (int i = 0; i < 5; ++i) EXPECT_FALSE(LoadStandardPicture(path, picture));
     refused = 0;
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
+    EXPECT_EQ(CountHeldObjects().drawing, held.drawing);
 }
 
 TEST_F(Drawing, AFolderNamedLikeTheTemporaryFileHindersNoConversion) {

@@ -5,17 +5,17 @@
 
 namespace vistrel::test {
 
-/// How far up the tables of this process's objects are filled: the highest place of some new ones,
-/// since free places are used again first. What is lost moves it up, and the next beside it.
-/// (The system's own calls tell no numbers in Wine: their answer is 0 whatever is held.)
+/// How many objects of the system's this process holds. The system's own calls that tell so answer
+/// 0 in Wine, whatever is held; but each place of its tables can be asked after, since the lower
+/// half of a handle stands for whatever has that place.
 struct HeldObjects {
-    int system = 0;   ///< files, processes, events and the like
-    int drawing = 0;  ///< of GDI
-    int windows = 0;  ///< and menus
+    int handles = 0;  ///< of files, processes, threads, events and the like
+    int drawing = 0;  ///< contexts, bitmaps, brushes, pens, fonts, regions, palettes
+    int windows = 0;  ///< and menus, icons and cursors
 
     /// By more than so many of one kind.
     bool AreMoreThan(const HeldObjects& others, int some = 0) const {
-        return system > others.system + some || drawing > others.drawing + some ||
+        return handles > others.handles + some || drawing > others.drawing + some ||
                windows > others.windows + some;
     }
 };
@@ -23,8 +23,8 @@ struct HeldObjects {
 HeldObjects CountHeldObjects();
 
 inline std::ostream& operator<<(std::ostream& out, const HeldObjects& held) {
-    return out << held.system << " of the system's, " << held.drawing << " for drawing, "
-               << held.windows << " windows";
+    return out << held.handles << " handles, " << held.drawing << " for drawing, " << held.windows
+               << " windows and menus";
 }
 
 }  // namespace vistrel::test

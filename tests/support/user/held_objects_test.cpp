@@ -6,28 +6,59 @@
 namespace vistrel::test {
 namespace {
 
-TEST(HeldObjectsTest, AreAsManyAsBeforeWhenAllIsGivenBack) {
-    const HeldObjects before = CountHeldObjects();
-    CloseHandle(CreateEventA(nullptr, FALSE, FALSE, nullptr));
-    DeleteObject(CreateSolidBrush(RGB(1, 2, 3)));
-    DestroyMenu(CreateMenu());
-    EXPECT_FALSE(CountHeldObjects().AreMoreThan(before));
+void ExpectMore(const HeldObjects& before, int handles, int drawing, int windows) {
+    const HeldObjects now = CountHeldObjects();
+    EXPECT_EQ(now.handles - before.handles, handles);
+    EXPECT_EQ(now.drawing - before.drawing, drawing);
+    EXPECT_EQ(now.windows - before.windows, windows);
 }
 
 TEST(HeldObjectsTest, AreMoreByEachThatIsNotGivenBack) {
-    HeldObjects before = CountHeldObjects();
+    const HeldObjects before = CountHeldObjects();
+    ExpectMore(before, 0, 0, 0);
     const HANDLE event = CreateEventA(nullptr, FALSE, FALSE, nullptr);
-    EXPECT_TRUE(CountHeldObjects().AreMoreThan(before));
-    CloseHandle(event);
-    before = CountHeldObjects();
+    ExpectMore(before, 1, 0, 0);
     const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
-    EXPECT_TRUE(CountHeldObjects().AreMoreThan(before));
-    EXPECT_FALSE(CountHeldObjects().AreMoreThan(before, 1));
-    DeleteObject(brush);
-    before = CountHeldObjects();
+    ExpectMore(before, 1, 1, 0);
     const HMENU menu = CreateMenu();
-    EXPECT_TRUE(CountHeldObjects().AreMoreThan(before));
+    ExpectMore(before, 1, 1, 1);
+    CloseHandle(event);
+    DeleteObject(brush);
     DestroyMenu(menu);
+    ExpectMore(before, 0, 0, 0);
+}
+
+TEST(HeldObjectsTest, AreFoundInPlacesThatOthersLeft) {
+    HBRUSH brushes[8];
+    HMENU menus[8];
+    HANDLE events[8];
+    const HeldObjects before = CountHeldObjects();
+    for (int i = 0; i < 8; ++i) {
+        brushes[i] = CreateSolidBrush(RGB(1, 2, i));
+        menus[i] = CreateMenu();
+        events[i] = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+    }
+    for (int i = 0; i < 7; ++i) {
+        DeleteObject(brushes[i]);
+        DestroyMenu(menus[i]);
+        CloseHandle(events[i]);
+    }
+    ExpectMore(before, 1, 1, 1);
+    DeleteObject(brushes[7]);
+    DestroyMenu(menus[7]);
+    CloseHandle(events[7]);
+    ExpectMore(before, 0, 0, 0);
+}
+
+TEST(HeldObjectsTest, AreWindowsAndIconsAsWell) {
+    const HICON icon = CopyIcon(LoadIconA(nullptr, reinterpret_cast<const char*>(IDI_APPLICATION)));
+    HWND window =
+        CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
+    const int held = CountHeldObjects().windows;
+    DestroyWindow(window);
+    EXPECT_EQ(CountHeldObjects().windows, held - 1);
+    DestroyIcon(icon);
+    EXPECT_EQ(CountHeldObjects().windows, held - 2);
 }
 
 }  // namespace
