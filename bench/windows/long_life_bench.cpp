@@ -90,8 +90,8 @@ void Live(const char* kind, int steps, const std::function<void(int)>& step) {
             }
         });
         const test::HeldObjects held = test::CountHeldObjects();
-        std::printf("%s\t%d\t%.3f\t%d\t%d\t%d\t%.2f\n", kind, row * each, taken / each, held.handles,
-                    held.drawing, held.windows, Megabytes());
+        std::printf("%s\t%d\t%.3f\t%d\t%d\t%d\t%.2f\n", kind, row * each, taken / each,
+                    held.handles, held.drawing, held.windows, Megabytes());
         std::fflush(stdout);
     }
 }
