@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <iterator>
+#include <random>
+
 #include "core/library.h"
 #include "platform/fault.h"
 #include "tests/support/machine/machine.h"
@@ -249,6 +252,63 @@ TEST_F(SettingsTest, WhatWasSavedIsLoadedAgain) {
         const SettingNumber number = std::get<SettingNumber>(row.field);
         // Some that are switched off are on again: off holds only until the next start.
         EXPECT_EQ(loaded.*number, saved.*number == 0 ? row.ofZero : saved.*number);
+    }
+}
+
+/// What a key may hold after other programs, other versions and broken disks: any type, any bytes.
+StoredValue AnyValue(std::mt19937& random) {
+    constexpr unsigned long kTypes[] = {REG_SZ,        REG_SZ,     REG_SZ,
+                                        REG_EXPAND_SZ, REG_BINARY, REG_DWORD,
+                                        REG_MULTI_SZ,  REG_NONE,   0x12345678ul};
+    StoredValue value{kTypes[random() % std::size(kTypes)], {}};
+    constexpr std::size_t kLengths[] = {0, 1, 2, 4, 5, 40, 4000};
+    const std::string digits = "0123456789-+. ";
+    const bool number = random() % 2 == 0;
+    for (std::size_t left = kLengths[random() % std::size(kLengths)]; left > 0; --left)
+        value.bytes += number ? digits[random() % digits.size()] : static_cast<char>(random());
+    return value;
+}
+
+TEST_F(SettingsTest, WhateverIsStoredLoadsWithinTheRulesAndStaysTheSameFromThenOn) {
+    for (unsigned seed = 1; seed <= 500; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        ForgetSettings();
+        for (const SettingRow& row : SettingRows()) {
+            if (random() % 8 != 0) Store(row.name, AnyValue(random));
+        }
+        Settings settings = ReadSettings(locations);
+        for (const NumberCase& number : kNumbers) {
+            SCOPED_TRACE(number.name);
+            EXPECT_LE(settings.*number.field, number.largest);
+            if (number.largest < 32767) {
+                EXPECT_GE(settings.*number.field, 0);
+            }
+            if (number.ofZero != 0) {
+                EXPECT_NE(settings.*number.field, 0);
+            }
+        }
+        for (const TextCase& text : kTexts)
+            EXPECT_EQ((settings.*text.field).find('\0'), std::string::npos) << text.name;
+        EXPECT_TRUE(settings.bootRoot.ends_with(":\\"));
+        EXPECT_TRUE(settings.logoPath.ends_with("\\"));
+        EXPECT_TRUE(Exists(settings.logoPath)) << settings.logoPath;
+
+        SaveSettings(settings);
+        const Settings again = ReadSettings(locations);
+        // Of a drive only the letter is saved, of which a half can be no text.
+        if (!IsDBCSLeadByte(settings.bootRoot[0])) {
+            EXPECT_EQ(again.bootRoot, settings.bootRoot.substr(0, 1) + ":\\");
+        }
+        settings.bootRoot = again.bootRoot;
+        for (const SettingRow& row : SettingRows()) {
+            SCOPED_TRACE(row.name);
+            if (const auto* text = std::get_if<SettingText>(&row.field))
+                EXPECT_EQ(again.*(*text), settings.*(*text));
+            else
+                EXPECT_EQ(again.*std::get<SettingNumber>(row.field),
+                          settings.*std::get<SettingNumber>(row.field));
+        }
     }
 }
 
