@@ -239,7 +239,9 @@ bool JpgMarkers::ReadHuffmanTables(pictures::FileBytes content) {
     return true;
 }
 
+// Behind the first scan it is too late: size and colours of the picture have been told by then.
 void JpgMarkers::ReadApplication(int marker, pictures::FileBytes content) {
+    if (!scan_.parts.empty()) return;
     if (marker == kJfif && content.size() >= 5 && std::memcmp(content.data(), "JFIF", 5) == 0) {
         hasJfif_ = true;
     }

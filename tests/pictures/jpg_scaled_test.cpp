@@ -1,6 +1,7 @@
 // JPEG files read straight to a small size look like the whole picture scaled.
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "pictures/jpg/reader.h"
 #include "pictures/scale/resize.h"
@@ -141,6 +142,19 @@ TEST(JpgScaledTest, TurnedUpright) {
     for (int orientation = 1; orientation <= 8; ++orientation) {
         EXPECT_GE(Nearness(WithOrientation(file, orientation, true), 120, 150), 48) << orientation;
     }
+}
+
+TEST(JpgScaledTest, NotTurnedByWhatComesBehindTheFirstScan) {
+    JpgOptions options;
+    options.progressive = true;
+    const Bytes file = MakeJpg(MakeScene(800, 500), options);
+    const std::uint8_t scan[] = {0xFF, 0xDA};
+    const auto last = std::find_end(file.begin(), file.end(), std::begin(scan), std::end(scan));
+    const Bytes late =
+        WithOrientation(file, 6, true, static_cast<std::size_t>(last - file.begin()));
+    EXPECT_GE(Nearness(late, 120, 150), 48);
+    EXPECT_EQ(ReadJpg(late)->width, 800);
+    EXPECT_FALSE(IsJpgToBeTurned(late));
 }
 
 TEST(JpgScaledTest, ExtremeShapes) {

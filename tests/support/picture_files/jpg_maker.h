@@ -144,8 +144,9 @@ inline Bytes WithInserted(Bytes file, std::size_t at, const Bytes& bytes) {
     return file;
 }
 
-/// The file with an EXIF segment that gives `orientation`.
-inline Bytes WithOrientation(const Bytes& file, int orientation, bool bigEndian) {
+/// The file with an EXIF segment that gives `orientation`, before position `at`.
+inline Bytes WithOrientation(const Bytes& file, int orientation, bool bigEndian,
+                             std::size_t at = 2) {
     const auto number = [bigEndian](int value, int bytes) {
         Bytes result;
         for (int i = 0; i < bytes; ++i) {
@@ -167,7 +168,7 @@ inline Bytes WithOrientation(const Bytes& file, int orientation, bool bigEndian)
     add(number(orientation, 2)), add(number(0, 2));
     add(number(0, 4));
     segment[3] = static_cast<std::uint8_t>(segment.size() - 2);
-    return WithInserted(file, 2, segment);
+    return WithInserted(file, at, segment);
 }
 
 }  // namespace vistrel::test
