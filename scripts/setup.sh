@@ -32,6 +32,9 @@ zip                                     zip'
 fuzz_needs='
 clang++                                 clang
 /usr/lib/llvm*/lib/clang/*/lib/linux/libclang_rt.fuzzer*|/usr/lib*/clang/*/lib/*/libclang_rt.fuzzer*    libclang-rt-dev'
+coverage_needs='
+llvm-cov                                llvm
+llvm-profdata                           llvm'
 package_needs="$win9x_needs"'
 git                                     git
 makensis                                nsis
