@@ -21,9 +21,9 @@ compose::Color OppositeOf(const compose::Color& color) {
 }
 
 /// The nearest of three places if it is near enough, otherwise the place itself.
-int Snapped(int place, const std::array<int, 3>& places, int near) {
+int Snapped(int place, const std::array<int, 3>& places, int reach) {
     for (const int other : places)
-        if (std::abs(place - other) <= near) return other;
+        if (std::abs(place - other) <= reach) return other;
     return place;
 }
 
