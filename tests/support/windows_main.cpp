@@ -21,6 +21,12 @@ LONG WINAPI ReportCrash(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+/// On a busy machine the first program of a prefix may run before the prefix has its drives.
+void WaitForDriveC() {
+    constexpr DWORD kDriveC = 1 << 2;
+    for (int i = 0; i < 200 && !(GetLogicalDrives() & kDriveC); ++i) Sleep(100);
+}
+
 /// The first window of a prefix brings up Wine's desktop, which takes the focus once: let that be
 /// over before the first test.
 void WakeDesktop() {
@@ -45,6 +51,7 @@ int main(int count, char** arguments) {
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     testing::InitGoogleTest(&count, arguments);
     SetUnhandledExceptionFilter(ReportCrash);
+    WaitForDriveC();
     WakeDesktop();
     testing::UnitTest::GetInstance()->listeners().Append(new CleanStarts);
     const int status = RUN_ALL_TESTS();
